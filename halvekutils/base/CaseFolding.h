@@ -1,0 +1,34 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+
+#include <cstddef>
+#include <string_view>
+
+namespace halvek {
+
+/// The lower-case form of A-Z and of the accented letters of Windows-1252; any other character is
+/// returned unchanged.
+constexpr char16_t FoldCase(char16_t character) {
+    if (character >= u'A' && character <= u'Z') return static_cast<char16_t>(character + 0x20);
+    if (character < 0xC0) return character;
+    if (character <= 0xDE && character != 0xD7) return static_cast<char16_t>(character + 0x20);
+    switch (character) {
+        case 0x160:  // S with caron
+        case 0x152:  // OE
+        case 0x17D:  // Z with caron
+            return static_cast<char16_t>(character + 1);
+        case 0x178:  // Y with diaeresis
+            return 0xFF;
+        default:
+            return character;
+    }
+}
+
+/// True when the texts differ in letter case at the most.
+HALVEK_EXPORT bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
+
+/// A hash under which texts that EqualFolded calls equal are equal.
+HALVEK_EXPORT std::size_t HashFolded(std::u16string_view text) noexcept;
+
+}  // namespace halvek

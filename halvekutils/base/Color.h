@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+
+namespace halvek {
+
+/// A colour with red in the low byte, green in the next and blue in the third.
+///
+/// A value with the top bit set names a colour of the desktop's own scheme; `kButtonFace` is the
+/// one that this library uses.
+using Color = std::int32_t;
+
+constexpr Color Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
+    return red | green << 8 | blue << 16;
+}
+constexpr std::uint8_t RedOf(Color color) {
+    return static_cast<std::uint8_t>(color & 0xFF);
+}
+constexpr std::uint8_t GreenOf(Color color) {
+    return static_cast<std::uint8_t>(color >> 8 & 0xFF);
+}
+constexpr std::uint8_t BlueOf(Color color) {
+    return static_cast<std::uint8_t>(color >> 16 & 0xFF);
+}
+
+/// True for a colour of the desktop's scheme, whose bytes are no red, green and blue.
+constexpr bool IsSchemeColor(Color color) {
+    return color < 0;
+}
+
+/// True when white text reads better than black on this background.
+constexpr bool IsDark(Color color) {
+    return 299 * RedOf(color) + 587 * GreenOf(color) + 114 * BlueOf(color) < 128'000;
+}
+
+inline constexpr Color kBlack = Rgb(0, 0, 0);
+inline constexpr Color kWhite = Rgb(255, 255, 255);
+inline constexpr Color kButtonFace = static_cast<Color>(0x8000000F);
+
+}  // namespace halvek

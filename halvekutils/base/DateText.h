@@ -1,0 +1,69 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+namespace halvek {
+
+/// A date and time as a wall clock shows it, in whole seconds and without a time zone. A time of
+/// midnight stands for the date alone.
+using DateTime = std::chrono::local_seconds;
+
+namespace detail {
+constexpr DateTime MidnightOf(int year, unsigned month, unsigned day) {
+    using namespace std::chrono;
+    return local_days(
+        year_month_day(std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)));
+}
+}  // namespace detail
+
+/// The range of dates: 1/1/100 00:00:00 to 12/31/9999 23:59:59.
+inline constexpr DateTime kFirstDateTime = detail::MidnightOf(100, 1, 1);
+inline constexpr DateTime kLastDateTime =
+    detail::MidnightOf(9999, 12, 31) + std::chrono::days(1) - std::chrono::seconds(1);
+
+/// A date and time taken apart; the hour counts from 0 to 23.
+struct DateParts {
+    int year = 0;
+    unsigned month = 0;
+    unsigned day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+};
+
+/// Puts a date and time together. Throws InvalidArgument for one that does not exist, such as
+/// February 30, or that lies outside the range.
+HALVEK_EXPORT DateTime MakeDateTime(int year, unsigned month, unsigned day, int hour = 0,
+                                    int minute = 0, int second = 0);
+
+/// Takes a date and time apart. Throws Overflow outside the range.
+HALVEK_EXPORT DateParts PartsOf(DateTime when);
+
+/// "mm/dd/yyyy hh:mm:ss AM" or PM, always with two digits a part and four for the year; at midnight
+/// the date alone. Throws Overflow outside the range.
+HALVEK_EXPORT std::u16string DateTimeText(DateTime when);
+
+/// "mm/dd/yyyy", whatever the time. Throws Overflow outside the range.
+HALVEK_EXPORT std::u16string DateOnlyText(DateTime when);
+
+/// Reads a date, a date and time, or a time alone, which is then on the date of `today`. Gives
+/// nothing for any other text, for days that do not exist and outside the range.
+///
+///     3/7/2004  03-07-04            month, day, year, with "/" or "-"
+///     2004-03-07  2004/3/7          year first: it has four digits
+///     March 7, 2004  Mar 7 2004     month names in full or their first three letters, in any case;
+///     7 Mar 2004  7-Mar-2004        the comma may be left out
+///     14:05  2:05 PM  02:05:09 pm   24-hour clock without AM or PM
+///
+/// The time follows a date after a blank, or after "T" when the year comes first. A year of two
+/// digits is 2000-2029 for 00-29 and 1930-1999 for 30-99; one of three or four digits stands as it
+/// is. Further blanks or TABs between the parts and around the text do not matter. Every text that
+/// DateTimeText and DateOnlyText write is read back.
+HALVEK_EXPORT std::optional<DateTime> ParseDateTime(TextIn text, DateTime today);
+
+}  // namespace halvek

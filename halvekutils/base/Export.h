@@ -1,0 +1,4 @@
+#pragma once
+
+/// Marks what the shared libraries offer to a host; everything else stays hidden.
+#define HALVEK_EXPORT [[gnu::visibility("default")]]

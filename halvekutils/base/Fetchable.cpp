@@ -1,0 +1,7 @@
+#include <halvekutils/base/Fetchable.h>
+
+namespace halvek {
+
+Fetchable::~Fetchable() = default;
+
+}  // namespace halvek

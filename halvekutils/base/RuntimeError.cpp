@@ -1,0 +1,101 @@
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/Utf8.h>
+
+#include <new>
+#include <string_view>
+
+namespace halvek {
+
+namespace {
+
+struct FaultText {
+    Fault fault;
+    std::string_view text;
+};
+
+constexpr FaultText kFaultTexts[] = {
+    {Fault::InvalidArgument, "Invalid argument"},
+    {Fault::Overflow, "Overflow"},
+    {Fault::OutOfMemory, "Out of memory"},
+    {Fault::SubscriptOutOfRange, "Subscript out of range"},
+    {Fault::TypeMismatch, "Type mismatch"},
+    {Fault::FileNotFound, "File not found"},
+    {Fault::DeviceError, "Device error"},
+    {Fault::FileAlreadyExists, "File already exists"},
+    {Fault::DiskFull, "Disk full"},
+    {Fault::PermissionDenied, "Permission denied"},
+    {Fault::PathNotFound, "Path not found"},
+    {Fault::ObjectNotSet, "Object not set"},
+    {Fault::DuplicateKey, "Key already in the collection"},
+};
+
+std::string TextOf(Fault fault) {
+    for (const FaultText& row : kFaultTexts) {
+        if (row.fault == fault) return std::string(row.text);
+    }
+    return "Unknown fault";
+}
+
+struct SystemFaultRow {
+    std::errc error;
+    Fault fault;
+};
+
+constexpr SystemFaultRow kSystemFaults[] = {
+    {std::errc::no_such_file_or_directory, Fault::FileNotFound},
+    {std::errc::not_a_directory, Fault::PathNotFound},
+    {std::errc::filename_too_long, Fault::PathNotFound},
+    {std::errc::permission_denied, Fault::PermissionDenied},
+    {std::errc::operation_not_permitted, Fault::PermissionDenied},
+    {std::errc::read_only_file_system, Fault::PermissionDenied},
+    {std::errc::is_a_directory, Fault::PermissionDenied},
+    {std::errc::text_file_busy, Fault::PermissionDenied},
+    {std::errc::too_many_symbolic_link_levels, Fault::PermissionDenied},
+    {std::errc::file_exists, Fault::FileAlreadyExists},
+    {std::errc::no_space_on_device, Fault::DiskFull},
+    {std::errc::file_too_large, Fault::DiskFull},
+    {std::errc::not_enough_memory, Fault::OutOfMemory},
+    {std::errc::invalid_argument, Fault::InvalidArgument},
+};
+
+Fault FaultOf(std::error_code error) {
+    for (const SystemFaultRow& row : kSystemFaults) {
+        if (error == row.error) return row.fault;
+    }
+    return Fault::DeviceError;
+}
+
+}  // namespace
+
+RuntimeError::RuntimeError(Fault fault) : std::runtime_error(TextOf(fault)), fault_(fault) {}
+
+RuntimeError::RuntimeError(Fault fault, TextIn about)
+    : std::runtime_error(TextOf(fault) + ": " + ToUtf8(about)), fault_(fault) {}
+
+RuntimeError::RuntimeError(const RuntimeError&) noexcept = default;
+RuntimeError& RuntimeError::operator=(const RuntimeError&) noexcept = default;
+RuntimeError::~RuntimeError() = default;
+
+std::u16string RuntimeError::Description() const {
+    return FromUtf8(what());
+}
+
+RuntimeError AsRuntimeError(const std::exception& caught) {
+    if (const auto* fault = dynamic_cast<const RuntimeError*>(&caught)) return *fault;
+    if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&caught)) {
+        return SystemFault(file->code(), file->path1());
+    }
+    if (dynamic_cast<const std::bad_alloc*>(&caught) != nullptr) {
+        return RuntimeError(Fault::OutOfMemory);
+    }
+    if (dynamic_cast<const std::length_error*>(&caught) != nullptr) {
+        return RuntimeError(Fault::OutOfMemory);
+    }
+    return RuntimeError(Fault::InvalidArgument, FromUtf8(caught.what()));
+}
+
+RuntimeError SystemFault(std::error_code error, const std::filesystem::path& file) {
+    return RuntimeError(FaultOf(error), FromUtf8(file.native()));
+}
+
+}  // namespace halvek

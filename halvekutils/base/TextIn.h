@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace halvek {
+
+/// Anything that shows its 16-bit characters in place, as a QString does.
+template <class T>
+concept Utf16Text = requires(const T& text) {
+    requires sizeof(*text.utf16()) == sizeof(char16_t);
+    static_cast<std::size_t>(text.size());
+};
+
+/// A text argument: a view of 16-bit characters that the caller keeps alive for the call.
+///
+/// Takes string literals, std::u16string, views and any class with utf16() and size(), all without
+/// a copy. A null pointer counts as the empty text. Positions in the documentation are 1-based.
+///
+///     utils->LogError(u"Printer is out of paper");
+///     utils->LogError(lineEdit->text());  // a QString
+class TextIn : public std::u16string_view {
+  public:
+    constexpr TextIn() noexcept = default;
+    constexpr TextIn(std::u16string_view text) noexcept : std::u16string_view(text) {}
+    constexpr TextIn(const char16_t* text) noexcept
+        : std::u16string_view(text == nullptr ? u"" : text) {}
+    TextIn(const std::u16string& text) noexcept : std::u16string_view(text) {}
+    template <Utf16Text T>
+    TextIn(const T& text) noexcept
+        : std::u16string_view(reinterpret_cast<const char16_t*>(text.utf16()),
+                              static_cast<std::size_t>(text.size())) {}
+
+    std::u16string Str() const { return std::u16string(*this); }
+};
+
+}  // namespace halvek

@@ -1,0 +1,25 @@
+#include <halvekutils/core/ComponentServices.h>
+#include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/ErrorLog.h>
+
+namespace halvek {
+
+namespace {
+
+class StateServices : public Services {
+  public:
+    void LogError(TextIn message) noexcept override { WriteErrorLog(State(), message); }
+    bool DebugMode() const override { return State().debugMode; }
+    std::u16string AppName() const override { return State().appName; }
+    Color FormSkinColor() const override { return State().formSkinColor; }
+    Color FormTextColor() const override { return State().formTextColor; }
+};
+
+}  // namespace
+
+Services& ComponentServices() {
+    static Services* const services = new StateServices;
+    return *services;
+}
+
+}  // namespace halvek

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/dialogs/MessageBox.h>
+
+#include <memory>
+
+namespace halvek {
+
+enum class Modality { Modal, Modeless };
+
+/// Shows the windows of dialogs: one call for each dialog, given its rules.
+///
+/// A modal show returns once the rules have ended; rules that are still open when the modal loop
+/// ends count as closed by the close box. A modeless show returns at once and keeps the rules until
+/// they end; a modal show of rules that are on the screen already goes on with them modally.
+class HALVEK_EXPORT Forms {
+  public:
+    virtual ~Forms();
+
+    virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
+
+  protected:
+    Forms() = default;
+    Forms(const Forms&) = default;
+    Forms& operator=(const Forms&) = default;
+};
+
+}  // namespace halvek

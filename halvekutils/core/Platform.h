@@ -1,0 +1,49 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/core/Forms.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Machine.h>
+
+namespace halvek {
+
+/// The desktop that the library's dialogs open on: real windows or a script that answers.
+///
+/// One is installed at a time. Without one, everything but the dialogs works.
+class HALVEK_EXPORT Platform : public Desktop, public Forms {
+  public:
+    ~Platform() override;
+
+    /// The installed platform. Throws ObjectNotSet when there is none.
+    static Platform& Installed();
+
+  protected:
+    Platform();
+    Platform(const Platform&) = delete;
+    Platform& operator=(const Platform&) = delete;
+
+    /// Makes this the installed platform, for derived classes that are ready to work.
+    void Install();
+    /// Restores the platform that was installed before; at the start of a derived destructor.
+    void Uninstall() noexcept;
+
+  private:
+    Platform* before_ = nullptr;
+};
+
+/// Lets the library see another machine for a while: a stopped clock, a folder of a test's own.
+///
+///     MyMachine machine;
+///     UseMachine use(machine);
+class HALVEK_EXPORT UseMachine {
+  public:
+    explicit UseMachine(Machine& machine);
+    ~UseMachine();
+    UseMachine(const UseMachine&) = delete;
+    UseMachine& operator=(const UseMachine&) = delete;
+
+  private:
+    Machine* before_;
+};
+
+}  // namespace halvek

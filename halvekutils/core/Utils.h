@@ -1,0 +1,205 @@
+#pragma once
+
+#include <halvekutils/base/ByRef.h>
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Fetchable.h>
+#include <halvekutils/base/StringArray.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/refdata/CodesCollection.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace halvek {
+
+/// The object through which a host reaches every service of the library.
+///
+/// Create one at start-up, call InitUtils on it, then InitPrefs and InitOtherSettings as the
+/// practice's settings arrive. Session values and reference collections are shared by all Utils
+/// objects of the process; bins and application data folders belong to the object. Use it on the
+/// user-interface thread only.
+///
+/// Unless its description says otherwise a member never throws: it writes what went wrong to the
+/// error log and returns an empty text, false or 0.
+///
+///     auto utils = Utils::Create();
+///     utils->InitUtils(u"FrontDesk.log", u"Front Desk", u"clinic", false, u"2.4.1");
+class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
+  public:
+    static std::shared_ptr<Utils> Create();
+    ~Utils();
+    Utils(const Utils&) = delete;
+    Utils& operator=(const Utils&) = delete;
+
+    /// The object that InitUtils was last called on; null before the first call. It lives until
+    /// the process ends.
+    static std::shared_ptr<Utils> CurrentUtils();
+
+    // The members stand in the order of their interface slots; of a property the setter is named
+    // first, with the one exception of SpecialMode.
+
+    /// The folder for the current user's data; stored for the host, never used by the library.
+    void AppDataFolderUser(TextIn value);
+    std::u16string AppDataFolderUser() const;
+
+    /// The folder for data common to all users; stored for the host, never used by the library.
+    void AppDataFolderCommon(TextIn value);
+    std::u16string AppDataFolderCommon() const;
+
+    std::u16string CodeDelimiter() const;
+
+    /// The column-width factor given to InitOtherSettings, narrowed to single precision.
+    float ColumnAdjustValue() const;
+
+    /// Stores the colours of highlighted headings, the delimiter between a code and its
+    /// description, the column-width factor and the width of a scroll bar in twips.
+    void InitOtherSettings(Color HighlightBackColor, Color HighlightForeColor, TextIn CodeDelimiter,
+                           double ColumnAdjustValue, std::int32_t ScrollBarWidth);
+
+    std::int32_t ScrollBarWidth() const;
+
+    /// Parks a text under a key, or replaces the text and type of the bin with exactly this key.
+    ///
+    /// A key that differs from an existing one in letter case only is refused: the refusal beeps
+    /// and is logged, and the bins stay as they were.
+    void AddBin(TextIn BinKey, TextIn BinData, TextIn BinType);
+
+    /// Drops all bins of this object.
+    void ClearAllBins();
+
+    /// Releases the current codes collection; GetCodesCollection then returns null.
+    void ClearCodesCollection();
+
+    /// The text of the bin with exactly this key, letter case included; empty when there is none.
+    std::u16string GetBinData(TextIn BinKey) const;
+
+    bool BinExists(TextIn BinKey) const;
+
+    /// Removes the bin with exactly this key; does nothing when there is none.
+    void RemoveBin(TextIn BinKey);
+
+    /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
+    /// SubscriptOutOfRange before InitPrefs.
+    StringArray ColorArray() const;
+
+    /// A text of diagnostic words that all parts of the library and the host can read.
+    std::u16string SpecialMode() const;
+    void SpecialMode(TextIn value);
+
+    Color FormSkinColor() const;
+
+    /// The current codes collection, the same object until the next build or clear; null when none
+    /// was built.
+    std::shared_ptr<CodesCollection> GetCodesCollection() const;
+
+    Color RequiredFieldBackColor() const;
+    std::u16string ExeFileStamp() const;
+
+    /// Shows a message box and waits for its answer.
+    ///
+    /// @param Prompt  plain text; CR LF starts a new line
+    /// @param Title  empty for the application's name
+    /// @param BackgroundColor, fontSize  written back when out of range, see their enumerations
+    /// @param CloseAfterNSec  seconds after which the box closes itself; below 1 it stays
+    /// @return the button pressed; kClosedByCountdown (99) after the countdown. The close box gives
+    ///     mbCancel when there is such a button, mbYes for mbYesHelp and else mbOK; the sets that
+    ///     no button cancels have no close box. kNotAnswered (0), a value of no button, after a
+    ///     fault, which is logged with "Error in Utils.ShowMsgBox ".
+    ///
+    ///     if (utils->ShowMsgBox(u"Delete the visit?", mbYesNo, mbTrash, u"Visits") == mbYes) ...
+    MbMsgBoxResult ShowMsgBox(TextIn Prompt, ButtonsChoice Buttons, IconChoice Icon, TextIn Title,
+                              ByRef<ColorChoice> BackgroundColor = ColorChoice{},
+                              ByRef<FontSizeChoice> fontSize = FontSizeChoice{},
+                              bool FontBold = false, std::int32_t CloseAfterNSec = 0);
+
+    /// Appends one line to the error log: date and time, login name and the text, in Windows-1252.
+    ///
+    /// Works before InitUtils and never throws. A line that cannot be written is lost with a beep,
+    /// and in debug mode with a message.
+    void LogError(TextIn strError) noexcept;
+
+    /// True when the collection is given, is not empty and an item under the key can be fetched.
+    bool ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key) const;
+
+    /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
+    void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
+                        std::u16string& strRight);
+
+    std::u16string AppName() const;
+    std::u16string AppType() const;
+
+    /// True in debug mode.
+    bool DBG() const;
+
+    /// Starts the session and makes this object the current one.
+    ///
+    /// @param ErrFileName  name or path of the error log, folders parted by "/" or "\". A name
+    ///     without a folder lies in the library's own folder; empty stands for "Error.Log".
+    /// @param AppName  the title of the library's message boxes
+    /// @param AppType, ExeFileStamp  stored for the host
+    void InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
+                   TextIn ExeFileStamp);
+
+    /// Stores the palette's colours (decimal texts) and the colours of forms.
+    void InitPrefs(const StringArray& ColorArray, Color FormSkinColor, Color FormTextColor,
+                   Color FormTopColor, Color RequiredFieldBackColor);
+
+    Color FormTextColor() const;
+    Color FormTopColor() const;
+
+    /// Field number `intNum`, from 1, of a text; empty when there is no such field. A delimiter may
+    /// have several characters. A number below 1 or an empty delimiter gives the empty text.
+    ///
+    ///     utils->SplitStr(u"A^B^C", u"^", 2)  // B
+    std::u16string SplitStr(TextIn strSplit, TextIn delim, std::int16_t intNum) const;
+
+    /// Cuts a text into the elements 1 to n of an array; element 0 stays empty.
+    ///
+    /// Meant for a delimiter of one character, which closes a field and need not close the last. A
+    /// longer one ends a field too, but only its first character is skipped: the rest begins the
+    /// next field. The empty text gives one empty field.
+    ///
+    ///     utils->StrToArr(u"A|B|", u"|", fields)  // fields: "", A, B
+    bool StrToArr(TextIn Str, TextIn DEL, StringArray& Arr) const;
+
+    /// How often a text occurs in another, counted from the left without overlap; 0 for an empty
+    /// one.
+    std::int32_t CountInstances(TextIn strSearchIn, TextIn strSearchFor) const;
+
+    /// Cuts a long text into pieces of at most ChunkLength characters that end at a delimiter, into
+    /// the elements 0 and up of an array.
+    ///
+    /// A first piece that ends in the delimiter without being cut is stored twice, in elements 0
+    /// and 1.
+    /// @return true when the pieces hold the whole text. False with the array untouched when an
+    ///     argument is empty, the length is below 1, or the text fits into one piece and can be
+    ///     used as it is; false with the pieces so far when a piece holds no delimiter.
+    bool ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength, TextIn DEL) const;
+
+    /// Builds the current codes collection anew from the server's codes data.
+    ///
+    /// Records are parted by "|", fields by the character of code 230; CodeDefinition::Init gives
+    /// the fields. Of two records with one key, letter case ignored, the first is kept and the
+    /// second logged. A collection that the host still holds stays as it is.
+    void BuildCodesCollection(TextIn CodesData);
+
+    /// The entities that the user may see, as the server sent them; stored for the host.
+    void EntityListForUser(TextIn value);
+    std::u16string EntityListForUser() const;
+
+    /// The settings of a remote session; stored for the host.
+    void RemoteSettings(TextIn value);
+    std::u16string RemoteSettings() const;
+
+  private:
+    struct Private;
+
+    Utils();
+
+    std::unique_ptr<Private> d_;
+};
+
+}  // namespace halvek

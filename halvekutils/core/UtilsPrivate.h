@@ -1,0 +1,22 @@
+#pragma once
+
+#include <halvekutils/core/DataBins.h>
+#include <halvekutils/core/Utils.h>
+
+#include <string>
+
+namespace halvek {
+
+/// What belongs to one Utils object.
+struct Utils::Private {
+    std::u16string appDataFolderUser;
+    std::u16string appDataFolderCommon;
+    DataBins bins;
+};
+
+/// The log of an object, for the guard around its members.
+inline auto LogOf(Utils& utils) {
+    return [&utils](TextIn line) { utils.LogError(line); };
+}
+
+}  // namespace halvek

@@ -1,0 +1,223 @@
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/dialogs/MessageBox.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
+constexpr std::int32_t kScrollStep = 200;
+constexpr std::int32_t kLongestCountdown = 2'147'483'640;
+constexpr std::u16string_view kFixedFace = u"Courier New";
+
+struct FontRow {
+    FontSizeChoice choice;
+    std::int32_t points;
+    std::u16string_view face;
+};
+
+constexpr FontRow kFonts[] = {
+    {mb8, 8, u""},        {mb9, 9, u""}, {mb10, 10, u""}, {mb11, 11, u""}, {mb12, 12, u""},
+    {mb5, 9, kFixedFace}, {mb6, 6, u""}, {mb7, 7, u""},   {mb14, 14, u""},
+};
+
+FontSpec FontOf(FontSizeChoice choice, bool bold) {
+    FontSpec font;
+    const auto row = std::ranges::find(kFonts, NormalizedFontSize(choice), &FontRow::choice);
+    if (row != std::end(kFonts)) {
+        font.points = row->points;
+        font.face = row->face;
+    }
+    font.bold = bold;
+    return font;
+}
+
+// The letters that can press a button; a key of any other letter presses none.
+constexpr std::u16string_view kAcceleratorLetters = u"ACINORYSDH";
+
+char16_t AcceleratorLetter(int keyCode) {
+    const bool known =
+        keyCode > 0 && keyCode < 128 &&
+        kAcceleratorLetters.find(static_cast<char16_t>(keyCode)) != std::u16string_view::npos;
+    return known ? static_cast<char16_t>(keyCode) : u'\0';
+}
+
+/// Hours, minutes and seconds in two digits each.
+std::u16string ClockText(std::int32_t seconds) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60,
+                  seconds % 60);
+    return FromUtf8(text);
+}
+
+std::u16string WithoutAmpersand(std::u16string_view caption) {
+    std::u16string text(caption);
+    std::erase(text, u'&');
+    return text;
+}
+
+}  // namespace
+
+FontSizeChoice NormalizedFontSize(FontSizeChoice fontSize) {
+    return fontSize == 0 || fontSize > mb14 ? mb9 : fontSize;
+}
+
+ColorChoice NormalizedBackground(ColorChoice background) {
+    return background < mbWhite || background > mbSkinColor ? mbWhite : background;
+}
+
+MessageBox::MessageBox(MessageBoxRequest request, const Services& session, const Desktop& desktop)
+    : request_(std::move(request)),
+      set_(&ButtonSetOf(request_.buttons)),
+      font_(FontOf(request_.fontSize, request_.fontBold)),
+      skinColor_(session.FormSkinColor()),
+      skinTextColor_(session.FormTextColor()),
+      title_(request_.title.empty() ? session.AppName() : request_.title),
+      caption_(title_) {
+    layout_ = LayOutMessageBox({request_.prompt, font_, set_->choice, Picture() != 0}, desktop,
+                               desktop.ScreenSize(), desktop.FrameSize());
+    if (request_.closeAfterNSec >= 1) {
+        countdownTotal_ = std::min(request_.closeAfterNSec, kLongestCountdown);
+        countdownRunning_ = true;
+    }
+}
+
+MessageBox::~MessageBox() = default;
+
+std::u16string_view MessageBox::ButtonCaption(int index) const {
+    if (index < 0 || index > 2) return {};
+    return CaptionOf(set_->results[static_cast<std::size_t>(index)]);
+}
+
+int MessageBox::Picture() const {
+    const IconChoice icon = request_.icon;
+    return icon < mbNoIcon || icon > mbExclamationCritical ? mbNoIcon : icon;
+}
+
+MessageBoxColors MessageBox::Colors() const {
+    switch (NormalizedBackground(request_.background)) {
+        case mbGray:
+            return {kButtonFace, std::nullopt, kButtonFace};
+        case mbSkinColor:
+            return {skinColor_, skinTextColor_, std::nullopt};
+        default:
+            return {kWhite, kBlack, Rgb(0xC0, 0xC0, 0xC0)};
+    }
+}
+
+std::optional<MessageBox::Position> MessageBox::CentredOnOwner() const {
+    const auto& owner = request_.owner;
+    if (owner == nullptr || !owner->Exists()) return std::nullopt;
+    return Position{owner->Left() + owner->Width() / 2 - layout_.form.width / 2,
+                    owner->Top() + owner->Height() / 2 - layout_.form.height / 2};
+}
+
+std::u16string MessageBox::CopyText() const {
+    std::u16string text = title_ + u"\r\n\r\n" + request_.prompt + u"\r\n";
+    for (int i = 0; i < ButtonCount(set_->choice); ++i) {
+        text += (i == 0 ? u"\r\n" : u"   ") + WithoutAmpersand(ButtonCaption(i));
+    }
+    return text;
+}
+
+void MessageBox::Press(int index) {
+    if (!open_ || ButtonCaption(index).empty()) return;
+    End(IntegerText(set_->results[static_cast<std::size_t>(index)]));
+}
+
+MessageBox::KeyAction MessageBox::KeyDown(int keyCode, unsigned modifiers) {
+    if (!open_) return KeyAction::None;
+    if (keyCode == 'C' && modifiers == kControl) {
+        StopCountdown();
+        return KeyAction::Copy;
+    }
+    if (const char16_t letter = AcceleratorLetter(keyCode); letter != 0) {
+        for (int i = 0; i < 3; ++i) {
+            const std::u16string_view caption = ButtonCaption(i);
+            if (!caption.empty() && caption[1] == letter) {
+                Press(i);
+                return KeyAction::Handled;
+            }
+        }
+    }
+    StopCountdown();
+    if (keyCode != kEscape || !set_->escapeCloses) return KeyAction::None;
+    CloseByUser();
+    return KeyAction::Handled;
+}
+
+void MessageBox::FormKeyPress(int keyAscii) {
+    const bool closes = keyAscii == kEnter || keyAscii == kEscape;
+    // Where a button shows it has the focus, and no key reaches the form itself.
+    if (open_ && closes && ButtonCount(set_->choice) == 0) RunCloseStep();
+}
+
+void MessageBox::CloseByUser() {
+    if (!open_ || !set_->hasCloseBox) return;
+    result_ = set_->closeResult;
+    RunCloseStep();
+}
+
+void MessageBox::Abandon() {
+    if (!open_) return;
+    result_ = set_->hasCloseBox ? std::u16string(set_->closeResult) : IntegerText(kNotAnswered);
+    RunCloseStep();
+}
+
+void MessageBox::Tick() {
+    if (!countdownRunning_) return;
+    caption_ =
+        title_ + u"          " + ClockText(countdownElapsed_) + u" / " + ClockText(countdownTotal_);
+    ++countdownElapsed_;
+    if (countdownElapsed_ == countdownTotal_) {
+        End(IntegerText(kClosedByCountdown));
+    } else {
+        NotifyChanged();
+    }
+}
+
+void MessageBox::PressScroll(int index) {
+    ScrollBy(index == 0 ? kScrollStep : -kScrollStep);
+}
+
+void MessageBox::ScrollBy(std::int32_t twips) {
+    const std::int64_t wanted = std::int64_t{scrollOffset_} - twips;
+    const std::int32_t offset =
+        static_cast<std::int32_t>(std::clamp<std::int64_t>(wanted, -layout_.scrollRange, 0));
+    if (std::exchange(scrollOffset_, offset) != offset) NotifyChanged();
+}
+
+MbMsgBoxResult MessageBox::ReturnedValue() {
+    const std::u16string result = std::exchange(result_, {});
+    request_.buttons = mbOkOnly;
+    return result.empty() ? mbOK : static_cast<MbMsgBoxResult>(ToInt32(result));
+}
+
+void MessageBox::RunCloseStep() {
+    End(std::u16string(result_));
+    const auto owner = std::exchange(request_.owner, nullptr);
+    if (owner != nullptr && owner->Exists()) owner->Refresh();
+}
+
+void MessageBox::End(std::u16string_view result) {
+    result_ = result;
+    countdownRunning_ = false;
+    open_ = false;
+    NotifyChanged();
+}
+
+void MessageBox::StopCountdown() {
+    countdownRunning_ = false;
+}
+
+void MessageBox::NotifyChanged() const {
+    if (Changed) Changed();
+}
+
+}  // namespace halvek

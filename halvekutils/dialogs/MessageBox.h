@@ -1,0 +1,139 @@
+#pragma once
+
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/dialogs/MessageBoxButtons.h>
+#include <halvekutils/dialogs/MessageBoxLayout.h>
+#include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/platform/Controls.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Services.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace halvek {
+
+/// What a message box is asked to show.
+struct MessageBoxRequest {
+    std::u16string prompt;
+    ButtonsChoice buttons = mbOkOnly;
+    IconChoice icon = mbNoIcon;
+    std::u16string title;
+    ColorChoice background = mbWhite;
+    FontSizeChoice fontSize = mb9;
+    bool fontBold = false;
+    std::int32_t closeAfterNSec = 0;
+    std::shared_ptr<OwnerForm> owner = nullptr;
+};
+
+/// The colours of a message box; one that is absent is the desktop's own.
+struct MessageBoxColors {
+    Color background;  ///< of the form, both frames and the text
+    std::optional<Color> text;
+    std::optional<Color> buttonFace;
+};
+
+/// The value that replaces an out-of-range choice; any other comes back as it is.
+HALVEK_EXPORT FontSizeChoice NormalizedFontSize(FontSizeChoice fontSize);
+HALVEK_EXPORT ColorChoice NormalizedBackground(ColorChoice background);
+
+/// The rules of one message box, without a window: what it shows, what its keys and buttons do and
+/// how it ends. A window draws it and forwards its events.
+class HALVEK_EXPORT MessageBox {
+  public:
+    /// The picture in the title bar's and the text's fonts is measured on this desktop.
+    MessageBox(MessageBoxRequest request, const Services& session, const Desktop& desktop);
+    ~MessageBox();
+    MessageBox(const MessageBox&) = delete;
+    MessageBox& operator=(const MessageBox&) = delete;
+
+    // What the window shows
+
+    TextIn Prompt() const { return request_.prompt; }
+    /// The title bar's text, with the countdown while one has run.
+    TextIn Caption() const { return caption_; }
+    /// The caption of button 0, 1 or 2; empty for a hidden one.
+    std::u16string_view ButtonCaption(int index) const;
+    /// The picture's number from 1, or 0 for none.
+    int Picture() const;
+    ButtonsChoice Buttons() const { return set_->choice; }
+    const FontSpec& Font() const { return font_; }
+    MessageBoxColors Colors() const;
+    const MessageBoxLayout& Layout() const { return layout_; }
+    bool HasCloseBox() const { return set_->hasCloseBox; }
+    /// The screen position that centres the box on its owner; absent without one.
+    struct Position {
+        std::int32_t left, top;
+    };
+    std::optional<Position> CentredOnOwner() const;
+    /// How far the text is scrolled: 0 at its start, down to minus the layout's scroll range.
+    std::int32_t ScrollOffset() const { return scrollOffset_; }
+    /// The title, the text and the buttons as one text for the clipboard.
+    std::u16string CopyText() const;
+
+    bool IsOpen() const { return open_; }
+    bool CountdownRunning() const { return countdownRunning_; }
+
+    /// Called after every change that the window shows, and once when the box ends.
+    std::function<void()> Changed;
+
+    // What the user does
+
+    /// Presses button 0, 1 or 2. A hidden button cannot be pressed.
+    void Press(int index);
+
+    enum class KeyAction { None, Handled, Copy };
+    enum KeyModifier : unsigned { kNoModifier = 0, kShift = 1, kControl = 2, kAlt = 4 };
+
+    /// A key pressed while a button has the focus. Key codes of letters are those of their
+    /// capitals, Escape is 27. Returns Copy when the text of the box is to go to the clipboard.
+    KeyAction KeyDown(int keyCode, unsigned modifiers);
+
+    /// A character typed where no control has the focus: Enter (13) and Escape (27) close the box.
+    void FormKeyPress(int keyAscii);
+
+    /// The close box or a close request of the window manager.
+    void CloseByUser();
+
+    /// The window goes away with the box still open: the application quits or the owner is gone.
+    void Abandon();
+
+    /// One second has passed.
+    void Tick();
+
+    /// Scroll button 0 moves the text up, showing later lines; button 1 moves it down.
+    void PressScroll(int index);
+    /// Scrolls to later (positive) or earlier lines, as far as the text goes.
+    void ScrollBy(std::int32_t twips);
+
+    /// The answer: the result text as a number, 1 when it is empty. Reading it clears the result.
+    MbMsgBoxResult ReturnedValue();
+
+  private:
+    void End(std::u16string_view result);
+    void RunCloseStep();
+    void NotifyChanged() const;
+    void StopCountdown();
+
+    MessageBoxRequest request_;
+    const MessageBoxButtonSet* set_;
+    FontSpec font_;
+    Color skinColor_;
+    Color skinTextColor_;
+    MessageBoxLayout layout_;
+    std::u16string title_;
+    std::u16string caption_;
+    std::u16string result_;
+    std::int32_t scrollOffset_ = 0;
+    std::int32_t countdownTotal_ = 0;
+    std::int32_t countdownElapsed_ = 0;
+    bool countdownRunning_ = false;
+    bool open_ = true;
+};
+
+}  // namespace halvek

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/dialogs/MessageBoxTypes.h>
+
+#include <array>
+#include <string_view>
+
+namespace halvek {
+
+/// What a button set shows and how it can be left without a button.
+struct MessageBoxButtonSet {
+    ButtonsChoice choice;
+    std::array<MbMsgBoxResult, 3> results;  ///< of the buttons from the left; kNotAnswered: hidden
+    bool hasCloseBox;
+    bool escapeCloses;                ///< whether Escape on a button acts as the close box
+    std::u16string_view closeResult;  ///< the result text of the close box, "" for the default
+};
+
+/// The row of a button set; that of mbOkOnly for an unknown value.
+HALVEK_EXPORT const MessageBoxButtonSet& ButtonSetOf(ButtonsChoice choice);
+
+/// How many buttons a set shows: 0 to 3.
+HALVEK_EXPORT int ButtonCount(ButtonsChoice choice);
+
+/// The caption of the button with this result, its accelerator letter behind a "&"; empty for a
+/// result of no button.
+HALVEK_EXPORT std::u16string_view CaptionOf(MbMsgBoxResult result);
+
+}  // namespace halvek

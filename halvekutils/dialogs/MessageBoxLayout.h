@@ -1,0 +1,53 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/platform/Desktop.h>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace halvek {
+
+/// A place inside a form or a frame, in twips.
+struct Rect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    std::int32_t Right() const { return left + width; }
+    std::int32_t Bottom() const { return top + height; }
+    friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// The sizes and places of a message box's parts, in twips.
+struct MessageBoxLayout {
+    Size form;          ///< with the window's frame
+    Size inner;         ///< without it
+    Rect messageFrame;  ///< frMSG, in the form
+    Rect buttonFrame;   ///< frButtons, in the form, over the message frame
+    Rect label;         ///< lblText, in the message frame, before scrolling
+    Rect icon;          ///< Image1, in the form
+    std::array<std::optional<Rect>, 3> buttons;  ///< arrCmd, in the button frame
+    std::array<Rect, 2> scrollButtons;           ///< cmdUpDn, in the message frame
+    bool canScroll = false;                      ///< whether the scroll buttons show
+    std::int32_t viewHeight = 0;                 ///< how much of the label shows
+    std::int32_t scrollRange = 0;                ///< how far the text can move up, to its last line
+};
+
+/// What a message box's layout is made of besides the text meter.
+struct MessageBoxContent {
+    TextIn prompt;
+    FontSpec font;
+    ButtonsChoice buttons = mbOkOnly;
+    bool hasIcon = false;
+};
+
+/// Lays a message box out on a screen, for a window frame that adds `frame` to its inner size.
+HALVEK_EXPORT MessageBoxLayout LayOutMessageBox(const MessageBoxContent& content,
+                                                const TextMeter& meter, Size screen, Size frame);
+
+}  // namespace halvek

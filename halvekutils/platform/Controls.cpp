@@ -1,0 +1,7 @@
+#include <halvekutils/platform/Controls.h>
+
+namespace halvek {
+
+OwnerForm::~OwnerForm() = default;
+
+}  // namespace halvek

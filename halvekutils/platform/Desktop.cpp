@@ -1,0 +1,33 @@
+#include <halvekutils/platform/Desktop.h>
+
+#include <exception>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+Desktop* installedDesktop = nullptr;
+
+}  // namespace
+
+TextMeter::~TextMeter() = default;
+
+Desktop* Desktop::Installed() noexcept {
+    return installedDesktop;
+}
+
+Desktop* Desktop::Install(Desktop* desktop) noexcept {
+    return std::exchange(installedDesktop, desktop);
+}
+
+void Beep() noexcept {
+    if (installedDesktop == nullptr) return;
+    try {
+        installedDesktop->Beep();
+    } catch (const std::exception&) {
+        // A beep that fails has nobody to tell.
+    }
+}
+
+}  // namespace halvek

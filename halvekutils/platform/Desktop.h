@@ -1,0 +1,77 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+/// A width and a height in twips (1/1440 inch).
+struct Size {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
+/// A font as the dialogs' rules choose it.
+struct FontSpec {
+    std::u16string face;  ///< empty for the desktop's own interface face
+    std::int32_t points = 9;
+    bool bold = false;
+
+    friend bool operator==(const FontSpec&, const FontSpec&) = default;
+};
+
+/// Measures text in a font. Lines end at CR LF, LF or CR; all lengths are twips.
+class HALVEK_EXPORT TextMeter {
+  public:
+    virtual ~TextMeter();
+
+    /// The width of the widest line.
+    virtual std::int32_t TextWidth(TextIn text, const FontSpec& font) const = 0;
+
+    /// The height of all lines when none is wrapped; one line for the empty text.
+    virtual std::int32_t TextHeight(TextIn text, const FontSpec& font) const = 0;
+
+    /// The height when lines wrap at a width.
+    virtual std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
+                                       std::int32_t width) const = 0;
+
+  protected:
+    TextMeter() = default;
+    TextMeter(const TextMeter&) = default;
+    TextMeter& operator=(const TextMeter&) = default;
+};
+
+/// The icon of a stock message.
+enum class StockIcon { None, Critical };
+
+/// What the library asks of the desktop besides its own dialogs.
+class HALVEK_EXPORT Desktop : public TextMeter {
+  public:
+    /// The installed desktop, or null.
+    static Desktop* Installed() noexcept;
+
+    /// Makes this the installed desktop; null for none. Returns the one that was installed before.
+    static Desktop* Install(Desktop* desktop) noexcept;
+
+    /// Sounds the system beep.
+    virtual void Beep() = 0;
+
+    /// Shows the desktop's own message box with an OK button; returns when it is closed.
+    virtual void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) = 0;
+
+    /// The size of the screen that a new dialog opens on.
+    virtual Size ScreenSize() const = 0;
+
+    /// What the window frame of a dialog adds to its inner size.
+    virtual Size FrameSize() const = 0;
+};
+
+/// Sounds the beep of the installed desktop; silent without one. Never throws.
+HALVEK_EXPORT void Beep() noexcept;
+
+}  // namespace halvek

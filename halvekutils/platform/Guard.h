@@ -1,0 +1,59 @@
+#pragma once
+
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/platform/Desktop.h>
+
+#include <exception>
+#include <string>
+#include <type_traits>
+
+namespace halvek {
+
+enum class OnFault { Quiet, Beep };
+
+/// Runs `body`; when it throws, beeps if asked to and passes `prefix` followed by the fault's
+/// description to `log`.
+///
+///     Guarded(OnFault::Beep, u"Error in Utils.AddBin ", log, [&] { ... });
+///
+/// `prefix` is a text, or a callable that builds one once a fault has happened. A failure while the
+/// fault is reported, out of memory above all, is dropped: there is nowhere left to tell it.
+template <class Prefix, class Log, class Body>
+void Guarded(OnFault onFault, const Prefix& prefix, const Log& log, const Body& body) {
+    try {
+        body();
+    } catch (const std::exception& caught) {
+        if (onFault == OnFault::Beep) Beep();
+        try {
+            std::u16string line;
+            if constexpr (std::is_invocable_v<const Prefix&>) {
+                line = prefix();
+            } else {
+                line = prefix;
+            }
+            log(line + AsRuntimeError(caught).Description());
+        } catch (const std::exception&) {
+            return;
+        }
+    }
+}
+
+/// The same for a body with a result; after a fault the result is `neutral`.
+template <class Prefix, class Log, class Result, class Body>
+Result Guarded(OnFault onFault, const Prefix& prefix, const Log& log, Result neutral,
+               const Body& body) {
+    Guarded(onFault, prefix, log, [&] { neutral = body(); });
+    return neutral;
+}
+
+/// Runs `body` and returns its result, or `neutral` when it throws; tells nobody.
+template <class Result, class Body>
+Result Quietly(Result neutral, const Body& body) {
+    try {
+        return body();
+    } catch (const std::exception&) {
+        return neutral;
+    }
+}
+
+}  // namespace halvek

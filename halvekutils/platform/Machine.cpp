@@ -1,0 +1,7 @@
+#include <halvekutils/platform/Machine.h>
+
+namespace halvek {
+
+Machine::~Machine() = default;
+
+}  // namespace halvek

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <string>
+
+namespace halvek {
+
+/// What a feature may ask of the current session: its log, its switches and its colours.
+class HALVEK_EXPORT Services {
+  public:
+    virtual ~Services();
+
+    /// The services of the session that InitUtils started last. Throws ObjectNotSet before the
+    /// first InitUtils.
+    static Services& Current();
+
+    /// Makes these the current services until others are installed; null for none.
+    static void Install(Services* services) noexcept;
+
+    /// Writes one line to the error log. Never throws.
+    virtual void LogError(TextIn message) noexcept = 0;
+
+    virtual bool DebugMode() const = 0;
+    virtual std::u16string AppName() const = 0;
+    virtual Color FormSkinColor() const = 0;
+    virtual Color FormTextColor() const = 0;
+
+  protected:
+    Services() = default;
+    Services(const Services&) = default;
+    Services& operator=(const Services&) = default;
+};
+
+}  // namespace halvek

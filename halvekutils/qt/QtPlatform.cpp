@@ -1,0 +1,151 @@
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/qt/QtPlatform.h>
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/forms/ModalOwner.h>
+#include <halvekutils/qt/forms/frmMessageBox.h>
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTextDocument>
+#include <QThread>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace halvek {
+
+namespace {
+
+constexpr Size kTypicalFrame = {0, 450};
+
+void RequireUserInterfaceThread() {
+    const auto* const app = qobject_cast<QApplication*>(QCoreApplication::instance());
+    if (app == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"QApplication");
+    if (app->thread() != QThread::currentThread()) {
+        throw RuntimeError(Fault::InvalidArgument, u"not the user-interface thread");
+    }
+}
+
+/// Names an installed face for one that the dialogs ask for and the desktop may lack.
+void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
+    if (QFontDatabase::hasFamily(wanted)) return;
+    QFont::insertSubstitution(wanted, QFontDatabase::systemFont(closest).family());
+}
+
+QString WithPlainLineEnds(TextIn text) {
+    return ToQString(text)
+        .replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+int RoundedUp(double pixels) {
+    return static_cast<int>(std::ceil(pixels));
+}
+
+}  // namespace
+
+struct QtPlatform::Private {
+    std::vector<std::unique_ptr<frmMessageBox>> modeless;
+};
+
+QtPlatform::QtPlatform() : d_(std::make_unique<Private>()) {
+    RequireUserInterfaceThread();
+    SubstituteFace(QStringLiteral("Tahoma"), QFontDatabase::GeneralFont);
+    SubstituteFace(QStringLiteral("Courier New"), QFontDatabase::FixedFont);
+    Install();
+}
+
+QtPlatform::~QtPlatform() {
+    Uninstall();
+}
+
+std::int32_t QtPlatform::TextWidth(TextIn text, const FontSpec& font) const {
+    const QFontMetricsF metrics(ToQFont(font));
+    double widest = 0;
+    for (const QString& line : WithPlainLineEnds(text).split(QLatin1Char('\n'))) {
+        widest = std::max(widest, metrics.horizontalAdvance(line));
+    }
+    return PixelsToTwips(RoundedUp(widest));
+}
+
+std::int32_t QtPlatform::TextHeight(TextIn text, const FontSpec& font) const {
+    const auto lines = WithPlainLineEnds(text).count(QLatin1Char('\n')) + 1;
+    const double spacing = QFontMetricsF(ToQFont(font)).lineSpacing();
+    return PixelsToTwips(RoundedUp(static_cast<double>(lines) * spacing));
+}
+
+std::int32_t QtPlatform::WrappedHeight(TextIn text, const FontSpec& font,
+                                       std::int32_t width) const {
+    const QString shown = ToQString(text);
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setDefaultFont(ToQFont(font));
+    document.setDefaultTextOption(WrappingOf(shown));
+    document.setPlainText(shown);
+    document.setTextWidth(TwipsToPixels(width));
+    return PixelsToTwips(RoundedUp(document.size().height()));
+}
+
+void QtPlatform::Beep() {
+    QApplication::beep();
+}
+
+void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
+    QMessageBox box;
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQString(text));
+    box.setWindowTitle(ToWindowTitle(title));
+    box.setIcon(icon == StockIcon::Critical ? QMessageBox::Critical : QMessageBox::NoIcon);
+    box.setAttribute(Qt::WA_QuitOnClose, false);
+    SetOwner(box, CurrentOwner());
+    box.exec();
+}
+
+Size QtPlatform::ScreenSize() const {
+    const QScreen* const screen = CurrentScreen();
+    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
+    const QSize usable = screen->availableSize();
+    return {PixelsToTwips(usable.width()), PixelsToTwips(usable.height())};
+}
+
+Size QtPlatform::FrameSize() const {
+    // A window manager tells what its frames add only of windows that are on the screen.
+    const QWidget* const owner = CurrentOwner();
+    if (owner == nullptr) return kTypicalFrame;
+    const QSize added = owner->frameGeometry().size() - owner->geometry().size();
+    if (added.height() <= 0) return kTypicalFrame;
+    return {PixelsToTwips(added.width()), PixelsToTwips(added.height())};
+}
+
+void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {
+    const auto shown = std::ranges::find(d_->modeless, box, &frmMessageBox::Box);
+    if (shown != d_->modeless.end()) {
+        if (modality == Modality::Modeless) return;
+        const std::unique_ptr<frmMessageBox> form = std::move(*shown);
+        d_->modeless.erase(shown);
+        form->ShowModal();
+        return;
+    }
+    if (modality == Modality::Modal) {
+        frmMessageBox(box).ShowModal();
+        return;
+    }
+    auto form = std::make_unique<frmMessageBox>(box);
+    frmMessageBox* const window = form.get();
+    d_->modeless.push_back(std::move(form));
+    // Later, not at once: the window is still at work when it says that it has ended.
+    QObject::connect(
+        window, &frmMessageBox::Ended, window,
+        [this, window] {
+            std::erase_if(d_->modeless, [&](const auto& open) { return open.get() == window; });
+        },
+        Qt::QueuedConnection);
+    window->ShowModeless();
+}
+
+}  // namespace halvek

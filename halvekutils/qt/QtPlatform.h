@@ -1,0 +1,38 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/core/Platform.h>
+
+#include <memory>
+
+namespace halvek {
+
+/// The Qt desktop: shows the library's dialogs as real windows.
+///
+/// A host writes one after its QApplication, to live until it leaves main; it is the installed
+/// platform meanwhile. Use it on the user-interface thread.
+///
+///     QApplication app(argc, argv);
+///     QtPlatform desktop;
+class HALVEK_EXPORT QtPlatform : public Platform {
+  public:
+    /// Throws ObjectNotSet without an application object and InvalidArgument off its thread.
+    QtPlatform();
+    ~QtPlatform() override;
+
+    std::int32_t TextWidth(TextIn text, const FontSpec& font) const override;
+    std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;
+    std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
+                               std::int32_t width) const override;
+    void Beep() override;
+    void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
+    Size ScreenSize() const override;
+    Size FrameSize() const override;
+    void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+
+  private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+};
+
+}  // namespace halvek

@@ -1,0 +1,23 @@
+#include <halvekutils/qt/QtText.h>
+
+#include <QTextDocument>
+
+namespace halvek {
+
+QString ToQString(TextIn text) {
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString ToToolTip(TextIn text) {
+    return Qt::convertFromPlainText(ToQString(text), Qt::WhiteSpaceNormal);
+}
+
+QString ToWindowTitle(TextIn text) {
+    return ToQString(text).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+QString ToCaption(TextIn text) {
+    return ToQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+}  // namespace halvek

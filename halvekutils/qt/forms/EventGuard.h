@@ -1,0 +1,17 @@
+#pragma once
+
+#include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/Services.h>
+
+namespace halvek {
+
+/// Runs what an event handler or slot does. An exception that left it would end the process, so it
+/// is beeped and logged here: "ERR in " and the handler's name, ": " and the fault.
+template <class Body>
+void GuardEvent(const char16_t* handler, const Body& body) {
+    const auto prefix = [handler] { return u"ERR in " + std::u16string(handler) + u": "; };
+    const auto log = [](TextIn line) { Services::Current().LogError(line); };
+    Guarded(OnFault::Beep, prefix, log, body);
+}
+
+}  // namespace halvek

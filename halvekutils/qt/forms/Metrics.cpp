@@ -1,0 +1,57 @@
+#include <halvekutils/platform/Twips.h>
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/Metrics.h>
+
+#include <QApplication>
+#include <QScreen>
+
+namespace halvek {
+
+namespace {
+
+double LogicalDpi() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? 96.0 : screen->logicalDotsPerInch();
+}
+
+}  // namespace
+
+std::int32_t PixelsToTwips(int pixels) {
+    return ToTwips(pixels, LogicalDpi());
+}
+int TwipsToPixels(std::int32_t twips) {
+    return ToPixels(twips, LogicalDpi());
+}
+
+QRect ToQRect(const Rect& rect) {
+    return QRect(TwipsToPixels(rect.left), TwipsToPixels(rect.top), TwipsToPixels(rect.width),
+                 TwipsToPixels(rect.height));
+}
+
+QFont ToQFont(const FontSpec& font) {
+    QFont result = QApplication::font();
+    if (!font.face.empty()) result.setFamily(ToQString(font.face));
+    result.setPointSize(font.points);
+    result.setBold(font.bold);
+    return result;
+}
+
+QTextOption WrappingOf(const QString& text) {
+    constexpr qsizetype kLongestWord = 2000;
+    qsizetype wordStart = 0;
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !text[i].isSpace()) continue;
+        if (i - wordStart > kLongestWord) option.setWrapMode(QTextOption::WrapAnywhere);
+        wordStart = i + 1;
+    }
+    return option;
+}
+
+QColor ToQColor(Color color, const QPalette& palette) {
+    if (IsSchemeColor(color)) return palette.color(QPalette::Button);
+    return QColor(RedOf(color), GreenOf(color), BlueOf(color));
+}
+
+}  // namespace halvek

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <halvekutils/base/Color.h>
+#include <halvekutils/dialogs/MessageBoxLayout.h>
+#include <halvekutils/platform/Desktop.h>
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QRect>
+#include <QTextOption>
+
+#include <cstdint>
+
+namespace halvek {
+
+// The one place where twips become logical pixels, and the rules' fonts and colours Qt's.
+
+std::int32_t PixelsToTwips(int pixels);
+int TwipsToPixels(std::int32_t twips);
+QRect ToQRect(const Rect& rect);
+QFont ToQFont(const FontSpec& font);
+
+/// How a text of the host's wraps: at words, or anywhere when it holds a word so long that looking
+/// for its end at every line would take too long.
+QTextOption WrappingOf(const QString& text);
+
+/// A colour of the rules; those of the desktop's scheme come from the palette.
+QColor ToQColor(Color color, const QPalette& palette);
+
+}  // namespace halvek

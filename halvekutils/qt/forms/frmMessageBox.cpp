@@ -1,0 +1,337 @@
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/MessageIcons.h>
+#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/forms/ModalOwner.h>
+#include <halvekutils/qt/forms/frmMessageBox.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr int kOneSecond = 1000;
+constexpr qsizetype kDescriptionLength = 1000;
+
+/// The key code by which the rules know a key; 0 for a key they have no name for.
+int KeyCodeOf(const QKeyEvent& event) {
+    const int key = event.key();
+    if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
+    return key == Qt::Key_Escape ? 27 : 0;
+}
+
+unsigned ModifiersOf(const QKeyEvent& event) {
+    unsigned modifiers = MessageBox::kNoModifier;
+    if (event.modifiers() & Qt::ShiftModifier) modifiers |= MessageBox::kShift;
+    if (event.modifiers() & Qt::ControlModifier) modifiers |= MessageBox::kControl;
+    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) modifiers |= MessageBox::kAlt;
+    return modifiers;
+}
+
+bool IsEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+QFrame* MakeFrame(QWidget* parent, const char* name, const Rect& place) {
+    auto* const frame = new QFrame(parent);
+    frame->setObjectName(QLatin1String(name));
+    frame->setGeometry(ToQRect(place));
+    return frame;
+}
+
+}  // namespace
+
+frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
+    : box_(std::move(box)),
+      frMSG_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
+      frButtons_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)) {
+    setObjectName(QLatin1String("frmMessageBox"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    SetCloseBox();
+    const Size inner = box_->Layout().inner;
+    setFixedSize(TwipsToPixels(inner.width), TwipsToPixels(inner.height));
+    BuildText();
+    BuildButtons();
+    BuildScrollButtons();
+    ApplyColors();
+
+    auto* const icon = new MessageIcon(this);
+    icon->setObjectName(QLatin1String("Image1"));
+    icon->SetNumber(box_->Picture());
+    icon->setGeometry(ToQRect(box_->Layout().icon));
+    icon->setVisible(box_->Picture() != 0);
+
+    tmrUnload_.setObjectName(QLatin1String("tmrUnload"));
+    tmrUnload_.setInterval(kOneSecond);
+    connect(&tmrUnload_, &QTimer::timeout, this,
+            [this] { GuardEvent(u"frmMessageBox.tmrUnload_Timer", [this] { box_->Tick(); }); });
+    box_->Changed = [this] { Sync(); };
+    Sync();
+}
+
+frmMessageBox::~frmMessageBox() {
+    box_->Changed = nullptr;
+    box_->Abandon();
+    RestorePointer();
+}
+
+void frmMessageBox::BuildText() {
+    const MessageBoxLayout& layout = box_->Layout();
+    lblText_ = new QTextEdit(frMSG_);
+    lblText_->setObjectName(QLatin1String("lblText"));
+    lblText_->setAccessibleName(tr("Message"));
+    lblText_->setReadOnly(true);
+    lblText_->setUndoRedoEnabled(false);
+    lblText_->setFocusPolicy(Qt::NoFocus);
+    lblText_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblText_->setFrameShape(QFrame::NoFrame);
+    lblText_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lblText_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lblText_->document()->setDocumentMargin(0);
+    lblText_->setFont(ToQFont(box_->Font()));
+    Rect place = layout.label;
+    place.height = layout.viewHeight;
+    lblText_->setGeometry(ToQRect(place));
+    lblText_->setWordWrapMode(WrappingOf(ToQString(box_->Prompt())).wrapMode());
+    lblText_->setPlainText(ToQString(box_->Prompt()));
+    lblText_->viewport()->installEventFilter(this);
+    setAccessibleDescription(ToQString(box_->Prompt()).left(kDescriptionLength));
+}
+
+void frmMessageBox::BuildButtons() {
+    frButtons_->setVisible(ButtonCount(box_->Buttons()) > 0);
+    for (int i = 0; i < 3; ++i) {
+        const auto& place = box_->Layout().buttons[static_cast<std::size_t>(i)];
+        if (!place) continue;
+        auto* const button = new QPushButton(ToQString(box_->ButtonCaption(i)), frButtons_);
+        button->setObjectName(QStringLiteral("arrCmd_%1").arg(i));
+        button->setAccessibleName(button->text().remove(QLatin1Char('&')));
+        button->setAutoDefault(false);
+        button->setGeometry(ToQRect(*place));
+        button->installEventFilter(this);
+        connect(button, &QPushButton::clicked, this, [this, i] {
+            GuardEvent(u"frmMessageBox.arrCmd_Click", [this, i] { box_->Press(i); });
+        });
+        arrCmd_[static_cast<std::size_t>(i)] = button;
+    }
+}
+
+void frmMessageBox::BuildScrollButtons() {
+    constexpr Qt::ArrowType kArrows[] = {Qt::DownArrow, Qt::UpArrow};
+    const QString names[] = {tr("Later lines"), tr("Earlier lines")};
+    for (int i = 0; i < 2; ++i) {
+        auto* const button = new QToolButton(frMSG_);
+        button->setObjectName(QStringLiteral("cmdUpDn_%1").arg(i));
+        button->setAccessibleName(names[i]);
+        button->setToolTip(names[i]);
+        button->setArrowType(kArrows[i]);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setGeometry(ToQRect(box_->Layout().scrollButtons[static_cast<std::size_t>(i)]));
+        button->setVisible(box_->Layout().canScroll);
+        connect(button, &QToolButton::clicked, this, [this, i] {
+            GuardEvent(u"frmMessageBox.cmdUpDn_Click", [this, i] { box_->PressScroll(i); });
+        });
+        cmdUpDn_[static_cast<std::size_t>(i)] = button;
+    }
+}
+
+void frmMessageBox::ApplyColors() {
+    const MessageBoxColors colors = box_->Colors();
+    const QPalette desktop = palette();
+    const QColor background = ToQColor(colors.background, desktop);
+    const QColor text =
+        colors.text ? ToQColor(*colors.text, desktop) : desktop.color(QPalette::ButtonText);
+    QPalette scheme = desktop;
+    for (const auto role : {QPalette::Window, QPalette::Base}) scheme.setColor(role, background);
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) scheme.setColor(role, text);
+    setPalette(scheme);
+
+    QPalette buttons = desktop;
+    if (colors.buttonFace && !IsSchemeColor(*colors.buttonFace)) {
+        buttons.setColor(QPalette::Button, ToQColor(*colors.buttonFace, desktop));
+        buttons.setColor(QPalette::ButtonText, Qt::black);
+    }
+    for (QPushButton* const button : arrCmd_) {
+        if (button != nullptr) button->setPalette(buttons);
+    }
+    for (QToolButton* const button : cmdUpDn_) button->setPalette(buttons);
+}
+
+void frmMessageBox::SetCloseBox() {
+    constexpr Qt::WindowFlags kFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    setWindowFlags(box_->HasCloseBox()
+                       ? kFrame | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint
+                       : kFrame);
+}
+
+void frmMessageBox::ShowModal() {
+    QWidget* const owner = CurrentOwner();
+    Present(Qt::ApplicationModal);
+    if (owner != nullptr) {
+        connect(owner, &QObject::destroyed, this,
+                [this] { GuardEvent(u"frmMessageBox.Form_Unload", [this] { box_->Abandon(); }); });
+    }
+    if (box_->IsOpen()) modalLoop_.exec();
+    box_->Abandon();
+}
+
+void frmMessageBox::ShowModeless() {
+    Present(Qt::NonModal);
+}
+
+void frmMessageBox::Present(Qt::WindowModality modality) {
+    QWidget* const owner = CurrentOwner();
+    hide();
+    setWindowModality(modality);
+    if (owner != this) SetOwner(*this, owner);
+    Place(owner == this ? nullptr : owner);
+    ShowArrowPointer();
+    if (box_->CountdownRunning()) tmrUnload_.start();
+    show();
+    activateWindow();
+}
+
+void frmMessageBox::Place(const QWidget* owner) {
+    const Size form = box_->Layout().form;
+    const QSize outer(TwipsToPixels(form.width), TwipsToPixels(form.height));
+    if (const auto position = box_->CentredOnOwner()) {
+        const QPoint corner(TwipsToPixels(position->left), TwipsToPixels(position->top));
+        move(Inside(QRect(corner, outer), CurrentScreen()).topLeft());
+    } else {
+        move(CentredPlace(outer, owner).topLeft());
+    }
+}
+
+void frmMessageBox::ShowArrowPointer() {
+    // A busy cursor of the host's would show over the box.
+    if (pointerSaved_ || QGuiApplication::overrideCursor() == nullptr) return;
+    QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    pointerSaved_ = true;
+}
+
+void frmMessageBox::RestorePointer() {
+    if (std::exchange(pointerSaved_, false)) QGuiApplication::restoreOverrideCursor();
+}
+
+void frmMessageBox::Sync() {
+    setWindowTitle(ToWindowTitle(box_->Caption()));
+    if (!box_->CountdownRunning()) tmrUnload_.stop();
+    QScrollBar* const bar = lblText_->verticalScrollBar();
+    const std::int32_t offset = -box_->ScrollOffset();
+    const bool atEnd = offset >= box_->Layout().scrollRange;
+    bar->setValue(atEnd && offset > 0 ? bar->maximum() : TwipsToPixels(offset));
+    cmdUpDn_[0]->setEnabled(!atEnd);
+    cmdUpDn_[1]->setEnabled(offset > 0);
+    if (box_->IsOpen()) return;
+    RestorePointer();
+    hide();
+    modalLoop_.quit();
+    emit Ended();
+}
+
+bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && watched == lblText_->viewport()) {
+        wheelEvent(static_cast<QWheelEvent*>(event));
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+    auto* const key = static_cast<QKeyEvent*>(event);
+    for (int i = 0; i < 3; ++i) {
+        if (watched != arrCmd_[static_cast<std::size_t>(i)]) continue;
+        key->ignore();
+        GuardEvent(u"frmMessageBox.arrCmd_KeyDown", [this, i, key] { ButtonKey(i, key); });
+        return key->isAccepted();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmMessageBox::ButtonKey(int index, QKeyEvent* event) {
+    if (IsEnter(*event)) {
+        box_->Press(index);
+        event->accept();
+        return;
+    }
+    const MessageBox::KeyAction action = box_->KeyDown(KeyCodeOf(*event), ModifiersOf(*event));
+    if (action == MessageBox::KeyAction::Copy) Copy();
+    Sync();
+    event->setAccepted(action != MessageBox::KeyAction::None || ScrollKey(event->key()));
+}
+
+bool frmMessageBox::ScrollKey(int key) {
+    const MessageBoxLayout& layout = box_->Layout();
+    switch (key) {
+        case Qt::Key_PageDown:
+            box_->ScrollBy(layout.viewHeight);
+            return true;
+        case Qt::Key_PageUp:
+            box_->ScrollBy(-layout.viewHeight);
+            return true;
+        case Qt::Key_End:
+            box_->ScrollBy(layout.scrollRange);
+            return true;
+        case Qt::Key_Home:
+            box_->ScrollBy(-layout.scrollRange);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmMessageBox::Copy() const {
+    QGuiApplication::clipboard()->setText(ToQString(box_->CopyText()));
+}
+
+// Reached by keys that no button took. QDialog would end the box on Escape; the rules decide here.
+void frmMessageBox::keyPressEvent(QKeyEvent* event) {
+    GuardEvent(u"frmMessageBox.Form_KeyPress", [this, event] {
+        if (event->matches(QKeySequence::Copy)) {
+            box_->KeyDown('C', MessageBox::kControl);
+            Copy();
+        } else if (IsEnter(*event)) {
+            box_->FormKeyPress(13);
+        } else if (event->key() == Qt::Key_Escape) {
+            box_->FormKeyPress(27);
+        } else {
+            ScrollKey(event->key());
+        }
+    });
+    event->accept();
+}
+
+void frmMessageBox::wheelEvent(QWheelEvent* event) {
+    constexpr int kStepsPerLine = 40;  // a notch of 120 scrolls three lines
+    GuardEvent(u"frmMessageBox.Wheel", [this, event] {
+        const int line = PixelsToTwips(lblText_->fontMetrics().lineSpacing());
+        box_->ScrollBy(-event->angleDelta().y() * line / kStepsPerLine);
+    });
+    event->accept();
+}
+
+void frmMessageBox::closeEvent(QCloseEvent* event) {
+    GuardEvent(u"frmMessageBox.Form_QueryUnload", [this] { box_->CloseByUser(); });
+    event->setAccepted(!box_->IsOpen());
+}
+
+void frmMessageBox::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (arrCmd_[0] != nullptr) arrCmd_[0]->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void frmMessageBox::reject() {
+    GuardEvent(u"frmMessageBox.Form_QueryUnload", [this] { box_->CloseByUser(); });
+}
+
+}  // namespace halvek

@@ -1,0 +1,70 @@
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/refdata/CodesCollection.h>
+
+#include <string>
+
+namespace halvek {
+
+namespace {
+
+constexpr char16_t kRecordSeparator = u'|';
+
+}  // namespace
+
+CodesCollection::CodesCollection() = default;
+CodesCollection::~CodesCollection() = default;
+
+std::shared_ptr<CodesCollection> CodesCollection::CreateEmpty() {
+    return std::shared_ptr<CodesCollection>(new CodesCollection);
+}
+
+std::shared_ptr<CodeDefinition> CodesCollection::Item(std::int32_t position) const {
+    return definitions_.Item(position);
+}
+
+std::shared_ptr<CodeDefinition> CodesCollection::Item(TextIn key) const {
+    return definitions_.Item(key);
+}
+
+std::int32_t CodesCollection::Count() const {
+    return definitions_.Count();
+}
+
+void CodesCollection::Fetch(TextIn key) {
+    definitions_.Item(key);
+}
+
+Enumerator<const CodesCollection> CodesCollection::begin() const {
+    return Enumerator<const CodesCollection>(shared_from_this());
+}
+
+void CodesCollection::AddRecords(TextIn codesData, Services& services) {
+    std::u16string_view rest = codesData;
+    while (!rest.empty()) {
+        const std::size_t end = rest.find(kRecordSeparator);
+        const TextIn record = rest.substr(0, end);
+        if (!record.empty()) AddRecord(record, services);
+        if (end == std::u16string_view::npos) return;
+        rest.remove_prefix(end + 1);
+    }
+}
+
+void CodesCollection::AddRecord(TextIn record, Services& services) {
+    const std::shared_ptr<CodeDefinition> definition(new CodeDefinition);
+    definition->Init(record);
+    try {
+        if (definition->codeKey_.empty()) {
+            definitions_.Add(definition);
+        } else {
+            definitions_.Add(definition, definition->codeKey_);
+        }
+    } catch (const std::exception& caught) {
+        services.LogError(u"Error adding to CodesCollection in HalvekUtils.Add:\r\n" +
+                          AsRuntimeError(caught).Description() +
+                          u"\r\n\r\nPossible duplicate CodeKey/CodeDescription:  " +
+                          definition->codeKey_ + u'/' + definition->codeDescription_);
+        if (services.DebugMode()) Beep();
+    }
+}
+
+}  // namespace halvek

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <halvekutils/base/Enumerator.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Fetchable.h>
+#include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/refdata/CodeDefinition.h>
+
+#include <cstdint>
+#include <iterator>
+#include <memory>
+
+namespace halvek {
+
+/// The code tables that the server described, in its order; read-only to the host.
+///
+///     for (const auto& code : *utils->GetCodesCollection()) list.add(code->CodeDescription());
+///     bool lookup = utils->GetCodesCollection()->Item(u"INS")->CodeHasLookup();
+class HALVEK_EXPORT CodesCollection : public Fetchable,
+                                      public std::enable_shared_from_this<CodesCollection> {
+  public:
+    static std::shared_ptr<CodesCollection> CreateEmpty();
+    ~CodesCollection() override;
+
+    /// The definition at a position from 1. Throws SubscriptOutOfRange.
+    std::shared_ptr<CodeDefinition> Item(std::int32_t position) const;
+
+    /// The definition under a key, letter case ignored. Throws InvalidArgument for an unknown key.
+    std::shared_ptr<CodeDefinition> Item(TextIn key) const;
+
+    std::int32_t Count() const override;
+    void Fetch(TextIn key) override;
+
+    Enumerator<const CodesCollection> begin() const;
+    std::default_sentinel_t end() const { return {}; }
+
+    /// Adds the definitions of a codes data text. The first of two equal keys wins; the second is
+    /// logged. A definition without a key can be reached by position only.
+    void AddRecords(TextIn codesData, Services& services);
+
+  private:
+    CodesCollection();
+    void AddRecord(TextIn record, Services& services);
+
+    KeyedCollection<CodeDefinition> definitions_;
+};
+
+}  // namespace halvek

@@ -1,0 +1,81 @@
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/scripted/ScriptedPlatform.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::int32_t kCharacterWidthPerPoint = 10;
+constexpr std::int32_t kLineHeightPerPoint = 20;
+
+/// Calls `each` with the length of every line; CR LF, CR and LF all end one.
+template <class Each>
+void ForEachLine(std::u16string_view text, const Each& each) {
+    std::size_t start = 0;
+    while (true) {
+        const std::size_t end = text.find_first_of(u"\r\n", start);
+        each(static_cast<std::int32_t>(std::min(end, text.size()) - start));
+        if (end == std::u16string_view::npos) return;
+        const bool pair = text[end] == u'\r' && end + 1 < text.size() && text[end + 1] == u'\n';
+        start = end + (pair ? 2 : 1);
+    }
+}
+
+}  // namespace
+
+ScriptedPlatform::ScriptedPlatform() {
+    Install();
+}
+ScriptedPlatform::~ScriptedPlatform() {
+    Uninstall();
+}
+
+void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
+    messageBoxAnswers_.push_back(std::move(answer));
+}
+
+std::int32_t ScriptedPlatform::TextWidth(TextIn text, const FontSpec& font) const {
+    std::int32_t longest = 0;
+    ForEachLine(text, [&](std::int32_t length) { longest = std::max(longest, length); });
+    return longest * kCharacterWidthPerPoint * font.points;
+}
+
+std::int32_t ScriptedPlatform::TextHeight(TextIn text, const FontSpec& font) const {
+    std::int32_t lines = 0;
+    ForEachLine(text, [&](std::int32_t) { ++lines; });
+    return lines * kLineHeightPerPoint * font.points;
+}
+
+std::int32_t ScriptedPlatform::WrappedHeight(TextIn text, const FontSpec& font,
+                                             std::int32_t width) const {
+    const std::int32_t fitting = std::max(width / (kCharacterWidthPerPoint * font.points), 1);
+    std::int32_t lines = 0;
+    ForEachLine(
+        text, [&](std::int32_t length) { lines += std::max((length + fitting - 1) / fitting, 1); });
+    return lines * kLineHeightPerPoint * font.points;
+}
+
+void ScriptedPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
+    stockMessages_.push_back({text.Str(), icon, title.Str()});
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {
+    if (modality == Modality::Modeless) {
+        modeless_.push_back(box);
+        return;
+    }
+    std::erase(modeless_, box);
+    if (messageBoxAnswers_.empty()) {
+        throw RuntimeError(Fault::InvalidArgument,
+                           u"no answer for the message box " + std::u16string(box->Caption()));
+    }
+    const MessageBoxAnswer answer = std::move(messageBoxAnswers_.front());
+    messageBoxAnswers_.pop_front();
+    answer(*box);
+    box->Abandon();
+}
+
+}  // namespace halvek

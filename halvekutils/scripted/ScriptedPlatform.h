@@ -1,0 +1,69 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/core/Platform.h>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace halvek {
+
+/// A desktop that answers from a script, for tests without a person and without a display.
+///
+/// Installed from its construction to its destruction. Each dialog takes the next answer of its
+/// kind, a function that plays the user on the dialog's rules; a dialog that its answer leaves open
+/// is closed as by its close box, and one without an answer is a fault. Every character is 100
+/// twips wide and every line 200 twips high at 10 points, in proportion at other sizes.
+///
+///     ScriptedPlatform desktop;
+///     desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
+///     EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
+class HALVEK_EXPORT ScriptedPlatform : public Platform {
+  public:
+    struct StockMessage {
+        std::u16string text;
+        StockIcon icon;
+        std::u16string title;
+    };
+    using MessageBoxAnswer = std::function<void(MessageBox&)>;
+
+    ScriptedPlatform();
+    ~ScriptedPlatform() override;
+
+    /// Queues what the user does with the next message box.
+    void OnMessageBox(MessageBoxAnswer answer);
+
+    /// The answers that no dialog has taken yet.
+    std::size_t AnswersLeft() const { return messageBoxAnswers_.size(); }
+    /// The boxes that are on the screen modelessly.
+    const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
+
+    int Beeps() const { return beeps_; }
+    const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
+
+    void SetScreenSize(Size size) { screen_ = size; }
+    void SetFrameSize(Size size) { frame_ = size; }
+
+    std::int32_t TextWidth(TextIn text, const FontSpec& font) const override;
+    std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;
+    std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
+                               std::int32_t width) const override;
+    void Beep() override { ++beeps_; }
+    void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
+    Size ScreenSize() const override { return screen_; }
+    Size FrameSize() const override { return frame_; }
+    void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+
+  private:
+    std::deque<MessageBoxAnswer> messageBoxAnswers_;
+    std::vector<std::shared_ptr<MessageBox>> modeless_;
+    std::vector<StockMessage> stockMessages_;
+    int beeps_ = 0;
+    Size screen_ = {20490, 11520};  // 1366 by 768 pixels
+    Size frame_ = {0, 450};
+};
+
+}  // namespace halvek
