@@ -7,6 +7,9 @@ namespace halvek {
 DataBin::DataBin() = default;
 DataBin::~DataBin() = default;
 
+DataBins::DataBins() = default;
+DataBins::~DataBins() = default;
+
 void DataBins::Add(TextIn key, TextIn data, TextIn type) {
     if (const auto* found = bins_.Find(key); found != nullptr && (*found)->key_ == key) {
         std::u16string newData(data);

@@ -11,8 +11,11 @@ namespace halvek {
 /// A search compares keys exactly, while the collection refuses a key that differs from another in
 /// letter case only. So an exact match can only be the one bin that the collection holds under the
 /// key, and no search needs to walk the bins.
-class DataBins {
+class HALVEK_EXPORT DataBins {
   public:
+    DataBins();
+    ~DataBins();
+
     /// Replaces the text and type of the bin with exactly this key, or appends a new bin. Throws
     /// DuplicateKey when a bin has this key in other letter case.
     void Add(TextIn key, TextIn data, TextIn type);

@@ -199,10 +199,18 @@ MbMsgBoxResult MessageBox::ReturnedValue() {
     return result.empty() ? mbOK : static_cast<MbMsgBoxResult>(ToInt32(result));
 }
 
+void MessageBox::ShownModeless() {
+    RefreshOwner();
+}
+
 void MessageBox::RunCloseStep() {
     End(std::u16string(result_));
-    const auto owner = std::exchange(request_.owner, nullptr);
-    if (owner != nullptr && owner->Exists()) owner->Refresh();
+    RefreshOwner();
+    request_.owner = nullptr;
+}
+
+void MessageBox::RefreshOwner() const {
+    if (request_.owner != nullptr && request_.owner->Exists()) request_.owner->Refresh();
 }
 
 void MessageBox::End(std::u16string_view result) {

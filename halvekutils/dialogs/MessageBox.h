@@ -76,6 +76,9 @@ class HALVEK_EXPORT MessageBox {
     /// The title, the text and the buttons as one text for the clipboard.
     std::u16string CopyText() const;
 
+    /// The box stands on the screen and its show has returned: the owner is refreshed.
+    void ShownModeless();
+
     bool IsOpen() const { return open_; }
     bool CountdownRunning() const { return countdownRunning_; }
 
@@ -117,6 +120,7 @@ class HALVEK_EXPORT MessageBox {
   private:
     void End(std::u16string_view result);
     void RunCloseStep();
+    void RefreshOwner() const;
     void NotifyChanged() const;
     void StopCountdown();
 

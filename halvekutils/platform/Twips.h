@@ -7,6 +7,14 @@ namespace halvek {
 
 inline constexpr std::int32_t kTwipsPerInch = 1440;
 
+/// The longest length that the library works with, 17 kilometres: sums of a few stay in range.
+inline constexpr std::int32_t kMostTwips = 1'000'000'000;
+
+/// A computed length, cut off at the longest one.
+constexpr std::int32_t LimitedTwips(std::int64_t twips) {
+    return static_cast<std::int32_t>(twips < kMostTwips ? twips : kMostTwips);
+}
+
 /// A length in twips as logical pixels of a screen with `dpi` logical dots per inch.
 inline int ToPixels(std::int32_t twips, double dpi) {
     return static_cast<int>(std::lround(twips * dpi / kTwipsPerInch));
@@ -14,7 +22,7 @@ inline int ToPixels(std::int32_t twips, double dpi) {
 
 /// A length in logical pixels as twips.
 inline std::int32_t ToTwips(double pixels, double dpi) {
-    return static_cast<std::int32_t>(std::lround(pixels * kTwipsPerInch / dpi));
+    return LimitedTwips(std::llround(pixels * kTwipsPerInch / dpi));
 }
 
 }  // namespace halvek

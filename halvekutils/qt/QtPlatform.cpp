@@ -43,10 +43,6 @@ QString WithPlainLineEnds(TextIn text) {
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
-int RoundedUp(double pixels) {
-    return static_cast<int>(std::ceil(pixels));
-}
-
 }  // namespace
 
 struct QtPlatform::Private {
@@ -70,13 +66,13 @@ std::int32_t QtPlatform::TextWidth(TextIn text, const FontSpec& font) const {
     for (const QString& line : WithPlainLineEnds(text).split(QLatin1Char('\n'))) {
         widest = std::max(widest, metrics.horizontalAdvance(line));
     }
-    return PixelsToTwips(RoundedUp(widest));
+    return PixelsToTwips(std::ceil(widest));
 }
 
 std::int32_t QtPlatform::TextHeight(TextIn text, const FontSpec& font) const {
     const auto lines = WithPlainLineEnds(text).count(QLatin1Char('\n')) + 1;
     const double spacing = QFontMetricsF(ToQFont(font)).lineSpacing();
-    return PixelsToTwips(RoundedUp(static_cast<double>(lines) * spacing));
+    return PixelsToTwips(std::ceil(static_cast<double>(lines) * spacing));
 }
 
 std::int32_t QtPlatform::WrappedHeight(TextIn text, const FontSpec& font,
@@ -88,7 +84,7 @@ std::int32_t QtPlatform::WrappedHeight(TextIn text, const FontSpec& font,
     document.setDefaultTextOption(WrappingOf(shown));
     document.setPlainText(shown);
     document.setTextWidth(TwipsToPixels(width));
-    return PixelsToTwips(RoundedUp(document.size().height()));
+    return PixelsToTwips(std::ceil(document.size().height()));
 }
 
 void QtPlatform::Beep() {
@@ -146,6 +142,7 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         },
         Qt::QueuedConnection);
     window->ShowModeless();
+    box->ShownModeless();
 }
 
 }  // namespace halvek

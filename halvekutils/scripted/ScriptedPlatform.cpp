@@ -1,4 +1,5 @@
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/platform/Twips.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 
 #include <algorithm>
@@ -17,7 +18,7 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     std::size_t start = 0;
     while (true) {
         const std::size_t end = text.find_first_of(u"\r\n", start);
-        each(static_cast<std::int32_t>(std::min(end, text.size()) - start));
+        each(static_cast<std::int64_t>(std::min(end, text.size()) - start));
         if (end == std::u16string_view::npos) return;
         const bool pair = text[end] == u'\r' && end + 1 < text.size() && text[end + 1] == u'\n';
         start = end + (pair ? 2 : 1);
@@ -38,24 +39,25 @@ void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
 }
 
 std::int32_t ScriptedPlatform::TextWidth(TextIn text, const FontSpec& font) const {
-    std::int32_t longest = 0;
-    ForEachLine(text, [&](std::int32_t length) { longest = std::max(longest, length); });
-    return longest * kCharacterWidthPerPoint * font.points;
+    std::int64_t longest = 0;
+    ForEachLine(text, [&](std::int64_t length) { longest = std::max(longest, length); });
+    return LimitedTwips(longest * kCharacterWidthPerPoint * font.points);
 }
 
 std::int32_t ScriptedPlatform::TextHeight(TextIn text, const FontSpec& font) const {
-    std::int32_t lines = 0;
-    ForEachLine(text, [&](std::int32_t) { ++lines; });
-    return lines * kLineHeightPerPoint * font.points;
+    std::int64_t lines = 0;
+    ForEachLine(text, [&](std::int64_t) { ++lines; });
+    return LimitedTwips(lines * kLineHeightPerPoint * font.points);
 }
 
 std::int32_t ScriptedPlatform::WrappedHeight(TextIn text, const FontSpec& font,
                                              std::int32_t width) const {
-    const std::int32_t fitting = std::max(width / (kCharacterWidthPerPoint * font.points), 1);
-    std::int32_t lines = 0;
-    ForEachLine(
-        text, [&](std::int32_t length) { lines += std::max((length + fitting - 1) / fitting, 1); });
-    return lines * kLineHeightPerPoint * font.points;
+    const std::int64_t fitting = std::max(width / (kCharacterWidthPerPoint * font.points), 1);
+    std::int64_t lines = 0;
+    ForEachLine(text, [&](std::int64_t length) {
+        lines += std::max<std::int64_t>((length + fitting - 1) / fitting, 1);
+    });
+    return LimitedTwips(lines * kLineHeightPerPoint * font.points);
 }
 
 void ScriptedPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
@@ -65,6 +67,7 @@ void ScriptedPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn titl
 void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {
     if (modality == Modality::Modeless) {
         modeless_.push_back(box);
+        box->ShownModeless();
         return;
     }
     std::erase(modeless_, box);

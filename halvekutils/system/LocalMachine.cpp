@@ -23,7 +23,8 @@ namespace fs = std::filesystem;
 namespace {
 
 std::error_code LastError() {
-    return {errno, std::generic_category()};
+    // A user's quota is a full disk to everybody else.
+    return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
 [[noreturn]] void ThrowLastError(const fs::path& file) {

@@ -1,5 +1,6 @@
 #include <halvekutils/qt/forms/MessageIcons.h>
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -202,6 +203,12 @@ const Picture* FindPicture(int number) {
     return &kPictures[static_cast<std::size_t>(number - 1)];
 }
 
+/// Tells screen readers that the widget is a picture, which Qt cannot know.
+QAccessibleInterface* AccessibleIcon(const QString&, QObject* object) {
+    auto* const icon = qobject_cast<MessageIcon*>(object);
+    return icon == nullptr ? nullptr : new QAccessibleWidget(icon, QAccessible::Graphic);
+}
+
 }  // namespace
 
 void PaintMessageIcon(QPainter& painter, int number, const QRectF& area) {
@@ -220,7 +227,9 @@ QString MessageIconName(int number) {
     return picture == nullptr ? QString() : QString::fromLatin1(picture->name);
 }
 
-MessageIcon::MessageIcon(QWidget* parent) : QWidget(parent) {}
+MessageIcon::MessageIcon(QWidget* parent) : QWidget(parent) {
+    QAccessible::installFactory(AccessibleIcon);  // once, however often it is called
+}
 
 void MessageIcon::SetNumber(int number) {
     number_ = number;

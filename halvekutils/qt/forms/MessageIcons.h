@@ -20,6 +20,8 @@ QString MessageIconName(int number);
 
 /// Image1: shows one picture, as large as the widget allows and centred in it; at first none.
 class MessageIcon : public QWidget {
+    Q_OBJECT
+
   public:
     explicit MessageIcon(QWidget* parent);
 

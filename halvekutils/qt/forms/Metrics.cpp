@@ -16,7 +16,7 @@ double LogicalDpi() {
 
 }  // namespace
 
-std::int32_t PixelsToTwips(int pixels) {
+std::int32_t PixelsToTwips(double pixels) {
     return ToTwips(pixels, LogicalDpi());
 }
 int TwipsToPixels(std::int32_t twips) {

@@ -16,7 +16,7 @@ namespace halvek {
 
 // The one place where twips become logical pixels, and the rules' fonts and colours Qt's.
 
-std::int32_t PixelsToTwips(int pixels);
+std::int32_t PixelsToTwips(double pixels);
 int TwipsToPixels(std::int32_t twips);
 QRect ToQRect(const Rect& rect);
 QFont ToQFont(const FontSpec& font);

@@ -107,6 +107,9 @@ void frmMessageBox::BuildText() {
     lblText_->setWordWrapMode(WrappingOf(ToQString(box_->Prompt())).wrapMode());
     lblText_->setPlainText(ToQString(box_->Prompt()));
     lblText_->viewport()->installEventFilter(this);
+    connect(lblText_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        GuardEvent(u"frmMessageBox.lblText_Scroll", [this, value] { TextScrolled(value); });
+    });
     setAccessibleDescription(ToQString(box_->Prompt()).left(kDescriptionLength));
 }
 
@@ -201,6 +204,7 @@ void frmMessageBox::Present(Qt::WindowModality modality) {
     ShowArrowPointer();
     if (box_->CountdownRunning()) tmrUnload_.start();
     show();
+    setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once which button Enter presses
     activateWindow();
 }
 
@@ -229,17 +233,30 @@ void frmMessageBox::RestorePointer() {
 void frmMessageBox::Sync() {
     setWindowTitle(ToWindowTitle(box_->Caption()));
     if (!box_->CountdownRunning()) tmrUnload_.stop();
-    QScrollBar* const bar = lblText_->verticalScrollBar();
-    const std::int32_t offset = -box_->ScrollOffset();
-    const bool atEnd = offset >= box_->Layout().scrollRange;
-    bar->setValue(atEnd && offset > 0 ? bar->maximum() : TwipsToPixels(offset));
-    cmdUpDn_[0]->setEnabled(!atEnd);
-    cmdUpDn_[1]->setEnabled(offset > 0);
+    lblText_->verticalScrollBar()->setValue(ScrolledPixels());
+    cmdUpDn_[0]->setEnabled(!AtLastLine());
+    cmdUpDn_[1]->setEnabled(box_->ScrollOffset() < 0);
     if (box_->IsOpen()) return;
     RestorePointer();
     hide();
     modalLoop_.quit();
     emit Ended();
+}
+
+bool frmMessageBox::AtLastLine() const {
+    return -box_->ScrollOffset() >= box_->Layout().scrollRange;
+}
+
+int frmMessageBox::ScrolledPixels() const {
+    const std::int32_t offset = -box_->ScrollOffset();
+    if (offset > 0 && AtLastLine()) return lblText_->verticalScrollBar()->maximum();
+    return TwipsToPixels(offset);
+}
+
+/// The text scrolls by itself while the mouse selects beyond its edge.
+void frmMessageBox::TextScrolled(int pixels) {
+    if (pixels == ScrolledPixels()) return;
+    box_->ScrollBy(PixelsToTwips(pixels) + box_->ScrollOffset());
 }
 
 bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
@@ -251,33 +268,35 @@ bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
     auto* const key = static_cast<QKeyEvent*>(event);
     for (int i = 0; i < 3; ++i) {
         if (watched != arrCmd_[static_cast<std::size_t>(i)]) continue;
-        key->ignore();
-        GuardEvent(u"frmMessageBox.arrCmd_KeyDown", [this, i, key] { ButtonKey(i, key); });
-        return key->isAccepted();
+        bool taken = false;
+        GuardEvent(u"frmMessageBox.arrCmd_KeyDown", [&] { taken = ButtonKey(i, *key); });
+        return taken;
     }
     return QDialog::eventFilter(watched, event);
 }
 
-void frmMessageBox::ButtonKey(int index, QKeyEvent* event) {
-    if (IsEnter(*event)) {
+/// Whether the key is done with; any other goes on to the button.
+bool frmMessageBox::ButtonKey(int index, const QKeyEvent& event) {
+    if (IsEnter(event)) {
         box_->Press(index);
-        event->accept();
-        return;
+        return true;
     }
-    const MessageBox::KeyAction action = box_->KeyDown(KeyCodeOf(*event), ModifiersOf(*event));
+    const MessageBox::KeyAction action = box_->KeyDown(KeyCodeOf(event), ModifiersOf(event));
     if (action == MessageBox::KeyAction::Copy) Copy();
     Sync();
-    event->setAccepted(action != MessageBox::KeyAction::None || ScrollKey(event->key()));
+    return action != MessageBox::KeyAction::None || ScrollKey(event.key());
 }
 
 bool frmMessageBox::ScrollKey(int key) {
     const MessageBoxLayout& layout = box_->Layout();
+    // The line that one page cuts off is whole on the next.
+    const std::int32_t page = layout.viewHeight - LineHeight();
     switch (key) {
         case Qt::Key_PageDown:
-            box_->ScrollBy(layout.viewHeight);
+            box_->ScrollBy(page);
             return true;
         case Qt::Key_PageUp:
-            box_->ScrollBy(-layout.viewHeight);
+            box_->ScrollBy(-page);
             return true;
         case Qt::Key_End:
             box_->ScrollBy(layout.scrollRange);
@@ -290,6 +309,10 @@ bool frmMessageBox::ScrollKey(int key) {
     }
 }
 
+std::int32_t frmMessageBox::LineHeight() const {
+    return PixelsToTwips(lblText_->fontMetrics().lineSpacing());
+}
+
 void frmMessageBox::Copy() const {
     QGuiApplication::clipboard()->setText(ToQString(box_->CopyText()));
 }
@@ -297,7 +320,7 @@ void frmMessageBox::Copy() const {
 // Reached by keys that no button took. QDialog would end the box on Escape; the rules decide here.
 void frmMessageBox::keyPressEvent(QKeyEvent* event) {
     GuardEvent(u"frmMessageBox.Form_KeyPress", [this, event] {
-        if (event->matches(QKeySequence::Copy)) {
+        if (KeyCodeOf(*event) == 'C' && ModifiersOf(*event) == MessageBox::kControl) {
             box_->KeyDown('C', MessageBox::kControl);
             Copy();
         } else if (IsEnter(*event)) {
@@ -314,8 +337,7 @@ void frmMessageBox::keyPressEvent(QKeyEvent* event) {
 void frmMessageBox::wheelEvent(QWheelEvent* event) {
     constexpr int kStepsPerLine = 40;  // a notch of 120 scrolls three lines
     GuardEvent(u"frmMessageBox.Wheel", [this, event] {
-        const int line = PixelsToTwips(lblText_->fontMetrics().lineSpacing());
-        box_->ScrollBy(-event->angleDelta().y() * line / kStepsPerLine);
+        box_->ScrollBy(-event->angleDelta().y() * LineHeight() / kStepsPerLine);
     });
     event->accept();
 }

@@ -55,8 +55,12 @@ class frmMessageBox : public QDialog {
     void ShowArrowPointer();
     void RestorePointer();
     void Sync();
-    void ButtonKey(int index, QKeyEvent* event);
+    bool AtLastLine() const;
+    int ScrolledPixels() const;
+    void TextScrolled(int pixels);
+    bool ButtonKey(int index, const QKeyEvent& event);
     bool ScrollKey(int key);
+    std::int32_t LineHeight() const;
     void Copy() const;
 
     std::shared_ptr<MessageBox> box_;

@@ -1,0 +1,51 @@
+#include "fuzz/FuzzText.h"
+
+#include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/refdata/CodesCollection.h>
+
+#include <set>
+
+using namespace halvek;
+
+namespace {
+
+class SilentServices : public Services {
+  public:
+    void LogError(TextIn) noexcept override { ++refused; }
+    bool DebugMode() const override { return false; }
+    std::u16string AppName() const override { return {}; }
+    Color FormSkinColor() const override { return 0; }
+    Color FormTextColor() const override { return 0; }
+
+    int refused = 0;
+};
+
+std::u16string Folded(std::u16string text) {
+    for (char16_t& character : text) character = FoldCase(character);
+    return text;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::u16string text = FuzzText(data, size);
+    const auto codes = CodesCollection::CreateEmpty();
+    SilentServices services;
+    codes->AddRecords(text, services);
+
+    std::set<std::u16string> keys;
+    for (const auto& code : *codes) {
+        if (code->CodeKey().empty()) continue;
+        Require(keys.insert(Folded(code->CodeKey())).second, "no key is there twice");
+        Require(codes->Item(code->CodeKey()) == code, "a key finds its own record");
+    }
+    std::size_t records = 0;
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find(u'|', start), text.size());
+        if (end > start) ++records;
+        start = end + 1;
+    }
+    Require(records == static_cast<std::size_t>(codes->Count() + services.refused),
+            "every record is kept or refused");
+    return 0;
+}
