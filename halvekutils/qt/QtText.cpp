@@ -2,6 +2,8 @@
 
 #include <QTextDocument>
 
+#include <cstddef>
+
 namespace halvek {
 
 QString ToQString(TextIn text) {
@@ -13,7 +15,10 @@ QString ToToolTip(TextIn text) {
 }
 
 QString ToWindowTitle(TextIn text) {
-    return ToQString(text).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    // A display server drops its connection, and the program with it, over a title of megabytes.
+    constexpr std::size_t kMostShown = 2000;
+    return ToQString(text.substr(0, kMostShown))
+        .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
 QString ToCaption(TextIn text) {

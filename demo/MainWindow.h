@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Desk.h"
+#include "Page.h"
+
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QStackedWidget>
+
+#include <vector>
+
+namespace frontdesk {
+
+/// The client's window: the services at the left, the chosen one's page beside them, and below what
+/// the library returned.
+class MainWindow : public QMainWindow {
+  public:
+    explicit MainWindow(Desk& desk);
+
+    /// Visits every page, lets it play and takes its picture.
+    void Play(Tour& tour);
+
+  private:
+    void AddPage(Page* page, QMenu& menu);
+    void MakeMenus();
+    QWidget* MakeCallPane();
+    QLayout* MakeCallPaneHeading();
+    void ShowPage(int index);
+    void ShowCall(const QString& line);
+    void ShowAbout();
+
+    Desk& desk_;
+    std::vector<Page*> pages_;
+    QListWidget list_;
+    QStackedWidget stack_;
+    QPlainTextEdit* calls_;
+};
+
+}  // namespace frontdesk

@@ -1,0 +1,75 @@
+#include "SampleData.h"
+
+#include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace frontdesk {
+
+namespace {
+
+QByteArray ReadFile(const QString& folder, const QString& name) {
+    QFile file(folder + '/' + name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error(
+            (file.fileName() + " cannot be read: " + file.errorString()).toStdString());
+    }
+    return file.readAll();
+}
+
+QStringList LinesOf(const QByteArray& bytes) {
+    return QString::fromUtf8(bytes).split('\n', Qt::SkipEmptyParts);
+}
+
+QHash<QString, QString> ParseSession(const QByteArray& bytes) {
+    QHash<QString, QString> values;
+    for (const QString& line : LinesOf(bytes)) {
+        if (line.startsWith('#')) continue;
+        values.insert(line.section('=', 0, 0), line.section('=', 1));
+    }
+    return values;
+}
+
+/// The palette's colours, counted from 1.
+halvek::StringArray ParseColors(const QByteArray& bytes) {
+    std::vector<std::u16string> colors;
+    for (const QString& line : LinesOf(bytes)) colors.push_back(line.trimmed().toStdU16String());
+    return halvek::StringArray(1, std::move(colors));
+}
+
+}  // namespace
+
+SampleData::SampleData(const QString& folder)
+    : session_(ParseSession(ReadFile(folder, "session.txt"))),
+      colors_(ParseColors(ReadFile(folder, "colors.txt"))),
+      codes_(halvek::FromCodePage(ReadFile(folder, "codes.txt").toStdString())) {}
+
+QString SampleData::Folder() {
+    const QDir installed(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");
+    return installed.exists() ? installed.canonicalPath() : HALVEK_DEMO_DATA_FOLDER;
+}
+
+Identity SampleData::StartIdentity() const {
+    return {SessionValue("ErrFileName"), SessionValue("AppName"), SessionValue("AppType"),
+            SessionValue("DebugMode") == "1", SessionValue("ExeFileStamp")};
+}
+
+Preferences SampleData::StartPreferences() const {
+    return {colors_, SessionColor("FormSkinColor"), SessionColor("FormTextColor"),
+            SessionColor("FormTopColor"), SessionColor("RequiredFieldBackColor")};
+}
+
+OtherSettings SampleData::StartOtherSettings() const {
+    return {SessionColor("HighlightBackColor"), SessionColor("HighlightForeColor"),
+            SessionValue("CodeDelimiter"), SessionValue("ColumnAdjustValue").toDouble(),
+            SessionValue("ScrollBarWidth").toInt()};
+}
+
+}  // namespace frontdesk

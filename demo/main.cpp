@@ -1,0 +1,111 @@
+#include "Desk.h"
+#include "MainWindow.h"
+#include "SampleData.h"
+#include "tour/Tour.h"
+
+#include <halvekutils/qt/QtPlatform.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
+
+namespace {
+
+using namespace frontdesk;
+
+const QCommandLineOption& TourOption() {
+    static const QCommandLineOption option(
+        "tour", "Play every service without a person; leave pictures and results in <folder>.",
+        "folder");
+    return option;
+}
+
+const QCommandLineOption& RecordOption() {
+    static const QCommandLineOption option(
+        "record", "Append what every call returns to <file>, one line for each.", "file");
+    return option;
+}
+
+void Describe(QCommandLineParser& options) {
+    options.setApplicationDescription("A front-desk client that shows every HalvekUtils service.");
+    options.addHelpOption();
+    options.addVersionOption();
+    options.addOption(TourOption());
+    options.addOption(RecordOption());
+}
+
+/// A tour, the help and the version need no display.
+void WorkWithoutDisplay(int argumentCount) {
+    const bool hasDisplay =
+        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (argumentCount < 2 || hasDisplay || qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+/// The folder of the client's error log.
+QString LogFolder(const QCommandLineParser& options) {
+    if (options.isSet(TourOption())) return options.value(TourOption());
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
+int PlayTour(MainWindow& window, Desk& desk, const QString& folder) {
+    Tour tour(folder, desk.Calls());
+    int code = EXIT_FAILURE;
+    const auto play = [&] {
+        window.Play(tour);
+        code = tour.Finish();
+        QCoreApplication::quit();
+    };
+    QMetaObject::invokeMethod(&window, play, Qt::QueuedConnection);
+    QCoreApplication::exec();
+    return code;
+}
+
+void Record(CallLog& calls, QFile& file) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+        throw std::runtime_error(("cannot write to " + file.fileName()).toStdString());
+    }
+    calls.Listen([&file](const QString& line) {
+        file.write(line.toUtf8() + '\n');
+        file.flush();
+    });
+}
+
+int Run(const QCommandLineParser& options) {
+    const QString logFolder = LogFolder(options);
+    QDir().mkpath(logFolder);
+    QFile record(options.value(RecordOption()));
+    Desk desk(SampleData(SampleData::Folder()), logFolder);
+    if (options.isSet(RecordOption())) Record(desk.Calls(), record);
+    MainWindow window(desk);
+    window.show();
+    if (options.isSet(TourOption())) return PlayTour(window, desk, logFolder);
+    return QCoreApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    WorkWithoutDisplay(argc);
+    QApplication app(argc, argv);
+    QCoreApplication::setOrganizationName("HalvekUtils");
+    QCoreApplication::setApplicationName("FrontDesk");
+    QCoreApplication::setApplicationVersion(HALVEK_DEMO_VERSION);
+    const halvek::QtPlatform desktop;
+    QCommandLineParser options;
+    Describe(options);
+    options.process(app);
+    try {
+        return Run(options);
+    } catch (const std::exception& caught) {
+        std::fprintf(stderr, "Front Desk cannot start: %s\n", caught.what());
+        return EXIT_FAILURE;
+    }
+}

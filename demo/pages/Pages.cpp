@@ -1,0 +1,23 @@
+#include "pages/Pages.h"
+
+#include "pages/CodesPage.h"
+#include "pages/DataBinsPage.h"
+#include "pages/DelimitedTextPage.h"
+#include "pages/ErrorLogPage.h"
+#include "pages/MessageBoxPage.h"
+#include "pages/SessionPage.h"
+
+namespace frontdesk {
+
+std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
+    std::vector<std::unique_ptr<Page>> pages;
+    pages.push_back(std::make_unique<SessionPage>(desk));
+    pages.push_back(std::make_unique<CodesPage>(desk));
+    pages.push_back(std::make_unique<DelimitedTextPage>(desk));
+    pages.push_back(std::make_unique<DataBinsPage>(desk));
+    pages.push_back(std::make_unique<ErrorLogPage>(desk));
+    pages.push_back(std::make_unique<MessageBoxPage>(desk));
+    return pages;
+}
+
+}  // namespace frontdesk

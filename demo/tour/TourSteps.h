@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+
+namespace frontdesk {
+
+/// One thing that the tour does in an open dialog.
+struct TourStep {
+    /// Returns true when it is done; is called again a little later otherwise. May throw to end the
+    /// tour with a message.
+    std::function<bool(QWidget& dialog)> run;
+};
+
+// Widgets are named by their objectName; the empty name is the dialog itself. Events are posted as
+// the window system would.
+
+/// Clicks a widget with the left mouse button.
+TourStep Click(const QString& widget, int times = 1);
+
+/// Presses and releases a key in a widget.
+TourStep PressKey(const QString& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+
+/// Asks the dialog to close, as its close box does.
+TourStep CloseWindow();
+
+/// Waits until the title bar holds a text.
+TourStep WaitForTitle(const QString& text);
+
+}  // namespace frontdesk

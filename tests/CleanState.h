@@ -1,0 +1,44 @@
+#pragma once
+
+#include "tests/TemporaryFolder.h"
+#include "tests/TestMachine.h"
+
+#include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Utils.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/scripted/ScriptedPlatform.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace halvek {
+
+/// The component as a new process finds it, before the first InitUtils, on a machine and a desktop
+/// of the test's own.
+class CleanState : public ::testing::Test {
+  protected:
+    CleanState() {
+        Reset();
+        use_.emplace(machine_);
+    }
+    ~CleanState() override {
+        use_.reset();
+        Reset();
+    }
+
+    TemporaryFolder folder_;
+    TestMachine machine_{folder_ / "own/state"};
+    ScriptedPlatform desktop_;
+
+  private:
+    static void Reset() {
+        State() = ComponentState();
+        Services::Install(nullptr);
+    }
+
+    std::optional<UseMachine> use_;
+};
+
+}  // namespace halvek

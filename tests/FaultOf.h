@@ -1,0 +1,20 @@
+#pragma once
+
+#include <halvekutils/base/RuntimeError.h>
+
+#include <cstdint>
+
+namespace halvek {
+
+/// The number of the fault that the action raises; 0 when it raises none.
+template <class Action>
+std::int32_t FaultOf(const Action& action) {
+    try {
+        action();
+    } catch (const RuntimeError& fault) {
+        return fault.Number();
+    }
+    return 0;
+}
+
+}  // namespace halvek

@@ -1,0 +1,164 @@
+#include "tests/FaultOf.h"
+
+#include <halvekutils/base/Enumerator.h>
+#include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/StringArray.h>
+#include <halvekutils/base/StringTable.h>
+#include <halvekutils/base/Utf8.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace halvek {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+
+using Numbers = KeyedCollection<int>;
+
+std::shared_ptr<int> Number(int value) {
+    return std::make_shared<int>(value);
+}
+
+TEST(KeyedCollection, RefusesAKeyThatDiffersInLetterCaseOnly) {
+    struct Row {
+        bool same;
+        std::u16string_view first;
+        std::u16string_view second;
+    };
+    const Row rows[] = {
+        {true, u"Insurance Az", u"iNSURANCE aZ"},
+        {true, u"\u00C0\u00D6\u00D8\u00DE", u"\u00E0\u00F6\u00F8\u00FE"},
+        {true, u"\u0178\u0160\u0152\u017D", u"\u00FF\u0161\u0153\u017E"},
+        {true, u"", u""},
+        {false, u"", u"\0"sv},
+        {false, u"a\0b"sv, u"a\0c"sv},
+        {false, u"a", u"a "},
+        {false, u"@[", u"`{"},
+        {false, u"\u00D7", u"\u00F7"},  // the signs of multiplication and division
+        {false, u"\u00DF", u"\u00FF"},
+        {false, u"K", u"\u212A"},  // kelvin
+        {false, u"\u0391", u"\u03B1"},
+    };
+    for (const auto& [same, first, second] : rows) {
+        SCOPED_TRACE(ToUtf8(first) + " and " + ToUtf8(second));
+        Numbers numbers;
+        numbers.Add(Number(1), first);
+        EXPECT_EQ(FaultOf([&] { numbers.Add(Number(2), second); }), same ? 457 : 0);
+        EXPECT_EQ(numbers.Count(), same ? 1 : 2);
+        EXPECT_EQ(*numbers.Item(first), 1);
+        EXPECT_EQ(*numbers.Item(second), same ? 1 : 2);
+    }
+}
+
+TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
+    Numbers numbers;
+    numbers.Add(Number(1));
+    numbers.Add(Number(2));
+    EXPECT_EQ(FaultOf([&] { numbers.Item(u""); }), 5);
+    EXPECT_EQ(FaultOf([&] { numbers.Remove(u""); }), 5);
+    for (const std::int32_t position : {0, -1, 3, kLeast, kMost}) {
+        EXPECT_EQ(FaultOf([&] { numbers.Item(position); }), 9) << position;
+        EXPECT_EQ(FaultOf([&] { numbers.Remove(position); }), 9) << position;
+    }
+    numbers.Add(Number(3), u"");
+    EXPECT_EQ(numbers.Item(u""), numbers.Item(3));
+}
+
+TEST(KeyedCollection, KeepsOrderAndKeysThroughRemovals) {
+    const auto key = [](int value) {
+        return std::u16string(static_cast<std::size_t>(value), u'k');
+    };
+    Numbers numbers;
+    std::vector<int> kept;
+    for (int i = 0; i < 100; ++i)
+        i % 3 == 0 ? numbers.Add(Number(i)) : numbers.Add(Number(i), key(i));
+    for (int i = 0; i < 100; ++i) {
+        const auto position = static_cast<std::int32_t>(kept.size() + 1);
+        if (i % 4 == 1) {
+            i % 3 == 0 ? numbers.Remove(position) : numbers.Remove(key(i));
+        } else if (i % 4 == 2) {
+            numbers.Remove(position);
+        } else {
+            kept.push_back(i);
+        }
+    }
+    ASSERT_EQ(numbers.Count(), static_cast<std::int32_t>(kept.size()));
+    for (std::int32_t position = 1; const int value : kept) {
+        EXPECT_EQ(*numbers.Item(position++), value);
+        EXPECT_EQ(value % 3 == 0 ? value : *numbers.Item(key(value)), value);
+    }
+    EXPECT_EQ(numbers.Find(key(1)), nullptr);
+    numbers.Add(Number(1), key(1));
+}
+
+TEST(StringArray, KeepsItsBoundsAndFaultsOutsideThem) {
+    const std::pair<std::int32_t, std::int32_t> rows[] = {
+        {1, 16}, {-3, 2}, {0, -1}, {5, 4}, {kMost, kMost}, {kLeast, kLeast}};
+    for (const auto& [lower, upper] : rows) {
+        SCOPED_TRACE(std::to_string(lower) + " to " + std::to_string(upper));
+        StringArray texts(lower, upper);
+        EXPECT_EQ(texts.LBound(), lower);
+        EXPECT_EQ(texts.UBound(), upper);
+        if (lower <= upper) texts[lower] = texts[upper] = u"x";
+        for (const std::int64_t outside : {lower - std::int64_t{1}, upper + std::int64_t{1}}) {
+            const auto index = static_cast<std::int32_t>(outside);  // may come round to far away
+            EXPECT_EQ(FaultOf([&] { texts[index]; }), 9);
+        }
+    }
+    EXPECT_EQ(FaultOf([] { StringArray(kMost, kLeast); }), 9);
+    StringArray unallocated;
+    EXPECT_EQ(FaultOf([&] { unallocated.UBound(); }), 9);
+    EXPECT_EQ(FaultOf([&] { unallocated[0]; }), 9);
+    EXPECT_EQ(FaultOf([&] { unallocated.Append(u"x"); }), 9);
+    EXPECT_NE(unallocated, StringArray(0, -1));
+}
+
+TEST(StringTable, KeepsItsContentsWhenColumnsComeAndGo) {
+    StringTable table(2, 2);
+    for (const int row : {0, 1}) {
+        for (const int column : {0, 1}) table.At(row, column) = {char16_t(u'0' + 2 * row + column)};
+    }
+    table.ResizeColumns(1);
+    EXPECT_EQ(FaultOf([&] { table.At(0, 1); }), 9);
+    table.ResizeColumns(3);
+    EXPECT_EQ(table.Columns(), 3);
+    EXPECT_EQ(table.At(0, 0) + table.At(1, 0), u"02");
+    EXPECT_EQ(table.At(0, 1) + table.At(1, 1) + table.At(0, 2) + table.At(1, 2), u"");
+    for (const auto& [row, column] : {std::pair{2, 0}, {0, 3}, {-1, 1}, {1, -1}, {kLeast, kMost}}) {
+        EXPECT_EQ(FaultOf([&, r = row, c = column] { table.At(r, c); }), 9) << row << ' ' << column;
+    }
+    EXPECT_EQ(FaultOf([&] { table.ResizeColumns(-1); }), 9);
+    EXPECT_EQ(FaultOf([] { StringTable(-1, 1); }), 9);
+}
+
+struct Bag {
+    int Item(std::int32_t position) const { return items[static_cast<std::size_t>(position) - 1]; }
+    std::int32_t Count() const { return static_cast<std::int32_t>(items.size()); }
+    std::vector<int> items;
+};
+
+TEST(Enumerator, SeesAddedItemsAndKeepsTheCollectionAlive) {
+    auto bag = std::make_shared<Bag>(Bag{{1, 2}});
+    const std::weak_ptr<Bag> watch = bag;
+    std::vector<int> seen;
+    for (Enumerator<Bag> at(std::exchange(bag, nullptr)); at != std::default_sentinel; ++at) {
+        seen.push_back(*at);
+        if (*at < 100) watch.lock()->items.push_back(*at * 100);
+    }
+    EXPECT_EQ(seen, (std::vector{1, 2, 100, 200}));
+    EXPECT_TRUE(watch.expired());
+}
+
+}  // namespace
+}  // namespace halvek

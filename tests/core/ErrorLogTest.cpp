@@ -1,0 +1,283 @@
+#include "tests/CleanState.h"
+
+#include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/Utf8.h>
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace halvek {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Names = std::set<std::string>;
+
+constexpr std::string_view kStampAndUser = "03/05/24 09:07:03 AM\tnina\t";
+constexpr char kArchive[] = "Error_2024_3_5_9_7_3.log";
+const std::string kFull(1'048'576, 'x');
+
+std::string Line(std::string_view message) {
+    return std::string(kStampAndUser).append(message).append("\r\n");
+}
+
+class ErrorLog : public CleanState {
+  protected:
+    void Start(const fs::path& errFileName, bool debugMode = false) {
+        utils_->InitUtils(FromUtf8(errFileName.native()), u"Front Desk", u"test", debugMode, u"1");
+    }
+
+    /// Starts with a log of these bytes in the test's folder.
+    void StartWith(const char* name, std::string_view bytes) {
+        WriteFile(folder_ / name, bytes);
+        Start(folder_ / name);
+    }
+
+    std::shared_ptr<Utils> utils_ = Utils::Create();
+};
+
+TEST_F(ErrorLog, StampsEachLineOnThe12HourClock) {
+    const std::pair<DateTime, std::string> rows[] = {
+        {MakeDateTime(2024, 3, 5, 9, 7, 3), "03/05/24 09:07:03 AM"},
+        {MakeDateTime(2005, 12, 31), "12/31/05 12:00:00 AM"},
+        {MakeDateTime(2100, 1, 1, 12, 59, 59), "01/01/00 12:59:59 PM"},
+        {MakeDateTime(1999, 10, 10, 13, 30), "10/10/99 01:30:00 PM"},
+    };
+    Start(folder_ / "a.log");
+    std::string expected;
+    for (const auto& [now, stamp] : rows) {
+        machine_.now = now;
+        utils_->LogError(u" one\ttwo\r\nthree ");
+        expected += stamp + "\tnina\t one\ttwo\r\nthree \r\n";
+    }
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), expected);
+}
+
+TEST_F(ErrorLog, WritesEveryByteOfTheCodePageAndMessagesOfAnyLength) {
+    std::string bytes;
+    for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
+    bytes += std::string(10'000'000, 'x');
+    Start(folder_ / "a.log");
+    utils_->LogError(FromCodePage(bytes));
+    EXPECT_TRUE(ReadFile(folder_ / "a.log") == Line(bytes));
+
+    machine_.loginName = u"Jos\u00E9 \u0141";
+    State().loginUserName.clear();
+    Start(folder_ / "b.log");
+    utils_->LogError(u"\u20AC");
+    EXPECT_EQ(ReadFile(folder_ / "b.log"), "03/05/24 09:07:03 AM\tJos\xE9 ?\t\x80\r\n");
+}
+
+TEST_F(ErrorLog, FindsItsFileByTheNameThatTheHostGave) {
+    fs::create_directories(folder_ / "logs");
+    const std::string base = folder_.Path();
+    const std::pair<std::string, fs::path> rows[] = {
+        {"", folder_ / "own/state/Error.Log"},
+        {"FrontDesk.log", folder_ / "own/state/FrontDesk.log"},
+        {base + "/logs/slash.log", folder_ / "logs/slash.log"},
+        {base + "\\logs\\back.log", folder_ / "logs/back.log"},
+        {base + "\\logs/mixed.log", folder_ / "logs/mixed.log"},
+        {base + "/logs\\m\u00E9xed.log", folder_ / "logs/m\u00E9xed.log"},
+    };
+    for (const auto& [name, file] : rows) {
+        State().logFolder.clear();
+        Start(name);
+        EXPECT_FALSE(fs::exists(file));
+        utils_->LogError(u"1");
+        utils_->LogError(u"2");
+        EXPECT_EQ(ReadFile(file), Line("1") + Line("2")) << name;
+    }
+    EXPECT_EQ(desktop_.Beeps(), 0);
+}
+
+TEST_F(ErrorLog, KeepsTheFolderOfItsFirstLine) {
+    for (const char* name : {"first", "second"}) fs::create_directory(folder_ / name);
+    Start(folder_ / "first/a.log");
+    utils_->LogError(u"a");
+    WriteFile(folder_ / "second/b.log", kFull);
+    Start(folder_ / "second\\b.log");
+    utils_->LogError(u"b");
+    Start("c.log");
+    utils_->LogError(u"c");
+    EXPECT_EQ(NamesIn(folder_ / "first"), (Names{kArchive, "a.log", "c.log"}));
+    EXPECT_EQ(ReadFile(folder_ / "second/b.log"), Line("b"));
+}
+
+TEST_F(ErrorLog, RotatesAtOneMebibyte) {
+    const std::string almost = kFull.substr(1);
+    StartWith("a.log", almost);
+    utils_->LogError(u"1");
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{"a.log"});
+    EXPECT_TRUE(ReadFile(folder_ / "a.log") == almost + Line("1"));
+
+    WriteFile(folder_ / "a.log", kFull);
+    utils_->LogError(u"2");
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log"}));
+    EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), Line("2"));
+}
+
+TEST_F(ErrorLog, ARotationDeletesEarlierArchivesOnly) {
+    const Names kept = {".log",       "Error.Log", "a_error_1.log", "error-1.log", "error.log",
+                        "error_.txt", "error_log", "error_x.log.1", "merror.log",  "notes.log"};
+    const Names deleted = {"ERROR_A.LOG",  "Error_2023_12_31_1_2_3.log",
+                           "error_.log",   "error_1.Log",
+                           "merror_1.log", "mError_.LOG"};
+    for (const Names* names : {&kept, &deleted}) {
+        for (const std::string& name : *names) WriteFile(folder_ / name, "x");
+    }
+    fs::permissions(folder_ / "error_.log", fs::perms::owner_read);
+    fs::create_directory(folder_ / "error_folder.log");
+    WriteFile(folder_ / "error_folder.log/error_1.log", "x");
+    StartWith("Error.Log", kFull);
+    utils_->LogError(u"1");
+
+    Names expected = kept;
+    expected.insert({kArchive, "error_folder.log"});
+    EXPECT_EQ(NamesIn(folder_.Path()), expected);
+    EXPECT_TRUE(fs::exists(folder_ / "error_folder.log/error_1.log"));
+}
+
+TEST_F(ErrorLog, KeepsALiveLogThatIsNamedLikeAnArchive) {
+    for (const char* name : {"/error_live.log", "/./error_live.log", "\\\\error_live.log"}) {
+        WriteFile(folder_ / "error_live.log", kFull);
+        Start(folder_.Path().native() + name);
+        utils_->LogError(u"1");
+        EXPECT_EQ(ReadFile(folder_ / "error_live.log"), Line("1")) << name;
+        EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull) << name;
+        fs::remove(folder_ / kArchive);
+    }
+}
+
+TEST_F(ErrorLog, ARotationLooksAt2001FilesAtMost) {
+    struct Crowded : TestMachine {
+        using TestMachine::TestMachine;
+        void VisitFiles(const fs::path&,
+                        const std::function<bool(const fs::path&)>& visit) override {
+            while (visit(visited++ % 2 == 0 ? "error_1.log" : "notes.log"))
+                ASSERT_LT(visited, 3000);
+        }
+        void Delete(const fs::path&) override { ++deleted; }
+        int visited = 0;
+        int deleted = 0;
+    } machine(folder_ / "own");
+    const UseMachine use(machine);
+    StartWith("a.log", kFull);
+    utils_->LogError(u"1");
+    EXPECT_EQ(machine.visited, 2001);
+    EXPECT_EQ(machine.deleted, 1001);
+}
+
+TEST_F(ErrorLog, LosesALineRatherThanAnArchiveThatTheCleanUpLeft) {
+    struct Locked : TestMachine {
+        using TestMachine::TestMachine;
+        void Delete(const fs::path&) override { throw RuntimeError(Fault::PermissionDenied); }
+    } machine(folder_ / "own");
+    const UseMachine use(machine);
+    for (const char* name : {"error_1.log", "error_2.log"}) WriteFile(folder_ / name, "x");
+    StartWith("a.log", kFull);
+    utils_->LogError(u"1");
+    EXPECT_EQ(desktop_.Beeps(), 1);  // the clean-up failed; the rotation went on
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log", "error_1.log", "error_2.log"}));
+
+    WriteFile(folder_ / "a.log", kFull + "y");
+    utils_->LogError(u"lost");
+    EXPECT_EQ(desktop_.Beeps(), 3);
+    EXPECT_TRUE(ReadFile(folder_ / "a.log") == kFull + "y");
+    EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
+
+    machine.now += std::chrono::seconds(1);
+    utils_->LogError(u"next");
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), Line("next").replace(16, 1, "4"));
+}
+
+TEST_F(ErrorLog, WritesIntoALogThatWasReadOnly) {
+    StartWith("a.log", "old\r\n");
+    fs::permissions(folder_ / "a.log", fs::perms::owner_read | fs::perms::group_read);
+    utils_->LogError(u"new");
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), "old\r\n" + Line("new"));
+    EXPECT_EQ(fs::status(folder_ / "a.log").permissions(), fs::perms(0640));
+}
+
+TEST_F(ErrorLog, AFailureLosesOneLineAndOnlyDebugModeTells) {
+    const fs::path file = folder_ / "logs/a.log";
+    Start(file);
+    utils_->LogError(u"lost");
+    EXPECT_EQ(desktop_.Beeps(), 1);
+    EXPECT_TRUE(desktop_.StockMessages().empty());
+
+    Start(file, true);
+    utils_->LogError(u"lost");
+    EXPECT_EQ(desktop_.Beeps(), 2);
+    ASSERT_EQ(desktop_.StockMessages().size(), 1u);
+    const auto& message = desktop_.StockMessages().front();
+    EXPECT_EQ(ToUtf8(message.text),
+              "ERROR in LocalRef.LogError\r\nPath not found: " + file.native());
+    EXPECT_EQ(message.icon, StockIcon::Critical);
+    EXPECT_EQ(message.title, u"Front Desk");
+
+    fs::create_directory(folder_ / "logs");
+    utils_->LogError(u"kept");
+    EXPECT_EQ(ReadFile(file), Line("kept"));
+    EXPECT_EQ(desktop_.Beeps(), 2);
+}
+
+TEST_F(ErrorLog, AsksForTheLoginNameUntilItIsKnown) {
+    Start(folder_ / "a.log");
+    for (const char16_t* name : {u"", u"nina", u"otto"}) {
+        machine_.loginName = name;
+        utils_->LogError(name);
+    }
+    const std::string stamp(kStampAndUser.substr(0, 20));
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), stamp + "\t\t\r\n" + Line("nina") + Line("otto"));
+}
+
+TEST_F(ErrorLog, RefusesANulInItsFileName) {
+    for (const std::string& name : {(folder_ / "a.log").native(), std::string("a.log")}) {
+        Start(name + '\0' + "tail");
+        utils_->LogError(u"lost");
+    }
+    EXPECT_EQ(desktop_.Beeps(), 2);
+    EXPECT_EQ(NamesIn(folder_.Path()), Names{});
+}
+
+TEST_F(ErrorLog, TwoProcessesNeverMixWithinALine) {
+    Start(folder_ / "a.log");
+    const auto message = [](std::size_t i, char filler) {
+        return std::string(1 + i % 300, filler);
+    };
+    const pid_t child = ::fork();
+    for (std::size_t i = 0; i < 2'000; ++i) {
+        utils_->LogError(FromCodePage(message(i, child == 0 ? 'c' : 'p')));
+    }
+    if (child == 0) ::_exit(desktop_.Beeps());
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status + desktop_.Beeps(), 0);
+
+    std::istringstream log(ReadFile(folder_ / "a.log"));
+    std::map<char, std::size_t> written;
+    for (std::string line; std::getline(log, line);) {
+        const char filler = line.at(kStampAndUser.size());
+        ASSERT_EQ(line + '\n', Line(message(written[filler]++, filler)));
+    }
+    EXPECT_EQ(written, (std::map<char, std::size_t>{{'c', 2'000}, {'p', 2'000}}));
+}
+
+}  // namespace
+}  // namespace halvek

@@ -1,0 +1,125 @@
+# Sourced by the desktop tests: a private display with a window manager, a client on it, and real
+# keys and clicks. What was started ends with the test.
+set -uo pipefail
+
+work=$(mktemp -d)
+started=()
+failures=0
+
+clean_up() {
+    local pid
+    for ((i = ${#started[@]} - 1; i >= 0; i--)); do
+        pid=${started[i]}
+        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
+    done
+    rm -rf "$work"
+}
+trap clean_up EXIT
+trap 'exit 1' INT TERM HUP
+
+fail() {
+    echo "FAILED: $1"
+    failures=$((failures + 1))
+}
+
+# Nothing after this could mean anything.
+give_up() {
+    fail "$1"
+    picture failure
+    exit 1
+}
+
+# Waits until a command succeeds. Usage: wait_until WHAT COMMAND...
+wait_until() {
+    local what=$1 deadline=$((SECONDS + 20))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || give_up "$what"
+        sleep 0.02
+    done
+}
+
+# Starts a program whose output goes to a file of its name.
+start() {
+    "$@" >"$work/$(basename "$1").log" 2>&1 &
+    started+=($!)
+}
+
+# A display of 1366 by 768 pixels at 96 dots per inch, with openbox.
+start_desktop() {
+    export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
+    unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_FONT_DPI
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -nolisten tcp \
+        3>"$work/display" >"$work/Xvfb.log" 2>&1 &
+    started+=($!)
+    wait_until "the display starts" grep -q . "$work/display"
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+    start openbox --sm-disable
+    wait_until "the window manager starts" wmctrl -m
+}
+
+active_window() {
+    xdotool getactivewindow 2>/dev/null
+}
+
+is_active() {
+    [ "$(active_window)" = "$1" ]
+}
+
+has_active_title() {
+    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1"* ]]
+}
+
+# The active window once its title starts with a text. Usage: wait_for_window TITLE; sets $window.
+wait_for_window() {
+    wait_until "a window \"$1\" opens and becomes active" has_active_title "$1"
+    window=$(active_window)
+}
+
+keys() {
+    xdotool key --clearmodifiers "$@"
+}
+
+# Clicks into a window, in pixels from its inner corner. Usage: click WINDOW X Y
+click() {
+    xdotool mousemove --sync --window "$1" "$2" "$3" click 1
+}
+
+# The inner width or height of a window. Usage: length_of WINDOW Width|Height
+length_of() {
+    xwininfo -id "$1" | sed -n "s/^ *$2: //p"
+}
+
+# Whether the window manager is told that a window may be closed.
+may_close() {
+    local flags functions
+    IFS=', ' read -r flags functions _ < <(xprop -id "$1" _MOTIF_WM_HINTS | sed 's/.*= //')
+    ((!(flags & 1) || functions & 0x20 || functions & 1))
+}
+
+# Asks the window manager to close a window and waits until it has dealt with that: it answers its
+# requests in order.
+request_close() {
+    wmctrl -i -c "$1"
+    wmctrl -i -r "$2" -b toggle,above
+    wait_until "the window manager answers" bash -c "xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
+    wmctrl -i -r "$2" -b toggle,above
+    wait_until "the window manager answers" bash -c "! xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
+}
+
+# Leaves a picture of the screen when HALVEK_PICTURES names a folder. Usage: picture NAME
+picture() {
+    [ -n "${HALVEK_PICTURES:-}" ] && [ -n "${DISPLAY:-}" ] || return 0
+    mkdir -p "$HALVEK_PICTURES"
+    if command -v import >/dev/null; then
+        import -window root "$HALVEK_PICTURES/$1.png"
+    elif command -v xwd >/dev/null; then
+        xwd -root -silent -out "$HALVEK_PICTURES/$1.xwd"
+    fi
+}
+
+finish() {
+    [ "$failures" -eq 0 ] || echo "$failures failures"
+    exit $((failures > 0))
+}

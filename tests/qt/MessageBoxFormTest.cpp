@@ -1,0 +1,494 @@
+#include "tests/FaultOf.h"
+#include "tests/qt/FormTest.h"
+#include "tests/qt/User.h"
+
+#include <halvekutils/dialogs/MessageBox.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/qt/QtControls.h>
+#include <halvekutils/qt/QtPlatform.h>
+#include <halvekutils/qt/QtText.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+namespace halvek {
+namespace {
+
+class MessageBoxFormTest : public FormTest {
+  protected:
+    /// The answer that the user's acts give; `prompt`, `title` and `seconds` as in ShowMsgBox.
+    MbMsgBoxResult Answer(ButtonsChoice buttons, User::Acts acts, TextIn prompt = u"Go on?",
+                          TextIn title = u"Visit", std::int32_t seconds = 0) {
+        const User user(std::move(acts));
+        const auto answer =
+            utils_->ShowMsgBox(prompt, buttons, mbQuestion, title, mbWhite, mb9, false, seconds);
+        EXPECT_TRUE(user.HasActed());
+        return answer;
+    }
+
+    std::shared_ptr<MessageBox> MakeBox(ButtonsChoice buttons,
+                                        std::shared_ptr<OwnerForm> owner = nullptr) const {
+        MessageBoxRequest request{u"Go on?", buttons, mbNoIcon, u"Visit"};
+        request.owner = std::move(owner);
+        return std::make_shared<MessageBox>(request, Services::Current(), desktop_);
+    }
+};
+
+std::u16string Lines(int count) {
+    std::u16string text = u"first";
+    for (int i = 1; i < count; ++i) text += u"\r\nline";
+    return text;
+}
+
+QString Button(std::size_t index) {
+    return QStringLiteral("arrCmd_%1").arg(index);
+}
+
+struct SetRow {
+    ButtonsChoice set;
+    std::string_view letters;
+    std::vector<MbMsgBoxResult> results;
+    std::optional<MbMsgBoxResult> closed;  ///< by a close request
+    bool escapeCloses;
+
+    Qt::Key Letter(std::size_t button) const { return static_cast<Qt::Key>(letters[button]); }
+    Qt::Key LastLetter() const { return Letter(letters.size() - 1); }
+};
+
+const SetRow kSets[] = {
+    {mbOkOnly, "O", {mbOK}, mbOK, true},
+    {mbOkCancel, "OC", {mbOK, mbCancel}, mbCancel, true},
+    {mbAbortRetryIgnore, "ARI", {mbAbort, mbRetry, mbIgnore}, {}, false},
+    {mbYesNoCancel, "YNC", {mbYes, mbNo, mbCancel}, mbCancel, true},
+    {mbYesNo, "YN", {mbYes, mbNo}, {}, false},
+    {mbRetryCancel, "RC", {mbRetry, mbCancel}, mbCancel, true},
+    {mbSaveDontSave, "SD", {mbSave, mbDontSave}, {}, false},
+    {mbYesHelp, "YH", {mbYes, mbHelp}, mbYes, false},
+    {mbYesNoHelp, "YNH", {mbYes, mbNo, mbHelp}, {}, false},
+    {mbOkHelp, "OH", {mbOK, mbHelp}, mbOK, false},
+};
+
+// Answers
+
+TEST_F(MessageBoxFormTest, EveryButtonIsPressedByKeysAndByTheMouse) {
+    const auto afterTabs = [](std::size_t tabs, QKeyCombination key) {
+        std::vector<QKeyCombination> keys(tabs, Qt::Key_Tab);
+        keys.push_back(key);
+        return Keys(keys);
+    };
+    for (const SetRow& row : kSets) {
+        const std::size_t count = row.results.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto click = [&](QDialog& box) { Click(box, Find(box, qPrintable(Button(i)))); };
+            EXPECT_EQ(Answer(row.set, click), row.results[i]) << row.set << " " << i;
+            for (const User::Acts& keys :
+                 {Keys({row.Letter(i)}), afterTabs(i, Qt::Key_Return), afterTabs(i, Qt::Key_Space),
+                  // Once around: nothing but the buttons takes the focus.
+                  afterTabs(i + count, Qt::KeypadModifier | Qt::Key_Enter)}) {
+                EXPECT_EQ(Answer(row.set, keys), row.results[i]) << row.set << " " << i;
+            }
+        }
+    }
+    EXPECT_EQ(Answer(mbYesNo, Keys({Qt::AltModifier | Qt::Key_N})), mbNo);
+}
+
+TEST_F(MessageBoxFormTest, EscapeAndCloseRequestsAnswerOrDoNothing) {
+    for (const SetRow& row : kSets) {
+        const MbMsgBoxResult last = row.results.back();
+        const auto thenTheLast = Keys({row.LastLetter()});
+        const auto close = [&](QDialog& box) {
+            CloseRequest(box);
+            box.close();
+            thenTheLast(box);
+        };
+        EXPECT_EQ(Answer(row.set, close), row.closed.value_or(last)) << row.set;
+        EXPECT_EQ(Answer(row.set, Keys({Qt::Key_Escape, row.LastLetter()})),
+                  row.escapeCloses ? *row.closed : last)
+            << row.set;
+    }
+}
+
+TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
+    for (const User::Acts& way :
+         {Keys({Qt::Key_Return}), Keys({Qt::KeypadModifier | Qt::Key_Enter}),
+          Keys({Qt::Key_Escape}), User::Acts([](QDialog& box) { CloseRequest(box); })}) {
+        const auto afterOtherKeys = [&](QDialog& box) {
+            Keys({Qt::Key_Space, Qt::Key_O, Qt::Key_Tab})(box);
+            EXPECT_TRUE(box.isVisible());
+            way(box);
+        };
+        EXPECT_EQ(Answer(mbNoButtons, afterOtherKeys), mbOK);
+    }
+}
+
+TEST_F(MessageBoxFormTest, OnlyControlCCopies) {
+    QClipboard& clipboard = *QApplication::clipboard();
+    const auto copied = [&](QDialog& box) {
+        clipboard.clear();
+        PressKey(box, Qt::ControlModifier | Qt::Key_C);
+        EXPECT_TRUE(box.isVisible());
+        const QString text = clipboard.text();
+        clipboard.clear();
+        return text;
+    };
+    const QString expected = "Visit\r\n\r\nGo on?\r\n";
+    for (const auto others :
+         {Qt::ShiftModifier | Qt::Key_C, Qt::AltModifier | Qt::Key_C, Qt::MetaModifier | Qt::Key_C,
+          (Qt::ControlModifier | Qt::ShiftModifier) | Qt::Key_C,
+          (Qt::ControlModifier | Qt::AltModifier) | Qt::Key_C,
+          (Qt::ControlModifier | Qt::MetaModifier) | Qt::Key_C}) {
+        const auto copyThenCancel = [&](QDialog& box) {
+            EXPECT_EQ(copied(box), expected + "\r\nOK   Cancel");
+            Keys({Qt::ControlModifier | Qt::Key_Insert, others})(box);
+        };
+        EXPECT_EQ(Answer(mbOkCancel, copyThenCancel), mbCancel) << others.toCombined();
+        EXPECT_EQ(clipboard.text(), "");
+    }
+    const auto copyThenEnd = [&](QDialog& box) {
+        EXPECT_EQ(copied(box), expected);
+        PressKey(box, Qt::Key_Return);
+    };
+    EXPECT_EQ(Answer(mbNoButtons, copyThenEnd), mbOK);
+}
+
+TEST_F(MessageBoxFormTest, EveryEndingRestoresTheMousePointer) {
+    std::unique_ptr<QWidget> owner;
+    const struct {
+        const char* name;
+        User::Acts end;
+        MbMsgBoxResult okCancel;
+        MbMsgBoxResult yesNo;
+    } rows[] = {
+        {"button", Keys({Qt::Key_Return}), mbOK, mbYes},
+        {"Escape", Keys({Qt::Key_Escape, Qt::Key_N}), mbCancel, mbNo},
+        {"close request",
+         [](QDialog& box) {
+             CloseRequest(box);
+             Keys({Qt::Key_N})(box);
+         },
+         mbCancel, mbNo},
+        {"countdown", [](QDialog& box) { Find<QTimer>(box, "tmrUnload").setInterval(0); },
+         kClosedByCountdown, kClosedByCountdown},
+        {"the owner goes", [&](QDialog&) { owner.reset(); }, mbCancel, kNotAnswered},
+        {"the application ends", [](QDialog&) { QCoreApplication::exit(1); }, mbCancel,
+         kNotAnswered},
+    };
+    for (const auto& row : rows) {
+        for (const ButtonsChoice buttons : {mbOkCancel, mbYesNo}) {
+            SCOPED_TRACE(row.name);
+            const auto watchAndEnd = [&](QDialog& box) {
+                ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+                EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+                row.end(box);
+            };
+            const auto ask = [&] {
+                owner = OpenHostWindow(QRect(100, 100, 400, 300));
+                QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+                EXPECT_EQ(Answer(buttons, watchAndEnd, u"Go on?", u"Visit", 2),
+                          buttons == mbYesNo ? row.yesNo : row.okCancel);
+                EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+                QGuiApplication::restoreOverrideCursor();
+                EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+                QCoreApplication::exit();
+            };
+            QTimer::singleShot(0, ask);
+            QApplication::exec();
+            owner.reset();
+        }
+    }
+}
+
+TEST_F(MessageBoxFormTest, ACountdownTicksOnceASecondAndAKeyStopsIt) {
+    int timeouts = 0;
+    const auto wait = [&](QDialog& box) {
+        auto& timer = Find<QTimer>(box, "tmrUnload");
+        EXPECT_TRUE(timer.isActive());
+        EXPECT_EQ(timer.interval(), 1000);
+        EXPECT_EQ(box.windowTitle(), "Visit");
+        QObject::connect(&timer, &QTimer::timeout, [&] { ++timeouts; });
+        timer.setInterval(0);
+        EXPECT_TRUE(Soon([&] { return timeouts > 0; }));
+        EXPECT_TRUE(box.windowTitle().startsWith("Visit          00:00:0"));
+    };
+    EXPECT_EQ(Answer(mbYesNo, wait, u"Go on?", u"Visit", 3), kClosedByCountdown);
+    EXPECT_EQ(timeouts, 3);
+
+    for (const auto key : {Qt::Key_Q, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_Shift}) {
+        const auto stop = [&](QDialog& box) {
+            PressKey(box, key);
+            EXPECT_FALSE(Find<QTimer>(box, "tmrUnload").isActive()) << key;
+            PressKey(box, Qt::Key_N);
+        };
+        EXPECT_EQ(Answer(mbYesNo, stop, u"Go on?", u"Visit", 3), mbNo);
+    }
+    const auto without = [](QDialog& box) {
+        EXPECT_FALSE(Find<QTimer>(box, "tmrUnload").isActive());
+        PressKey(box, Qt::Key_Y);
+    };
+    EXPECT_EQ(Answer(mbYesNo, without), mbYes);
+}
+
+TEST_F(MessageBoxFormTest, ABoxOpensOverABox) {
+    const auto inner = Keys({Qt::Key_N});
+    const auto outer = [&](QDialog& box) {
+        EXPECT_EQ(Answer(mbYesNo, inner, u"Sure?", u"Inner"), mbNo);
+        EXPECT_EQ(QApplication::activeModalWidget(), &box);
+        EXPECT_EQ(box.windowTitle(), "Outer");
+        PressKey(box, Qt::Key_C);
+    };
+    EXPECT_EQ(Answer(mbOkCancel, outer, u"Go on?", u"Outer"), mbCancel);
+    const auto bothGo = [&](QDialog&) {
+        EXPECT_EQ(Answer(mbYesNo, [](QDialog&) { QCoreApplication::exit(); }), kNotAnswered);
+    };
+    QTimer::singleShot(0, [&] { EXPECT_EQ(Answer(mbOkCancel, bothGo), mbCancel); });
+    QApplication::exec();
+}
+
+// The text
+
+TEST_F(MessageBoxFormTest, HostTextIsShownAsItIs) {
+    const std::u16string text = u"<b>R&D</b> &amp; [*] [*][*] && \t%1";
+    const auto look = [&](QDialog& box) {
+        EXPECT_EQ(Find<QTextEdit>(box, "lblText").toPlainText(), ToQString(text + u"\nnext"));
+        EXPECT_EQ(box.windowHandle()->title(), ToQString(text));
+        PressKey(box, Qt::Key_O);
+    };
+    EXPECT_EQ(Answer(mbOkOnly, look, text + u"\r\nnext", text), mbOK);
+}
+
+TEST_F(MessageBoxFormTest, TextOfAnyLengthLeavesABoxThatAnswers) {
+    const std::u16string lines = Lines(20'000);
+    const std::u16string words(300'000, u'x');
+    const std::u16string controls = std::u16string(u"a\0b", 3) + u"\xD800\x202E\x0007 \xFFFF";
+    const struct {
+        TextIn prompt, title;
+    } rows[] = {{u"", u""}, {lines, words}, {words, lines}, {controls, controls}};
+    for (const auto& row : rows) {
+        const auto look = [&](QDialog& box) {
+            const QSize screen = box.screen()->availableSize();
+            EXPECT_LE(box.frameGeometry().height(), screen.height());
+            EXPECT_LE(box.frameGeometry().width(), screen.width());
+            EXPECT_LE(box.windowHandle()->title().size(), 2000);
+            PressKey(box, Qt::Key_N);
+        };
+        EXPECT_EQ(Answer(mbYesNo, look, row.prompt, row.title), mbNo) << row.prompt.size();
+    }
+}
+
+TEST_F(MessageBoxFormTest, TheMouseSelectsTextWithoutTakingTheFocus) {
+    const auto select = [](QDialog& box) {
+        auto& text = Find<QTextEdit>(box, "lblText");
+        const QPoint word = text.mapTo(&box, QPoint(4, text.height() / 2));
+        QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, word);
+        EXPECT_EQ(text.textCursor().selectedText(), "Chart");
+        EXPECT_EQ(box.focusWidget()->objectName(), Button(0));
+        PressKey(box, Qt::Key_N);
+    };
+    EXPECT_EQ(Answer(mbYesNo, select, u"Chart"), mbNo);
+}
+
+TEST_F(MessageBoxFormTest, SelectingBeyondTheEdgeScrollsAndTheKeysGoOnFromThere) {
+    const auto drag = [](QDialog& box) {
+        auto& text = Find<QTextEdit>(box, "lblText");
+        QScrollBar& bar = *text.verticalScrollBar();
+        const QPoint start = text.mapTo(&box, QPoint(4, 4));
+        QTest::mousePress(box.windowHandle(), Qt::LeftButton, {}, start);
+        const QPoint below = start + QPoint(0, text.height() + 20);
+        QCursor::setPos(box.mapToGlobal(below));
+        QTest::mouseMove(box.windowHandle(), below);
+        EXPECT_TRUE(Soon([&] { return bar.value() > 20; }));
+        QTest::mouseRelease(box.windowHandle(), Qt::LeftButton, {}, start);
+        EXPECT_TRUE(Find(box, "cmdUpDn_1").isEnabled());
+        const int before = bar.value();
+        Click(box, Find(box, "cmdUpDn_0"));
+        EXPECT_GT(bar.value(), before);
+        PressKey(box, Qt::Key_O);
+    };
+    EXPECT_EQ(Answer(mbOkOnly, drag, Lines(150)), mbOK);
+}
+
+TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
+    const struct {
+        const char* name;
+        void (*scroll)(QDialog& box, bool down);
+    } ways[] = {
+        {"ends", [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_End : Qt::Key_Home); }},
+        {"pages",
+         [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_PageDown : Qt::Key_PageUp); }},
+        {"wheel",
+         [](QDialog& box, bool down) {
+             auto& view = *Find<QTextEdit>(box, "lblText").viewport();
+             const QPointF at = view.rect().center();
+             QWheelEvent wheel(at, view.mapToGlobal(at), {}, {0, down ? -120 : 120}, Qt::NoButton,
+                               {}, Qt::NoScrollPhase, false);
+             QCoreApplication::sendEvent(&view, &wheel);
+         }},
+        {"buttons",
+         [](QDialog& box, bool down) { Click(box, Find(box, down ? "cmdUpDn_0" : "cmdUpDn_1")); }},
+    };
+    std::size_t waysTried = 0;
+    const auto scroll = [&](QDialog& box) {
+        auto& text = Find<QTextEdit>(box, "lblText");
+        const int line = text.fontMetrics().lineSpacing();
+        for (const auto& [name, way] : std::span(ways).first(waysTried)) {
+            for (const bool down : {true, false}) {
+                SCOPED_TRACE(std::string(name) + (down ? " down" : " up"));
+                QScrollBar& bar = *text.verticalScrollBar();
+                for (int before = -1; bar.value() != before;) {
+                    before = bar.value();
+                    way(box, down);
+                    const bool atEnd = bar.value() == (down ? bar.maximum() : 0);
+                    // Every line is whole on one page or the next, but for a rounded pixel.
+                    EXPECT_TRUE(atEnd || std::abs(bar.value() - before) <= text.height() - line + 1)
+                        << before << " to " << bar.value() << " of " << bar.maximum();
+                }
+                QTextCursor end(text.document());
+                if (down) end.movePosition(QTextCursor::End);
+                const QRect last = text.cursorRect(end);
+                EXPECT_GE(last.top(), 0);
+                EXPECT_LE(last.bottom(), text.viewport()->height());
+                EXPECT_EQ(bar.value(), down ? bar.maximum() : 0);
+                EXPECT_EQ(Find(box, "cmdUpDn_0").isEnabled(), !down);
+                EXPECT_EQ(Find(box, "cmdUpDn_1").isEnabled(), down);
+            }
+        }
+        PressKey(box, Qt::Key_O);
+    };
+    std::u16string words;
+    for (int i = 0; i < 2'000; ++i) words += u"words ";
+    const struct {
+        std::u16string prompt;
+        std::size_t ways;  // the last ones go in small steps
+    } rows[] = {{Lines(150), 4}, {words, 4}, {std::u16string(100'000, u'W'), 2}};
+    for (const auto& row : rows) {
+        waysTried = row.ways;
+        EXPECT_EQ(Answer(mbOkOnly, scroll, row.prompt), mbOK) << row.prompt.size();
+    }
+}
+
+TEST_F(MessageBoxFormTest, TheFocusIsSeenFromTheBeginning) {
+    for (const ColorChoice background : {mbWhite, mbGray, mbSkinColor}) {
+        const User user([](QDialog& box) {
+            QWidget& button = Find(box, "arrCmd_0");
+            const QImage focused = button.grab().toImage();
+            PressKey(box, Qt::Key_Tab);
+            EXPECT_NE(button.grab().toImage(), focused);
+            PressKey(box, Qt::Key_N);
+        });
+        EXPECT_EQ(utils_->ShowMsgBox(u"Go on?", mbYesNo, mbNoIcon, u"", background), mbNo);
+    }
+}
+
+TEST_F(MessageBoxFormTest, EveryControlHasANameAndARole) {
+    const struct {
+        const char* control;
+        QAccessible::Role role;
+        const char* name;
+    } rows[] = {
+        {"frmMessageBox", QAccessible::Dialog, "Visit & [*]"},
+        {"lblText", QAccessible::EditableText, "Message"},
+        {"Image1", QAccessible::Graphic, "Question"},
+        {"arrCmd_0", QAccessible::PushButton, "Save"},
+        {"arrCmd_1", QAccessible::PushButton, "Don't Save"},
+        {"cmdUpDn_0", QAccessible::PushButton, "Later lines"},
+        {"cmdUpDn_1", QAccessible::PushButton, "Earlier lines"},
+    };
+    const auto listen = [&](QDialog& box) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.control);
+            QWidget& control = &row == rows ? box : Find(box, row.control);
+            auto* const heard = QAccessible::queryAccessibleInterface(&control);
+            EXPECT_EQ(heard->text(QAccessible::Name), row.name);
+            EXPECT_EQ(heard->role(), row.role);
+        }
+        PressKey(box, Qt::Key_S);
+    };
+    EXPECT_EQ(
+        Answer(mbSaveDontSave, listen, std::u16string(100'000, u'\n') + u"\r\n", u"Visit & [*]"),
+        mbSave);
+}
+
+// The desktop
+
+TEST_F(MessageBoxFormTest, AModelessBoxGoesOnModallyInItsWindow) {
+    const auto box = MakeBox(mbYesNo);
+    desktop_.Show(box, Modality::Modeless);
+    const QPointer<QDialog> window = OpenDialog();
+    ASSERT_NE(window, nullptr);
+    EXPECT_FALSE(window->isModal());
+    desktop_.Show(box, Modality::Modeless);
+    const User user([&](QDialog& modal) {
+        EXPECT_EQ(&modal, window.data());
+        PressKey(modal, Qt::Key_N);
+    });
+    desktop_.Show(box, Modality::Modal);
+    EXPECT_EQ(box->ReturnedValue(), mbNo);
+    EXPECT_EQ(window, nullptr);
+}
+
+TEST_F(MessageBoxFormTest, AModelessBoxEndsByItsButtonOrWithTheDesktop) {
+    const auto answered = MakeBox(mbYesNoCancel);
+    desktop_.Show(answered, Modality::Modeless);
+    const QPointer<QDialog> window = OpenDialog();
+    ASSERT_TRUE(Soon([&] { return window->isActiveWindow(); }));
+    PressKey(*window, Qt::Key_N);
+    EXPECT_TRUE(Soon([&] { return window == nullptr; }));
+    EXPECT_EQ(answered->ReturnedValue(), mbNo);
+
+    auto inner = std::make_unique<QtPlatform>();
+    const auto left = MakeBox(mbYesNoCancel);
+    inner->Show(left, Modality::Modeless);
+    inner.reset();
+    EXPECT_FALSE(left->IsOpen());
+    EXPECT_EQ(left->ReturnedValue(), mbCancel);
+}
+
+TEST_F(MessageBoxFormTest, ABoxIsCentredOnItsOwner) {
+    auto host = OpenHostWindow(QRect(250, 400, 300, 200));
+    const auto centreOf = [](const QWidget& window) { return window.frameGeometry().center(); };
+    const auto owner = AsOwnerForm(host.get());
+    const auto centred = MakeBox(mbYesNo, owner);
+    const QPoint expected = centreOf(*host);
+    const User user([&](QDialog& box) {
+        const QPoint off = centreOf(box) - expected;
+        EXPECT_LE(std::abs(off.x()), 2) << off.x();
+        EXPECT_LE(std::abs(off.y()), 30) << off.y();  // a frame's height is an estimate at first
+        PressKey(box, Qt::Key_N);
+    });
+    desktop_.Show(centred, Modality::Modal);
+    EXPECT_EQ(centred->ReturnedValue(), mbNo);
+
+    const auto orphan = MakeBox(mbYesNo, owner);
+    host.reset();
+    EXPECT_FALSE(owner->Exists());
+    EXPECT_EQ(FaultOf([&] { owner->Left(); }), 91);
+    EXPECT_EQ(FaultOf([&] { owner->Refresh(); }), 91);
+    EXPECT_EQ(AsOwnerForm(nullptr), nullptr);
+    const User another(Keys({Qt::Key_Y}));
+    desktop_.Show(orphan, Modality::Modal);
+    EXPECT_EQ(orphan->ReturnedValue(), mbYes);
+}
+
+TEST_F(MessageBoxFormTest, TheDesktopBelongsToTheUserInterfaceThread) {
+    std::int32_t fault = 0;
+    std::thread([&] { fault = FaultOf([] { QtPlatform elsewhere; }); }).join();
+    EXPECT_EQ(fault, 5);
+    EXPECT_EQ(&Platform::Installed(), &desktop_);
+}
+
+}  // namespace
+}  // namespace halvek

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Checks that every room of the library includes only what it may touch, and that the library
+# without windows links nothing beyond the C and C++ run-time.
+# Usage: rooms.sh SOURCE-FOLDER LIBRARY
+set -euo pipefail
+cd "$1"
+library=$2
+failures=0
+
+fail() {
+    echo "$1"
+    failures=$((failures + 1))
+}
+
+# Own headers: the same room or a lower floor
+wrong=$(grep -rE '#include <halvekutils/' halvekutils --include='*.h' --include='*.cpp' |
+    awk -F'[/:<>]' '
+        BEGIN {
+            floor["base"] = 1; floor["platform"] = 2
+            floor["text"] = floor["refdata"] = floor["system"] = floor["devices"] = 3
+            floor["dialogs"] = floor["selection"] = floor["currency"] = floor["prefs"] = 4
+            floor["core"] = 5; floor["qt"] = floor["scripted"] = 6
+        }
+        {
+            match($0, /<halvekutils\/[a-z]+/)
+            to = substr($0, RSTART + 13, RLENGTH - 13)
+        }
+        !($2 in floor) || !(to in floor) || ($2 != to && floor[to] >= floor[$2])')
+[ -z "$wrong" ] || fail "$wrong"
+
+# Foreign headers: names without a dot are the standard library's or Qt's; names with .h are the
+# system's and the devices'
+foreign() {
+    grep -rnE "#include <$1" halvekutils --include='*.h' --include='*.cpp' |
+        grep -v '<halvekutils/' | grep -vE "^halvekutils/($2)/" || true
+}
+for found in "$(foreign 'Q[A-Za-z]' 'qt')" "$(foreign '[a-z0-9_/]+\.h>' 'system|devices')"; do
+    [ -z "$found" ] || fail "$found"
+done
+devices=$(grep -rnE '#include <(cups/|chm_)' halvekutils | grep -v '^halvekutils/devices/' || true)
+[ -z "$devices" ] || fail "$devices"
+demo=$(grep -rnE '#include <halvekutils/(qt/forms|core/(Component|Error|UtilsPrivate))' demo || true)
+[ -z "$demo" ] || fail "$demo"
+
+needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
+    grep -vE '^(libc|libm|libstdc\+\+|libgcc_s|ld-linux.*|libasan|libubsan)\.so' || true)
+[ -z "$needed" ] || fail "the library without windows links $needed"
+
+[ "$failures" -eq 0 ]

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Plays the demo's tour without a display and checks what it left.
+# Usage: tour.sh DEMO FOLDER
+set -euo pipefail
+demo=$1
+folder=$2
+rm -rf "$folder"
+QT_QPA_PLATFORM=offscreen timeout 120 "$demo" --tour "$folder"
+pictures=$(find "$folder" -name '*.png' -size +1k | wc -l)
+echo "$pictures pictures, $(wc -l <"$folder/results.txt") results"
+[ "$pictures" -ge 20 ]
+grep -q 'ShowMsgBox(.*= 99' "$folder/results.txt"
