@@ -7,7 +7,9 @@
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/platform/Controls.h>
 #include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/text/Placement.h>
 
 #include <cstdint>
 #include <memory>
@@ -80,6 +82,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Removes the bin with exactly this key; does nothing when there is none.
     void RemoveBin(TextIn BinKey);
+
+    /// The positions, in twips on the screen, with which a pop-up opens beside a button or cell.
+    ///
+    /// @param Target  Beside(&button), or Beside(&view, index) for a cell
+    /// @param posLeft  the target's left edge; for PopupEdge::Right its right edge
+    /// @param posTopUp  the target's top, above which the pop-up opens when there is no room below
+    /// @param posTopDown  the target's bottom, below which the pop-up opens
+    /// @param Edge  PopupEdge::Left for the calendar and the palette, Right for selection lists
+    ///
+    /// All three are -1, not given, when there is no target or it is gone, which is logged. A
+    /// screen left of or above the main one has negative positions, which count as not given too;
+    /// the members that take the target themselves serve every screen.
+    void CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
+                                  float& posTopUp, float& posTopDown,
+                                  PopupEdge Edge = PopupEdge::Left);
 
     /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
     /// SubscriptOutOfRange before InitPrefs.

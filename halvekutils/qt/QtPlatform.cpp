@@ -43,6 +43,11 @@ QString WithPlainLineEnds(TextIn text) {
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+Rect UsableRect(const QScreen* screen) {
+    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
+    return ToRect(screen->availableGeometry());
+}
+
 int RoundedUp(double pixels) {
     return static_cast<int>(std::ceil(pixels));
 }
@@ -107,10 +112,18 @@ void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
 }
 
 Size QtPlatform::ScreenSize() const {
-    const QScreen* const screen = CurrentScreen();
-    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
-    const QSize usable = screen->availableSize();
-    return {PixelsToTwips(usable.width()), PixelsToTwips(usable.height())};
+    const Rect usable = ScreenRect();
+    return {usable.width, usable.height};
+}
+
+Rect QtPlatform::ScreenRect() const {
+    return UsableRect(CurrentScreen());
+}
+
+Rect QtPlatform::ScreenRectAt(Point point) const {
+    const QPoint pixels(TwipsToPixels(point.left), TwipsToPixels(point.top));
+    const QScreen* const screen = QGuiApplication::screenAt(pixels);
+    return screen != nullptr ? UsableRect(screen) : ScreenRect();
 }
 
 Size QtPlatform::FrameSize() const {
