@@ -19,7 +19,7 @@ void Utils::CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target,
     PopupAnchor anchor;
     Guarded(OnFault::Beep, u"Error in Utils.CalculateCellCoordinates ", LogOf(*this), [&] {
         if (Target == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"button or cell");
-        anchor = AnchorBeside(Edge, Target->Place());
+        anchor = AnchorBeside(Edge, *Target);
     });
     posLeft = PositionOf(anchor.left);
     posTopUp = PositionOf(anchor.topUp);

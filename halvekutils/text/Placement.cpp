@@ -36,7 +36,8 @@ std::int32_t PlaceAcross(const PopupAnchor& anchor, Twips width, const Stretch& 
 }
 
 std::int32_t PlaceDown(const PopupAnchor& anchor, Twips height, const Stretch& screen) {
-    const auto& [edge, left, topUp, topDown] = anchor;
+    const std::optional<std::int32_t>& topUp = anchor.topUp;
+    const std::optional<std::int32_t>& topDown = anchor.topDown;
     if (!topUp && !topDown) return screen.Centre(height);
     constexpr Twips kNone = std::numeric_limits<Twips>::min();
     const Twips roomAbove = topUp ? *topUp - screen.start : kNone;
@@ -51,9 +52,20 @@ PopupAnchor AnchorAt(PopupEdge edge, float posLeft, float posTopUp, float posTop
     return {edge, Given(posLeft), Given(posTopUp), Given(posTopDown)};
 }
 
-PopupAnchor AnchorBeside(PopupEdge edge, const Rect& target) {
-    const std::int32_t left = edge == PopupEdge::Left ? target.left : target.Right();
-    return {edge, left, target.top, target.Bottom()};
+PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target) {
+    const Rect place = target.Place();
+    const std::int32_t left = edge == PopupEdge::Left ? place.left : place.Right();
+    return {edge, left, place.top, place.Bottom(), target.Screen()};
+}
+
+Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop) {
+    if (anchor.screen) return *anchor.screen;
+    if (!anchor.left && !anchor.topUp && !anchor.topDown) return desktop.ScreenRect();
+    const Rect current = desktop.ScreenRect();
+    // A right edge may be the border to the next screen.
+    const std::int32_t inside = anchor.edge == PopupEdge::Right ? 1 : 0;
+    return desktop.ScreenRectAt({anchor.left ? *anchor.left - inside : current.left,
+                                 anchor.topUp.value_or(anchor.topDown.value_or(current.top))});
 }
 
 Point PlacePopup(const PopupAnchor& anchor, Size outer, const Rect& screen) {

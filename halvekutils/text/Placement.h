@@ -1,6 +1,8 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/platform/Controls.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Geometry.h>
 
 #include <cstdint>
@@ -17,9 +19,10 @@ enum class PopupEdge : std::int32_t {
 /// Where a pop-up is asked to open, in twips on the screen. What is absent is not given.
 struct PopupAnchor {
     PopupEdge edge = PopupEdge::Left;
-    std::optional<std::int32_t> left;     ///< where that edge of the pop-up lies
-    std::optional<std::int32_t> topUp;    ///< the target's top: the pop-up may end here
-    std::optional<std::int32_t> topDown;  ///< the target's bottom: the pop-up may start here
+    std::optional<std::int32_t> left;           ///< where that edge of the pop-up lies
+    std::optional<std::int32_t> topUp;          ///< the target's top: the pop-up may end here
+    std::optional<std::int32_t> topDown;        ///< the target's bottom: the pop-up may start here
+    std::optional<Rect> screen = std::nullopt;  ///< the usable part of the target's screen
 
     friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;
 };
@@ -28,8 +31,13 @@ struct PopupAnchor {
 /// that is no number, is not given.
 HALVEK_EXPORT PopupAnchor AnchorAt(PopupEdge edge, float posLeft, float posTopUp, float posTopDown);
 
-/// The anchor of a pop-up beside a button or cell, on any screen.
-HALVEK_EXPORT PopupAnchor AnchorBeside(PopupEdge edge, const Rect& target);
+/// The anchor of a pop-up beside a button or cell, on any screen. Throws ObjectNotSet when the
+/// target is gone.
+HALVEK_EXPORT PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target);
+
+/// The usable part of the screen that the pop-up belongs on: the target's; else the one that holds
+/// the position; else the one that a new dialog opens on.
+HALVEK_EXPORT Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop);
 
 /// The top left corner of a pop-up of this outer size, wholly inside the usable part of a screen.
 ///

@@ -1,3 +1,4 @@
+#include <halvekutils/scripted/ScriptedPlatform.h>
 #include <halvekutils/text/Placement.h>
 
 #include <gtest/gtest.h>
@@ -22,6 +23,18 @@ constexpr Size kPopup = {4000, 3000};
 constexpr auto kLeft = PopupEdge::Left;
 constexpr auto kRight = PopupEdge::Right;
 constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
+
+class Target : public PopupTarget {
+  public:
+    Target(const Rect& place, const Rect& screen) : place_(place), screen_(screen) {}
+    Rect Place() const override { return place_; }
+    Rect Screen() const override { return screen_; }
+    bool Exists() const override { return true; }
+
+  private:
+    Rect place_;
+    Rect screen_;
+};
 
 TEST(Placement, BesideATargetStaysWhollyOnItsScreen) {
     const struct {
@@ -53,8 +66,8 @@ TEST(Placement, BesideATargetStaysWhollyOnItsScreen) {
         {"absurd size", {8000, 4000, 500, 500}, {kMost, kMost}, kMain, kRight, {0, 0}},
     };
     for (const auto& row : cases) {
-        const PopupAnchor anchor = AnchorBeside(row.edge, row.target);
-        EXPECT_EQ(PlacePopup(anchor, row.outer, row.screen), row.expected) << row.where;
+        const PopupAnchor anchor = AnchorBeside(row.edge, Target(row.target, row.screen));
+        EXPECT_EQ(PlacePopup(anchor, row.outer, *anchor.screen), row.expected) << row.where;
     }
 }
 
@@ -86,6 +99,32 @@ TEST(Placement, TakesAHostsPositionsAndCentresWhatIsNotGiven) {
         const PopupAnchor anchor = AnchorAt(row.edge, row.left, row.topUp, row.topDown);
         EXPECT_EQ(PlacePopup(anchor, kPopup, kMain), row.expected) << row.positions;
     }
+}
+
+/// kMain and kSecond side by side; a new dialog opens on kMain.
+class TwoScreens : public ScriptedPlatform {
+  public:
+    Rect ScreenRect() const override { return kMain; }
+    Rect ScreenRectAt(Point point) const override { return point.left < 0 ? kSecond : kMain; }
+};
+
+TEST(Placement, BelongsOnTheScreenOfItsTargetOrElseOfItsPosition) {
+    const TwoScreens desktop;
+    const PopupAnchor beside = AnchorBeside(kLeft, Target({0, 0, 100, 100}, kBelowPanel));
+    const struct {
+        const char* anchor;
+        PopupAnchor given;
+        Rect expected;
+    } cases[] = {
+        {"target", beside, kBelowPanel},
+        {"nothing given", {kRight, {}, {}, {}, {}}, kMain},
+        {"position", {kLeft, -1, 0, {}, {}}, kSecond},
+        {"right edge on the border", {kRight, 0, {}, 0, {}}, kSecond},
+        {"left edge on the border", {kLeft, 0, 0, 0, {}}, kMain},
+        {"top only", {kLeft, {}, 500, {}, {}}, kMain},
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(ScreenOf(row.given, desktop), row.expected) << row.anchor;
 }
 
 }  // namespace
