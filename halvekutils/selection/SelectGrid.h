@@ -177,22 +177,57 @@ class HALVEK_EXPORT SelectGrid {
     /// "CANCEL" when Cancelled(), else the chosen codes, parted by ",".
     std::u16string ReturnValue() const;
 
-    /// The position that the dialog was asked for, in whole twips; -1 when none was.
-    std::int32_t OriginalLeft = -1;
-    std::int32_t OriginalTop = -1;
+    /// The position that the dialog was asked for, in whole twips; -1 when none was given.
+    std::int32_t OriginalLeft() const { return request_.anchor.left.value_or(-1); }
+    std::int32_t OriginalTop() const { return request_.anchor.topUp.value_or(-1); }
 
   private:
-    std::u16string_view Result() const;
+    enum class EntryCheck { Accepted, AcceptedBefore, Refused };
+
+    SelectCell MakeCell(std::int32_t row, std::int32_t column) const;
+    void FillIn(SelectCell& cell, std::int32_t entry) const;
+
+    void Toggle(std::int32_t entry);
+    void SelectAll(bool on);
+    void AddToChoice(std::u16string_view code);
+    void SetChoice(std::u16string codes);
+    void CloseChoice();
+    void ClearMarks();
+
+    bool CheckTypedCodes();
+    bool RunCheck();
+    bool HasGoodForm();
+    bool RefuseForm(std::size_t start, std::size_t length);
+    bool MarkTypedCodes();
+    EntryCheck CheckEntry(std::u16string_view code);
+    void RefuseCode(std::u16string_view code);
+
+    std::u16string_view Choice() const { return boxIsChoice_ ? box_.text : choice_; }
+    void SetBoxText(std::u16string text);
+    void SelectInBox(std::size_t start, std::size_t length);
+
+    std::int32_t NearestWithCode(std::int32_t entry, std::int32_t step) const;
+    void MoveTo(std::int32_t entry, std::int32_t step);
+    void MoveAcrossBands(std::int32_t bands);
+    std::int32_t FindByStart(std::u16string_view start, std::int32_t from) const;
+    void SetCurrent(std::int32_t entry);
+
+    void Tell(const SelectionMessage& message);
+    void NotifyChanged() const;
+    void End(bool cancelled);
+
+    template <class Result, class Body>
+    Result Logged(std::u16string_view routine, Result neutral, const Body& body) const;
 
     SelectionRequest request_;
     Services& session_;
     MessageSink showMessage_;
     SelectionList list_;
-    std::vector<bool> marks_;  ///< of entries 0 to the last that is shown
+    std::vector<bool> marks_;  ///< which entries are ticked, 0 to the last that is shown
     TypedCodesBox box_;
     std::uint32_t boxVersion_ = 0;
-    std::u16string result_;    ///< the choice, while the box holds something else
-    bool boxIsResult_ = true;  ///< the box holds the choice itself
+    std::u16string choice_;    ///< the pending result, while the box holds another text
+    bool boxIsChoice_ = true;  ///< the box holds the pending result itself
     std::int32_t current_ = 0;
     std::u16string searched_;
     bool changed_ = false;
