@@ -31,6 +31,11 @@ void RequireUserInterfaceThread() {
     }
 }
 
+Rect UsableRect(const QScreen* screen) {
+    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
+    return ToRect(screen->availableGeometry());
+}
+
 /// Names an installed face for one that the dialogs ask for and the desktop may lack.
 void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
     if (QFontDatabase::hasFamily(wanted)) return;
@@ -41,11 +46,6 @@ QString WithPlainLineEnds(TextIn text) {
     return ToQString(text)
         .replace(QLatin1String("\r\n"), QLatin1String("\n"))
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
-}
-
-Rect UsableRect(const QScreen* screen) {
-    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
-    return ToRect(screen->availableGeometry());
 }
 
 int RoundedUp(double pixels) {
