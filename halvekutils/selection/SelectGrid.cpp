@@ -11,12 +11,10 @@ namespace halvek {
 
 namespace {
 
-constexpr std::u16string_view kFace = u"tahoma";
 constexpr Color kHeaderBackground = Rgb(250, 212, 135);
 constexpr Color kDescriptionBackground = Rgb(235, 235, 235);
 constexpr Color kDeletedText = Rgb(255, 0, 0);
 constexpr Color kAllCodesText = Rgb(0, 0, 255);
-constexpr std::u16string_view kAllCodesName = u" *** ALL CODES *** ";
 constexpr std::u16string_view kInvalidEntry = u"Invalid Entry";
 
 constexpr auto kNone = std::u16string_view::npos;
@@ -113,7 +111,7 @@ SelectCell SelectGrid::Cell(std::int32_t row, std::int32_t column) const {
 
 SelectCell SelectGrid::MakeCell(std::int32_t row, std::int32_t column) const {
     SelectCell cell;
-    cell.font = {std::u16string(kFace), 8};
+    cell.font = CodeFont();
     if (row < 0 || row > RowCount() || column < 1 || column > ColumnCount()) return cell;
     if (row == 0) {
         cell.kind = SelectCell::Kind::Header;
@@ -126,7 +124,7 @@ SelectCell SelectGrid::MakeCell(std::int32_t row, std::int32_t column) const {
                                            SelectCell::Kind::Description};
     cell.kind = kKinds[(row - 1) % SelectionList::kRowsPerBand];
     if (cell.kind == SelectCell::Kind::Description) {
-        cell.font.points = 7;
+        cell.font = DescriptionFont();
         cell.background = kDescriptionBackground;
     }
     FillIn(cell, EntryAt(row, column));

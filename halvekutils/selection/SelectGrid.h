@@ -11,6 +11,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace halvek {
@@ -41,6 +42,17 @@ struct TypedCodesBox {
     std::int32_t selected = 0;  ///< how many characters behind the caret are selected
     bool enabled = true;        ///< what stands in a disabled box was not typed by the user
 };
+
+/// The description of the entry that stands for all codes.
+inline constexpr std::u16string_view kAllCodesName = u" *** ALL CODES *** ";
+
+/// The fonts of the check and code rows and of the description rows.
+inline FontSpec CodeFont() {
+    return {u"tahoma", 8};
+}
+inline FontSpec DescriptionFont() {
+    return {u"tahoma", 7};
+}
 
 /// One cell of the grid, as it is drawn.
 struct SelectCell {
