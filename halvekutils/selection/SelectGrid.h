@@ -19,11 +19,11 @@ namespace halvek {
 /// What a selection dialog is asked to show.
 struct SelectionRequest {
     std::u16string listName;
-    std::u16string allValues;       ///< the server's list, see SelectionList
-    std::u16string selectedValues;  ///< the codes chosen so far, parted by ","
-    std::u16string typedCharacter;  ///< what the user typed before the dialog opened
+    std::u16string allValues;            ///< the server's list, see SelectionList
+    std::u16string selectedValues;       ///< the codes chosen so far, parted by ","
+    std::u16string typedCharacter = {};  ///< what the user typed before the dialog opened
     bool doNotIncludeDeleted = false;
-    PopupAnchor anchor;
+    PopupAnchor anchor = {};
 };
 
 /// A message that the dialog raises while it is open.
