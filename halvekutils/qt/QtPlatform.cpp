@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
+#include <halvekutils/qt/forms/frmSelectGrid.h>
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -159,6 +160,10 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         },
         Qt::QueuedConnection);
     window->ShowModeless();
+}
+
+void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {
+    frmSelectGrid(grid, *this).ShowModal();
 }
 
 }  // namespace halvek

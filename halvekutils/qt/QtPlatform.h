@@ -31,6 +31,7 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     Rect ScreenRectAt(Point point) const override;
     Size FrameSize() const override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     struct Private;
