@@ -78,13 +78,13 @@ void SelectGrid::Prepare() {
         CheckEntry(code);
         return true;
     });
-    SelectInBox(box_.text.size(), 0);
     if (!request_.typedCharacter.empty()) {
         openedByTyping_ = true;
         std::u16string text = box_.text;
         if (!text.empty() && !text.ends_with(u',')) text += u',';
         SetBoxText(text + request_.typedCharacter);
     }
+    SelectInBox(box_.text.size(), 0);
     busy_ = false;
 }
 
