@@ -91,9 +91,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param posTopDown  the target's bottom, below which the pop-up opens
     /// @param Edge  PopupEdge::Left for the calendar and the palette, Right for selection lists
     ///
-    /// All three are -1, not given, when there is no target or it is gone, which is logged. A
-    /// screen left of or above the main one has negative positions, which count as not given too;
-    /// the members that take the target themselves serve every screen.
+    /// All three are -1, not given, without a target, or when it is gone, which is logged. A screen
+    /// left of or above the main one has negative positions, which count as not given too; the
+    /// members that take the target themselves serve every screen.
     void CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
                                   float& posTopUp, float& posTopDown,
                                   PopupEdge Edge = PopupEdge::Left);
@@ -239,6 +239,28 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// The entities that the user may see, as the server sent them; stored for the host.
     void EntityListForUser(TextIn value);
     std::u16string EntityListForUser() const;
+
+    /// ShowSelection, beside a button or cell.
+    std::u16string ShowSelectionAndCalculateCoordinates(
+        TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
+        const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+        ByRef<std::u16string> TypedCharacter = std::u16string());
+
+    /// ShowSelectionGrid, beside a button or cell: right edges aligned, below it when the screen
+    /// has room, else above.
+    ///
+    /// @param CmdButtonOrCell  a cell's target knows its grid, so there is no argument for the
+    /// grid.
+    ///     Without a target, or when it is gone, which is logged, the dialog is centred.
+    ///
+    ///     auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
+    ///         u"Providers", server.providers(), row.codes(), Beside(&view, index));
+    std::u16string ShowSelectionGridAndCalculateCoordinates(
+        TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
+        const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+        ByRef<std::u16string> TypedCharacter = std::u16string(), bool DoNotIncludeDeleted = false);
 
     /// Lets the user choose codes from a list of the server's; deleted entries show in red.
     ///

@@ -15,9 +15,19 @@ namespace {
 
 constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 4;
+constexpr int kOutlineTone = 150;  // per cent
 
 /// No cell is so wide that more of a text could show.
 constexpr qsizetype kLongestShown = 500;
+
+/// Styles outline a check box in a dark tone of the window's colour, which a dark grid would
+/// swallow.
+QPalette WithVisibleOutline(QPalette palette) {
+    const QColor text = palette.color(QPalette::Text);
+    const bool isDark = text.lightness() > palette.color(QPalette::Base).lightness();
+    if (isDark) palette.setColor(QPalette::Window, text.darker(kOutlineTone));
+    return palette;
+}
 
 void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
                    bool checked) {
@@ -27,6 +37,7 @@ void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const 
                      style.pixelMetric(QStyle::PM_IndicatorHeight, &mark, mark.widget));
     mark.rect = QStyle::alignedRect(mark.direction, Qt::AlignLeft | Qt::AlignVCenter, size,
                                     area.adjusted(kTextMargin, 0, -kTextMargin, 0));
+    mark.palette = WithVisibleOutline(option.palette);
     mark.state = QStyle::State_Enabled | QStyle::State_Active;
     mark.state |= checked ? QStyle::State_On : QStyle::State_Off;
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &mark, &painter, mark.widget);

@@ -10,6 +10,13 @@
 
 namespace halvek {
 
+namespace {
+
+constexpr std::size_t kMostEdited = 200'000;
+constexpr std::size_t kMostShown = 1000;
+
+}  // namespace
+
 TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     : QLineEdit(parent), rules_(rules) {
     setObjectName(QLatin1String("txtSelect"));
@@ -31,7 +38,13 @@ void TypedCodesEdit::Refresh() {
     setEnabled(box.enabled);
     if (std::exchange(shownVersion_, rules_.BoxVersion()) == rules_.BoxVersion()) return;
     const QScopedValueRollback mirroring(mirroring_, true);
-    const QString wanted = ToQString(box.text);
+    // Every change of a line edit costs time in proportion to its text.
+    const bool tooLong = box.text.size() > kMostEdited;
+    setReadOnly(tooLong);
+    setToolTip(tooLong ? tr("Too many codes to be edited here") : QString());
+    const QString wanted =
+        tooLong ? ToQString(std::u16string_view(box.text).substr(0, kMostShown)) + QChar(0x2026)
+                : ToQString(box.text);
     if (text() != wanted) setText(wanted);
     setCursorPosition(box.caret);
     if (box.selected > 0) setSelection(box.caret, box.selected);
