@@ -9,6 +9,8 @@ namespace {
 class StateServices : public Services {
   public:
     void LogError(TextIn message) noexcept override { WriteErrorLog(State(), message); }
+    // The way to the debug console; no console shows these lines yet.
+    void ShowInDebug(TextIn) override {}
     bool DebugMode() const override { return State().debugMode; }
     std::u16string AppName() const override { return State().appName; }
     Color FormSkinColor() const override { return State().formSkinColor; }

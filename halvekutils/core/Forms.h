@@ -2,6 +2,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/dialogs/MessageBox.h>
+#include <halvekutils/selection/SelectGrid.h>
 
 #include <memory>
 
@@ -19,6 +20,8 @@ class HALVEK_EXPORT Forms {
     virtual ~Forms();
 
     virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
+    /// Modal.
+    virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 
   protected:
     Forms() = default;

@@ -7,7 +7,9 @@
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/platform/Controls.h>
 #include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/text/Placement.h>
 
 #include <cstdint>
 #include <memory>
@@ -81,6 +83,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Removes the bin with exactly this key; does nothing when there is none.
     void RemoveBin(TextIn BinKey);
 
+    /// The positions, in twips on the screen, with which a pop-up opens beside a button or cell.
+    ///
+    /// @param Target  Beside(&button), or Beside(&view, index) for a cell
+    /// @param posLeft  the target's left edge; for PopupEdge::Right its right edge
+    /// @param posTopUp  the target's top, above which the pop-up opens when there is no room below
+    /// @param posTopDown  the target's bottom, below which the pop-up opens
+    /// @param Edge  PopupEdge::Left for the calendar and the palette, Right for selection lists
+    ///
+    /// All three are -1, not given, without a target, or when it is gone, which is logged. A screen
+    /// left of or above the main one has negative positions, which count as not given too; the
+    /// members that take the target themselves serve every screen.
+    void CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
+                                  float& posTopUp, float& posTopDown,
+                                  PopupEdge Edge = PopupEdge::Left);
+
     /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
     /// SubscriptOutOfRange before InitPrefs.
     StringArray ColorArray() const;
@@ -121,8 +138,41 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// and in debug mode with a message.
     void LogError(TextIn strError) noexcept;
 
+    /// True when every character is a letter from A to Z, capital or small; true for an empty text.
+    bool IsAlpha(TextIn strText) const;
+
     /// True when the collection is given, is not empty and an item under the key can be fetched.
     bool ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key) const;
+
+    /// Replaces the characters that no stored text may hold, see IsUnwantedChar.
+    ///
+    /// A character that Windows-1252 lacks counts as a question mark and becomes one. In debug mode
+    /// the debug console gets both texts; throws ObjectNotSet when something was found before
+    /// InitUtils.
+    /// @param strOUT  the result; it may be the variable that strIN was read from
+    /// @param strReplaceWith  stands for each character that is removed; may be empty
+    /// @param bShowMessage  tells the user when something was found
+    /// @param bDoNotRemoveUnwantedChars  only looks: strOUT is strIN unchanged
+    /// @param strExceptions  characters that may stay, parted by ","
+    /// @return true when something was found
+    ///
+    ///     utils->RemoveUnwantedChars(u"a|b", text, u"");                        // ab, true
+    ///     utils->RemoveUnwantedChars(u"a|b", text, u"", false, false, u"|,^");  // a|b, false
+    bool RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith,
+                             bool bShowMessage = false, bool bDoNotRemoveUnwantedChars = false,
+                             TextIn strExceptions = {});
+
+    /// True for the code of a colon, circumflex, grave accent or vertical bar, of a control
+    /// character other than line feed and carriage return, and for every code from 127 on.
+    bool IsUnwantedChar(std::int32_t locChar) const;
+
+    /// True for the code of a character that may be typed into a date: a digit, "/" and backspace.
+    /// Throws InvalidArgument for what is no code of a character, below 0 or above 255.
+    bool IsDateChar(std::int32_t locChar) const;
+
+    /// The text with every character but those of the codes 32 to 126 shown as its code, as in
+    /// "<9>". A line break follows each "<13>".
+    std::u16string RemoveUnprintableChars(TextIn Str) const;
 
     /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
@@ -189,6 +239,60 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// The entities that the user may see, as the server sent them; stored for the host.
     void EntityListForUser(TextIn value);
     std::u16string EntityListForUser() const;
+
+    /// ShowSelection, beside a button or cell.
+    std::u16string ShowSelectionAndCalculateCoordinates(
+        TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
+        const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+        ByRef<std::u16string> TypedCharacter = std::u16string());
+
+    /// ShowSelectionGrid, beside a button or cell: right edges aligned, below it when the screen
+    /// has room, else above.
+    ///
+    /// @param CmdButtonOrCell  a cell's target knows its grid, so there is no argument for the
+    /// grid.
+    ///     Without a target, or when it is gone, which is logged, the dialog is centred.
+    ///
+    ///     auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
+    ///         u"Providers", server.providers(), row.codes(), Beside(&view, index));
+    std::u16string ShowSelectionGridAndCalculateCoordinates(
+        TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
+        const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+        ByRef<std::u16string> TypedCharacter = std::u16string(), bool DoNotIncludeDeleted = false);
+
+    /// Lets the user choose codes from a list of the server's; deleted entries show in red.
+    ///
+    /// The same as ShowSelectionGrid, which leaves deleted entries out when asked to.
+    std::u16string ShowSelection(TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+                                 float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
+                                 const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+                                 ByRef<std::u16string> TypedCharacter = std::u16string());
+
+    /// Lets the user choose codes from a list of the server's.
+    ///
+    /// A fault is logged with "ShowSelectionGridForm error ". Codes in SelectedValues that the list
+    /// lacks are told one by one before the dialog opens.
+    /// @param ListName  plain text, the dialog's caption
+    /// @param AllValues  entries parted by ":", a header first; the fields of an entry, parted by
+    ///     TAB, are its code, its description and, as the last, "1" when it is deleted
+    /// @param SelectedValues  the codes chosen so far, parted by ","
+    /// @param posLeft, posTopUp, posTopDown  twips on the screen: where the dialog's right edge
+    ///     lies, where it ends when it opens upwards and where it starts when it opens downwards;
+    ///     negative for not given, which centres it. It always lies wholly on the screen.
+    /// @param FormToRefresh  repainted when the dialog ends; null for none
+    /// @param TypedCharacter  typed already, goes into the box of codes; the variable is cleared
+    /// @return the chosen codes, parted by ","; SelectedValues as they were after Cancel, Escape
+    ///     and the close box, or when AllValues is empty; "CANCEL" after OK without a change
+    ///
+    ///     auto chosen = utils->ShowSelectionGrid(u"Providers", server.providers(), u"A1,B2");
+    ///     if (chosen != u"CANCEL") visit.setProviders(chosen);
+    std::u16string ShowSelectionGrid(TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
+                                     float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
+                                     const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+                                     ByRef<std::u16string> TypedCharacter = std::u16string(),
+                                     bool DoNotIncludeDeleted = false);
 
     /// The settings of a remote session; stored for the host.
     void RemoteSettings(TextIn value);

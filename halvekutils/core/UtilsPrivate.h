@@ -3,6 +3,7 @@
 #include <halvekutils/core/DataBins.h>
 #include <halvekutils/core/Utils.h>
 
+#include <memory>
 #include <string>
 
 namespace halvek {
@@ -13,6 +14,10 @@ struct Utils::Private {
     std::u16string appDataFolderCommon;
     DataBins bins;
 };
+
+/// The anchor of a pop-up beside a target. Nothing is given, which centres the pop-up, without a
+/// target, or when it is gone, which is logged.
+PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTarget>& target);
 
 /// The log of an object, for the guard around its members.
 inline auto LogOf(Utils& utils) {

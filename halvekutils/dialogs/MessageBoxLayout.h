@@ -11,18 +11,6 @@
 
 namespace halvek {
 
-/// A place inside a form or a frame, in twips.
-struct Rect {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-
-    std::int32_t Right() const { return left + width; }
-    std::int32_t Bottom() const { return top + height; }
-    friend bool operator==(const Rect&, const Rect&) = default;
-};
-
 /// The sizes and places of a message box's parts, in twips.
 struct MessageBoxLayout {
     Size form;          ///< with the window's frame

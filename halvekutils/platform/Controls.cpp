@@ -3,5 +3,6 @@
 namespace halvek {
 
 OwnerForm::~OwnerForm() = default;
+PopupTarget::~PopupTarget() = default;
 
 }  // namespace halvek

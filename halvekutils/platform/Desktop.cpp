@@ -21,6 +21,15 @@ Desktop* Desktop::Install(Desktop* desktop) noexcept {
     return std::exchange(installedDesktop, desktop);
 }
 
+Rect Desktop::ScreenRect() const {
+    const Size size = ScreenSize();
+    return {0, 0, size.width, size.height};
+}
+
+Rect Desktop::ScreenRectAt(Point) const {
+    return ScreenRect();
+}
+
 void Beep() noexcept {
     if (installedDesktop == nullptr) return;
     try {

@@ -2,19 +2,12 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Geometry.h>
 
 #include <cstdint>
 #include <string>
 
 namespace halvek {
-
-/// A width and a height in twips (1/1440 inch).
-struct Size {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-
-    friend bool operator==(const Size&, const Size&) = default;
-};
 
 /// A font as the dialogs' rules choose it.
 struct FontSpec {
@@ -66,6 +59,14 @@ class HALVEK_EXPORT Desktop : public TextMeter {
 
     /// The size of the screen that a new dialog opens on.
     virtual Size ScreenSize() const = 0;
+
+    /// The part of that screen that windows may use; unless overridden as large as ScreenSize() and
+    /// at the origin.
+    virtual Rect ScreenRect() const;
+
+    /// The same of the screen that holds a point; of the one that a new dialog opens on when no
+    /// screen does.
+    virtual Rect ScreenRectAt(Point point) const;
 
     /// What the window frame of a dialog adds to its inner size.
     virtual Size FrameSize() const = 0;

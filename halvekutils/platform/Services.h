@@ -23,6 +23,9 @@ class HALVEK_EXPORT Services {
     /// Writes one line to the error log. Never throws.
     virtual void LogError(TextIn message) noexcept = 0;
 
+    /// Adds one line to the debug console; dropped outside debug mode.
+    virtual void ShowInDebug(TextIn text) = 0;
+
     virtual bool DebugMode() const = 0;
     virtual std::u16string AppName() const = 0;
     virtual Color FormSkinColor() const = 0;

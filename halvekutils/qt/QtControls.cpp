@@ -2,7 +2,11 @@
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/Metrics.h>
 
+#include <QAbstractItemView>
+#include <QGuiApplication>
+#include <QPersistentModelIndex>
 #include <QPointer>
+#include <QScreen>
 #include <QWidget>
 
 namespace halvek {
@@ -30,10 +34,79 @@ class WidgetOwnerForm : public OwnerForm {
     QPointer<QWidget> window_;
 };
 
+/// What a widget and a cell have in common as targets.
+class WidgetTarget : public PopupTarget {
+  public:
+    Rect Place() const override { return ToRect(Seen()); }
+    Rect Screen() const override {
+        const QScreen* const screen = QGuiApplication::screenAt(Seen().center());
+        return ToRect((screen != nullptr ? screen : Existing().screen())->availableGeometry());
+    }
+
+  protected:
+    /// The widget, which must exist.
+    virtual const QWidget& Existing() const = 0;
+    /// The visible part of the target inside the widget.
+    virtual QRect Inside() const = 0;
+
+  private:
+    QRect Seen() const {
+        const QRect inside = Inside();
+        return QRect(Existing().mapToGlobal(inside.topLeft()), inside.size());
+    }
+};
+
+class WholeWidgetTarget : public WidgetTarget {
+  public:
+    explicit WholeWidgetTarget(const QWidget* widget) : widget_(widget) {}
+    bool Exists() const override { return widget_ != nullptr; }
+
+  protected:
+    const QWidget& Existing() const override {
+        if (!Exists()) throw RuntimeError(Fault::ObjectNotSet, u"control");
+        return *widget_;
+    }
+    QRect Inside() const override { return Existing().rect(); }
+
+  private:
+    QPointer<const QWidget> widget_;
+};
+
+class CellTarget : public WidgetTarget {
+  public:
+    CellTarget(const QAbstractItemView* view, const QModelIndex& cell) : view_(view), cell_(cell) {}
+    bool Exists() const override { return view_ != nullptr && cell_.isValid(); }
+
+  protected:
+    const QWidget& Existing() const override { return *View().viewport(); }
+    QRect Inside() const override {
+        const QRect whole = View().visualRect(cell_);
+        const QRect seen = whole & View().viewport()->rect();
+        return seen.isEmpty() ? whole : seen;
+    }
+
+  private:
+    const QAbstractItemView& View() const {
+        if (!Exists()) throw RuntimeError(Fault::ObjectNotSet, u"cell");
+        return *view_;
+    }
+
+    QPointer<const QAbstractItemView> view_;
+    QPersistentModelIndex cell_;
+};
+
 }  // namespace
 
 std::shared_ptr<OwnerForm> AsOwnerForm(QWidget* window) {
     return window == nullptr ? nullptr : std::make_shared<WidgetOwnerForm>(window->window());
+}
+
+std::shared_ptr<PopupTarget> Beside(QWidget* widget) {
+    return widget == nullptr ? nullptr : std::make_shared<WholeWidgetTarget>(widget);
+}
+
+std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell) {
+    return view == nullptr ? nullptr : std::make_shared<CellTarget>(view, cell);
 }
 
 }  // namespace halvek

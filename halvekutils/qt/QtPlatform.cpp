@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
+#include <halvekutils/qt/forms/frmSelectGrid.h>
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -29,6 +30,11 @@ void RequireUserInterfaceThread() {
     if (app->thread() != QThread::currentThread()) {
         throw RuntimeError(Fault::InvalidArgument, u"not the user-interface thread");
     }
+}
+
+Rect UsableRect(const QScreen* screen) {
+    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
+    return ToRect(screen->availableGeometry());
 }
 
 /// Names an installed face for one that the dialogs ask for and the desktop may lack.
@@ -103,10 +109,18 @@ void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
 }
 
 Size QtPlatform::ScreenSize() const {
-    const QScreen* const screen = CurrentScreen();
-    if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
-    const QSize usable = screen->availableSize();
-    return {PixelsToTwips(usable.width()), PixelsToTwips(usable.height())};
+    const Rect usable = ScreenRect();
+    return {usable.width, usable.height};
+}
+
+Rect QtPlatform::ScreenRect() const {
+    return UsableRect(CurrentScreen());
+}
+
+Rect QtPlatform::ScreenRectAt(Point point) const {
+    const QPoint pixels(TwipsToPixels(point.left), TwipsToPixels(point.top));
+    const QScreen* const screen = QGuiApplication::screenAt(pixels);
+    return screen != nullptr ? UsableRect(screen) : ScreenRect();
 }
 
 Size QtPlatform::FrameSize() const {
@@ -143,6 +157,10 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         Qt::QueuedConnection);
     window->ShowModeless();
     box->ShownModeless();
+}
+
+void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {
+    frmSelectGrid(grid, *this).ShowModal();
 }
 
 }  // namespace halvek

@@ -27,8 +27,11 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     void Beep() override;
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
     Size ScreenSize() const override;
+    Rect ScreenRect() const override;
+    Rect ScreenRectAt(Point point) const override;
     Size FrameSize() const override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     struct Private;

@@ -25,6 +25,18 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     }
 }
 
+/// Takes the next answer out of the queue; a fault when the script holds none.
+template <class Answer>
+Answer TakeAnswer(std::deque<Answer>& answers, std::u16string_view dialog, TextIn caption) {
+    if (answers.empty()) {
+        throw RuntimeError(Fault::InvalidArgument,
+                           u"no answer for the " + std::u16string(dialog) + u" " + caption.Str());
+    }
+    Answer answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
 }  // namespace
 
 ScriptedPlatform::ScriptedPlatform() {
@@ -36,6 +48,9 @@ ScriptedPlatform::~ScriptedPlatform() {
 
 void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
     messageBoxAnswers_.push_back(std::move(answer));
+}
+void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
+    selectionAnswers_.push_back(std::move(answer));
 }
 
 std::int32_t ScriptedPlatform::TextWidth(TextIn text, const FontSpec& font) const {
@@ -71,14 +86,13 @@ void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality mod
         return;
     }
     std::erase(modeless_, box);
-    if (messageBoxAnswers_.empty()) {
-        throw RuntimeError(Fault::InvalidArgument,
-                           u"no answer for the message box " + std::u16string(box->Caption()));
-    }
-    const MessageBoxAnswer answer = std::move(messageBoxAnswers_.front());
-    messageBoxAnswers_.pop_front();
-    answer(*box);
+    TakeAnswer(messageBoxAnswers_, u"message box", box->Caption())(*box);
     box->Abandon();
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {
+    TakeAnswer(selectionAnswers_, u"selection list", grid->Caption())(*grid);
+    grid->Abandon();
 }
 
 }  // namespace halvek

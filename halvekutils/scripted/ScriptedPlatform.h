@@ -29,15 +29,18 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
         std::u16string title;
     };
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
+    using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
     ~ScriptedPlatform() override;
 
     /// Queues what the user does with the next message box.
     void OnMessageBox(MessageBoxAnswer answer);
+    /// Queues what the user does in the next selection dialog.
+    void OnSelection(SelectionAnswer answer);
 
     /// The answers that no dialog has taken yet.
-    std::size_t AnswersLeft() const { return messageBoxAnswers_.size(); }
+    std::size_t AnswersLeft() const { return messageBoxAnswers_.size() + selectionAnswers_.size(); }
     /// The boxes that are on the screen modelessly.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
@@ -56,9 +59,11 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     Size ScreenSize() const override { return screen_; }
     Size FrameSize() const override { return frame_; }
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
+    std::deque<SelectionAnswer> selectionAnswers_;
     std::vector<std::shared_ptr<MessageBox>> modeless_;
     std::vector<StockMessage> stockMessages_;
     int beeps_ = 0;

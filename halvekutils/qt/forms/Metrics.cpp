@@ -28,6 +28,11 @@ QRect ToQRect(const Rect& rect) {
                  TwipsToPixels(rect.height));
 }
 
+Rect ToRect(const QRect& rect) {
+    return {PixelsToTwips(rect.left()), PixelsToTwips(rect.top()), PixelsToTwips(rect.width()),
+            PixelsToTwips(rect.height())};
+}
+
 QFont ToQFont(const FontSpec& font) {
     QFont result = QApplication::font();
     if (!font.face.empty()) result.setFamily(ToQString(font.face));

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <halvekutils/base/Color.h>
-#include <halvekutils/dialogs/MessageBoxLayout.h>
 #include <halvekutils/platform/Desktop.h>
 
 #include <QColor>
@@ -19,6 +18,7 @@ namespace halvek {
 std::int32_t PixelsToTwips(double pixels);
 int TwipsToPixels(std::int32_t twips);
 QRect ToQRect(const Rect& rect);
+Rect ToRect(const QRect& rect);
 QFont ToQFont(const FontSpec& font);
 
 /// How a text of the host's wraps: at words, or anywhere when it holds a word so long that looking

@@ -84,7 +84,6 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
 frmMessageBox::~frmMessageBox() {
     box_->Changed = nullptr;
     box_->Abandon();
-    RestorePointer();
 }
 
 void frmMessageBox::BuildText() {
@@ -166,6 +165,7 @@ void frmMessageBox::ApplyColors() {
     if (colors.buttonFace && !IsSchemeColor(*colors.buttonFace)) {
         buttons.setColor(QPalette::Button, ToQColor(*colors.buttonFace, desktop));
         buttons.setColor(QPalette::ButtonText, Qt::black);
+        buttons.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
     }
     for (QPushButton* const button : arrCmd_) {
         if (button != nullptr) button->setPalette(buttons);
@@ -181,53 +181,30 @@ void frmMessageBox::SetCloseBox() {
 }
 
 void frmMessageBox::ShowModal() {
-    QWidget* const owner = CurrentOwner();
-    Present(Qt::ApplicationModal);
-    if (owner != nullptr) {
-        connect(owner, &QObject::destroyed, this,
-                [this] { GuardEvent(u"frmMessageBox.Form_Unload", [this] { box_->Abandon(); }); });
-    }
-    if (box_->IsOpen()) modalLoop_.exec();
-    box_->Abandon();
+    StartCountdown();
+    show_.Modal([this](const QWidget* owner) { return PlaceOf(owner); });
 }
 
 void frmMessageBox::ShowModeless() {
-    Present(Qt::NonModal);
+    StartCountdown();
+    show_.Modeless([this](const QWidget* owner) { return PlaceOf(owner); });
 }
 
-void frmMessageBox::Present(Qt::WindowModality modality) {
-    QWidget* const owner = CurrentOwner();
-    hide();
-    setWindowModality(modality);
-    if (owner != this) SetOwner(*this, owner);
-    Place(owner == this ? nullptr : owner);
-    ShowArrowPointer();
+void frmMessageBox::Abandon() {
+    GuardEvent(u"frmMessageBox.Form_Unload", [this] { box_->Abandon(); });
+}
+
+void frmMessageBox::StartCountdown() {
     if (box_->CountdownRunning()) tmrUnload_.start();
-    show();
-    setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once which button Enter presses
-    activateWindow();
 }
 
-void frmMessageBox::Place(const QWidget* owner) {
+QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
     const Size form = box_->Layout().form;
     const QSize outer(TwipsToPixels(form.width), TwipsToPixels(form.height));
-    if (const auto position = box_->CentredOnOwner()) {
-        const QPoint corner(TwipsToPixels(position->left), TwipsToPixels(position->top));
-        move(Inside(QRect(corner, outer), CurrentScreen()).topLeft());
-    } else {
-        move(CentredPlace(outer, owner).topLeft());
-    }
-}
-
-void frmMessageBox::ShowArrowPointer() {
-    // A busy cursor of the host's would show over the box.
-    if (pointerSaved_ || QGuiApplication::overrideCursor() == nullptr) return;
-    QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-    pointerSaved_ = true;
-}
-
-void frmMessageBox::RestorePointer() {
-    if (std::exchange(pointerSaved_, false)) QGuiApplication::restoreOverrideCursor();
+    const auto position = box_->CentredOnOwner();
+    if (!position) return CentredPlace(outer, owner).topLeft();
+    const QPoint corner(TwipsToPixels(position->left), TwipsToPixels(position->top));
+    return Inside(QRect(corner, outer), CurrentScreen()).topLeft();
 }
 
 void frmMessageBox::Sync() {
@@ -237,9 +214,7 @@ void frmMessageBox::Sync() {
     cmdUpDn_[0]->setEnabled(!AtLastLine());
     cmdUpDn_[1]->setEnabled(box_->ScrollOffset() < 0);
     if (box_->IsOpen()) return;
-    RestorePointer();
-    hide();
-    modalLoop_.quit();
+    show_.End();
     emit Ended();
 }
 

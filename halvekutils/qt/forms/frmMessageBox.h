@@ -1,9 +1,9 @@
 #pragma once
 
 #include <halvekutils/dialogs/MessageBox.h>
+#include <halvekutils/qt/forms/DialogShow.h>
 
 #include <QDialog>
-#include <QEventLoop>
 #include <QTimer>
 
 #include <array>
@@ -50,10 +50,9 @@ class frmMessageBox : public QDialog {
     void BuildScrollButtons();
     void ApplyColors();
     void SetCloseBox();
-    void Present(Qt::WindowModality modality);
-    void Place(const QWidget* owner);
-    void ShowArrowPointer();
-    void RestorePointer();
+    void StartCountdown();
+    QPoint PlaceOf(const QWidget* owner) const;
+    void Abandon();
     void Sync();
     bool AtLastLine() const;
     int ScrolledPixels() const;
@@ -70,8 +69,7 @@ class frmMessageBox : public QDialog {
     std::array<QPushButton*, 3> arrCmd_{};
     std::array<QToolButton*, 2> cmdUpDn_{};
     QTimer tmrUnload_{this};
-    QEventLoop modalLoop_;
-    bool pointerSaved_ = false;
+    DialogShow show_{*this, [this] { Abandon(); }};
 };
 
 }  // namespace halvek

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialog>
+#include <QEventLoop>
+
+#include <functional>
+
+namespace halvek {
+
+/// Shows a dialog above the window that is current, until its rules have ended.
+///
+/// The dialog has no QObject parent. A busy cursor of the host's gives way to the arrow meanwhile.
+class DialogShow {
+  public:
+    /// The top left corner, with the frame, where the dialog opens; `owner` may be null.
+    using Place = std::function<QPoint(const QWidget* owner)>;
+
+    /// @param abandon  ends rules that are still open: called when the owner is destroyed and when
+    ///     the modal loop ends, which it also does when the application quits; throws nothing
+    DialogShow(QDialog& dialog, std::function<void()> abandon);
+    ~DialogShow();
+    DialogShow(const DialogShow&) = delete;
+    DialogShow& operator=(const DialogShow&) = delete;
+
+    /// Returns when the dialog has ended; one that is on the screen modelessly goes on modally.
+    void Modal(const Place& place);
+    void Modeless(const Place& place);
+
+    /// The rules have ended: hides the dialog and lets Modal return.
+    void End();
+
+  private:
+    QWidget* Owner() const;
+    void Open(QWidget* owner, Qt::WindowModality modality, const Place& place);
+    void ShowArrowPointer();
+    void RestorePointer();
+
+    QDialog& dialog_;
+    std::function<void()> abandon_;
+    QEventLoop loop_;
+    bool ended_ = false;
+    bool pointerSaved_ = false;
+};
+
+}  // namespace halvek

@@ -1,0 +1,113 @@
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/forms/SelectGridDelegate.h>
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+namespace halvek {
+
+namespace {
+
+constexpr int kParts = SelectionList::kRowsPerBand;
+constexpr int kTextMargin = 4;
+constexpr int kOutlineTone = 150;  // per cent
+
+/// No cell is so wide that more of a text could show.
+constexpr qsizetype kLongestShown = 500;
+
+/// Styles outline a check box in a dark tone of the window's colour, which a dark grid would
+/// swallow.
+QPalette WithVisibleOutline(QPalette palette) {
+    const QColor text = palette.color(QPalette::Text);
+    const bool isDark = text.lightness() > palette.color(QPalette::Base).lightness();
+    if (isDark) palette.setColor(QPalette::Window, text.darker(kOutlineTone));
+    return palette;
+}
+
+void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
+                   bool checked) {
+    const QStyle& style = *option.widget->style();
+    QStyleOptionViewItem mark(option);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &mark, mark.widget),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, &mark, mark.widget));
+    mark.rect = QStyle::alignedRect(mark.direction, Qt::AlignLeft | Qt::AlignVCenter, size,
+                                    area.adjusted(kTextMargin, 0, -kTextMargin, 0));
+    mark.palette = WithVisibleOutline(option.palette);
+    mark.state = QStyle::State_Enabled | QStyle::State_Active;
+    mark.state |= checked ? QStyle::State_On : QStyle::State_Off;
+    style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &mark, &painter, mark.widget);
+}
+
+}  // namespace
+
+void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
+                  const QColor& color) {
+    const QRect inner = area.adjusted(kTextMargin, 0, -kTextMargin, 0);
+    const QString text = ToQString(std::u16string_view(cell.text).substr(0, kLongestShown));
+    painter.setFont(ToQFont(cell.font));
+    painter.setPen(color);
+    const bool centred = cell.alignment == SelectCell::Alignment::Centre;
+    painter.drawText(
+        inner, Qt::AlignVCenter | Qt::TextSingleLine | (centred ? Qt::AlignHCenter : Qt::AlignLeft),
+        painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()));
+}
+
+SelectGridDelegate::SelectGridDelegate(const SelectGridModel& model, int descriptionHeight,
+                                       QObject* parent)
+    : QAbstractItemDelegate(parent), model_(model), descriptionHeight_(descriptionHeight) {}
+
+QRect SelectGridDelegate::PartOf(const QRect& cell, int part) const {
+    const int description = cell.bottom() + 1 - descriptionHeight_;
+    const int code = (cell.top() + description) / 2;
+    const int edges[] = {cell.top(), code, description, cell.bottom() + 1};
+    return QRect(cell.left(), edges[part], cell.width(), edges[part + 1] - edges[part]);
+}
+
+void SelectGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+    GuardEvent(u"frmSelectGrid_grdSelection.GetStyleRowCol", [&] {
+        painter->save();
+        const QPalette& palette = option.palette;
+        for (int part = 0; part < kParts; ++part) {
+            const SelectCell cell = model_.CellOf(index, part);
+            const QRect area = PartOf(option.rect, part);
+            QColor text = palette.color(QPalette::Text);
+            if (cell.background) {
+                painter->fillRect(area, ToQColor(*cell.background, palette));
+                text = Qt::black;
+            }
+            if (cell.textColor) text = ToQColor(*cell.textColor, palette);
+            if (cell.kind == SelectCell::Kind::Check) {
+                DrawCheckMark(*painter, option, area, cell.checked);
+            } else {
+                DrawCellText(*painter, area, cell, text);
+            }
+        }
+        painter->restore();
+    });
+}
+
+QSize SelectGridDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return option.rect.size();
+}
+
+bool SelectGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip) return false;
+    GuardEvent(u"frmSelectGrid_grdSelection.GetStyleRowCol", [&] {
+        for (int part = 0; part < kParts; ++part) {
+            const QRect area = PartOf(option.rect, part);
+            if (!area.contains(event->pos())) continue;
+            const SelectCell cell = model_.CellOf(index, part);
+            QToolTip::showText(event->globalPos(), ToToolTip(cell.toolTip), view, area);
+        }
+    });
+    return true;
+}
+
+}  // namespace halvek

@@ -1,0 +1,118 @@
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/TypedCodesEdit.h>
+
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include <limits>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::size_t kMostEdited = 200'000;
+constexpr std::size_t kMostShown = 1000;
+
+}  // namespace
+
+TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
+    : QLineEdit(parent), rules_(rules) {
+    setObjectName(QLatin1String("txtSelect"));
+    setAccessibleName(tr("Selected codes"));
+    setMaxLength(std::numeric_limits<int>::max());
+    connect(this, &QLineEdit::textChanged, this, &TypedCodesEdit::TextEdited);
+}
+
+void TypedCodesEdit::TextEdited() {
+    if (mirroring_) return;
+    GuardEvent(u"frmSelectGrid.txtSelect_Change", [this] {
+        const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
+        rules_.EditBox(text(), caret, selectionLength());
+    });
+}
+
+void TypedCodesEdit::Refresh() {
+    const TypedCodesBox& box = rules_.Box();
+    setEnabled(box.enabled);
+    if (std::exchange(shownVersion_, rules_.BoxVersion()) == rules_.BoxVersion()) return;
+    const QScopedValueRollback mirroring(mirroring_, true);
+    // Every change of a line edit costs time in proportion to its text.
+    const bool tooLong = box.text.size() > kMostEdited;
+    setReadOnly(tooLong);
+    setToolTip(tooLong ? tr("Too many codes to be edited here") : QString());
+    const QString wanted =
+        tooLong ? ToQString(std::u16string_view(box.text).substr(0, kMostShown)) + QChar(0x2026)
+                : ToQString(box.text);
+    if (text() != wanted) setText(wanted);
+    setCursorPosition(box.caret);
+    if (box.selected > 0) setSelection(box.caret, box.selected);
+}
+
+void TypedCodesEdit::focusInEvent(QFocusEvent* event) {
+    // A key that moves the focus here would select the whole text, and the next letter replace it.
+    const int caret = cursorPosition();
+    const int start = selectionStart();
+    const int length = selectionLength();
+    QLineEdit::focusInEvent(event);
+    if (length > 0) {
+        setSelection(start, length);
+    } else {
+        setCursorPosition(caret);
+    }
+    const Qt::FocusReason reason = event->reason();
+    enteredByClick_ = reason == Qt::MouseFocusReason;
+    if (enteredByClick_) return;
+    const bool restored =
+        wasFocused_ && (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                        reason == Qt::OtherFocusReason);
+    EnterBox(restored ? SelectGrid::BoxFocus::Restored : SelectGrid::BoxFocus::Entered);
+}
+
+void TypedCodesEdit::EnterBox(SelectGrid::BoxFocus how) {
+    wasFocused_ = true;
+    GuardEvent(u"frmSelectGrid.txtSelect_GotFocus", [&] { rules_.FocusBox(how); });
+}
+
+void TypedCodesEdit::mousePressEvent(QMouseEvent* event) {
+    QLineEdit::mousePressEvent(event);
+    // Not before the click has set the caret: a refusal marks what is wrong.
+    if (std::exchange(enteredByClick_, false)) EnterBox(SelectGrid::BoxFocus::Entered);
+}
+
+void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    commaIsDown_ = false;
+}
+
+void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { rules_.Accept(); });
+        return;
+    }
+    if (!event->isAutoRepeat() && !event->text().isEmpty() && !EndComma()) return;
+    if (event->text() == QLatin1String(",")) commaIsDown_ = true;
+    QLineEdit::keyPressEvent(event);
+}
+
+/// Who types fast presses the next key before the comma is up; the comma counts as released then.
+/// False when what the box holds is refused.
+bool TypedCodesEdit::EndComma() {
+    commaEnded_ = std::exchange(commaIsDown_, false);
+    bool accepted = true;
+    if (commaEnded_) {
+        GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [&] { accepted = rules_.ValidateBox(); });
+    }
+    return accepted;
+}
+
+void TypedCodesEdit::keyReleaseEvent(QKeyEvent* event) {
+    QLineEdit::keyReleaseEvent(event);
+    if (event->key() != Qt::Key_Comma || event->isAutoRepeat()) return;
+    commaIsDown_ = false;
+    if (std::exchange(commaEnded_, false)) return;
+    GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [this] { rules_.ReleaseComma(); });
+}
+
+}  // namespace halvek

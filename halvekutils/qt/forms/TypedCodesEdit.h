@@ -1,0 +1,42 @@
+#pragma once
+
+#include <halvekutils/selection/SelectGrid.h>
+
+#include <QLineEdit>
+
+#include <cstdint>
+
+namespace halvek {
+
+/// txtSelect: mirrors the rules' box of typed codes and tells them what the user does in it.
+class TypedCodesEdit : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    TypedCodesEdit(SelectGrid& rules, QWidget* parent);
+
+    /// Takes over what the rules, not the user, have changed in the box.
+    void Refresh();
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+  private:
+    void TextEdited();
+    void EnterBox(SelectGrid::BoxFocus how);
+    bool EndComma();
+
+    SelectGrid& rules_;
+    std::uint32_t shownVersion_ = 0;
+    bool mirroring_ = false;
+    bool enteredByClick_ = false;
+    bool wasFocused_ = false;
+    bool commaIsDown_ = false;
+    bool commaEnded_ = false;  ///< before it was released
+};
+
+}  // namespace halvek

@@ -1,0 +1,89 @@
+#include <halvekutils/selection/SelectGrid.h>
+#include <halvekutils/selection/SelectGridLayout.h>
+#include <halvekutils/selection/SelectionList.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::int32_t kMargin = 120;
+constexpr std::int32_t kGap = 90;
+constexpr Size kButton = {1215, 375};
+constexpr std::int32_t kBoxPadding = 150;
+constexpr std::int32_t kCellPadding = 150;
+constexpr std::int32_t kRowPadding = 60;
+constexpr std::int32_t kHeaderPadding = 120;
+
+constexpr std::int32_t kReadableLength = 8;
+constexpr std::int32_t kMeasuredLength = 200;  // wider than any column
+
+std::int32_t CodeWidth(std::int32_t length, const TextMeter& meter) {
+    const auto count = static_cast<std::size_t>(std::clamp(length, 0, kMeasuredLength));
+    return meter.TextWidth(std::u16string(count, u'W'), CodeFont()) + kCellPadding;
+}
+
+std::int32_t ColumnWidth(std::int32_t longest, const TextMeter& meter, std::int32_t space) {
+    const std::int32_t name = meter.TextWidth(kAllCodesName, DescriptionFont()) + kCellPadding;
+    const std::int32_t wanted = std::max(CodeWidth(longest, meter), name);
+    const std::int32_t least = CodeWidth(std::min(longest, kReadableLength), meter);
+    return std::max(std::min(wanted, space / SelectionList::kColumns), least);
+}
+
+void MeasureRows(SelectGridLayout& layout, const TextMeter& meter) {
+    layout.codeHeight = meter.TextHeight({}, CodeFont()) + kRowPadding;
+    layout.descriptionHeight = meter.TextHeight({}, DescriptionFont()) + kRowPadding;
+    layout.headerHeight = layout.codeHeight - kRowPadding + kHeaderPadding;
+}
+
+/// The grid's height for whole bands in the space there is, at most for all of them.
+std::int32_t FitBands(SelectGridLayout& layout, std::int32_t bands, std::int32_t space,
+                      std::int32_t besideBands) {
+    const std::int32_t band = 2 * layout.codeHeight + layout.descriptionHeight;
+    const std::int32_t fitting = std::max((space - besideBands) / band, 1);
+    layout.bandsOnPage = std::min(fitting, std::max(bands, 1));
+    layout.scrollsDown = bands > layout.bandsOnPage;
+    return std::min(besideBands + layout.bandsOnPage * band, std::max(space, 0));
+}
+
+}  // namespace
+
+SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMeter& meter,
+                                  Size screen, Size frame) {
+    SelectGridLayout layout;
+    MeasureRows(layout, meter);
+    const Size most = {screen.width - frame.width, screen.height - frame.height};
+    const std::int32_t boxHeight = meter.TextHeight({}, CodeFont()) + kBoxPadding;
+    const std::int32_t bars = 2 * content.gridBorder;
+
+    // Across: the bar is allowed for, whether the bands need it or not.
+    const std::int32_t besideColumns = 2 * kMargin + bars + content.scrollBarWidth;
+    layout.columnWidth = ColumnWidth(content.longestCodeLength, meter, most.width - besideColumns);
+    const std::int32_t columns = layout.columnWidth * SelectionList::kColumns;
+    layout.inner.width = std::min(columns + besideColumns, most.width);
+    layout.scrollsAcross = columns + besideColumns > most.width;
+
+    // Down
+    const std::int32_t gridTop = kMargin + boxHeight + kGap;
+    const std::int32_t belowGrid = kGap + kButton.height + kMargin;
+    const std::int32_t besideBands =
+        layout.headerHeight + bars + (layout.scrollsAcross ? content.scrollBarWidth : 0);
+    const std::int32_t gridHeight = FitBands(layout, content.rowCount / SelectionList::kRowsPerBand,
+                                             most.height - gridTop - belowGrid, besideBands);
+    layout.inner.height = std::min(gridTop + gridHeight + belowGrid, most.height);
+
+    const std::int32_t width = layout.inner.width - 2 * kMargin;
+    const std::int32_t buttonTop = layout.inner.height - kMargin - kButton.height;
+    layout.box = {kMargin, kMargin, width, boxHeight};
+    layout.grid = {kMargin, gridTop, width, gridHeight};
+    layout.exit = {kMargin + width - kButton.width, buttonTop, kButton.width, kButton.height};
+    layout.ok = layout.exit;
+    layout.ok.left -= kButton.width + kGap;
+    layout.form = {layout.inner.width + frame.width, layout.inner.height + frame.height};
+    return layout;
+}
+
+}  // namespace halvek

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Geometry.h>
+
+#include <cstdint>
+
+namespace halvek {
+
+/// The sizes and places of a selection dialog's parts, in twips.
+struct SelectGridLayout {
+    Size form;   ///< with the window's frame
+    Size inner;  ///< without it
+    Rect box;    ///< txtSelect
+    Rect grid;   ///< grdSelection, with its border and scroll bars
+    Rect ok;     ///< cmdOK
+    Rect exit;   ///< cmdExit
+    std::int32_t columnWidth = 0;
+    std::int32_t headerHeight = 0;       ///< of row 0
+    std::int32_t codeHeight = 0;         ///< of a check row and a code row
+    std::int32_t descriptionHeight = 0;  ///< of a description row
+    std::int32_t bandsOnPage = 1;        ///< how many bands show whole at a time, at least 1
+    bool scrollsDown = false;            ///< the grid holds more bands than it shows
+    bool scrollsAcross = false;          ///< the screen is too narrow for ten readable columns
+};
+
+/// What a selection dialog's layout is made of besides the text meter.
+struct SelectGridContent {
+    std::int32_t longestCodeLength = 0;
+    std::int32_t rowCount = 0;  ///< of the grid, without the header
+    std::int32_t scrollBarWidth = 270;
+    std::int32_t gridBorder = 15;  ///< the width of the grid's own border on each side
+};
+
+/// Lays a selection dialog out on a screen, for a window frame that adds `frame` to its inner size.
+///
+/// Columns are as wide as the longest code needs, and at least as wide as the description of the
+/// pseudo-entry. Ten of them fit on the screen; longer codes are cut off, but never so that fewer
+/// than eight characters show: then the grid scrolls across. The grid shows whole bands, all of
+/// them when the screen has room.
+HALVEK_EXPORT SelectGridLayout LayOutSelectGrid(const SelectGridContent& content,
+                                                const TextMeter& meter, Size screen, Size frame);
+
+}  // namespace halvek

@@ -1,0 +1,159 @@
+#include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/StringArray.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/text/CharacterFilter.h>
+#include <halvekutils/text/DelimitedText.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+using CodeTable = std::array<bool, 256>;
+
+constexpr CodeTable kUnwanted = [] {
+    CodeTable table{};
+    for (std::size_t code = 0; code < table.size(); ++code) table[code] = code < 32 || code >= 127;
+    table[u'\n'] = table[u'\r'] = false;
+    for (const char reserved : {':', '^', '`', '|'})
+        table[static_cast<std::size_t>(reserved)] = true;
+    return table;
+}();
+
+// What the user reads. The tilde is forbidden here only: every filter lets it pass.
+constexpr std::u16string_view kForbidden = u"| : ^ ` ~";
+constexpr int kBackspace = 8;
+
+/// Which codes are removed, and the characters that a message names.
+struct Filter {
+    CodeTable removed = kUnwanted;
+    std::u16string named{kForbidden};
+};
+
+/// False when the exceptions cannot be cut apart.
+bool ReadExceptions(TextIn strExceptions, Filter& filter) {
+    if (strExceptions.empty()) return true;
+    StringArray exceptions;
+    if (!StrToArr(strExceptions, u",", exceptions)) return false;
+    for (const std::u16string& exception : exceptions) {
+        if (!exception.empty()) filter.removed[CodeOf(exception.front())] = false;
+    }
+    filter.named.clear();
+    for (std::size_t i = 0; i < kForbidden.size(); i += 2) {
+        const std::u16string_view character = kForbidden.substr(i, 1);
+        if (std::ranges::find(exceptions, character) == exceptions.end()) {
+            filter.named.append(u" ").append(character);
+        }
+    }
+    return true;
+}
+
+/// The code of a character, at hand for the many that are ASCII.
+std::uint8_t QuickCodeOf(char16_t character) {
+    return character < 0x80 ? static_cast<std::uint8_t>(character) : CodeOf(character);
+}
+
+/// The text with some characters replaced. `keeps(character, code)` is true for those that stay;
+/// `replace(code, out)` appends what stands for any other.
+template <class Keeps, class Replace>
+std::u16string Replaced(TextIn text, const Keeps& keeps, const Replace& replace) {
+    std::u16string out;
+    out.reserve(text.size());
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::uint8_t code = QuickCodeOf(text[i]);
+        if (keeps(text[i], code)) continue;
+        out.append(text, start, i - start);
+        replace(code, out);
+        start = i + 1;
+    }
+    return out.append(text, start);
+}
+
+std::u16string MessageOf(const Filter& filter, bool bDoNotRemoveUnwantedChars) {
+    const std::u16string_view headline = bDoNotRemoveUnwantedChars
+                                             ? u"Invalid characters were found."
+                                             : u"Invalid characters were found and removed.";
+    return std::u16string(headline) + u"\r\nThe following characters may not be used: \r\n" +
+           filter.named + u"\r\n";
+}
+
+/// Both texts for the debug console, which drops what comes outside debug mode.
+void TellDebugConsole(Services& session, TextIn strIN, TextIn result) {
+    if (!session.DebugMode()) return;
+    session.ShowInDebug(u"Invalid chars fnd and rmvd.\r\nstrIN:     " + strIN.Str() +
+                        u"\r\nstrOUT: " + result.Str() + u"\r\n");
+}
+
+}  // namespace
+
+bool IsUnwantedChar(std::int32_t locChar) {
+    const auto last = static_cast<std::int32_t>(kUnwanted.size()) - 1;
+    return kUnwanted[static_cast<std::size_t>(std::clamp(locChar, 0, last))];
+}
+
+bool IsDateChar(std::int32_t locChar) {
+    if (locChar < 0 || locChar > 255) {
+        throw RuntimeError(Fault::InvalidArgument, u"character code " + IntegerText(locChar));
+    }
+    return (locChar >= u'0' && locChar <= u'9') || locChar == u'/' || locChar == kBackspace;
+}
+
+bool IsAlpha(TextIn strText) {
+    return std::ranges::all_of(strText, [](char16_t character) {
+        return (character >= u'A' && character <= u'Z') || (character >= u'a' && character <= u'z');
+    });
+}
+
+std::u16string RemoveUnprintableChars(TextIn str) {
+    const auto keeps = [](char16_t character, std::uint8_t) {
+        return character >= 32 && character <= 126;
+    };
+    const auto replace = [](std::uint8_t code, std::u16string& out) {
+        if (code >= 32 && code <= 126) {  // the "?" of a character that the code page lacks
+            out += CharacterOf(code);
+            return;
+        }
+        out += u'<' + IntegerText(code) + u'>';
+        if (code == u'\r') out += u"\r\n";
+    };
+    return Replaced(str, keeps, replace);
+}
+
+FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith,
+                                 bool bDoNotRemoveUnwantedChars, TextIn strExceptions) {
+    FilterReport report;
+    Filter filter;
+    if (strIN.empty() || !ReadExceptions(strExceptions, filter)) {
+        strOUT.clear();
+        return report;
+    }
+    const auto keeps = [&](char16_t character, std::uint8_t code) {
+        return !filter.removed[code] && (character < 0x80 || CharacterOf(code) == character);
+    };
+    const auto replace = [&](std::uint8_t code, std::u16string& out) {
+        if (filter.removed[code]) {
+            report.found = true;
+            out.append(strReplaceWith);
+        } else {
+            out += CharacterOf(code);
+        }
+    };
+    std::u16string result = Replaced(strIN, keeps, replace);
+    // The input may be a view of the output, which is written once the input is read.
+    const std::u16string original(report.found || bDoNotRemoveUnwantedChars ? strIN : TextIn());
+    strOUT = bDoNotRemoveUnwantedChars ? original : result;
+    if (report.found) {
+        TellDebugConsole(Services::Current(), original, result);
+        report.message = MessageOf(filter, bDoNotRemoveUnwantedChars);
+    }
+    return report;
+}
+
+}  // namespace halvek

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+// The rules behind the members of Utils of the same names, which document them for a host.
+
+HALVEK_EXPORT bool IsUnwantedChar(std::int32_t locChar);
+HALVEK_EXPORT bool IsDateChar(std::int32_t locChar);
+HALVEK_EXPORT bool IsAlpha(TextIn strText);
+HALVEK_EXPORT std::u16string RemoveUnprintableChars(TextIn str);
+
+/// What a filter has to tell.
+struct FilterReport {
+    bool found = false;      ///< an unwanted character was found
+    std::u16string message;  ///< what the user is to read about it; empty when nothing was found
+};
+
+/// Writes the text without its unwanted characters. The report's message is left to the caller to
+/// show; in debug mode the debug console of the current session gets both texts.
+HALVEK_EXPORT FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT,
+                                               TextIn strReplaceWith = {},
+                                               bool bDoNotRemoveUnwantedChars = false,
+                                               TextIn strExceptions = {});
+
+}  // namespace halvek

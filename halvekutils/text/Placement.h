@@ -1,0 +1,49 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/platform/Controls.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Geometry.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace halvek {
+
+/// The edge of a pop-up that a given left position fixes.
+enum class PopupEdge : std::int32_t {
+    Left,   ///< calendar and palette: its left edge lies on the target's left edge
+    Right,  ///< selection list: its right edge lies on the target's right edge
+};
+
+/// Where a pop-up is asked to open, in twips on the screen. What is absent is not given.
+struct PopupAnchor {
+    PopupEdge edge = PopupEdge::Left;
+    std::optional<std::int32_t> left;           ///< where that edge of the pop-up lies
+    std::optional<std::int32_t> topUp;          ///< the target's top: the pop-up may end here
+    std::optional<std::int32_t> topDown;        ///< the target's bottom: the pop-up may start here
+    std::optional<Rect> screen = std::nullopt;  ///< the usable part of the target's screen
+
+    friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;
+};
+
+/// The anchor that a host's positions ask for, rounded to whole twips. A negative position, or one
+/// that is no number, is not given.
+HALVEK_EXPORT PopupAnchor AnchorAt(PopupEdge edge, float posLeft, float posTopUp, float posTopDown);
+
+/// The anchor of a pop-up beside a button or cell, on any screen. Throws ObjectNotSet when the
+/// target is gone.
+HALVEK_EXPORT PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target);
+
+/// The usable part of the screen that the pop-up belongs on: the target's; else the one that holds
+/// the position; else the one that a new dialog opens on.
+HALVEK_EXPORT Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop);
+
+/// The top left corner of a pop-up of this outer size, wholly inside the usable part of a screen.
+///
+/// It opens below its target when there is room, else above; where neither has room, on the side
+/// that has more, moved back into the screen. In a direction that is not given it is centred. A
+/// pop-up larger than the screen keeps its top left corner on it.
+HALVEK_EXPORT Point PlacePopup(const PopupAnchor& anchor, Size outer, const Rect& screen);
+
+}  // namespace halvek
