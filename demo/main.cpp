@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -58,12 +59,14 @@ QString LogFolder(const QCommandLineParser& options) {
 int PlayTour(MainWindow& window, Desk& desk, const QString& folder) {
     Tour tour(folder, desk.Calls());
     int code = EXIT_FAILURE;
-    const auto play = [&] {
+    QTimer start;
+    start.setSingleShot(true);
+    QObject::connect(&start, &QTimer::timeout, [&] {
         window.Play(tour);
         code = tour.Finish();
         QCoreApplication::quit();
-    };
-    QMetaObject::invokeMethod(&window, play, Qt::QueuedConnection);
+    });
+    start.start();
     QCoreApplication::exec();
     return code;
 }

@@ -15,7 +15,7 @@ using namespace halvek;
 namespace {
 
 constexpr int kLongestCountdown = 86'400;
-constexpr int kArgumentsWidth = 300;
+constexpr int kLeastChoiceWidth = 200;
 // A value that no enumeration has, to see what becomes of it.
 constexpr int kUnknownValue = 99;
 
@@ -93,7 +93,7 @@ QLayout* MessageBoxPage::MakeArguments() {
     AddRow(*form, "&Countdown", countdown_);
     form->addRow(QString(), show_);
     AddRow(*form, "&Returned", returned_);
-    sample_.setMinimumWidth(kArgumentsWidth * 2 / 3);
+    sample_.setMinimumWidth(kLeastChoiceWidth);
     return form;
 }
 
