@@ -15,15 +15,21 @@ constexpr std::array<char16_t, 32> kUpperControls = {
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
+// The codes of the characters up to the last that the page has.
+constexpr auto kCodes = [] {
+    std::array<std::uint8_t, 0x2123> codes{};
+    codes.fill('?');
+    for (std::size_t code = 0; code < 256; ++code) {
+        const bool upper = code >= 0x80 && code < 0xA0;
+        codes[upper ? kUpperControls[code - 0x80] : code] = static_cast<std::uint8_t>(code);
+    }
+    return codes;
+}();
+
 }  // namespace
 
 std::uint8_t CodeOf(char16_t character) noexcept {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
-        return static_cast<std::uint8_t>(character);
-    }
-    const auto found = std::ranges::find(kUpperControls, character);
-    if (found == kUpperControls.end()) return '?';
-    return static_cast<std::uint8_t>(0x80 + (found - kUpperControls.begin()));
+    return character < kCodes.size() ? kCodes[character] : std::uint8_t{'?'};
 }
 
 char16_t CharacterOf(std::uint8_t code) noexcept {

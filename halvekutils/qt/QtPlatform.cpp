@@ -22,7 +22,7 @@ namespace halvek {
 
 namespace {
 
-constexpr Size kTypicalFrame = {0, 450};
+constexpr Size kTypicalFrame = {120, 450};
 
 void RequireUserInterfaceThread() {
     const auto* const app = qobject_cast<QApplication*>(QCoreApplication::instance());

@@ -35,11 +35,11 @@ void Append(std::u16string& codes, std::u16string_view code) {
 }
 
 /// The codes of a text, joined anew, all but one.
-std::u16string JoinedWithout(std::u16string_view text, std::u16string_view left_out) {
+std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
     codes.reserve(text.size());
     ForEachCode(text, [&](std::u16string_view code) {
-        if (!code.empty() && code != left_out) Append(codes, code);
+        if (!code.empty() && code != leftOut) Append(codes, code);
         return true;
     });
     return codes;
@@ -261,44 +261,30 @@ void SelectGrid::ClearMarks() {
 // Moving in the grid
 
 void SelectGrid::KeyDown(Key key, std::int32_t bandsOnPage) {
-    if (!open_) return;
-    if (key == Key::Enter) {
-        Accept();
-        return;
-    }
-    if (current_ == 0) return;
+    if (key == Key::Enter) return Accept();
+    if (!open_ || current_ == 0) return;
     const std::int32_t page = std::max(bandsOnPage, 1);
     switch (key) {
         case Key::Space:
-            searched_.clear();
-            Toggle(current_);
-            break;
+            return Toggle(current_);
         case Key::Left:
-            MoveTo(current_ - 1, -1);
-            break;
+            return MoveTo(current_ - 1, -1);
         case Key::Right:
-            MoveTo(current_ + 1, 1);
-            break;
+            return MoveTo(current_ + 1, 1);
         case Key::Home:
-            MoveTo(1, 1);
-            break;
+            return MoveTo(SelectionList::kAllCodes, 1);
         case Key::End:
-            MoveTo(list_.LastShown(), -1);
-            break;
+            return MoveTo(list_.LastShown(), -1);
         case Key::Up:
-            MoveAcrossBands(-1);
-            break;
+            return MoveAcrossBands(-1);
         case Key::Down:
-            MoveAcrossBands(1);
-            break;
+            return MoveAcrossBands(1);
         case Key::PageUp:
-            MoveAcrossBands(-page);
-            break;
+            return MoveAcrossBands(-page);
         case Key::PageDown:
-            MoveAcrossBands(page);
-            break;
+            return MoveAcrossBands(page);
         case Key::Enter:
-            break;
+            break;  // above
     }
 }
 
@@ -343,10 +329,9 @@ std::int32_t SelectGrid::FindByStart(std::u16string_view start, std::int32_t fro
     const std::int32_t last = list_.LastShown();
     for (std::int32_t i = 0; i < last; ++i) {
         const std::int32_t entry = (from - 1 + i) % last + 1;
-        if (StartsFolded(Trimmed(list_.Code(entry)), start) ||
-            StartsFolded(Trimmed(list_.Description(entry)), start)) {
-            if (list_.HasCode(entry)) return entry;
-        }
+        const bool begins = StartsFolded(Trimmed(list_.Code(entry)), start) ||
+                            StartsFolded(Trimmed(list_.Description(entry)), start);
+        if (begins && list_.HasCode(entry)) return entry;
     }
     return 0;
 }
@@ -443,6 +428,7 @@ bool SelectGrid::RefuseForm(std::size_t start, std::size_t length) {
 
 bool SelectGrid::MarkTypedCodes() {
     ClearMarks();
+    choice_.reserve(box_.text.size());
     bool accepted = true;
     bool twice = false;
     ForEachCode(box_.text, [&](std::u16string_view code) {

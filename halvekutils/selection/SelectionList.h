@@ -51,12 +51,12 @@ class HALVEK_EXPORT SelectionList {
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }
 
   private:
-    std::u16string_view Piece(std::int32_t entry) const;
+    std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
     void ReadEntries(bool doNotIncludeDeleted);
     void IndexCodes();
     void AddToIndex(std::int32_t entry);
-    void GrowIndex();
+    void ResizeIndex(std::size_t size);
     std::size_t SlotOf(std::u16string_view code) const;
 
     std::u16string values_;

@@ -21,8 +21,7 @@ constexpr CodeTable kUnwanted = [] {
     CodeTable table{};
     for (std::size_t code = 0; code < table.size(); ++code) table[code] = code < 32 || code >= 127;
     table[u'\n'] = table[u'\r'] = false;
-    for (const char reserved : {':', '^', '`', '|'})
-        table[static_cast<std::size_t>(reserved)] = true;
+    for (const char16_t reserved : {u':', u'^', u'`', u'|'}) table[reserved] = true;
     return table;
 }();
 
@@ -54,11 +53,6 @@ bool ReadExceptions(TextIn strExceptions, Filter& filter) {
     return true;
 }
 
-/// The code of a character, at hand for the many that are ASCII.
-std::uint8_t QuickCodeOf(char16_t character) {
-    return character < 0x80 ? static_cast<std::uint8_t>(character) : CodeOf(character);
-}
-
 /// The text with some characters replaced. `keeps(character, code)` is true for those that stay;
 /// `replace(code, out)` appends what stands for any other.
 template <class Keeps, class Replace>
@@ -67,13 +61,14 @@ std::u16string Replaced(TextIn text, const Keeps& keeps, const Replace& replace)
     out.reserve(text.size());
     std::size_t start = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::uint8_t code = QuickCodeOf(text[i]);
+        const std::uint8_t code = CodeOf(text[i]);
         if (keeps(text[i], code)) continue;
         out.append(text, start, i - start);
         replace(code, out);
         start = i + 1;
     }
-    return out.append(text, start);
+    out.append(text, start);
+    return out;
 }
 
 std::u16string MessageOf(const Filter& filter, bool bDoNotRemoveUnwantedChars) {
@@ -146,13 +141,14 @@ FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn st
         }
     };
     std::u16string result = Replaced(strIN, keeps, replace);
-    // The input may be a view of the output, which is written once the input is read.
-    const std::u16string original(report.found || bDoNotRemoveUnwantedChars ? strIN : TextIn());
-    strOUT = bDoNotRemoveUnwantedChars ? original : result;
-    if (report.found) {
-        TellDebugConsole(Services::Current(), original, result);
-        report.message = MessageOf(filter, bDoNotRemoveUnwantedChars);
+    if (!report.found) {
+        strOUT = bDoNotRemoveUnwantedChars ? strIN.Str() : std::move(result);
+        return report;
     }
+    const std::u16string original(strIN);  // it may be a view of the output
+    strOUT = bDoNotRemoveUnwantedChars ? original : result;
+    TellDebugConsole(Services::Current(), original, result);
+    report.message = MessageOf(filter, bDoNotRemoveUnwantedChars);
     return report;
 }
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <random>
 #include <string>
@@ -25,7 +26,8 @@ constexpr const char16_t* kCodes = u"H:A\tAlpha\t0:B\tBeta\t1:C\tCeta\t0:it's\tq
 /// Codes C2, C3, ... as entries 2 and up.
 std::u16string NumberedCodes(int count) {
     std::u16string values = u"H:";
-    for (int i = 2; i < count + 2; ++i) values.append(u"C").append(IntegerText(i)).append(u"\tName\t0:");
+    for (int i = 2; i < count + 2; ++i)
+        values.append(u"C").append(IntegerText(i)).append(u"\tName\t0:");
     return values;
 }
 
@@ -36,9 +38,11 @@ class SelectGridTest : public CleanState {
     SelectGrid& Open(TextIn allValues, TextIn selected = {}, TextIn typed = {}) {
         told_.clear();
         SelectionRequest request{u"Codes", allValues.Str(), selected.Str(), typed.Str()};
-        grid_ = std::make_unique<SelectGrid>(
-            std::move(request), Services::Current(),
-            [this](const SelectionMessage& message) { told_.push_back(message); });
+        grid_ = std::make_unique<SelectGrid>(std::move(request), Services::Current(),
+                                             [this](const SelectionMessage& message) {
+                                                 told_.push_back(message);
+                                                 if (onMessage_) onMessage_();
+                                             });
         grid_->Prepare();
         return *grid_;
     }
@@ -65,6 +69,7 @@ class SelectGridTest : public CleanState {
 
     std::unique_ptr<SelectGrid> grid_;
     std::vector<SelectionMessage> told_;
+    std::function<void()> onMessage_;
 };
 
 TEST_F(SelectGridTest, MarksTheIncomingSelectionAndTellsOfUnknownCodes) {
@@ -273,13 +278,6 @@ TEST_F(SelectGridTest, ChangedMeansAToggleAnEmptiedBoxOrOtherMarks) {
     }
 }
 
-TEST_F(SelectGridTest, EmptyingTheBoxByTogglesClearsTheTickOfAllCodesToo) {
-    SelectGrid& grid = Open(u"H:A\t\t0:B\t\t0:");
-    for (const std::int32_t column : {1, 2, 3}) grid.ClickCell(1, column);
-    EXPECT_EQ(Ticked(), u"");
-    EXPECT_EQ(grid.Box().text, u"");
-}
-
 TEST_F(SelectGridTest, ATypedCharacterIsCheckedLaterThanTheFirstFocus) {
     const struct {
         const char16_t *selected, *typed, *box;
@@ -298,34 +296,26 @@ TEST_F(SelectGridTest, ATypedCharacterIsCheckedLaterThanTheFirstFocus) {
 }
 
 TEST_F(SelectGridTest, ShowsCaretAndMarksBeforeAMessageAndIgnoresChecksMeanwhile) {
-    SelectionRequest request{u"Codes", kCodes, u""};
-    std::u16string seen;
-    std::vector<int> carets;
-    SelectGrid* shown = nullptr;
-    SelectGrid grid(request, Services::Current(), [&](const SelectionMessage& message) {
-        seen = message.text;
-        carets.push_back(-1);
-        shown->FocusBox(Focus::Entered);
-        EXPECT_TRUE(shown->ValidateBox());
-        EXPECT_EQ(shown->HeaderText(), u"Codes  (A)");
-    });
-    shown = &grid;
-    grid.Prepare();
-    grid.Changed = [&] { carets.push_back(grid.Box().caret); };
-    grid.EditBox(u"A,x", 3);
-    carets.clear();
+    SelectGrid& grid = Open(kCodes);
+    Type(u"A,x");
+    std::int32_t caretShown = -1;
+    grid.Changed = [&] { caretShown = grid.Box().caret; };
+    onMessage_ = [&] {
+        EXPECT_EQ(caretShown, 2);
+        EXPECT_EQ(grid.HeaderText(), u"Codes  (A)");
+        grid.FocusBox(Focus::Entered);
+        EXPECT_TRUE(grid.ValidateBox());
+    };
     grid.ReleaseComma();
-    EXPECT_EQ(seen, u"'x' is not a valid entry.");
-    ASSERT_GE(carets.size(), 2u);
-    EXPECT_EQ(carets[0], 2);
-    EXPECT_EQ(carets[1], -1);
+    EXPECT_EQ(Told(), Texts{u"'x' is not a valid entry."});
 }
 
 TEST_F(SelectGridTest, MovesFromCodeToCode) {
     // Entries 2 to 24 have codes but for 5 and 14; the last is the empty piece 25.
     std::u16string values = NumberedCodes(23);
-    for (const char16_t* code : {u"C5\t", u"C14\t"})
-        values.replace(values.find(code), TextIn(code).size(), u"\t");
+    for (const TextIn code : {u"C5\t", u"C14\t"}) {
+        values.replace(values.find(code), code.size(), u"\t");
+    }
     const struct {
         int from;
         Key key;
@@ -370,15 +360,13 @@ TEST_F(SelectGridTest, TypedLettersFindCodesAndDescriptions) {
 }
 
 TEST_F(SelectGridTest, LogsAFaultAndStaysUsable) {
-    SelectionRequest request{u"Codes", kCodes, u""};
-    SelectGrid grid(request, Services::Current(),
-                    [](const SelectionMessage&) { throw std::bad_alloc(); });
-    grid.Prepare();
-    grid.EditBox(u"x", 1);
+    onMessage_ = [] { throw std::bad_alloc(); };
+    SelectGrid& grid = Open(kCodes);
+    Type(u"x");
     EXPECT_FALSE(grid.ValidateBox());
     EXPECT_TRUE(ReadFile(machine_.ownFolder / "Error.Log")
                     .ends_with("ERR in frmSelectGrid.FindOneItem: Out of memory\r\n"));
-    grid.EditBox(u"A", 1);
+    Type(u"A");
     grid.Accept();
     EXPECT_EQ(grid.ReturnValue(), u"A");
 }
@@ -490,7 +478,7 @@ TEST_F(SelectGridTest, AgreesWithPlainScansOnRandomLists) {
                 grid.ClickCell(cell.row + static_cast<int>(random() % 3), cell.column);
                 plain.Toggle(entry);
             } else {
-                std::u16string text = u"A";
+                std::u16string text = alphabet[random() % 4];
                 for (std::size_t i = random() % 4; i > 0; --i) {
                     text += u", " + alphabet[random() % alphabet.size()];
                 }
@@ -517,7 +505,7 @@ TEST_F(SelectGridTest, HandlesAHospitalsLargestList) {
     SelectGrid& grid = Open(NumberedCodes(100'000), selected);
     EXPECT_EQ(Told(), Texts());
     const std::u16string before = grid.Box().text;
-    EXPECT_EQ(before.size(), selected.size() - 2 * 9'999 + 9'998);
+    EXPECT_EQ(before.size(), selected.size() - 10'000);
     for (int i = 0; i < 2'000; ++i) grid.KeyDown(Key::Right), grid.KeyDown(Key::Space);
     for (int i = 0; i < 2'000; ++i) grid.KeyDown(Key::Space), grid.KeyDown(Key::Left);
     EXPECT_EQ(grid.Box().text.size(), before.size());

@@ -1,14 +1,12 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/text/CharacterFilter.h>
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
@@ -150,29 +148,6 @@ TEST_F(CharacterFilter, ShowsUnprintableCharactersAsTheirCodes) {
                 {u"~\u007F\u00E9\u20AC", u"~<127><233><128>"},
                 {u"x\u0142\U0001F600y", u"x???y"}};
     for (const auto& row : rows) EXPECT_EQ(utils_->RemoveUnprintableChars(row.in), row.out);
-}
-
-TEST_F(CharacterFilter, AgreesWithAWalkCharacterByCharacter) {
-    std::mt19937 random(7);
-    for (int round = 0; round < 300; ++round) {
-        std::u16string text, plain, out;
-        for (std::size_t i = random() % 40; i > 0; --i) {
-            text +=
-                random() % 3 == 0 ? static_cast<char16_t>(random()) : u"ab|~\t\u2019"[random() % 6];
-        }
-        bool found = false;
-        for (const char16_t character : text) {
-            const std::uint8_t code = CodeOf(character);
-            found = found || (IsUnwantedChar(code) && code != u'|');
-            if (IsUnwantedChar(code) && code != u'|') {
-                plain += u"<>";
-            } else {
-                plain += CharacterOf(code);
-            }
-        }
-        EXPECT_EQ(RemoveUnwantedChars(text, out, u"<>", false, u"|").found, found);
-        EXPECT_EQ(out, plain) << ToUtf8(text);
-    }
 }
 
 }  // namespace

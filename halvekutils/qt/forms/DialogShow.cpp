@@ -18,7 +18,7 @@ void DialogShow::Modal(const Place& place) {
     QWidget* const owner = Owner();
     Open(owner, Qt::ApplicationModal, place);
     if (owner != nullptr) {
-        QObject::connect(owner, &QObject::destroyed, &dialog_, [this] { abandon_(); });
+        connect(owner, &QObject::destroyed, this, [this] { abandon_(); });
     }
     if (!ended_) loop_.exec();
     abandon_();
@@ -31,7 +31,10 @@ void DialogShow::Modeless(const Place& place) {
 void DialogShow::End() {
     ended_ = true;
     RestorePointer();
+    const bool wasActive = dialog_.isActiveWindow();
     dialog_.hide();
+    // Not every window manager gives the keyboard back.
+    if (wasActive && owner_ != nullptr) owner_->activateWindow();
     loop_.quit();
 }
 
@@ -41,14 +44,31 @@ QWidget* DialogShow::Owner() const {
 }
 
 void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& place) {
+    owner_ = owner;
     dialog_.hide();
     dialog_.setWindowModality(modality);
+    // Before the window has a handle: later the position would be that of its inner part.
+    corner_ = place(owner);
+    dialog_.move(corner_);
     SetOwner(dialog_, owner);
-    dialog_.move(place(owner));
     ShowArrowPointer();
+    dialog_.installEventFilter(this);
+    sinceShown_.start();
     dialog_.show();
     dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
     dialog_.activateWindow();
+}
+
+// Some window managers forget their frame when they place a new window. Where it came to stand is
+// told by the first move, and put right once.
+bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
+    constexpr qint64 kStillOpening = 500;
+    if (event->type() == QEvent::Move && dialog_.isVisible()) {
+        dialog_.removeEventFilter(this);
+        const bool opening = sinceShown_.elapsed() < kStillOpening;
+        if (opening && dialog_.frameGeometry().topLeft() != corner_) dialog_.move(corner_);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void DialogShow::ShowArrowPointer() {

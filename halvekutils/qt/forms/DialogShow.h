@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QEventLoop>
+#include <QPointer>
 
 #include <functional>
 
@@ -10,7 +12,7 @@ namespace halvek {
 /// Shows a dialog above the window that is current, until its rules have ended.
 ///
 /// The dialog has no QObject parent. A busy cursor of the host's gives way to the arrow meanwhile.
-class DialogShow {
+class DialogShow : public QObject {
   public:
     /// The top left corner, with the frame, where the dialog opens; `owner` may be null.
     using Place = std::function<QPoint(const QWidget* owner)>;
@@ -18,16 +20,17 @@ class DialogShow {
     /// @param abandon  ends rules that are still open: called when the owner is destroyed and when
     ///     the modal loop ends, which it also does when the application quits; throws nothing
     DialogShow(QDialog& dialog, std::function<void()> abandon);
-    ~DialogShow();
-    DialogShow(const DialogShow&) = delete;
-    DialogShow& operator=(const DialogShow&) = delete;
+    ~DialogShow() override;
 
     /// Returns when the dialog has ended; one that is on the screen modelessly goes on modally.
     void Modal(const Place& place);
     void Modeless(const Place& place);
 
-    /// The rules have ended: hides the dialog and lets Modal return.
+    /// The rules have ended: hides the dialog, makes its owner active again and lets Modal return.
     void End();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* Owner() const;
@@ -37,7 +40,10 @@ class DialogShow {
 
     QDialog& dialog_;
     std::function<void()> abandon_;
+    QPointer<QWidget> owner_;
     QEventLoop loop_;
+    QPoint corner_;
+    QElapsedTimer sinceShown_;
     bool ended_ = false;
     bool pointerSaved_ = false;
 };
