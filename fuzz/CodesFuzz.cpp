@@ -1,4 +1,5 @@
 #include "fuzz/FuzzText.h"
+#include "tests/FakeServices.h"
 
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/refdata/CodesCollection.h>
@@ -8,17 +9,6 @@
 using namespace halvek;
 
 namespace {
-
-class SilentServices : public Services {
-  public:
-    void LogError(TextIn) noexcept override { ++refused; }
-    bool DebugMode() const override { return false; }
-    std::u16string AppName() const override { return {}; }
-    Color FormSkinColor() const override { return 0; }
-    Color FormTextColor() const override { return 0; }
-
-    int refused = 0;
-};
 
 std::u16string Folded(std::u16string text) {
     for (char16_t& character : text) character = FoldCase(character);
@@ -30,7 +20,7 @@ std::u16string Folded(std::u16string text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::u16string text = FuzzText(data, size);
     const auto codes = CodesCollection::CreateEmpty();
-    SilentServices services;
+    FakeServices services;
     codes->AddRecords(text, services);
 
     std::set<std::u16string> keys;
@@ -45,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (end > start) ++records;
         start = end + 1;
     }
-    Require(records == static_cast<std::size_t>(codes->Count() + services.refused),
+    Require(records == static_cast<std::size_t>(codes->Count()) + services.logged.size(),
             "every record is kept or refused");
     return 0;
 }

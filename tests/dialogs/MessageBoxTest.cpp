@@ -1,3 +1,5 @@
+#include "tests/FakeServices.h"
+
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
@@ -21,15 +23,6 @@ namespace {
 constexpr int kEnter = 13;
 constexpr int kEscape = 27;
 constexpr auto kInt32 = std::numeric_limits<std::int32_t>{};
-
-class FakeSession : public Services {
-  public:
-    void LogError(TextIn) noexcept override {}
-    bool DebugMode() const override { return false; }
-    std::u16string AppName() const override { return u"Front Desk"; }
-    Color FormSkinColor() const override { return 0x112233; }
-    Color FormTextColor() const override { return 0x445566; }
-};
 
 class FakeOwner : public OwnerForm {
   public:
@@ -68,7 +61,7 @@ class MessageBoxTest : public ::testing::Test {
         return Make({std::move(prompt), buttons, mbNoIcon, u"", mbWhite, mb10, bold}).Layout();
     }
 
-    FakeSession session_;
+    FakeServices session_;
     ScriptedPlatform desktop_;
 };
 

@@ -1,4 +1,5 @@
 #include "tests/CleanState.h"
+#include "tests/FakeServices.h"
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
@@ -110,28 +111,16 @@ TEST_F(CharacterFilter, NamesTheForbiddenCharactersInItsMessage) {
     }
 }
 
-class DebugSession : public Services {
-  public:
-    void LogError(TextIn) noexcept override {}
-    void ShowInDebug(TextIn text) override { lines.push_back(text.Str()); }
-    bool DebugMode() const override { return debug; }
-    std::u16string AppName() const override { return u""; }
-    Color FormSkinColor() const override { return 0; }
-    Color FormTextColor() const override { return 0; }
-
-    bool debug = true;
-    std::vector<std::u16string> lines;
-};
-
 TEST_F(CharacterFilter, ShowsBothTextsInTheDebugConsole) {
-    DebugSession session;
+    FakeServices session;
+    session.debug = true;
     Services::Install(&session);
     std::u16string out;
     RemoveUnwantedChars(u"a|b", out, u"-", true);
     RemoveUnwantedChars(u"ab", out);
     session.debug = false;
     RemoveUnwantedChars(u"a|b", out);
-    EXPECT_EQ(session.lines,
+    EXPECT_EQ(session.shown,
               std::vector<std::u16string>(
                   {u"Invalid chars fnd and rmvd.\r\nstrIN:     a|b\r\nstrOUT: a-b\r\n"}));
     Services::Install(nullptr);
