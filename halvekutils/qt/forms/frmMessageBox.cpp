@@ -199,8 +199,9 @@ void frmMessageBox::Present(Qt::WindowModality modality) {
     QWidget* const owner = CurrentOwner();
     hide();
     setWindowModality(modality);
-    if (owner != this) SetOwner(*this, owner);
+    // In this order: once its handle exists, a window's place no longer counts its frame.
     Place(owner == this ? nullptr : owner);
+    if (owner != this) SetOwner(*this, owner);
     ShowArrowPointer();
     if (box_->CountdownRunning()) tmrUnload_.start();
     show();
