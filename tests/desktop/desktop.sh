@@ -31,7 +31,7 @@ give_up() {
 
 # Waits until a command succeeds. Usage: wait_until WHAT COMMAND...
 wait_until() {
-    local what=$1 deadline=$((SECONDS + 20))
+    local what=$1 deadline=$((SECONDS + 30))
     shift
     until "$@" >/dev/null 2>&1; do
         [ "$SECONDS" -lt "$deadline" ] || give_up "$what"
@@ -57,6 +57,10 @@ start_desktop() {
     export DISPLAY
     start openbox --sm-disable
     wait_until "the window manager starts" wmctrl -m
+}
+
+has_ended() {
+    ! kill -0 "$1"
 }
 
 active_window() {

@@ -87,5 +87,7 @@ expect_answer mbOkCancel 2 "a close request"
 
 wait_until "the client is active again" is_active "$main"
 keys ctrl+q
-wait_until "the client ends" bash -c "! kill -0 ${started[-1]}"
+client=${started[-1]}
+wait_until "the client ends" has_ended "$client"
+wait "$client" || fail "the client ended with $?: $(tail -n 20 "$work/$(basename "$1").log")"
 finish

@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Runs the form tests on a real display, where a window manager frames, places and activates.
+# Usage: forms.sh TESTS
+set -u
+source "$(dirname "$0")/desktop.sh"
+start_desktop
+"$1" --gtest_brief=1 || fail "the form tests under a window manager"
+finish
