@@ -55,6 +55,7 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     dialog_.installEventFilter(this);
     sinceShown_.start();
     dialog_.show();
+    dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
     dialog_.activateWindow();
 }
 
