@@ -1,0 +1,398 @@
+#include "tests/FaultOf.h"
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/qt/QtControls.h>
+#include <halvekutils/qt/QtText.h>
+
+#include <QAccessible>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTextEdit>
+#include <QToolTip>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace halvek {
+namespace {
+
+const QString kList = QStringLiteral("H:A\tAlpha\t0:B\t<b>Beta</b>\t1:C\tGamma\t0:D\tDelta\t0:");
+
+/// Codes N1 to N`count`.
+QString Numbered(int count) {
+    QString list = QStringLiteral("H:");
+    for (int i = 1; i <= count; ++i) list += QStringLiteral("N%1\tName %1\t0:").arg(i);
+    return list;
+}
+
+/// The dialog as its user sees it.
+struct Seen {
+    QDialog& dialog;
+    QLineEdit& box = Find<QLineEdit>(dialog, "txtSelect");
+    QTableView& grid = Find<QTableView>(dialog, "grdSelection");
+
+    /// Types into whatever has the focus.
+    void Type(const char* text) const {
+        for (; *text != 0; ++text) QTest::keyClick(dialog.windowHandle(), *text);
+    }
+    void Press(QKeyCombination key) const { PressKey(dialog, key); }
+    QModelIndex IndexOf(int entry) const {
+        return grid.model()->index((entry - 1) / 10, (entry - 1) % 10);
+    }
+    QPoint PlaceOf(int entry) const {
+        return grid.viewport()->mapTo(&dialog, grid.visualRect(IndexOf(entry)).center());
+    }
+    void ClickEntry(int entry) const {
+        QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, PlaceOf(entry));
+    }
+    void ClickHeader() const { Click(dialog, *grid.horizontalHeader()->viewport()); }
+    /// The codes that are ticked, joined.
+    QString Ticked() const {
+        QStringList codes;
+        for (int entry = 1; entry <= 10 * grid.model()->rowCount(); ++entry) {
+            const QModelIndex index = IndexOf(entry);
+            if (index.data(Qt::CheckStateRole) == Qt::Checked) codes += index.data().toString();
+        }
+        return codes.join(QLatin1Char(','));
+    }
+    int Current() const {
+        return grid.currentIndex().row() * 10 + grid.currentIndex().column() + 1;
+    }
+};
+
+auto Key(Qt::Key key) {
+    return [key](const Seen& seen) { seen.Press(key); };
+}
+
+auto ClickOn(const char* name) {
+    return [name](const Seen& seen) { Click(seen.dialog, Find(seen.dialog, name)); };
+}
+
+/// The text of the message box that the acts raise, which is answered with Enter; empty for none.
+QString MessageOf(const std::function<void()>& acts) {
+    QString message;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box == nullptr || !box->isActiveWindow()) return;
+        if (box->objectName() != QLatin1String("frmMessageBox")) return;
+        message += Find<QTextEdit>(*box, "lblText").toPlainText();
+        PressKey(*box, Qt::Key_Return);
+    });
+    look.start(0);
+    acts();
+    look.stop();
+    QWidget* const dialog = QApplication::activeModalWidget();
+    EXPECT_TRUE(dialog == nullptr || Soon([&] { return dialog->isActiveWindow(); }));
+    return message;
+}
+
+class SelectGridFormTest : public FormTest {
+  protected:
+    using Acts = std::function<void(const Seen&)>;
+
+    /// What the user's acts choose; a dialog that they leave open is closed with Escape.
+    QString Chosen(const Acts& acts, const QString& list = kList, const QString& selected = {},
+                   std::u16string typed = {}, std::shared_ptr<PopupTarget> target = nullptr) {
+        const User user([&](QDialog& dialog) {
+            acts({dialog});
+            if (dialog.isVisible()) PressKey(dialog, Qt::Key_Escape);
+        });
+        const QString chosen = ToQString(utils_->ShowSelectionGridAndCalculateCoordinates(
+            u"Codes", list, selected, target, nullptr, typed));
+        EXPECT_TRUE(user.HasActed());
+        EXPECT_TRUE(typed.empty());
+        return chosen;
+    }
+};
+// Typing
+
+TEST_F(SelectGridFormTest, TypedCodesAreTickedAsTheirCommaIsReleased) {
+    const QString chosen = Chosen([](const Seen& seen) {
+        seen.Type("A");
+        QTest::keyPress(seen.dialog.windowHandle(), ',');
+        EXPECT_EQ(seen.Ticked(), "");
+        QTest::keyRelease(seen.dialog.windowHandle(), ',');
+        EXPECT_EQ(seen.Ticked(), "A");
+        EXPECT_EQ(seen.box.text(), "A,");
+        seen.Type("C");
+        seen.Press(Qt::Key_Return);
+    });
+    EXPECT_EQ(chosen, "A,C");
+}
+
+TEST_F(SelectGridFormTest, AKeyPressedBeforeTheCommaIsUpEndsTheComma) {
+    Chosen([](const Seen& seen) {
+        seen.Type("A");
+        QTest::keyPress(seen.dialog.windowHandle(), ',');
+        QTest::keyPress(seen.dialog.windowHandle(), 'x');
+        EXPECT_EQ(seen.Ticked(), "A");
+        EXPECT_EQ(MessageOf([&] { QTest::keyRelease(seen.dialog.windowHandle(), ','); }), "");
+        EXPECT_EQ(seen.box.text(), "A,x");
+    });
+}
+
+TEST_F(SelectGridFormTest, WhatTheHostsUserTypedStandsInTheBox) {
+    const auto goesOn = [](const Seen& seen) {
+        EXPECT_EQ(seen.dialog.focusWidget(), &seen.box);
+        seen.Type("X");
+        EXPECT_EQ(MessageOf([&] { seen.Press(Qt::Key_Tab); }), "'QX' is not a valid entry.");
+        EXPECT_EQ(seen.box.text(), "A,QX");
+        EXPECT_EQ(seen.box.selectedText(), "QX");
+    };
+    EXPECT_EQ(Chosen(goesOn, kList, "A", u"Q"), "A");
+}
+
+TEST_F(SelectGridFormTest, TheBoxIsEditedWhereItWasLeft) {
+    const auto edits = [](const Seen& seen) {
+        seen.Press(Qt::Key_Tab);
+        seen.Press(Qt::Key_Backtab);
+        seen.Type(",C,");
+        EXPECT_EQ(seen.Ticked(), "A,C");
+        seen.Press(Qt::CTRL | Qt::Key_A);
+        seen.Press(Qt::Key_Delete);
+        EXPECT_EQ(seen.Ticked(), "");
+        seen.Press(Qt::Key_Return);
+    };
+    EXPECT_EQ(Chosen(edits, kList, "A"), "");
+}
+
+TEST_F(SelectGridFormTest, TheBoxIsLeftOnlyWithGoodCodesExceptTowardsCancel) {
+    const QString refused = QStringLiteral("'ZZ' is not a valid entry.");
+    const struct {
+        const char* way;
+        Acts act;
+        QString message;
+        bool staysInBox, staysOpen;
+    } cases[] = {
+        {"Tab", Key(Qt::Key_Tab), refused, true, true},
+        {"an entry", [](const Seen& seen) { seen.ClickEntry(2); }, refused, true, true},
+        {"Enter", Key(Qt::Key_Return), refused, true, true},
+        {"OK", ClickOn("cmdOK"), refused, true, true},
+        {"Backtab", Key(Qt::Key_Backtab), "", false, true},
+        {"Cancel", ClickOn("cmdExit"), "", true, false},
+        {"Escape", Key(Qt::Key_Escape), "", true, false},
+        {"close box", [](const Seen& seen) { CloseRequest(seen.dialog); }, "", true, false},
+        {"header", [](const Seen& seen) { seen.ClickHeader(); }, "", true, false},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.way);
+        Chosen([&](const Seen& seen) {
+            seen.Type("ZZ");
+            EXPECT_EQ(MessageOf([&] { row.act(seen); }), row.message);
+            EXPECT_EQ(seen.dialog.isVisible(), row.staysOpen);
+            EXPECT_EQ(seen.dialog.focusWidget() == &seen.box, row.staysInBox);
+            EXPECT_EQ(seen.Ticked(), "");
+        });
+    }
+}
+
+// The grid
+
+TEST_F(SelectGridFormTest, EntriesAreTickedByTheMouseAndBySpace) {
+    const QString chosen = Chosen([](const Seen& seen) {
+        QWindow* const window = seen.dialog.windowHandle();
+        seen.ClickEntry(3);
+        seen.ClickEntry(5);
+        seen.Press(Qt::Key_Left);
+        seen.Press(Qt::Key_Space);
+        EXPECT_EQ(seen.box.text(), "B,D,C");
+        // A press that ends elsewhere ticks nothing, a double click ticks twice, a blank nothing.
+        QTest::mousePress(window, Qt::LeftButton, {}, seen.PlaceOf(2));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, seen.PlaceOf(3));
+        seen.ClickEntry(2);
+        QTest::mouseDClick(window, Qt::LeftButton, {}, seen.PlaceOf(2));
+        seen.ClickEntry(6);
+        seen.ClickEntry(3);
+        EXPECT_EQ(seen.box.text(), "D,C,A");
+        seen.Press(Qt::Key_Return);
+    });
+    EXPECT_EQ(chosen, "D,C,A");
+}
+
+TEST_F(SelectGridFormTest, KeysMoveTheVisibleCurrentEntry) {
+    const struct {
+        Qt::Key key;
+        int entry;
+    } moves[] = {
+        {Qt::Key_Right, 2}, {Qt::Key_Down, 12},  {Qt::Key_Left, 11}, {Qt::Key_Left, 10},
+        {Qt::Key_Up, 10},   {Qt::Key_End, 1001}, {Qt::Key_Up, 991},  {Qt::Key_Home, 1},
+        {Qt::Key_Left, 1},  {Qt::Key_N, 2},
+    };
+    const auto move = [&](const Seen& seen) {
+        seen.Press(Qt::Key_Tab);
+        for (const auto& [key, entry] : moves) {
+            seen.Press(key);
+            EXPECT_EQ(seen.Current(), entry) << key;
+            const QRect shown = seen.grid.visualRect(seen.grid.currentIndex());
+            EXPECT_TRUE(seen.grid.viewport()->rect().contains(shown)) << key;
+        }
+        const int bands = seen.grid.viewport()->height() / seen.grid.rowHeight(0);
+        seen.Press(Qt::Key_PageDown);
+        EXPECT_EQ(seen.Current(), 2 + 10 * bands);
+        EXPECT_EQ(seen.Ticked() + seen.box.text(), "");
+    };
+    EXPECT_EQ(Chosen(move, Numbered(1000)), "");
+}
+
+TEST_F(SelectGridFormTest, EveryWayOfEndingGivesItsResult) {
+    const auto enterBehind = [](int tabs) {
+        return [tabs](const Seen& seen) {
+            for (int i = 0; i < tabs; ++i) seen.Press(Qt::Key_Tab);
+            seen.Press(Qt::Key_Return);
+        };
+    };
+    const struct {
+        const char* way;
+        Acts act;
+        QString changed, unchanged;
+    } cases[] = {
+        {"Enter in the box", enterBehind(0), "A,C", "CANCEL"},
+        {"Enter in the grid", enterBehind(1), "A,C", "CANCEL"},
+        {"Enter on OK", enterBehind(2), "A,C", "CANCEL"},
+        {"Enter on Cancel", enterBehind(3), "A", "A"},
+        {"OK", ClickOn("cmdOK"), "A,C", "CANCEL"},
+        {"Cancel", ClickOn("cmdExit"), "A", "A"},
+        {"header", [](const Seen& seen) { seen.ClickHeader(); }, "A,C", "CANCEL"},
+        {"Escape", Key(Qt::Key_Escape), "A", "A"},
+        {"close box", [](const Seen& seen) { CloseRequest(seen.dialog); }, "A", "A"},
+    };
+    for (const auto& row : cases) {
+        const auto change = [&](const Seen& seen) {
+            seen.Type(",C,");
+            row.act(seen);
+        };
+        EXPECT_EQ(Chosen(change, kList, "A"), row.changed) << row.way;
+        EXPECT_EQ(Chosen(row.act, kList, "A"), row.unchanged) << row.way;
+    }
+}
+
+TEST_F(SelectGridFormTest, AHugeChoiceIsKeptWhole) {
+    const QString list = Numbered(50'000);
+    const auto takeAll = [](const Seen& seen) {
+        seen.ClickEntry(1);
+        EXPECT_TRUE(seen.box.isReadOnly());
+        EXPECT_LT(seen.box.text().size(), 2000);
+        seen.Press(Qt::Key_Right);
+        seen.Press(Qt::Key_Space);
+        seen.Press(Qt::Key_Return);
+    };
+    const QString chosen = Chosen(takeAll, list);
+    EXPECT_TRUE(chosen.startsWith("N2,N3,") && chosen.endsWith(",N49999,N50000"));
+    EXPECT_EQ(chosen.count(','), 49'998);
+}
+
+// What it looks like
+
+/// Whether a part of a picture is coloured: "red", "blue" or neither.
+QString ColourOf(const QImage& image) {
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QColor pixel = image.pixelColor(i % image.width(), i / image.width());
+        if (pixel.red() > 200 && pixel.green() + pixel.blue() < 120) return "red";
+        if (pixel.blue() > 200 && pixel.green() + pixel.red() < 90) return "blue";
+    }
+    return "";
+}
+
+TEST_F(SelectGridFormTest, FixedColoursHoldOnADarkDesktopToo) {
+    const QPalette light = QApplication::palette();
+    QPalette dark(QColor(50, 50, 50), QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, Qt::white);
+    for (const QPalette& palette : {light, dark}) {
+        QApplication::setPalette(palette);
+        Chosen([](const Seen& seen) {
+            const QImage header = seen.grid.horizontalHeader()->grab().toImage();
+            EXPECT_EQ(header.pixelColor(3, 3), QColor(250, 212, 135));
+            for (const auto& [entry, colour] : {std::pair{1, "blue"}, {2, ""}, {3, "red"}}) {
+                const QRect place = seen.grid.visualRect(seen.IndexOf(entry));
+                const QImage image = seen.grid.viewport()->grab(place).toImage();
+                EXPECT_EQ(image.pixelColor(2, image.height() - 4), QColor(235, 235, 235));
+                EXPECT_EQ(ColourOf(image), colour) << entry;
+            }
+        });
+    }
+    QApplication::setPalette(light);
+}
+
+TEST_F(SelectGridFormTest, EntriesAreToldToScreenReadersAndByToolTips) {
+    const auto look = [](const Seen& seen) {
+        QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(&seen.grid);
+        QAccessibleInterface* const cell = table->tableInterface()->cellAt(0, 2);
+        EXPECT_EQ(cell->text(QAccessible::Name), "B, <b>Beta</b>, selected, deleted");
+        for (const char* name : {"txtSelect", "grdSelection", "cmdOK", "cmdExit"}) {
+            EXPECT_FALSE(Find(seen.dialog, name).accessibleName().isEmpty()) << name;
+        }
+        const QRect entry = seen.grid.visualRect(seen.IndexOf(3));
+        const struct {
+            int y;
+            QString toolTip;
+        } parts[] = {{entry.top() + 4, " SELECTED "},
+                     {entry.center().y(), " B "},
+                     {entry.bottom() - 4, " <b>Beta</b> "}};
+        for (const auto& [y, toolTip] : parts) {
+            const QPoint place(entry.center().x(), y);
+            QHelpEvent help(QEvent::ToolTip, place, seen.grid.viewport()->mapToGlobal(place));
+            QApplication::sendEvent(seen.grid.viewport(), &help);
+            EXPECT_EQ(QToolTip::text(), ToToolTip(toolTip));
+        }
+        QToolTip::hideText();
+    };
+    Chosen(look, kList, "B");
+}
+
+TEST_F(SelectGridFormTest, OpensBesideAButtonWhollyOnTheScreen) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QPoint corners[] = {screen.topLeft(), screen.topRight() - QPoint(80, 0),
+                              screen.bottomLeft() - QPoint(0, 30), screen.center(),
+                              screen.bottomRight() - QPoint(80, 30)};
+    for (const QPoint& corner : corners) {
+        const auto host = OpenHostWindow(QRect(corner, QSize(200, 100)).translated(-40, -20));
+        QPushButton button(host.get());
+        button.setGeometry(40, 20, 80, 30);
+        const QRect target(button.mapToGlobal(QPoint()), button.size());
+        const auto look = [&](const Seen& seen) {
+            const QRect place = seen.dialog.frameGeometry();
+            EXPECT_TRUE(screen.contains(place));
+            EXPECT_FALSE(place.intersects(target));
+            const int right = std::max(target.right(), screen.left() + place.width() - 1);
+            EXPECT_EQ(place.right(), right);
+        };
+        Chosen(look, kList, "", u"", Beside(&button));
+    }
+}
+
+TEST_F(SelectGridFormTest, EndsWithItsOwnersWindow) {
+    auto owner = OpenHostWindow(QRect(100, 100, 400, 300));
+    EXPECT_EQ(Chosen([&](const Seen&) { owner.reset(); }, kList, "A"), "A");
+}
+
+TEST(PopupTargets, AreTheVisiblePartOfAWidgetOrCellUntilItIsGone) {
+    auto view = std::make_unique<QTableView>();
+    QStandardItemModel model(200, 2);
+    view->setModel(&model);
+    view->setGeometry(100, 100, 300, 200);
+    view->show();
+    const auto cell = Beside(view.get(), model.index(1, 1));
+    const auto whole = Beside(view.get());
+    EXPECT_EQ(whole->Place(), (Rect{1500, 1500, 4500, 3000}));
+    const Rect seen = cell->Place();
+    EXPECT_GT(seen.left, 1500);
+    EXPECT_LE(seen.Right(), 6000);
+    EXPECT_GT(seen.top, 1500);
+    model.removeRows(0, 10);
+    EXPECT_FALSE(cell->Exists());
+    EXPECT_EQ(FaultOf([&] { cell->Place(); }), 91);
+    view.reset();
+    EXPECT_FALSE(whole->Exists());
+    EXPECT_EQ(FaultOf([&] { whole->Screen(); }), 91);
+    EXPECT_EQ(Beside(nullptr), nullptr);
+}
+
+}  // namespace
+}  // namespace halvek
