@@ -11,6 +11,7 @@ class StateServices : public Services {
     void LogError(TextIn message) noexcept override { WriteErrorLog(State(), message); }
     bool DebugMode() const override { return State().debugMode; }
     std::u16string AppName() const override { return State().appName; }
+    std::u16string SpecialMode() const override { return State().specialMode; }
     Color FormSkinColor() const override { return State().formSkinColor; }
     Color FormTextColor() const override { return State().formTextColor; }
 };

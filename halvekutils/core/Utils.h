@@ -8,6 +8,8 @@
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/refdata/PrintersCollection.h>
+#include <halvekutils/refdata/SecurityItemsCollection.h>
 
 #include <cstdint>
 #include <memory>
@@ -70,8 +72,15 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Drops all bins of this object.
     void ClearAllBins();
 
+    /// Releases the current printers collection; GetPrintersCollection then returns null.
+    void ClearPrintersCollection();
+
     /// Releases the current codes collection; GetCodesCollection then returns null.
     void ClearCodesCollection();
+
+    /// Releases the current security collection; GetSecurityItemsCollection then returns null. Full
+    /// access stays as it is.
+    void ClearSecurityCollection();
 
     /// The text of the bin with exactly this key, letter case included; empty when there is none.
     std::u16string GetBinData(TextIn BinKey) const;
@@ -80,6 +89,26 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Removes the bin with exactly this key; does nothing when there is none.
     void RemoveBin(TextIn BinKey);
+
+    /// Builds the current security collection anew from the signed-in user's rights.
+    ///
+    /// Items are parted by the character of code 230. Each is a key and one hexadecimal digit, the
+    /// sum of 8 to read, 4 to add, 2 to modify and 1 to delete; any other last character grants
+    /// nothing. Of two items with one key, letter case ignored, the first is kept and the second
+    /// logged. Exactly "***" is full access: every look-up then grants all rights, in collections
+    /// that the host kept too, until the next build with other data begins.
+    void BuildSecurityCollection(TextIn SecurityData);
+
+    /// Adds the server's serial printers, then the workstation's, to the current printers
+    /// collection.
+    ///
+    /// Entries of the list are parted by tabs, their fields by ":": identifier, an ignored one,
+    /// description, port. Call ClearPrintersCollection first: keys start at 0KEY in every build,
+    /// and one that the collection has already ends the build. The special mode chooses where the
+    /// workstation's printers come from: "printerlistold" for its printer list, 100 at most,
+    /// "printerlistnew" for its connections; without either word the list stands in when the
+    /// connections fail. A printing system that does not answer costs about a second.
+    void BuildPrintersCollection(TextIn SerialPrintersList);
 
     /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
     /// SubscriptOutOfRange before InitPrefs.
@@ -91,9 +120,24 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     Color FormSkinColor() const;
 
+    /// The current printers collection; null when none was built.
+    std::shared_ptr<PrintersCollection> GetPrintersCollection() const;
+
     /// The current codes collection, the same object until the next build or clear; null when none
     /// was built.
     std::shared_ptr<CodesCollection> GetCodesCollection() const;
+
+    /// The current security collection; null when none was built.
+    std::shared_ptr<SecurityItemsCollection> GetSecurityItemsCollection() const;
+
+    /// A new collection with copies of the current printers that none of the arguments leaves out,
+    /// under the keys 1KEY and up; null when there is no current collection.
+    ///
+    /// The spool, the entry with the identifier "S", counts as no serial printer.
+    std::shared_ptr<PrintersCollection> GetPrintersCollectionFiltered(bool ExcludeSpool = true,
+                                                                      bool ExcludeFile = false,
+                                                                      bool ExcludeWindows = false,
+                                                                      bool ExcludeSerial = false);
 
     Color RequiredFieldBackColor() const;
     std::u16string ExeFileStamp() const;

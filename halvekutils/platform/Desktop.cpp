@@ -21,6 +21,10 @@ Desktop* Desktop::Install(Desktop* desktop) noexcept {
     return std::exchange(installedDesktop, desktop);
 }
 
+std::unique_ptr<PrinterSource> Desktop::Printers() {
+    return nullptr;
+}
+
 void Beep() noexcept {
     if (installedDesktop == nullptr) return;
     try {

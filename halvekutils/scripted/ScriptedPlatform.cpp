@@ -24,6 +24,23 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     }
 }
 
+class ScriptedPrinters : public PrinterSource {
+  public:
+    ScriptedPrinters(std::optional<std::vector<PrinterConnection>> connections,
+                     std::vector<InstalledPrinter> installed)
+        : connections_(std::move(connections)), installed_(std::move(installed)) {}
+
+    std::vector<PrinterConnection> Connections() override {
+        if (!connections_) throw RuntimeError(Fault::DeviceError, u"scripted printers");
+        return *connections_;
+    }
+    std::vector<InstalledPrinter> Installed() override { return installed_; }
+
+  private:
+    std::optional<std::vector<PrinterConnection>> connections_;
+    std::vector<InstalledPrinter> installed_;
+};
+
 }  // namespace
 
 ScriptedPlatform::ScriptedPlatform() {
@@ -35,6 +52,19 @@ ScriptedPlatform::~ScriptedPlatform() {
 
 void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
     messageBoxAnswers_.push_back(std::move(answer));
+}
+
+void ScriptedPlatform::SetPrinterConnections(
+    std::optional<std::vector<PrinterConnection>> connections) {
+    connections_ = std::move(connections);
+}
+
+void ScriptedPlatform::SetInstalledPrinters(std::vector<InstalledPrinter> printers) {
+    installedPrinters_ = std::move(printers);
+}
+
+std::unique_ptr<PrinterSource> ScriptedPlatform::Printers() {
+    return std::make_unique<ScriptedPrinters>(connections_, installedPrinters_);
 }
 
 std::int32_t ScriptedPlatform::TextWidth(TextIn text, const FontSpec& font) const {
