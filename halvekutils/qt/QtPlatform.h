@@ -28,6 +28,7 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
     Size ScreenSize() const override;
     Size FrameSize() const override;
+    std::unique_ptr<PrinterSource> Printers() override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
 
   private:
