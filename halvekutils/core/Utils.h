@@ -7,6 +7,9 @@
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
+#include <halvekutils/prefs/OpenWindows.h>
+#include <halvekutils/prefs/SystemPrefs.h>
+#include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/refdata/CodesCollection.h>
 #include <halvekutils/refdata/PrintersCollection.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
@@ -50,6 +53,23 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// The folder for data common to all users; stored for the host, never used by the library.
     void AppDataFolderCommon(TextIn value);
     std::u16string AppDataFolderCommon() const;
+
+    /// The registry of the host's open windows, one for each Utils object.
+    std::shared_ptr<halvek::OpenWindows> OpenWindows();
+
+    /// Stores a copy of the preferences, as their settings text carries them: later changes of the
+    /// host's object are not seen here, and LastPrinterUsed is not copied.
+    void SetCurrentUserPrefs(const UserPrefs& CurrentUserPrefs);
+
+    /// Shares the host's own object: either side sees the other's changes. Null for none.
+    void SetCurrentSystemPrefs(std::shared_ptr<SystemPrefs> CurrentSystemPrefs);
+
+    /// The shared system preferences; a new object is made and kept when there are none.
+    std::shared_ptr<SystemPrefs> GetCurrentSystemPrefs();
+
+    /// A copy of the stored user preferences, whose changes are not seen here; a new object when
+    /// none were stored.
+    std::shared_ptr<UserPrefs> GetCurrentUserPrefs() const;
 
     std::u16string CodeDelimiter() const;
 
