@@ -7,6 +7,7 @@
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Services.h>
+#include <halvekutils/refdata/SecurityItemsCollection.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ class CleanState : public ::testing::Test {
     static void Reset() {
         State() = ComponentState();
         Services::Install(nullptr);
+        SecurityItemsCollection::EndFullAccess();
     }
 
     std::optional<UseMachine> use_;

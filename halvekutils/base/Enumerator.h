@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace halvek {
@@ -13,7 +14,8 @@ namespace halvek {
 template <class Collection>
 class Enumerator {
   public:
-    using value_type = decltype(std::declval<Collection&>().Item(std::int32_t{1}));
+    using value_type =
+        std::remove_cvref_t<decltype(std::declval<Collection&>().Item(std::int32_t{1}))>;
     using difference_type = std::ptrdiff_t;
 
     Enumerator() = default;

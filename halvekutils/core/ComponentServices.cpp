@@ -13,6 +13,7 @@ class StateServices : public Services {
     void ShowInDebug(TextIn) override {}
     bool DebugMode() const override { return State().debugMode; }
     std::u16string AppName() const override { return State().appName; }
+    std::u16string SpecialMode() const override { return State().specialMode; }
     Color FormSkinColor() const override { return State().formSkinColor; }
     Color FormTextColor() const override { return State().formTextColor; }
 };

@@ -1,6 +1,8 @@
 #include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/refdata/PrintersCollection.h>
+#include <halvekutils/refdata/SecurityItemsCollection.h>
 #include <halvekutils/system/LocalMachine.h>
 
 namespace halvek {

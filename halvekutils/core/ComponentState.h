@@ -11,6 +11,8 @@
 namespace halvek {
 
 class CodesCollection;
+class PrintersCollection;
+class SecurityItemsCollection;
 class Utils;
 
 /// The values that all Utils objects and dialogs of the process share.
@@ -41,6 +43,8 @@ struct HALVEK_EXPORT ComponentState {
     std::u16string loginUserName;
     std::u16string logFolder;
     std::shared_ptr<CodesCollection> codes;
+    std::shared_ptr<SecurityItemsCollection> securityItems;
+    std::shared_ptr<PrintersCollection> printers;
     Machine* machine = nullptr;  ///< never null: the local machine unless another is installed
 
     ComponentState();

@@ -8,7 +8,12 @@
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
+#include <halvekutils/prefs/OpenWindows.h>
+#include <halvekutils/prefs/SystemPrefs.h>
+#include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/refdata/PrintersCollection.h>
+#include <halvekutils/refdata/SecurityItemsCollection.h>
 #include <halvekutils/text/Placement.h>
 
 #include <cstdint>
@@ -51,6 +56,23 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     void AppDataFolderCommon(TextIn value);
     std::u16string AppDataFolderCommon() const;
 
+    /// The registry of the host's open windows, one for each Utils object.
+    std::shared_ptr<halvek::OpenWindows> OpenWindows();
+
+    /// Stores a copy of the preferences, as their settings text carries them: later changes of the
+    /// host's object are not seen here, and LastPrinterUsed is not copied.
+    void SetCurrentUserPrefs(const UserPrefs& CurrentUserPrefs);
+
+    /// Shares the host's own object: either side sees the other's changes. Null for none.
+    void SetCurrentSystemPrefs(std::shared_ptr<SystemPrefs> CurrentSystemPrefs);
+
+    /// The shared system preferences; a new object is made and kept when there are none.
+    std::shared_ptr<SystemPrefs> GetCurrentSystemPrefs();
+
+    /// A copy of the stored user preferences, whose changes are not seen here; a new object when
+    /// none were stored.
+    std::shared_ptr<UserPrefs> GetCurrentUserPrefs() const;
+
     std::u16string CodeDelimiter() const;
 
     /// The column-width factor given to InitOtherSettings, narrowed to single precision.
@@ -72,8 +94,15 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Drops all bins of this object.
     void ClearAllBins();
 
+    /// Releases the current printers collection; GetPrintersCollection then returns null.
+    void ClearPrintersCollection();
+
     /// Releases the current codes collection; GetCodesCollection then returns null.
     void ClearCodesCollection();
+
+    /// Releases the current security collection; GetSecurityItemsCollection then returns null. Full
+    /// access stays as it is.
+    void ClearSecurityCollection();
 
     /// The text of the bin with exactly this key, letter case included; empty when there is none.
     std::u16string GetBinData(TextIn BinKey) const;
@@ -82,6 +111,15 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Removes the bin with exactly this key; does nothing when there is none.
     void RemoveBin(TextIn BinKey);
+
+    /// Builds the current security collection anew from the signed-in user's rights.
+    ///
+    /// Items are parted by the character of code 230. Each is a key and one hexadecimal digit, the
+    /// sum of 8 to read, 4 to add, 2 to modify and 1 to delete; any other last character grants
+    /// nothing. Of two items with one key, letter case ignored, the first is kept and the second
+    /// logged. Exactly "***" is full access: every look-up then grants all rights, in collections
+    /// that the host kept too, until the next build with other data begins.
+    void BuildSecurityCollection(TextIn SecurityData);
 
     /// The positions, in twips on the screen, with which a pop-up opens beside a button or cell.
     ///
@@ -98,6 +136,17 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
                                   float& posTopUp, float& posTopDown,
                                   PopupEdge Edge = PopupEdge::Left);
 
+    /// Adds the server's serial printers, then the workstation's, to the current printers
+    /// collection.
+    ///
+    /// Entries of the list are parted by tabs, their fields by ":": identifier, an ignored one,
+    /// description, port. Call ClearPrintersCollection first: keys start at 0KEY in every build,
+    /// and one that the collection has already ends the build. The special mode chooses where the
+    /// workstation's printers come from: "printerlistold" for its printer list, 100 at most,
+    /// "printerlistnew" for its connections; without either word the list stands in when the
+    /// connections fail. A printing system that does not answer costs about a second.
+    void BuildPrintersCollection(TextIn SerialPrintersList);
+
     /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
     /// SubscriptOutOfRange before InitPrefs.
     StringArray ColorArray() const;
@@ -108,9 +157,24 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     Color FormSkinColor() const;
 
+    /// The current printers collection; null when none was built.
+    std::shared_ptr<PrintersCollection> GetPrintersCollection() const;
+
     /// The current codes collection, the same object until the next build or clear; null when none
     /// was built.
     std::shared_ptr<CodesCollection> GetCodesCollection() const;
+
+    /// The current security collection; null when none was built.
+    std::shared_ptr<SecurityItemsCollection> GetSecurityItemsCollection() const;
+
+    /// A new collection with copies of the current printers that none of the arguments leaves out,
+    /// under the keys 1KEY and up; null when there is no current collection.
+    ///
+    /// The spool, the entry with the identifier "S", counts as no serial printer.
+    std::shared_ptr<PrintersCollection> GetPrintersCollectionFiltered(bool ExcludeSpool = true,
+                                                                      bool ExcludeFile = false,
+                                                                      bool ExcludeWindows = false,
+                                                                      bool ExcludeSerial = false);
 
     Color RequiredFieldBackColor() const;
     std::u16string ExeFileStamp() const;

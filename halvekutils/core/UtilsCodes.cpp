@@ -9,8 +9,9 @@ void Utils::BuildCodesCollection(TextIn CodesData) {
     Guarded(OnFault::Quiet, u"BuildCodesCollection ", LogOf(*this), [&] {
         // The old collection goes first: a build that fails leaves a part, never the old one.
         State().codes = nullptr;
-        State().codes = CodesCollection::CreateEmpty();
-        State().codes->AddRecords(CodesData, ComponentServices());
+        const auto codes = CodesCollection::CreateEmpty();
+        State().codes = codes;
+        codes->AddRecords(CodesData, ComponentServices());
     });
 }
 

@@ -13,6 +13,9 @@ struct Utils::Private {
     std::u16string appDataFolderUser;
     std::u16string appDataFolderCommon;
     DataBins bins;
+    std::shared_ptr<halvek::OpenWindows> openWindows;
+    std::shared_ptr<const UserPrefs> userPrefs;
+    std::shared_ptr<SystemPrefs> systemPrefs;
 };
 
 /// The anchor of a pop-up beside a target. Nothing is given, which centres the pop-up, without a

@@ -30,6 +30,10 @@ Rect Desktop::ScreenRectAt(Point) const {
     return ScreenRect();
 }
 
+std::unique_ptr<PrinterSource> Desktop::Printers() {
+    return nullptr;
+}
+
 void Beep() noexcept {
     if (installedDesktop == nullptr) return;
     try {

@@ -3,8 +3,10 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Geometry.h>
+#include <halvekutils/platform/PrinterSource.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace halvek {
@@ -70,6 +72,9 @@ class HALVEK_EXPORT Desktop : public TextMeter {
 
     /// What the window frame of a dialog adds to its inner size.
     virtual Size FrameSize() const = 0;
+
+    /// A source for one build of the printers collection; null where the desktop knows no printers.
+    virtual std::unique_ptr<PrinterSource> Printers();
 };
 
 /// Sounds the beep of the installed desktop; silent without one. Never throws.

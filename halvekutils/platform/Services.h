@@ -28,6 +28,7 @@ class HALVEK_EXPORT Services {
 
     virtual bool DebugMode() const = 0;
     virtual std::u16string AppName() const = 0;
+    virtual std::u16string SpecialMode() const = 0;
     virtual Color FormSkinColor() const = 0;
     virtual Color FormTextColor() const = 0;
 

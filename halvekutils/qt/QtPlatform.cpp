@@ -1,4 +1,5 @@
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/devices/CupsPrinters.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/Metrics.h>
@@ -130,6 +131,10 @@ Size QtPlatform::FrameSize() const {
     const QSize added = owner->frameGeometry().size() - owner->geometry().size();
     if (added.height() <= 0) return kTypicalFrame;
     return {PixelsToTwips(added.width()), PixelsToTwips(added.height())};
+}
+
+std::unique_ptr<PrinterSource> QtPlatform::Printers() {
+    return std::make_unique<CupsPrinters>();
 }
 
 void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {

@@ -37,6 +37,23 @@ Answer TakeAnswer(std::deque<Answer>& answers, std::u16string_view dialog, TextI
     return answer;
 }
 
+class ScriptedPrinters : public PrinterSource {
+  public:
+    ScriptedPrinters(std::optional<std::vector<PrinterConnection>> connections,
+                     std::vector<InstalledPrinter> installed)
+        : connections_(std::move(connections)), installed_(std::move(installed)) {}
+
+    std::vector<PrinterConnection> Connections() override {
+        if (!connections_) throw RuntimeError(Fault::DeviceError, u"scripted printers");
+        return *connections_;
+    }
+    std::vector<InstalledPrinter> Installed() override { return installed_; }
+
+  private:
+    std::optional<std::vector<PrinterConnection>> connections_;
+    std::vector<InstalledPrinter> installed_;
+};
+
 }  // namespace
 
 ScriptedPlatform::ScriptedPlatform() {
@@ -51,6 +68,19 @@ void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
 }
 void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
     selectionAnswers_.push_back(std::move(answer));
+}
+
+void ScriptedPlatform::SetPrinterConnections(
+    std::optional<std::vector<PrinterConnection>> connections) {
+    connections_ = std::move(connections);
+}
+
+void ScriptedPlatform::SetInstalledPrinters(std::vector<InstalledPrinter> printers) {
+    installedPrinters_ = std::move(printers);
+}
+
+std::unique_ptr<PrinterSource> ScriptedPlatform::Printers() {
+    return std::make_unique<ScriptedPrinters>(connections_, installedPrinters_);
 }
 
 std::int32_t ScriptedPlatform::TextWidth(TextIn text, const FontSpec& font) const {

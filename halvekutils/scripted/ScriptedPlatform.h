@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,12 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void SetScreenSize(Size size) { screen_ = size; }
     void SetFrameSize(Size size) { frame_ = size; }
 
+    /// The workstation's printer connections, none at first; nullopt for a source that fails.
+    void SetPrinterConnections(std::optional<std::vector<PrinterConnection>> connections);
+    /// The workstation's printer list, empty at first.
+    void SetInstalledPrinters(std::vector<InstalledPrinter> printers);
+    std::unique_ptr<PrinterSource> Printers() override;
+
     std::int32_t TextWidth(TextIn text, const FontSpec& font) const override;
     std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;
     std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
@@ -69,6 +76,8 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     int beeps_ = 0;
     Size screen_ = {20490, 11520};  // 1366 by 768 pixels
     Size frame_ = {0, 450};
+    std::optional<std::vector<PrinterConnection>> connections_ = std::vector<PrinterConnection>();
+    std::vector<InstalledPrinter> installedPrinters_;
 };
 
 }  // namespace halvek

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <type_traits>
+
+namespace halvek {
+
+/// A boolean argument that takes a bool and nothing else: a text, a number or a pointer, which
+/// would turn into true without a word, does not compile.
+class BoolIn {
+  public:
+    template <class T>
+    requires std::is_same_v<T, bool>
+    constexpr BoolIn(T value) noexcept : value_(value) {}
+
+    constexpr operator bool() const noexcept { return value_; }
+
+  private:
+    bool value_;
+};
+
+}  // namespace halvek

@@ -1,0 +1,7 @@
+#include <halvekutils/platform/PrinterSource.h>
+
+namespace halvek {
+
+PrinterSource::~PrinterSource() = default;
+
+}  // namespace halvek

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/StringArray.h>
+#include <halvekutils/base/StringTable.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Services.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace halvek {
+
+/// The host's open windows, each by a type of the host's choice and its handle.
+///
+/// Indexes count from 1. Utils::OpenWindows hands out the one registry of its object.
+class HALVEK_EXPORT OpenWindows {
+  public:
+    /// @param services  the session whose log is used; outlives the registry
+    static std::shared_ptr<OpenWindows> CreateEmpty(Services& services);
+    ~OpenWindows();
+
+    void ClearAll();
+
+    /// The same as GetAll: every window, whatever its type.
+    StringTable GetAllByType(TextIn WinType) const;
+
+    /// A copy of the whole table: types in row 0, handles as decimal text in row 1, a window's
+    /// column at its index. Column 0 is empty.
+    StringTable GetAll() const;
+
+    /// Type and handle text of a window, as elements 0 and 1; both empty for an index that does not
+    /// exist, with a beep when it is too large.
+    StringArray GetItem(std::int32_t Index) const;
+
+    std::int32_t Count() const;
+
+    /// Removes a window; those behind it move up by one.
+    /// @return false when there is no such window; logged unless the registry is empty
+    bool RemoveItem(std::int32_t Index);
+
+    /// Adds a window at the end; one that is there already is added once more.
+    /// @return false after a fault, which is logged
+    bool AddItem(TextIn WinType, std::int32_t WinHandle);
+
+  private:
+    explicit OpenWindows(Services& services);
+
+    Services& services_;
+    StringTable windows_;
+};
+
+}  // namespace halvek

@@ -1,0 +1,8 @@
+#include <halvekutils/prefs/SystemPrefs.h>
+
+namespace halvek {
+
+SystemPrefs::SystemPrefs() = default;
+SystemPrefs::~SystemPrefs() = default;
+
+}  // namespace halvek

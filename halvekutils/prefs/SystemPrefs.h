@@ -1,0 +1,94 @@
+#pragma once
+
+#include <halvekutils/base/BoolIn.h>
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+/// The practice's settings, shared by the host and the library: Utils keeps the host's own object.
+///
+/// Plain storage: each property returns what it was last given, empty, 0 or false at first. Nothing
+/// in the library reads them.
+class HALVEK_EXPORT SystemPrefs {
+  public:
+    SystemPrefs();
+    ~SystemPrefs();
+
+    /// Whether the host closes a dialog after saving.
+    void CloseDialogAfterSave(BoolIn value) { closeDialogAfterSave_ = value; }
+    bool CloseDialogAfterSave() const { return closeDialogAfterSave_; }
+
+    void DefaultWindowsBackColor(Color value) { defaultWindowsBackColor_ = value; }
+    Color DefaultWindowsBackColor() const { return defaultWindowsBackColor_; }
+
+    /// Digits of a currency amount behind the point.
+    void CurrencyNumFract(std::int16_t value) { currencyNumFract_ = value; }
+    std::int16_t CurrencyNumFract() const { return currencyNumFract_; }
+
+    /// Digits of a currency amount before the point.
+    void CurrencyNumDecimal(std::int16_t value) { currencyNumDecimal_ = value; }
+    std::int16_t CurrencyNumDecimal() const { return currencyNumDecimal_; }
+
+    /// Colours of a highlighted field.
+    void HighlightForeColor(Color value) { highlightForeColor_ = value; }
+    Color HighlightForeColor() const { return highlightForeColor_; }
+    void HighlightBackColor(Color value) { highlightBackColor_ = value; }
+    Color HighlightBackColor() const { return highlightBackColor_; }
+
+    /// The factor that column widths are adjusted by.
+    void ColumnAdjust(double value) { columnAdjust_ = value; }
+    double ColumnAdjust() const { return columnAdjust_; }
+
+    /// The delimiter between a code and its description.
+    void CodeDelimeter(TextIn value) { codeDelimeter_ = value; }
+    std::u16string CodeDelimeter() const { return codeDelimeter_; }
+
+    /// Codes of the two keys that open a look-up and of the one that opens that of patients.
+    void LookupKey(std::int32_t value) { lookupKey_ = value; }
+    std::int32_t LookupKey() const { return lookupKey_; }
+    void LookupKey1(std::int32_t value) { lookupKey1_ = value; }
+    std::int32_t LookupKey1() const { return lookupKey1_; }
+    void PatientLookupKey(std::int32_t value) { patientLookupKey_ = value; }
+    std::int32_t PatientLookupKey() const { return patientLookupKey_; }
+
+    /// The height of a horizontal and the width of a vertical scroll bar, in the host's unit.
+    void ScrollBarHeight(std::int32_t value) { scrollBarHeight_ = value; }
+    std::int32_t ScrollBarHeight() const { return scrollBarHeight_; }
+    void ScrollBarWidth(std::int32_t value) { scrollBarWidth_ = value; }
+    std::int32_t ScrollBarWidth() const { return scrollBarWidth_; }
+
+    /// Colours of a disabled field.
+    void DisabledTextForeColor(Color value) { disabledTextForeColor_ = value; }
+    Color DisabledTextForeColor() const { return disabledTextForeColor_; }
+    void DisabledTextBackColor(Color value) { disabledTextBackColor_ = value; }
+    Color DisabledTextBackColor() const { return disabledTextBackColor_; }
+
+    /// The background of a highlighted row of a grid.
+    void GridHighlightBackColor(Color value) { gridHighlightBackColor_ = value; }
+    Color GridHighlightBackColor() const { return gridHighlightBackColor_; }
+
+  private:
+    bool closeDialogAfterSave_ = false;
+    Color defaultWindowsBackColor_ = 0;
+    std::int16_t currencyNumFract_ = 0;
+    std::int16_t currencyNumDecimal_ = 0;
+    Color highlightForeColor_ = 0;
+    Color highlightBackColor_ = 0;
+    double columnAdjust_ = 0;
+    std::u16string codeDelimeter_;
+    std::int32_t lookupKey_ = 0;
+    std::int32_t lookupKey1_ = 0;
+    std::int32_t patientLookupKey_ = 0;
+    std::int32_t scrollBarHeight_ = 0;
+    std::int32_t scrollBarWidth_ = 0;
+    Color disabledTextForeColor_ = 0;
+    Color disabledTextBackColor_ = 0;
+    Color gridHighlightBackColor_ = 0;
+};
+
+}  // namespace halvek

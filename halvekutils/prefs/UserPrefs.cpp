@@ -1,0 +1,168 @@
+#include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Pieces.h>
+#include <halvekutils/platform/Guard.h>
+#include <halvekutils/prefs/UserPrefs.h>
+#include <halvekutils/text/DelimitedText.h>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <variant>
+
+namespace halvek {
+
+namespace {
+
+constexpr char16_t kFieldSeparator = 223;
+constexpr char16_t kPieceMark = u'|';
+
+using TextMember = std::u16string UserPrefs::*;
+using NumberMember = std::int32_t UserPrefs::*;
+using SwitchMember = bool UserPrefs::*;
+
+// The kinds of fields: how each is reset, read and written.
+
+struct Text {
+    TextMember member;
+    const char16_t* reset = u"";
+};
+
+void Reset(UserPrefs& prefs, const Text& row) {
+    prefs.*row.member = row.reset;
+}
+void Read(UserPrefs& prefs, const Text& row, TextIn field) {
+    prefs.*row.member = field;
+}
+std::u16string Written(const UserPrefs& prefs, const Text& row) {
+    return prefs.*row.member;
+}
+
+/// A text that may arrive between two bars, and is written without them.
+struct BarredText {
+    TextMember member;
+};
+
+void Reset(UserPrefs& prefs, const BarredText& row) {
+    prefs.*row.member = u"";
+}
+void Read(UserPrefs& prefs, const BarredText& row, TextIn field) {
+    prefs.*row.member = field.starts_with(kPieceMark) ? SplitStr(field, u"|", 2) : field.Str();
+}
+std::u16string Written(const UserPrefs& prefs, const BarredText& row) {
+    return prefs.*row.member;
+}
+
+/// A number, or a colour whose reset value of -1 also stands for an empty field.
+struct Number {
+    NumberMember member;
+    std::int32_t reset;
+};
+
+void Reset(UserPrefs& prefs, const Number& row) {
+    prefs.*row.member = row.reset;
+}
+void Read(UserPrefs& prefs, const Number& row, TextIn field) {
+    if (field.empty()) return;
+    prefs.*row.member = Quietly(row.reset, [&] { return ToInt32(field); });
+}
+std::u16string Written(const UserPrefs& prefs, const Number& row) {
+    return IntegerText(prefs.*row.member);
+}
+
+struct Switch {
+    SwitchMember member;
+    std::optional<bool> reset = false;
+};
+
+void Reset(UserPrefs& prefs, const Switch& row) {
+    prefs.*row.member = row.reset.value_or(prefs.*row.member);
+}
+void Read(UserPrefs& prefs, const Switch& row, TextIn field) {
+    prefs.*row.member = EqualFolded(field, u"true");
+}
+std::u16string Written(const UserPrefs& prefs, const Switch& row) {
+    return BooleanText(prefs.*row.member);
+}
+
+/// A switch that the settings hold as a level, on from 2.
+struct Level {
+    SwitchMember member;
+};
+
+void Reset(UserPrefs& prefs, const Level& row) {
+    prefs.*row.member = false;
+}
+void Read(UserPrefs& prefs, const Level& row, TextIn field) {
+    prefs.*row.member = Val(field) >= 2;
+}
+std::u16string Written(const UserPrefs& prefs, const Level& row) {
+    return prefs.*row.member ? u"2" : u"0";
+}
+
+using Row = std::variant<Text, BarredText, Number, Switch, Level>;
+
+}  // namespace
+
+/// The fields of the settings text, in its order.
+struct UserPrefs::Table {
+    static constexpr std::array<Row, 31> kRows{{
+        BarredText{&UserPrefs::aiFormData_},
+        Text{&UserPrefs::demoFormData_},
+        Text{&UserPrefs::scheduleFormData_},
+        Text{&UserPrefs::postingFormData_},
+        Text{&UserPrefs::reportsFormData_},
+        Number{&UserPrefs::requiredFieldBackColor_, kNotSet},
+        Number{&UserPrefs::fieldTextColor_, kNotSet},
+        Number{&UserPrefs::formTopColor_, kNotSet},
+        Number{&UserPrefs::formSkinColor_, kNotSet},
+        Number{&UserPrefs::formTextColor_, kNotSet},
+        Switch{&UserPrefs::formWindowsMenu_, true},
+        Number{&UserPrefs::aiNumDaysToShow_, 0},
+        Text{&UserPrefs::reservedSetting12_},
+        Text{&UserPrefs::aiFilterData_},
+        Switch{&UserPrefs::aiKeepFilter_},
+        Level{&UserPrefs::useTables_},
+        Switch{&UserPrefs::useFileForTables_},
+        Text{&UserPrefs::reservedSetting17_},
+        Text{&UserPrefs::reservedSetting18_},
+        Text{&UserPrefs::persistentConnection_, u"Y"},
+        Switch{&UserPrefs::loadCodesOnLogin_},
+        Text{&UserPrefs::insuranceFormData_},
+        Switch{&UserPrefs::showAdvancedSettings_, std::nullopt},  // keeps its value
+        Switch{&UserPrefs::useViewAllForReportsList_},
+        Text{&UserPrefs::viewerFormData_},
+        Text{&UserPrefs::worklistFormData_},
+        Text{&UserPrefs::importImagesData_},
+        Text{&UserPrefs::emrPrefsData_},
+        Text{&UserPrefs::imageData_},
+        Text{&UserPrefs::scanningDocType_},
+        Text{&UserPrefs::solvaneImagesFolder_},
+    }};
+};
+
+UserPrefs::UserPrefs() = default;
+UserPrefs::~UserPrefs() = default;
+
+bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
+    for (const Row& row : Table::kRows) {
+        std::visit([&](const auto& kind) { Reset(*this, kind); }, row);
+    }
+    std::size_t at = 0;
+    for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
+        if (at == Table::kRows.size()) break;
+        std::visit([&](const auto& kind) { Read(*this, kind, field); }, Table::kRows[at++]);
+    }
+    return false;
+}
+
+std::u16string UserPrefs::GetSettingsString() const {
+    std::u16string settings;
+    for (const Row& row : Table::kRows) {
+        if (&row != Table::kRows.data()) settings += kFieldSeparator;
+        settings += std::visit([&](const auto& kind) { return Written(*this, kind); }, row);
+    }
+    return settings;
+}
+
+}  // namespace halvek

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <halvekutils/base/BoolIn.h>
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+/// One user's preferences: colours, switches and a text for each screen of the host, which the
+/// server keeps as one settings text.
+///
+/// The texts for the screens are the host's own; only the layout of the settings is known here. A
+/// new object holds empty texts, 0 and false until PopulateSettings. A colour of -1 is not set:
+/// reading it stores and returns its default.
+///
+///     UserPrefs prefs;
+///     prefs.PopulateSettings(server.settings());
+///     prefs.UseTables(true);
+///     server.save(prefs.GetSettingsString());
+class HALVEK_EXPORT UserPrefs {
+  public:
+    UserPrefs();
+    ~UserPrefs();
+
+    void ShowAdvancedSettings(BoolIn value) { showAdvancedSettings_ = value; }
+    bool ShowAdvancedSettings() const { return showAdvancedSettings_; }
+    void LoadCodesOnLogin(BoolIn value) { loadCodesOnLogin_ = value; }
+    bool LoadCodesOnLogin() const { return loadCodesOnLogin_; }
+
+    /// "Y" after PopulateSettings when the settings do not say.
+    void PersistentConnection(TextIn value) { persistentConnection_ = value; }
+    std::u16string PersistentConnection() const { return persistentConnection_; }
+
+    void UseFileForTables(BoolIn value) { useFileForTables_ = value; }
+    bool UseFileForTables() const { return useFileForTables_; }
+    void UseViewAllForReportsList(BoolIn value) { useViewAllForReportsList_ = value; }
+    bool UseViewAllForReportsList() const { return useViewAllForReportsList_; }
+    void UseTables(BoolIn value) { useTables_ = value; }
+    bool UseTables() const { return useTables_; }
+    void AIKeepFilter(BoolIn value) { aiKeepFilter_ = value; }
+    bool AIKeepFilter() const { return aiKeepFilter_; }
+    void AIFilterData(TextIn value) { aiFilterData_ = value; }
+    std::u16string AIFilterData() const { return aiFilterData_; }
+    void AINumDaysToShow(std::int32_t value) { aiNumDaysToShow_ = value; }
+    std::int32_t AINumDaysToShow() const { return aiNumDaysToShow_; }
+
+    /// Not part of the settings text, and kept by PopulateSettings.
+    void LastPrinterUsed(TextIn value) { lastPrinterUsed_ = value; }
+    std::u16string LastPrinterUsed() const { return lastPrinterUsed_; }
+
+    void FormWindowsMenu(BoolIn value) { formWindowsMenu_ = value; }
+    bool FormWindowsMenu() const { return formWindowsMenu_; }
+    void FormTextColor(Color value) { formTextColor_ = value; }
+    Color FormTextColor() { return OrDefault(formTextColor_, kDefaultFormText); }
+    void FormSkinColor(Color value) { formSkinColor_ = value; }
+    Color FormSkinColor() { return OrDefault(formSkinColor_, kDefaultFormSkin); }
+    void FormTopColor(Color value) { formTopColor_ = value; }
+    Color FormTopColor() { return OrDefault(formTopColor_, kDefaultFormTop); }
+    void FieldTextColor(Color value) { fieldTextColor_ = value; }
+    Color FieldTextColor() { return OrDefault(fieldTextColor_, kDefaultFieldText); }
+
+    /// Resets the settings and applies those of a settings text, field by field.
+    ///
+    /// Fields are parted by the character of code 223. A text that ends early leaves the rest as
+    /// reset, as does a number that 32 bits do not hold; what follows field 30 is ignored.
+    /// LastPrinterUsed is not reset, and ShowAdvancedSettings only where the text has its field.
+    /// @return always false, whatever the text
+    bool PopulateSettings(TextIn StrAllSettings);
+
+    /// The settings text: 31 fields, colours as they are stored, so -1 for one that is not set.
+    std::u16string GetSettingsString() const;
+
+    void RequiredFieldBackColor(Color value) { requiredFieldBackColor_ = value; }
+    Color RequiredFieldBackColor() {
+        return OrDefault(requiredFieldBackColor_, kDefaultRequiredFieldBack);
+    }
+    void PostingFormData(TextIn value) { postingFormData_ = value; }
+    std::u16string PostingFormData() const { return postingFormData_; }
+    void ScheduleFormData(TextIn value) { scheduleFormData_ = value; }
+    std::u16string ScheduleFormData() const { return scheduleFormData_; }
+    void ReportsFormData(TextIn value) { reportsFormData_ = value; }
+    std::u16string ReportsFormData() const { return reportsFormData_; }
+    void InsuranceFormData(TextIn value) { insuranceFormData_ = value; }
+    std::u16string InsuranceFormData() const { return insuranceFormData_; }
+    void DemoFormData(TextIn value) { demoFormData_ = value; }
+    std::u16string DemoFormData() const { return demoFormData_; }
+    void AIFormData(TextIn value) { aiFormData_ = value; }
+    std::u16string AIFormData() const { return aiFormData_; }
+    void ViewerFormData(TextIn value) { viewerFormData_ = value; }
+    std::u16string ViewerFormData() const { return viewerFormData_; }
+    void WorklistFormData(TextIn value) { worklistFormData_ = value; }
+    std::u16string WorklistFormData() const { return worklistFormData_; }
+    void ImportImagesData(TextIn value) { importImagesData_ = value; }
+    std::u16string ImportImagesData() const { return importImagesData_; }
+    void EMRPrefsData(TextIn value) { emrPrefsData_ = value; }
+    std::u16string EMRPrefsData() const { return emrPrefsData_; }
+    void ImageData(TextIn value) { imageData_ = value; }
+    std::u16string ImageData() const { return imageData_; }
+    void ScanningDocType(TextIn value) { scanningDocType_ = value; }
+    std::u16string ScanningDocType() const { return scanningDocType_; }
+    void SolvaneImagesFolder(TextIn value) { solvaneImagesFolder_ = value; }
+    std::u16string SolvaneImagesFolder() const { return solvaneImagesFolder_; }
+
+  private:
+    struct Table;
+
+    static constexpr Color kNotSet = -1;
+    static constexpr Color kDefaultFormText = kWhite;
+    static constexpr Color kDefaultFormSkin = Rgb(0x5B, 0x76, 0x93);
+    static constexpr Color kDefaultFormTop = kDefaultFormSkin;
+    static constexpr Color kDefaultFieldText = kBlack;
+    static constexpr Color kDefaultRequiredFieldBack = Rgb(0x78, 0xD2, 0xFF);
+
+    static Color OrDefault(Color& color, Color whenNotSet) {
+        if (color == kNotSet) color = whenNotSet;
+        return color;
+    }
+
+    bool showAdvancedSettings_ = false;
+    bool loadCodesOnLogin_ = false;
+    std::u16string persistentConnection_;
+    bool useFileForTables_ = false;
+    bool useViewAllForReportsList_ = false;
+    bool useTables_ = false;
+    bool aiKeepFilter_ = false;
+    std::u16string aiFilterData_;
+    std::int32_t aiNumDaysToShow_ = 0;
+    std::u16string lastPrinterUsed_;
+    bool formWindowsMenu_ = false;
+    Color formTextColor_ = 0;
+    Color formSkinColor_ = 0;
+    Color formTopColor_ = 0;
+    Color fieldTextColor_ = 0;
+    Color requiredFieldBackColor_ = 0;
+    std::u16string postingFormData_;
+    std::u16string scheduleFormData_;
+    std::u16string reportsFormData_;
+    std::u16string insuranceFormData_;
+    std::u16string demoFormData_;
+    std::u16string aiFormData_;
+    std::u16string viewerFormData_;
+    std::u16string worklistFormData_;
+    std::u16string importImagesData_;
+    std::u16string emrPrefsData_;
+    std::u16string imageData_;
+    std::u16string scanningDocType_;
+    std::u16string solvaneImagesFolder_;
+    std::u16string reservedSetting12_;
+    std::u16string reservedSetting17_;
+    std::u16string reservedSetting18_;
+};
+
+}  // namespace halvek

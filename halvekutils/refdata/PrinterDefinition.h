@@ -1,0 +1,50 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+/// What the printers collection is told of a printer; PrinterDefinition documents the fields.
+struct PrinterFields {
+    bool isSerial = false;
+    std::u16string printerID;
+    std::u16string printerType;
+    std::u16string printerDescription;
+    std::u16string printerPort;
+    std::u16string printerDeviceName;
+    std::u16string printerDriverName;
+};
+
+/// An output device that a user may pick. Made by PrintersCollection only.
+class HALVEK_EXPORT PrinterDefinition {
+  public:
+    ~PrinterDefinition();
+
+    /// A workstation printer's name; empty for an entry of the serial list.
+    std::u16string PrinterDeviceName() const { return fields_.printerDeviceName; }
+    /// The port; "FILE" for an entry that prints to a file.
+    std::u16string PrinterPort() const { return fields_.printerPort; }
+    /// The serial list's description, or a workstation printer's name.
+    std::u16string PrinterDescription() const { return fields_.printerDescription; }
+    /// "SERIAL", "FILE" or "WIN".
+    std::u16string PrinterType() const { return fields_.printerType; }
+    /// The serial list's identifier, "S" for the spool; "1WIN", "2WIN", ... for the workstation's.
+    std::u16string PrinterID() const { return fields_.printerID; }
+    /// True for every entry of the serial list, those that print to a file included.
+    bool IsSerial() const { return fields_.isSerial; }
+    /// Always 0: printers are numbered by their keys.
+    std::int16_t NumberInOrder() const { return 0; }
+    /// The driver's name where the workstation's printer list gave one.
+    std::u16string PrinterDriverName() const { return fields_.printerDriverName; }
+
+  private:
+    friend class PrintersCollection;
+    explicit PrinterDefinition(PrinterFields fields);
+
+    PrinterFields fields_;
+};
+
+}  // namespace halvek

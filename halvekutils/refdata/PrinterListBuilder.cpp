@@ -1,0 +1,142 @@
+#include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Pieces.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Guard.h>
+#include <halvekutils/refdata/PrinterListBuilder.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr char16_t kEntrySeparator = u'\t';
+constexpr char16_t kFieldSeparator = u':';
+constexpr std::u16string_view kPrinterListWord = u"printerlistold";
+constexpr std::u16string_view kConnectionsWord = u"printerlistnew";
+constexpr std::size_t kMaxInstalled = 100;
+
+enum Field : std::size_t { kIdentifier, kIgnored, kDescription, kPort, kFieldCount };
+
+using Fields = std::array<TextIn, kFieldCount>;
+
+/// The fields of a serial entry; nothing when it has more or less than four.
+std::optional<Fields> Cut(TextIn entry) {
+    Fields fields;
+    std::size_t count = 0;
+    for (const TextIn field : Pieces(entry, kFieldSeparator)) {
+        if (count == kFieldCount) return std::nullopt;
+        fields[count++] = field;
+    }
+    if (count < kFieldCount) return std::nullopt;
+    return fields;
+}
+
+PrinterFields SerialPrinter(const Fields& fields) {
+    PrinterFields printer;
+    printer.isSerial = true;
+    printer.printerID = fields[kIdentifier];
+    printer.printerType = fields[kPort] == u"FILE" ? u"FILE" : u"SERIAL";
+    printer.printerDescription = fields[kDescription];
+    printer.printerPort = fields[kPort];
+    return printer;
+}
+
+PrinterFields WorkstationPrinter(std::size_t position, std::u16string name, std::u16string port) {
+    PrinterFields printer;
+    printer.printerID = IntegerText(static_cast<std::int64_t>(position)) + u"WIN";
+    printer.printerType = u"WIN";
+    printer.printerDescription = name;
+    printer.printerPort = std::move(port);
+    printer.printerDeviceName = std::move(name);
+    return printer;
+}
+
+bool HasWord(std::u16string_view specialMode, std::u16string_view lowerCaseWord) {
+    const auto same = [](char16_t character, char16_t wanted) {
+        return FoldCase(character) == wanted;
+    };
+    return std::search(specialMode.begin(), specialMode.end(), lowerCaseWord.begin(),
+                       lowerCaseWord.end(), same) != specialMode.end();
+}
+
+auto LogOf(Services& services) {
+    return [&services](TextIn line) { services.LogError(line); };
+}
+
+}  // namespace
+
+PrinterListBuilder::PrinterListBuilder(PrintersCollection& printers, PrinterSource& source,
+                                       Services& services)
+    : printers_(printers), source_(source), services_(services) {}
+
+void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList) {
+    std::int32_t position = 0;
+    for (const TextIn entry : Pieces(serialPrintersList, kEntrySeparator)) {
+        if (!entry.empty()) AddSerialPrinter(entry, position);
+        ++position;
+    }
+}
+
+void PrinterListBuilder::AddSerialPrinter(TextIn entry, std::int32_t position) {
+    if (const auto fields = Cut(entry)) {
+        AddNext(SerialPrinter(*fields));
+        return;
+    }
+    Beep();
+    services_.LogError(u"BuildPrintersCollection error; format is invalid for item " +
+                       IntegerText(position) + u' ' + entry.Str());
+}
+
+void PrinterListBuilder::AddWorkstationPrinters() {
+    const std::u16string specialMode = services_.SpecialMode();
+    if (HasWord(specialMode, kPrinterListWord)) {
+        AddInstalledPrinters();
+        return;
+    }
+    if (AddConnections() || HasWord(specialMode, kConnectionsWord)) return;
+    Beep();
+    services_.LogError(u"Adding Printers the old way 100 max. Total count: " +
+                       IntegerText(static_cast<std::int64_t>(source_.Installed().size())));
+    AddInstalledPrinters();
+}
+
+bool PrinterListBuilder::AddConnections() {
+    const auto add = [&] {
+        std::size_t position = 0;
+        for (auto& [port, name] : source_.Connections()) {
+            AddNext(WorkstationPrinter(++position, std::move(name), std::move(port)));
+        }
+        return true;
+    };
+    return Guarded(OnFault::Quiet, u"AddWindowsPrintersWSH ", LogOf(services_), false, add);
+}
+
+void PrinterListBuilder::AddInstalledPrinters() {
+    const auto add = [&] {
+        std::size_t position = 0;
+        for (auto& [deviceName, port, driverName] : source_.Installed()) {
+            if (position == kMaxInstalled) {
+                Beep();
+                services_.LogError(u"Printers list over MaxNoToLoad, limiting to MaxNoToLoad 100");
+                return;
+            }
+            PrinterFields printer =
+                WorkstationPrinter(++position, std::move(deviceName), std::move(port));
+            printer.printerDriverName = std::move(driverName);
+            AddNext(std::move(printer));
+        }
+    };
+    Guarded(OnFault::Quiet, u"AddWindowsPrintersOldWay ", LogOf(services_), add);
+}
+
+void PrinterListBuilder::AddNext(PrinterFields fields) {
+    printers_.Add(std::move(fields), ++counter_);
+}
+
+}  // namespace halvek

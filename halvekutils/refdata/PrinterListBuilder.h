@@ -1,0 +1,42 @@
+#pragma once
+
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/PrinterSource.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/refdata/PrintersCollection.h>
+
+#include <cstdint>
+#include <string>
+
+namespace halvek {
+
+/// One build of the printers collection: the server's list, then the workstation's printers, all
+/// numbered by one counter that starts at 0.
+class PrinterListBuilder {
+  public:
+    PrinterListBuilder(PrintersCollection& printers, PrinterSource& source, Services& services);
+
+    /// Adds the entries of the server's list. They are parted by tabs, their four fields by ":":
+    /// identifier, an ignored one, description, port. An entry with another number of fields beeps,
+    /// is logged and skipped. Throws DuplicateKey.
+    void AddSerialPrinters(TextIn serialPrintersList);
+
+    /// Adds the workstation's printers, from the source that the session's special mode chooses:
+    /// "printerlistold" the printer list, "printerlistnew" the connections. With neither word the
+    /// connections come first and the printer list stands in when they fail. Logs its failures;
+    /// what was added before one stays.
+    void AddWorkstationPrinters();
+
+  private:
+    void AddSerialPrinter(TextIn entry, std::int32_t position);
+    bool AddConnections();
+    void AddInstalledPrinters();
+    void AddNext(PrinterFields fields);
+
+    PrintersCollection& printers_;
+    PrinterSource& source_;
+    Services& services_;
+    std::int32_t counter_ = -1;
+};
+
+}  // namespace halvek

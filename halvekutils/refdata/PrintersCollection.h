@@ -1,0 +1,63 @@
+#pragma once
+
+#include <halvekutils/base/Enumerator.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Fetchable.h>
+#include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/refdata/PrinterDefinition.h>
+
+#include <cstdint>
+#include <iterator>
+#include <memory>
+
+namespace halvek {
+
+/// The kinds of printers that a filtered collection leaves out.
+struct PrinterFilter {
+    bool excludeSpool = true;
+    bool excludeFile = false;
+    bool excludeWindows = false;
+    bool excludeSerial = false;
+};
+
+/// The printers that a user may pick, the server's first, then the workstation's; read-only to the
+/// host.
+///
+/// Keys are a number followed by "KEY": from 0KEY in a collection that was built, from 1KEY in a
+/// filtered one.
+///
+///     for (const auto& printer : *utils->GetPrintersCollectionFiltered())
+///         list.add(printer->PrinterDescription());
+class HALVEK_EXPORT PrintersCollection : public Fetchable,
+                                         public std::enable_shared_from_this<PrintersCollection> {
+  public:
+    static std::shared_ptr<PrintersCollection> CreateEmpty();
+    ~PrintersCollection() override;
+
+    /// The printer at a position from 1. Throws SubscriptOutOfRange.
+    std::shared_ptr<PrinterDefinition> Item(std::int32_t position) const;
+
+    /// The printer under a key, letter case ignored. Throws InvalidArgument for an unknown key.
+    std::shared_ptr<PrinterDefinition> Item(TextIn key) const;
+
+    std::int32_t Count() const override;
+    void Fetch(TextIn key) override;
+
+    Enumerator<const PrintersCollection> begin() const;
+    std::default_sentinel_t end() const { return {}; }
+
+    /// Adds a printer under the key of a number: 7 stands for "7KEY". Throws DuplicateKey.
+    void Add(PrinterFields fields, std::int32_t number);
+
+    /// Copies of the printers that pass the filter, in their order. The spool, the entry with the
+    /// identifier "S", is no serial printer to the filter, even where its type says so.
+    std::shared_ptr<PrintersCollection> Filtered(const PrinterFilter& filter) const;
+
+  private:
+    PrintersCollection();
+
+    KeyedCollection<PrinterDefinition> printers_;
+};
+
+}  // namespace halvek

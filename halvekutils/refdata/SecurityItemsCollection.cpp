@@ -1,0 +1,94 @@
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Pieces.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Guard.h>
+#include <halvekutils/refdata/SecurityItemsCollection.h>
+
+namespace halvek {
+
+namespace {
+
+constexpr char16_t kItemSeparator = 230;
+constexpr std::u16string_view kFullAccessData = u"***";
+constexpr char16_t kEveryRight = u'F';
+constexpr char16_t kNoRight = u'0';
+
+bool fullAccess = false;
+
+}  // namespace
+
+SecurityItemsCollection::SecurityItemsCollection(Services& services) : services_(services) {}
+SecurityItemsCollection::~SecurityItemsCollection() = default;
+
+std::shared_ptr<SecurityItemsCollection> SecurityItemsCollection::CreateEmpty(Services& services) {
+    return std::shared_ptr<SecurityItemsCollection>(new SecurityItemsCollection(services));
+}
+
+void SecurityItemsCollection::EndFullAccess() noexcept {
+    fullAccess = false;
+}
+
+std::shared_ptr<SecurityItem> SecurityItemsCollection::Item(std::int32_t position) {
+    if (position >= 1 && position <= Count()) {
+        const auto& found = items_.Item(position);
+        if (fullAccess) found->Init(IntegerText(position), kEveryRight);
+        return found;
+    }
+    std::shared_ptr<SecurityItem> item(new SecurityItem);
+    if (fullAccess) item->Init(IntegerText(position), kEveryRight);
+    items_.Add(item, item->itemKey_);
+    return item;
+}
+
+std::shared_ptr<SecurityItem> SecurityItemsCollection::Item(TextIn key) {
+    if (const auto* const found = items_.Find(key)) {
+        if (fullAccess) (*found)->Init(key, kEveryRight);
+        return *found;
+    }
+    std::shared_ptr<SecurityItem> item(new SecurityItem);
+    item->Init(key, fullAccess ? kEveryRight : kNoRight);
+    items_.Add(item, key);
+    if (!fullAccess) ReportMissing(key);
+    return item;
+}
+
+std::int32_t SecurityItemsCollection::Count() const {
+    return items_.Count();
+}
+
+void SecurityItemsCollection::Fetch(TextIn key) {
+    Item(key);
+}
+
+Enumerator<const KeyedCollection<SecurityItem>> SecurityItemsCollection::begin() const {
+    // Holds this collection, but steps through its store: Item would grant rights.
+    return Enumerator(
+        std::shared_ptr<const KeyedCollection<SecurityItem>>(shared_from_this(), &items_));
+}
+
+void SecurityItemsCollection::AddItems(TextIn securityData) {
+    fullAccess = securityData == kFullAccessData;
+    if (fullAccess) return;
+    for (const TextIn piece : Pieces(securityData, kItemSeparator)) {
+        if (piece.empty()) continue;
+        const std::shared_ptr<SecurityItem> item(new SecurityItem);
+        item->Init(piece.substr(0, piece.size() - 1), piece.back());
+        Add(item);
+    }
+}
+
+void SecurityItemsCollection::Add(const std::shared_ptr<SecurityItem>& item) {
+    const auto prefix = [&] { return u"AddSecurity Item error: " + item->itemKey_ + u' '; };
+    const auto log = [&](TextIn line) { services_.LogError(line); };
+    Guarded(OnFault::Quiet, prefix, log, [&] { items_.Add(item, item->itemKey_); });
+}
+
+void SecurityItemsCollection::ReportMissing(TextIn key) {
+    const bool asked = services_.DebugMode() ||
+                       services_.SpecialMode().find(u"check security") != std::u16string::npos;
+    if (!asked) return;
+    Beep();
+    services_.LogError(key.Str() + u" security item was not found");
+}
+
+}  // namespace halvek

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# A print scheduler of a test's own, for root and for an ordinary user: it listens on FOLDER/socket
+# only, keeps all of its files in FOLDER and asks nobody for a password.
+# Usage: scheduler.sh start FOLDER          becomes the scheduler; it ends with the caller
+#        scheduler.sh queues FOLDER COUNT   waits for it and adds the queues Queue1, Queue2, ...
+set -euo pipefail
+PATH=$PATH:/usr/sbin
+folder=$2
+export CUPS_SERVER=$folder/socket
+
+start() {
+    mkdir -p "$folder"/{conf,state,cache,spool,tmp,log}
+    cat >"$folder/conf/cupsd.conf" <<CONF
+Listen $folder/socket
+Browsing Off
+WebInterface No
+LogLevel error
+<Policy default>
+  JobPrivateAccess default
+  JobPrivateValues none
+  SubscriptionPrivateAccess default
+  SubscriptionPrivateValues none
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+CONF
+    cat >"$folder/conf/cups-files.conf" <<CONF
+FileDevice Yes
+ServerRoot $folder/conf
+StateDir $folder/state
+CacheDir $folder/cache
+RequestRoot $folder/spool
+TempDir $folder/tmp
+AccessLog $folder/log/access
+ErrorLog $folder/log/error
+PageLog $folder/log/page
+CONF
+    exec setpriv --pdeathsig KILL cupsd -f -c "$folder/conf/cupsd.conf" \
+        -s "$folder/conf/cups-files.conf" >"$folder/log/out" 2>&1
+}
+
+queues() {
+    for _ in {1..200}; do
+        [ "$(LC_ALL=C lpstat -r)" = "scheduler is running" ] && break
+        sleep 0.05
+    done
+    # A description that gives a make and model; queues without one are raw.
+    printf '%s\n' '*PPD-Adobe: "4.3"' '*Manufacturer: "Halvek"' '*ModelName: "Label"' \
+        '*NickName: "Halvek Label 200"' >"$folder/label.ppd"
+    for ((i = 1; i <= $1; i++)); do
+        if ((i == 2)); then
+            lpadmin -p "Queue$i" -E -v "ipp://192.0.2.1/$i" -P "$folder/label.ppd" 2>/dev/null
+        else
+            lpadmin -p "Queue$i" -E -v file:/dev/null
+        fi
+    done
+}
+
+"$1" "${@:3}"

@@ -1,0 +1,130 @@
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/prefs/ReminderDefinition.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+
+namespace halvek {
+namespace {
+
+using namespace std::string_view_literals;
+
+std::u16string Joined(const StringArray& array, std::int32_t from) {
+    std::u16string joined;
+    for (std::int32_t i = from; i <= array.UBound(); ++i) {
+        joined += (i == from ? u"" : u"/") + array[i];
+    }
+    return joined;
+}
+
+/// The lines of all tabs, each tab in brackets.
+std::u16string LinesOf(const ReminderDefinition& reminder) {
+    std::u16string lines;
+    for (std::int16_t tab = 1; reminder.TabData(tab).IsAllocated(); ++tab) {
+        EXPECT_EQ(reminder.TabData(tab).LBound(), 0);
+        EXPECT_EQ(reminder.TabData(tab)[0], u"");
+        lines += u'[' + Joined(reminder.TabData(tab), 1) + u']';
+    }
+    return lines;
+}
+
+TEST(ReminderDefinition, ReadsTabsTitlesAndLines) {
+    const struct {
+        std::u16string_view data, titles, lines;
+        bool alert, patient;
+    } rows[] = {
+        {u"AllergiesæPenicillinæP-Latex gloves onlyçBalanceæ-Past due 90 days£1",
+         u"Allergies/Balance", u"[Penicillin/P-Latex gloves only][-Past due 90 days]", true, true},
+        {u"Aæx", u"A", u"[x]", false, false},
+        {u"A", u"A", u"[]", false, false},
+        {u"Aææxææyæ", u"A", u"[x/y]", false, false},
+        {u"æxæy", u"", u"[x/y]", false, false},
+        {u"æp-x", u"", u"[p-x]", false, true},
+        {u"AæxççBæy", u"A/B", u"[x][][y]", false, false},
+        {u"ç", u"", u"[][]", false, false},
+        {u"çAæxç", u"A", u"[][x][]", false, false},
+        {u"ææç", u"", u"[][]", false, false},
+        {u"P-titleæx", u"P-title", u"[x]", false, false},
+        {u"Aæ-P-xæPæpxæ P-", u"A", u"[-P-x/P/px/ P-]", false, false},
+        {u"Aæp-", u"A", u"[p-]", false, true},
+        {u"Aæx£0", u"A", u"[x]", false, false},
+        {u"Aæx£", u"A", u"[x]", false, false},
+        {u"Aæx£a1", u"A", u"[x]", false, false},
+        {u"Aæx£12", u"A", u"[x]", true, false},
+        {u"Aæx£ 1", u"A", u"[x]", false, false},
+        {u"Aæx£0£1çBæP-y", u"A", u"[x]", false, false},
+        {u"A\0æ\0P-"sv, u"A\0"sv, u"[\0P-]"sv, false, false},
+        {u"\x4E2D"
+         u"æP-\xD800",
+         u"\x4E2D", u"[P-\xD800]", false, true},
+    };
+    for (const auto& row : rows) {
+        ReminderDefinition reminder;
+        reminder.PopulateReminder(u"A-17", row.data);
+        const std::string data = ToUtf8(row.data);
+        EXPECT_EQ(reminder.AcctNo(), u"A-17");
+        EXPECT_TRUE(reminder.HasData()) << data;
+        EXPECT_EQ(Joined(reminder.Tabs(), 1), row.titles) << data;
+        EXPECT_EQ(reminder.Tabs().LBound(), 1);
+        EXPECT_EQ(LinesOf(reminder), row.lines) << data;
+        EXPECT_EQ(reminder.SoundAlert(), row.alert) << data;
+        EXPECT_EQ(reminder.HasPatientSpecificData(), row.patient) << data;
+    }
+}
+
+TEST(ReminderDefinition, AnAlertAloneIsNoData) {
+    const struct {
+        std::u16string_view data;
+        bool alert;
+    } rows[] = {{u"", false},  {u"£1", true},  {u"£0", false},
+                {u"£", false}, {u"£x", false}, {u"£1Aæx", true}};
+    for (const auto& row : rows) {
+        ReminderDefinition reminder;
+        reminder.PopulateReminder(u"", row.data);
+        EXPECT_FALSE(reminder.HasData());
+        EXPECT_EQ(reminder.SoundAlert(), row.alert) << ToUtf8(row.data);
+        EXPECT_EQ(reminder.Tabs().UBound(), 0);
+        EXPECT_EQ(reminder.TabData(1), StringArray(0, 0));
+        EXPECT_EQ(reminder.TabData(-1), StringArray(0, 0));
+    }
+}
+
+TEST(ReminderDefinition, ATabThatDoesNotExistHasNoArray) {
+    ReminderDefinition reminder;
+    reminder.PopulateReminder(u"", u"AæxçB");
+    for (const int tab : {0, -1, 3, 32767, -32768}) {
+        EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(tab)).IsAllocated()) << tab;
+    }
+}
+
+TEST(ReminderDefinition, TakesWhatNoServerSends) {
+    const std::u16string many(1'000'000, u'ç');
+    ReminderDefinition tabs;
+    tabs.PopulateReminder(u"", many + u"LastæP-x");
+    EXPECT_EQ(Joined(tabs.Tabs(), 1), u"Last");
+    EXPECT_EQ(tabs.TabData(32767), StringArray(0, 0));
+    EXPECT_TRUE(tabs.HasPatientSpecificData());
+
+    std::mt19937 random(3);
+    for (int round = 0; round < 2000; ++round) {
+        std::u16string data;
+        for (auto left = random() % 40; left > 0; --left) data += u"æææççç£1Pp-xy\0"[random() % 14];
+        ReminderDefinition reminder;
+        reminder.PopulateReminder(data, data);
+        const std::u16string text = data.substr(0, data.find(u'£'));
+        EXPECT_EQ(reminder.HasData(), !text.empty());
+        if (text.empty()) continue;
+        const auto pieces = static_cast<std::int16_t>(std::ranges::count(text, u'ç') + 1);
+        EXPECT_TRUE(reminder.TabData(pieces).IsAllocated()) << ToUtf8(data);
+        EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(pieces + 1)).IsAllocated());
+        EXPECT_LE(reminder.Tabs().UBound(), pieces);
+    }
+}
+
+}  // namespace
+}  // namespace halvek
