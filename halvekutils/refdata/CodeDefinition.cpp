@@ -1,4 +1,5 @@
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/refdata/CodeDefinition.h>
 
 #include <array>
@@ -30,13 +31,11 @@ struct Record {
 };
 
 /// Cuts a record into its fields; those behind the last known one are ignored.
-Record Cut(std::u16string_view data) {
+Record Cut(TextIn data) {
     Record record;
-    while (record.count < kFieldCount) {
-        const std::size_t end = data.find(kFieldSeparator);
-        record.fields[record.count++] = data.substr(0, end);
-        if (end == std::u16string_view::npos) break;
-        data.remove_prefix(end + 1);
+    for (const TextIn field : Pieces(data, kFieldSeparator)) {
+        if (record.count == kFieldCount) break;
+        record.fields[record.count++] = field;
     }
     return record;
 }

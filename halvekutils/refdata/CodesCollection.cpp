@@ -1,3 +1,4 @@
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/refdata/CodesCollection.h>
 
@@ -39,13 +40,8 @@ Enumerator<const CodesCollection> CodesCollection::begin() const {
 }
 
 void CodesCollection::AddRecords(TextIn codesData, Services& services) {
-    std::u16string_view rest = codesData;
-    while (!rest.empty()) {
-        const std::size_t end = rest.find(kRecordSeparator);
-        const TextIn record = rest.substr(0, end);
+    for (const TextIn record : Pieces(codesData, kRecordSeparator)) {
         if (!record.empty()) AddRecord(record, services);
-        if (end == std::u16string_view::npos) return;
-        rest.remove_prefix(end + 1);
     }
 }
 
