@@ -14,7 +14,7 @@ namespace halvek {
 namespace {
 
 constexpr int kParts = SelectionList::kRowsPerBand;
-constexpr int kTextMargin = 4;
+constexpr int kTextMargin = 5;
 constexpr int kOutlineTone = 150;  // per cent
 
 /// No cell is so wide that more of a text could show.
