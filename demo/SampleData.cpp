@@ -2,6 +2,7 @@
 
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/qt/QtText.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,12 +45,23 @@ halvek::StringArray ParseColors(const QByteArray& bytes) {
     return halvek::StringArray(1, std::move(colors));
 }
 
+/// One list a line, after its name and "=".
+std::vector<SelectionSource> ParseSelections(const QByteArray& bytes) {
+    const std::u16string text = halvek::FromCodePage(bytes.toStdString());
+    std::vector<SelectionSource> lists;
+    for (const QString& line : halvek::ToQString(text).split('\n', Qt::SkipEmptyParts)) {
+        lists.push_back({line.section('=', 0, 0), line.section('=', 1)});
+    }
+    return lists;
+}
+
 }  // namespace
 
 SampleData::SampleData(const QString& folder)
     : session_(ParseSession(ReadFile(folder, "session.txt"))),
       colors_(ParseColors(ReadFile(folder, "colors.txt"))),
-      codes_(halvek::FromCodePage(ReadFile(folder, "codes.txt").toStdString())) {}
+      codes_(halvek::FromCodePage(ReadFile(folder, "codes.txt").toStdString())),
+      selections_(ParseSelections(ReadFile(folder, "selections.txt"))) {}
 
 QString SampleData::Folder() {
     const QDir installed(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace frontdesk {
 
@@ -38,6 +39,12 @@ struct OtherSettings {
     std::int32_t scrollBarWidth = 0;
 };
 
+/// A list that the user chooses codes from.
+struct SelectionSource {
+    QString name;
+    QString values;  ///< in the server's format
+};
+
 /// What a practice's server would send at start-up, read from the files of a data folder.
 class SampleData {
   public:
@@ -57,12 +64,16 @@ class SampleData {
     /// codes.txt: the code tables in the server's format.
     const std::u16string& Codes() const { return codes_; }
 
+    /// The lists of selections.txt, in their order there.
+    const std::vector<SelectionSource>& Selections() const { return selections_; }
+
   private:
     halvek::Color SessionColor(const QString& name) const { return session_.value(name).toInt(); }
 
     QHash<QString, QString> session_;
     halvek::StringArray colors_;
     std::u16string codes_;
+    std::vector<SelectionSource> selections_;
 };
 
 }  // namespace frontdesk

@@ -1,10 +1,12 @@
 #include "pages/Pages.h"
 
+#include "pages/CharacterFilterPage.h"
 #include "pages/CodesPage.h"
 #include "pages/DataBinsPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/SelectionPage.h"
 #include "pages/SessionPage.h"
 
 namespace frontdesk {
@@ -17,6 +19,8 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<DataBinsPage>(desk));
     pages.push_back(std::make_unique<ErrorLogPage>(desk));
     pages.push_back(std::make_unique<MessageBoxPage>(desk));
+    pages.push_back(std::make_unique<SelectionPage>(desk));
+    pages.push_back(std::make_unique<CharacterFilterPage>(desk));
     return pages;
 }
 

@@ -38,6 +38,7 @@ void Tour::Answer(const QString& name, std::vector<TourStep> steps,
     dialogName_ = name;
     steps_ = std::move(steps);
     nextStep_ = 0;
+    dialog_ = nullptr;
     ticksOpen_ = 0;
     timer_.start(kTick);
     open();
@@ -50,6 +51,7 @@ void Tour::Answer(const QString& name, std::vector<TourStep> steps,
 void Tour::Tick() {
     QWidget* dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || !dialog->isVisible()) return;
+    if (std::exchange(dialog_, dialog) != dialog) ticksOpen_ = 0;
     if (++ticksOpen_ < kTicksToSettle || nextStep_ == steps_.size()) return;
     try {
         RunStep(*dialog);

@@ -26,7 +26,8 @@ class Tour {
     /// Throws std::runtime_error when the folder cannot be written.
     Tour(const QString& folder, CallLog& calls);
 
-    /// Opens a dialog and takes the steps in it. The call must end after the last step.
+    /// Opens a dialog and takes the steps in it, or in a dialog that lies on top of it. The call
+    /// must end after the last step.
     void Answer(const QString& name, std::vector<TourStep> steps,
                 const std::function<void()>& open);
 
@@ -62,6 +63,7 @@ class Tour {
     QString dialogName_;
     std::vector<TourStep> steps_;
     std::size_t nextStep_ = 0;
+    QWidget* dialog_ = nullptr;  ///< the one on top, to recognise only
     int ticksOpen_ = 0;
     int dialogs_ = 0;
     int pictures_ = 0;

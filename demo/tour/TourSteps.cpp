@@ -1,9 +1,12 @@
 #include "tour/TourSteps.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTableView>
 
 #include <stdexcept>
 
@@ -11,18 +14,28 @@ namespace frontdesk {
 
 namespace {
 
-QWidget& Find(QWidget& dialog, const QString& name) {
-    QWidget* found = name.isEmpty() ? &dialog : dialog.findChild<QWidget*>(name);
+template <class Widget = QWidget>
+Widget& Find(QWidget& dialog, const QString& name) {
+    auto* found = name.isEmpty() ? qobject_cast<Widget*>(&dialog) : dialog.findChild<Widget*>(name);
     if (found == nullptr || !found->isVisible()) {
         throw std::runtime_error(("there is no " + name + " to use").toStdString());
     }
     return *found;
 }
 
-void PostMouse(QWidget& widget, QEvent::Type type, Qt::MouseButtons held) {
-    const QPointF at = widget.rect().center();
-    QCoreApplication::postEvent(&widget, new QMouseEvent(type, at, widget.mapToGlobal(at),
-                                                         Qt::LeftButton, held, Qt::NoModifier));
+void PostClick(QWidget& widget, const QPointF& at) {
+    const auto post = [&](QEvent::Type type, Qt::MouseButtons held) {
+        QCoreApplication::postEvent(&widget, new QMouseEvent(type, at, widget.mapToGlobal(at),
+                                                             Qt::LeftButton, held, Qt::NoModifier));
+    };
+    post(QEvent::MouseButtonPress, Qt::LeftButton);
+    post(QEvent::MouseButtonRelease, Qt::NoButton);
+}
+
+void PostKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QCoreApplication::postEvent(&widget, new QKeyEvent(type, key, modifiers, text));
+    }
 }
 
 }  // namespace
@@ -30,21 +43,42 @@ void PostMouse(QWidget& widget, QEvent::Type type, Qt::MouseButtons held) {
 TourStep Click(const QString& widget, int times) {
     return {[=](QWidget& dialog) {
         QWidget& target = Find(dialog, widget);
-        for (int i = 0; i < times; ++i) {
-            PostMouse(target, QEvent::MouseButtonPress, Qt::LeftButton);
-            PostMouse(target, QEvent::MouseButtonRelease, Qt::NoButton);
-        }
+        for (int i = 0; i < times; ++i) PostClick(target, target.rect().center());
         return true;
     }};
 }
 
 TourStep PressKey(const QString& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     return {[=](QWidget& dialog) {
-        QWidget& target = Find(dialog, widget);
         const QString text = key < 128 && !modifiers ? QString(QChar(key)).toLower() : QString();
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QCoreApplication::postEvent(&target, new QKeyEvent(type, key, modifiers, text));
+        PostKey(Find(dialog, widget), key, modifiers, text);
+        return true;
+    }};
+}
+
+TourStep TypeText(const QString& widget, const QString& text) {
+    return {[=](QWidget& dialog) {
+        QWidget& target = Find(dialog, widget);
+        for (const QChar letter : text) {
+            PostKey(target, letter.toUpper().unicode(), Qt::NoModifier, letter);
         }
+        return true;
+    }};
+}
+
+TourStep ClickCell(const QString& grid, int row, int column) {
+    return {[=](QWidget& dialog) {
+        auto& view = Find<QAbstractItemView>(dialog, grid);
+        const QRect cell = view.visualRect(view.model()->index(row, column));
+        PostClick(*view.viewport(), cell.center());
+        return true;
+    }};
+}
+
+TourStep ClickHeading(const QString& table) {
+    return {[=](QWidget& dialog) {
+        QWidget& heading = *Find<QTableView>(dialog, table).horizontalHeader()->viewport();
+        PostClick(heading, heading.rect().center());
         return true;
     }};
 }

@@ -23,6 +23,13 @@ TourStep Click(const QString& widget, int times = 1);
 /// Presses and releases a key in a widget.
 TourStep PressKey(const QString& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 
+/// Types a text into a widget, key by key.
+TourStep TypeText(const QString& widget, const QString& text);
+
+/// Clicks a cell of a grid, or the heading above its columns.
+TourStep ClickCell(const QString& grid, int row, int column);
+TourStep ClickHeading(const QString& table);
+
 /// Asks the dialog to close, as its close box does.
 TourStep CloseWindow();
 

@@ -2,6 +2,7 @@
 
 #include "widgets/Fields.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QMetaProperty>
 
@@ -13,7 +14,7 @@ namespace frontdesk {
 
 namespace {
 
-constexpr int kButtonWidth = 140;
+constexpr int kButtonWidth = 175;
 // The first text is the one that is cut, kept or searched, and the longest.
 constexpr int kFirstStretch = 5;
 
@@ -22,10 +23,15 @@ QWidget* MakeField(const QVariant& value) {
         return MakeNumber(value.toInt(), std::numeric_limits<std::int16_t>::min(),
                           std::numeric_limits<std::int16_t>::max());
     }
+    if (value.typeId() == QMetaType::Bool) {
+        auto* box = new QCheckBox;
+        box->setChecked(value.toBool());
+        return box;
+    }
     return new QLineEdit(value.toString());
 }
 
-/// The text of a line, the value of a spin box.
+/// The text of a line, the value of a spin box, whether a box is checked.
 QMetaProperty ValueOf(const QWidget& field) {
     return field.metaObject()->userProperty();
 }

@@ -17,7 +17,8 @@ namespace frontdesk {
 /// One member of the library: its arguments to edit, a button that calls it and what it returned.
 class CallBox : public QGroupBox {
   public:
-    /// An argument with its first value: a QString for a line of text, an int for a number.
+    /// An argument with its first value: a QString for a line of text, an int for a number, a
+    /// bool for a check box.
     struct Argument {
         QString label;
         QVariant value;
