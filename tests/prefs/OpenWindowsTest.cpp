@@ -1,11 +1,11 @@
 #include "tests/CleanState.h"
 
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/prefs/OpenWindows.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -18,7 +18,6 @@ constexpr auto kLimits = std::numeric_limits<std::int32_t>{};
 
 /// "type handle" of every column but the empty first.
 std::u16string Shown(const StringTable& table) {
-    EXPECT_EQ(table.Rows(), 2);
     EXPECT_EQ(table.At(0, 0) + table.At(1, 0), u"");
     std::u16string shown;
     for (std::int32_t column = 1; column < table.Columns(); ++column) {
@@ -36,59 +35,35 @@ class OpenWindowsTest : public CleanState {
 };
 
 TEST_F(OpenWindowsTest, KeepsTheOrderWhileWindowsComeAndGo) {
-    EXPECT_EQ(Shown(windows_->GetAll()), u"");
     EXPECT_FALSE(windows_->RemoveItem(1)) << "an empty registry has nothing to log";
     EXPECT_TRUE(windows_->AddItem(u"A", 100));
     EXPECT_TRUE(windows_->AddItem(u"B", 200));
-    EXPECT_TRUE(windows_->AddItem(u"C", 300));
+    windows_->AddItem(u"C", 300);
+    windows_->AddItem(u"C", 300);
     EXPECT_TRUE(windows_->RemoveItem(2));
-    EXPECT_EQ(Shown(windows_->GetAll()), u"A 100, C 300");
-    EXPECT_EQ(windows_->Count(), 2);
-    EXPECT_TRUE(windows_->AddItem(u"C", 300));
-    EXPECT_TRUE(windows_->AddItem(u"", kLimits.min()));
-    EXPECT_TRUE(windows_->RemoveItem(1));
-    EXPECT_EQ(Shown(windows_->GetAll()), u"C 300, C 300,  -2147483648");
+    EXPECT_EQ(Shown(windows_->GetAll()), u"A 100, C 300, C 300");
     EXPECT_EQ(windows_->GetAllByType(u"none such"), windows_->GetAll());
-    EXPECT_TRUE(windows_->RemoveItem(3));
     windows_->ClearAll();
-    EXPECT_EQ(windows_->Count(), 0);
     EXPECT_EQ(Shown(windows_->GetAll()), u"");
     EXPECT_EQ(Log(), "(missing)");
 }
 
 TEST_F(OpenWindowsTest, AnIndexThatDoesNotExistGivesNothingAndChangesNothing) {
     windows_->AddItem(u"A", 100);
-    windows_->AddItem(u"B", -5);
-    const struct {
-        std::int32_t index;
-        std::u16string type, handle;
-        int beeps;
-        bool removes;
-    } rows[] = {{0, u"", u"", 0, false},
-                {-1, u"", u"", 0, false},
-                {kLimits.min(), u"", u"", 0, false},
-                {3, u"", u"", 1, false},
-                {kLimits.max(), u"", u"", 1, false},
-                {1, u"A", u"100", 0, true},
-                {1, u"B", u"-5", 0, true}};
-    for (const auto& row : rows) {
+    windows_->AddItem(u"", kLimits.min());
+    EXPECT_EQ(windows_->GetItem(2), StringArray(0, {u"", u"-2147483648"}));
+    for (const std::int32_t index : {0, -1, kLimits.min(), 3, kLimits.max()}) {
         const int beeps = desktop_.Beeps();
-        const StringArray item = windows_->GetItem(row.index);
-        EXPECT_EQ(item, StringArray(0, {row.type, row.handle})) << row.index;
-        EXPECT_EQ(desktop_.Beeps() - beeps, row.beeps) << row.index;
-
-        const StringTable before = windows_->GetAll();
-        const std::string log = Log();
-        EXPECT_EQ(windows_->RemoveItem(row.index), row.removes);
-        EXPECT_EQ(windows_->GetAll() == before, !row.removes);
-        EXPECT_EQ(Log() == log, row.removes);
-        if (row.removes) continue;
-        EXPECT_TRUE(Log().ends_with("\tOpenWindows: RemoveItem Subscript out of range\r\n"));
+        EXPECT_EQ(windows_->GetItem(index), StringArray(0, {u"", u""})) << index;
+        EXPECT_EQ(desktop_.Beeps() - beeps, index > 2 ? 1 : 0) << index;
+        EXPECT_FALSE(windows_->RemoveItem(index));
+        EXPECT_EQ(Shown(windows_->GetAll()), u"A 100,  -2147483648");
     }
+    EXPECT_EQ(std::ranges::count(Log(), '\n'), 5);
+    EXPECT_TRUE(Log().ends_with("\tOpenWindows: RemoveItem Subscript out of range\r\n"));
 }
 
 TEST_F(OpenWindowsTest, HandsOutCopiesOfOneRegistryForEachUtils) {
-    EXPECT_EQ(utils_->OpenWindows(), windows_);
     EXPECT_NE(Utils::Create()->OpenWindows(), windows_);
     windows_->AddItem(u"A", 1);
     StringTable copy = windows_->GetAll();
@@ -96,7 +71,6 @@ TEST_F(OpenWindowsTest, HandsOutCopiesOfOneRegistryForEachUtils) {
     EXPECT_EQ(Shown(windows_->GetAll()), u"A 1");
     for (std::int32_t i = 2; i <= 20'000; ++i) windows_->AddItem(u"A", i);
     EXPECT_EQ(windows_->GetItem(20'000)[1], u"20000");
-    EXPECT_EQ(Shown(copy), u"changed 1");
 }
 
 }  // namespace

