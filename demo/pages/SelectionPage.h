@@ -30,6 +30,8 @@ class SelectionPage : public Page {
     /// The arguments as they stand.
     SelectionArguments Entered() const;
     void Enter(const SelectionArguments& arguments);
+    /// Enters the positions beside the button.
+    void EnterPositions();
 
     /// Presses the button beside the field of codes, or a key in the field. Gives what came back.
     QString Choose();
@@ -43,7 +45,6 @@ class SelectionPage : public Page {
     QLayout* MakeCodes();
     QWidget* MakePositions();
     void EnableArguments();
-    void EnterPositions();
     void Show();
     std::u16string Call(const SelectionArguments& arguments, std::u16string& typed);
     void Note(const SelectionArguments& arguments);

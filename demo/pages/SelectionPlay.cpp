@@ -178,6 +178,9 @@ void SelectionPlay::Openings() {
     for (const auto& member : kSelectionMembers) {
         const QString name = QString("selection-by-") + member.name;
         locations.member = member.value;
+        page_.Enter(locations);
+        page_.EnterPositions();
+        locations = page_.Entered();
         Choose(name, locations, {IsOnScreen(), ClickEntry(6), PressOk()}, "NC,XR");
     }
     page_.Enter(List("Locations"));
