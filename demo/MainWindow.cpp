@@ -1,6 +1,8 @@
 #include "MainWindow.h"
 
+#include "ClientWindow.h"
 #include "Shown.h"
+#include "WindowsMenu.h"
 #include "pages/Pages.h"
 #include "tour/Tour.h"
 #include "widgets/Fields.h"
@@ -68,6 +70,9 @@ void MainWindow::MakeMenus() {
     file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
     QMenu* services = menuBar()->addMenu("&Services");
     for (auto& page : MakePages(desk_)) AddPage(page.release(), *services);
+    auto* windows = new WindowsMenu(desk_);
+    windows->setParent(menuBar(), windows->windowFlags());
+    menuBar()->addMenu(windows);
     QMenu* help = menuBar()->addMenu("&Help");
     help->addAction("&About Front Desk", this, [this] { ShowAbout(); });
 }
@@ -120,6 +125,11 @@ void MainWindow::ShowAbout() {
         "Version " +
         QApplication::applicationVersion();
     desk_.Library().ShowMsgBox(prompt, halvek::mbOkOnly, halvek::mbInformation, windowTitle());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    ClientWindow::CloseAll();
+    QMainWindow::closeEvent(event);
 }
 
 void MainWindow::Play(Tour& tour) {

@@ -22,6 +22,10 @@ class MainWindow : public QMainWindow {
     /// Visits every page, lets it play and takes its picture.
     void Play(Tour& tour);
 
+  protected:
+    /// The small windows close with this one.
+    void closeEvent(QCloseEvent* event) override;
+
   private:
     void AddPage(Page* page, QMenu& menu);
     void MakeMenus();

@@ -25,6 +25,10 @@ QByteArray ReadFile(const QString& folder, const QString& name) {
     return file.readAll();
 }
 
+std::u16string ReadText(const QString& folder, const QString& name) {
+    return halvek::FromCodePage(ReadFile(folder, name).toStdString());
+}
+
 QStringList LinesOf(const QByteArray& bytes) {
     return QString::fromUtf8(bytes).split('\n', Qt::SkipEmptyParts);
 }
@@ -45,14 +49,14 @@ halvek::StringArray ParseColors(const QByteArray& bytes) {
     return halvek::StringArray(1, std::move(colors));
 }
 
-/// One list a line, after its name and "=".
-std::vector<SelectionSource> ParseSelections(const QByteArray& bytes) {
-    const std::u16string text = halvek::FromCodePage(bytes.toStdString());
-    std::vector<SelectionSource> lists;
+/// One text of the server a line, after its name and "=".
+template <class Entry>
+std::vector<Entry> ParseEntries(const std::u16string& text) {
+    std::vector<Entry> entries;
     for (const QString& line : halvek::ToQString(text).split('\n', Qt::SkipEmptyParts)) {
-        lists.push_back({line.section('=', 0, 0), line.section('=', 1)});
+        entries.push_back({line.section('=', 0, 0), line.section('=', 1)});
     }
-    return lists;
+    return entries;
 }
 
 }  // namespace
@@ -60,8 +64,12 @@ std::vector<SelectionSource> ParseSelections(const QByteArray& bytes) {
 SampleData::SampleData(const QString& folder)
     : session_(ParseSession(ReadFile(folder, "session.txt"))),
       colors_(ParseColors(ReadFile(folder, "colors.txt"))),
-      codes_(halvek::FromCodePage(ReadFile(folder, "codes.txt").toStdString())),
-      selections_(ParseSelections(ReadFile(folder, "selections.txt"))) {}
+      codes_(ReadText(folder, "codes.txt")),
+      rights_(ReadText(folder, "rights.txt")),
+      printers_(ReadText(folder, "printers.txt")),
+      settings_(ReadText(folder, "settings.txt")),
+      selections_(ParseEntries<SelectionSource>(ReadText(folder, "selections.txt"))),
+      reminders_(ParseEntries<Reminder>(ReadText(folder, "reminders.txt"))) {}
 
 QString SampleData::Folder() {
     const QDir installed(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");

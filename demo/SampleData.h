@@ -45,6 +45,12 @@ struct SelectionSource {
     QString values;  ///< in the server's format
 };
 
+/// What the server sends when an account is opened.
+struct Reminder {
+    QString account;
+    QString data;  ///< in the server's format
+};
+
 /// What a practice's server would send at start-up, read from the files of a data folder.
 class SampleData {
   public:
@@ -64,8 +70,17 @@ class SampleData {
     /// codes.txt: the code tables in the server's format.
     const std::u16string& Codes() const { return codes_; }
 
+    /// rights.txt, printers.txt and settings.txt: the user's rights, the serial printers and the
+    /// user's settings in the server's format.
+    const std::u16string& Rights() const { return rights_; }
+    const std::u16string& Printers() const { return printers_; }
+    const std::u16string& Settings() const { return settings_; }
+
     /// The lists of selections.txt, in their order there.
     const std::vector<SelectionSource>& Selections() const { return selections_; }
+
+    /// The accounts of reminders.txt, in their order there.
+    const std::vector<Reminder>& Reminders() const { return reminders_; }
 
   private:
     halvek::Color SessionColor(const QString& name) const { return session_.value(name).toInt(); }
@@ -73,7 +88,11 @@ class SampleData {
     QHash<QString, QString> session_;
     halvek::StringArray colors_;
     std::u16string codes_;
+    std::u16string rights_;
+    std::u16string printers_;
+    std::u16string settings_;
     std::vector<SelectionSource> selections_;
+    std::vector<Reminder> reminders_;
 };
 
 }  // namespace frontdesk

@@ -6,8 +6,13 @@
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/OpenWindowsPage.h"
+#include "pages/PrintersPage.h"
+#include "pages/RemindersPage.h"
+#include "pages/RightsPage.h"
 #include "pages/SelectionPage.h"
 #include "pages/SessionPage.h"
+#include "pages/SettingsPage.h"
 
 namespace frontdesk {
 
@@ -21,6 +26,11 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<MessageBoxPage>(desk));
     pages.push_back(std::make_unique<SelectionPage>(desk));
     pages.push_back(std::make_unique<CharacterFilterPage>(desk));
+    pages.push_back(std::make_unique<RightsPage>(desk));
+    pages.push_back(std::make_unique<PrintersPage>(desk));
+    pages.push_back(std::make_unique<SettingsPage>(desk));
+    pages.push_back(std::make_unique<OpenWindowsPage>(desk));
+    pages.push_back(std::make_unique<RemindersPage>(desk));
     return pages;
 }
 

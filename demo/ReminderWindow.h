@@ -1,0 +1,31 @@
+#pragma once
+
+#include <halvekutils/base/Color.h>
+#include <halvekutils/prefs/ReminderDefinition.h>
+
+#include <QDialog>
+#include <QTabWidget>
+
+namespace frontdesk {
+
+/// An account's reminders, one tab a title. What a mark sets apart is marked by a word, by bold or
+/// slanted type and, if highlighted, by colour.
+class ReminderWindow : public QDialog {
+  public:
+    struct Highlight {
+        halvek::Color back;
+        halvek::Color fore;
+    };
+
+    ReminderWindow(const halvek::ReminderDefinition& reminder, const Highlight& highlight,
+                   QWidget* parent);
+
+  private:
+    void AddTabs(const halvek::ReminderDefinition& reminder);
+    QWidget* MakeLines(const halvek::StringArray& lines);
+
+    Highlight highlight_;
+    QTabWidget tabs_;
+};
+
+}  // namespace frontdesk
