@@ -85,7 +85,7 @@ QGroupBox* PrintersPage::MakeFilter() {
 }
 
 QLayout* PrintersPage::MakeStatus() {
-    auto* label = new QLabel("Wor&kstation's");
+    auto* label = new QLabel("Wor&kstation printers from");
     label->setBuddy(&source_);
     source_.setAccessibleName("Where the workstation's printers come from");
     for (const Source& source : kSources) source_.addItem(source.caption, source.specialMode);
@@ -109,7 +109,7 @@ void PrintersPage::Refresh() {
     const auto printers = Listed();
     FillTable(*table_, kColumns, printers);
     count_.setText(printers == nullptr ? QString("No collection")
-                                       : QString("%1 printers").arg(printers->Count()));
+                                       : QString("Printers: %1").arg(printers->Count()));
 }
 
 void PrintersPage::NoteFilter() {

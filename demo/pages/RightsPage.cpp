@@ -87,7 +87,7 @@ void RightsPage::Refresh() {
     const auto rights = desk_.Library().GetSecurityItemsCollection();
     FillTable(*table_, kColumns, rights);
     count_.setText(rights == nullptr ? QString("No collection")
-                                     : QString("%1 items").arg(rights->Count()));
+                                     : QString("Items: %1").arg(rights->Count()));
 }
 
 void RightsPage::Build(bool fullAccess) {
