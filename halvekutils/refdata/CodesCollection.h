@@ -16,8 +16,9 @@ namespace halvek {
 
 /// The code tables that the server described, in its order; read-only to the host.
 ///
-///     for (const auto& code : *utils->GetCodesCollection()) list.add(code->CodeDescription());
-///     bool lookup = utils->GetCodesCollection()->Item(u"INS")->CodeHasLookup();
+///     const auto codes = utils->GetCodesCollection();
+///     for (const auto& code : *codes) list.add(code->CodeDescription());
+///     bool lookup = codes->Item(u"INS")->CodeHasLookup();
 class HALVEK_EXPORT CodesCollection : public Fetchable,
                                       public std::enable_shared_from_this<CodesCollection> {
   public:

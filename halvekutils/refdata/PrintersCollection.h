@@ -27,8 +27,8 @@ struct PrinterFilter {
 /// Keys are a number followed by "KEY": from 0KEY in a collection that was built, from 1KEY in a
 /// filtered one.
 ///
-///     for (const auto& printer : *utils->GetPrintersCollectionFiltered())
-///         list.add(printer->PrinterDescription());
+///     const auto printers = utils->GetPrintersCollectionFiltered();  // held for the whole loop
+///     for (const auto& printer : *printers) list.add(printer->PrinterDescription());
 class HALVEK_EXPORT PrintersCollection : public Fetchable,
                                          public std::enable_shared_from_this<PrintersCollection> {
   public:
