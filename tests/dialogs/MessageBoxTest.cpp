@@ -1,6 +1,5 @@
 #include "tests/FakeServices.h"
 
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 
@@ -10,11 +9,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace halvek {
@@ -61,6 +61,15 @@ class MessageBoxTest : public ::testing::Test {
         return Make({std::move(prompt), buttons, mbNoIcon, u"", mbWhite, mb10, bold}).Layout();
     }
 
+    /// The answer of a box after some acts; absent while it is open.
+    std::optional<MbMsgBoxResult> AnswerAfter(ButtonsChoice buttons,
+                                              const std::function<void(MessageBox&)>& acts) {
+        MessageBox box = Make(buttons, 5);
+        acts(box);
+        if (box.IsOpen()) return std::nullopt;
+        return box.ReturnedValue();
+    }
+
     FakeServices session_;
     ScriptedPlatform desktop_;
 };
@@ -68,42 +77,26 @@ class MessageBoxTest : public ::testing::Test {
 // Layout
 
 TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
-    const std::u16string head = u"head\r\n", half = Letters(990) + u"\r\n";
-    constexpr std::int32_t kWide = 1'000'000;
     const struct {
-        std::int32_t screen;
         std::u16string prompt;
         bool bold;
         Size label;
         std::int32_t form;
     } rows[] = {
-        {20000, u"", false, {4600, 200}, 5400},
-        {20000, Letters(35), false, {4600, 200}, 5400},
-        {20000, Letters(36), false, {4200, 200}, 5420},
-        {20000, Letters(36), true, {7600, 200}, 8820},
-        {20000, Letters(60) + u"\n" + Letters(9), false, {6600, 400}, 7820},
-        {20000, Letters(181), false, {18700, 200}, 19920},
-        {20000, Letters(182), false, {16000, 500}, 17220},  // would be wider than the screen
-        {20000, Letters(148), true, {16000, 300}, 17220},
-        {20000, head + Letters(40), false, {4600, 500}, 5400},
-        {20000, head + Letters(41), true, {4220, 500}, 5440},
-        {20000, head + Letters(158), false, {15920, 500}, 17140},
-        {20000, head + Letters(159), false, {16000, 500}, 17220},
-        {kWide, half + Letters(7), false, {99120, 500}, 100340},
-        {kWide, half + Letters(2000), false, {99120, 500}, 100340},  // behind 1000 characters
-        {kWide, head + Letters(993), false, {99420, 500}, 100640},
-        {kWide, head + Letters(995), false, {99520, 500}, 100740},
+        {Letters(35), false, {4600, 200}, 5400},
+        {Letters(36), false, {4200, 200}, 5420},
+        {Letters(36), true, {7600, 200}, 8820},
+        {Letters(60) + u"\n" + Letters(9), false, {6600, 400}, 7820},
+        {Letters(181), false, {18700, 200}, 19920},
+        {Letters(182), false, {16000, 500}, 17220},  // would be wider than the screen
+        {u"head\r\n" + Letters(41), true, {4220, 500}, 5440},
+        {u"head\r\n" + Letters(159), false, {16000, 500}, 17220},
     };
+    desktop_.SetScreenSize({20000, 11520});
     for (const auto& row : rows) {
-        desktop_.SetScreenSize({row.screen, 11520});
         const MessageBoxLayout layout = LayOut(row.prompt, mbOkOnly, row.bold);
-        SCOPED_TRACE(ToUtf8(row.prompt.substr(0, 8)) + " " + std::to_string(row.prompt.size()));
-        EXPECT_EQ(layout.label.width, row.label.width);
-        EXPECT_EQ(layout.label.height, row.label.height);
-        EXPECT_EQ(layout.form.width, row.form);
-        EXPECT_EQ(layout.messageFrame.width, row.form - 800);
-        EXPECT_EQ(layout.buttonFrame.width, row.form - 800);
-        EXPECT_EQ(layout.buttonFrame.left, layout.messageFrame.left);
+        EXPECT_EQ((Size{layout.label.width, layout.label.height}), row.label) << row.prompt.size();
+        EXPECT_EQ(layout.form.width, row.form) << row.prompt.size();
     }
 }
 
@@ -111,40 +104,20 @@ TEST_F(MessageBoxTest, TheFormsHeightHasTwoLimitsInTheirOrder) {
     const std::u16string prompt = Lines(30);
     desktop_.SetFrameSize({0, 0});
     const std::int32_t bare = LayOut(prompt).buttonFrame.Bottom();
-    const std::int32_t rows[][2] = {{8869, 8869}, {8870, 8870}, {8871, 8870},
-                                    {9000, 8870}, {9300, 8870}, {9301, 8851},
-                                    {9310, 8860}, {9320, 8870}, {9500, 8870}};
+    const std::int32_t rows[][2] = {{8869, 8869}, {8871, 8870}, {9300, 8870},
+                                    {9301, 8851}, {9310, 8860}, {9500, 8870}};
     for (const auto& [computed, form] : rows) {
         desktop_.SetFrameSize({0, computed - bare});
         const MessageBoxLayout layout = LayOut(prompt);
         EXPECT_EQ(layout.form.height, form) << computed;
-        EXPECT_EQ(layout.inner.height, form - (computed - bare)) << computed;
         EXPECT_EQ(layout.buttonFrame.Bottom(), layout.inner.height) << computed;
     }
 }
 
 TEST_F(MessageBoxTest, ScrollButtonsShowOnlyForTextThatIsTooHigh) {
-    const struct {
-        std::u16string prompt;
-        ButtonsChoice buttons;
-        std::int32_t frameHeight;
-        bool canScroll;
-    } rows[] = {{u"", mbOkOnly, 800, false},
-                {Lines(3), mbOkOnly, 800, false},
-                {Lines(4), mbOkOnly, 990, false},
-                {Lines(25), mbOkOnly, 5190, false},
-                {Lines(26), mbOkOnly, 5990, false},
-                {Lines(34), mbOkOnly, 7590, false},
-                {Lines(35), mbOkOnly, 7790, true},
-                {Lines(38), mbNoButtons, 8390, false},
-                {Lines(39), mbNoButtons, 8590, true},
-                {Lines(40), mbNoButtons, 8600, true},
-                {Letters(4000), mbOkOnly, 5190, false},
-                {u"\r\n" + Letters(6000), mbOkOnly, 800, true}};
-    for (const auto& row : rows) {
-        const MessageBoxLayout layout = LayOut(row.prompt, row.buttons);
-        EXPECT_EQ(layout.canScroll, row.canScroll) << row.prompt.size();
-        EXPECT_EQ(layout.messageFrame.height, row.frameHeight) << row.prompt.size();
+    for (int lines = 1; lines < 60; ++lines) {
+        EXPECT_EQ(LayOut(Lines(lines)).canScroll, lines >= 35) << lines;
+        EXPECT_EQ(LayOut(Lines(lines), mbNoButtons).canScroll, lines >= 39) << lines;
     }
 }
 
@@ -156,24 +129,23 @@ TEST_F(MessageBoxTest, EveryLineCanBeReadOnEveryScreen) {
     }
     for (const Size screen : {Size{20490, 11520}, Size{12000, 9000}, Size{9600, 3000}}) {
         desktop_.SetScreenSize(screen);
-        for (const std::u16string& prompt : prompts) {
-            for (const ButtonsChoice buttons : {mbYesNo, mbNoButtons}) {
-                SCOPED_TRACE(std::to_string(screen.height) + " " + std::to_string(prompt.size()));
-                MessageBox box = Make({prompt, buttons, mbNoIcon, u""});
-                const MessageBoxLayout& layout = box.Layout();
-                EXPECT_LE(layout.form.width, screen.width);
-                EXPECT_LE(layout.form.height, screen.height);
-                const bool covered = buttons != mbNoButtons;
-                const std::int32_t bottom =
-                    std::min(layout.messageFrame.Bottom(),
-                             covered ? layout.buttonFrame.top : layout.inner.height);
-                const std::int32_t text =
-                    desktop_.WrappedHeight(prompt, box.Font(), layout.label.width);
-                if (layout.canScroll) box.ScrollBy(kInt32.max());
-                const std::int32_t space = bottom - layout.messageFrame.top - layout.label.top;
-                EXPECT_GE(layout.label.top, 0);
-                EXPECT_EQ(box.ScrollOffset(), std::min(space - text, 0));
-            }
+        for (std::size_t i = 0; i < 2 * prompts.size(); ++i) {
+            const std::u16string& prompt = prompts[i / 2];
+            const ButtonsChoice buttons = i % 2 == 0 ? mbYesNo : mbNoButtons;
+            SCOPED_TRACE(std::to_string(screen.height) + " " + std::to_string(prompt.size()));
+            MessageBox box = Make({prompt, buttons, mbNoIcon, u""});
+            const MessageBoxLayout& layout = box.Layout();
+            EXPECT_LE(layout.form.width, screen.width);
+            EXPECT_LE(layout.form.height, screen.height);
+            const std::int32_t bottom =
+                buttons == mbYesNo ? layout.buttonFrame.top : layout.inner.height;
+            const std::int32_t space = std::min(layout.messageFrame.Bottom(), bottom) -
+                                       layout.messageFrame.top - layout.label.top;
+            const std::int32_t text =
+                desktop_.WrappedHeight(prompt, box.Font(), layout.label.width);
+            if (layout.canScroll) box.ScrollBy(kInt32.max());
+            EXPECT_GE(layout.label.top, 0);
+            EXPECT_EQ(box.ScrollOffset(), std::min(space - text, 0));
         }
     }
 }
@@ -183,35 +155,22 @@ TEST_F(MessageBoxTest, ScrollingStopsAtBothEnds) {
     const std::int32_t range = box.Layout().scrollRange;
     int changes = 0;
     box.Changed = [&] { ++changes; };
-    const std::int32_t rows[][2] = {{-200, 0},         {range - 1, 1 - range}, {200, -range},
-                                    {200, -range},     {kInt32.max(), -range}, {-300, 300 - range},
-                                    {kInt32.min(), 0}, {kInt32.max(), -range}, {0, -range}};
+    const std::int32_t rows[][2] = {
+        {-200, 0}, {range - 1, 1 - range}, {kInt32.max(), -range}, {kInt32.min(), 0}};
     for (const auto& [twips, offset] : rows) {
         box.ScrollBy(twips);
         EXPECT_EQ(box.ScrollOffset(), offset) << twips;
     }
-    EXPECT_EQ(changes, 5);
-    box.PressScroll(1);
-    EXPECT_EQ(box.ScrollOffset(), 200 - range);
-    box.PressScroll(0);
-    EXPECT_EQ(box.ScrollOffset(), -range);
+    EXPECT_EQ(changes, 3);
 }
 
 TEST_F(MessageBoxTest, ButtonsStandInTheMiddleOfTheirFrame) {
-    const struct {
-        int letters;
-        ButtonsChoice buttons;
-        std::array<std::int32_t, 3> lefts;
-    } rows[] = {{1, mbOkOnly, {1650}},
-                {1, mbYesNo, {960, 2340}},
-                {1, mbYesNoHelp, {270, 1650, 3030}},
-                {100, mbOkOnly, {4860}},
-                {100, mbOkHelp, {4170, 5550}},
-                {100, mbYesNoCancel, {3480, 4860, 6240}}};
-    for (const auto& row : rows) {
-        const MessageBoxLayout layout = LayOut(Letters(row.letters), row.buttons);
+    const std::pair<ButtonsChoice, std::array<std::int32_t, 3>> rows[] = {
+        {mbOkOnly, {4860}}, {mbYesNo, {4170, 5550}}, {mbYesNoHelp, {3480, 4860, 6240}}};
+    for (const auto& [buttons, lefts] : rows) {
+        const MessageBoxLayout layout = LayOut(Letters(100), buttons);
         for (std::size_t i = 0; i < 3; ++i) {
-            EXPECT_EQ(layout.buttons[i].value_or(Rect{}).left, row.lefts[i]) << row.buttons;
+            EXPECT_EQ(layout.buttons[i].value_or(Rect{}).left, lefts[i]) << buttons;
         }
     }
 }
@@ -220,264 +179,190 @@ TEST_F(MessageBoxTest, ButtonsStandInTheMiddleOfTheirFrame) {
 
 struct SetRow {
     ButtonsChoice set;
-    std::vector<std::u16string_view> captions;
+    std::vector<std::u16string> captions;
     std::vector<MbMsgBoxResult> results;
     std::optional<MbMsgBoxResult> closed;  ///< by the close box; absent where there is none
     bool escapeCloses;
 };
 
 const SetRow kSets[] = {
-    {mbOkOnly, {u"&OK"}, {mbOK}, mbOK, true},
-    {mbOkCancel, {u"&OK", u"&Cancel"}, {mbOK, mbCancel}, mbCancel, true},
-    {mbAbortRetryIgnore,
-     {u"&Abort", u"&Retry", u"&Ignore"},
-     {mbAbort, mbRetry, mbIgnore},
-     {},
-     false},
-    {mbYesNoCancel, {u"&Yes", u"&No", u"&Cancel"}, {mbYes, mbNo, mbCancel}, mbCancel, true},
-    {mbYesNo, {u"&Yes", u"&No"}, {mbYes, mbNo}, {}, false},
-    {mbRetryCancel, {u"&Retry", u"&Cancel"}, {mbRetry, mbCancel}, mbCancel, true},
-    {mbSaveDontSave, {u"&Save", u"&Don't Save"}, {mbSave, mbDontSave}, {}, false},
+    {mbOkOnly, {u"OK"}, {mbOK}, mbOK, true},
+    {mbOkCancel, {u"OK", u"Cancel"}, {mbOK, mbCancel}, mbCancel, true},
+    {mbAbortRetryIgnore, {u"Abort", u"Retry", u"Ignore"}, {mbAbort, mbRetry, mbIgnore}, {}, false},
+    {mbYesNoCancel, {u"Yes", u"No", u"Cancel"}, {mbYes, mbNo, mbCancel}, mbCancel, true},
+    {mbYesNo, {u"Yes", u"No"}, {mbYes, mbNo}, {}, false},
+    {mbRetryCancel, {u"Retry", u"Cancel"}, {mbRetry, mbCancel}, mbCancel, true},
+    {mbSaveDontSave, {u"Save", u"Don't Save"}, {mbSave, mbDontSave}, {}, false},
     {mbNoButtons, {}, {}, mbOK, true},
-    {mbYesHelp, {u"&Yes", u"&Help"}, {mbYes, mbHelp}, mbYes, false},
-    {mbYesNoHelp, {u"&Yes", u"&No", u"&Help"}, {mbYes, mbNo, mbHelp}, {}, false},
-    {mbOkHelp, {u"&OK", u"&Help"}, {mbOK, mbHelp}, mbOK, false},
-    {static_cast<ButtonsChoice>(11), {u"&OK"}, {mbOK}, mbOK, true},
-    {static_cast<ButtonsChoice>(-1), {u"&OK"}, {mbOK}, mbOK, true},
-    {static_cast<ButtonsChoice>(kInt32.max()), {u"&OK"}, {mbOK}, mbOK, true},
+    {mbYesHelp, {u"Yes", u"Help"}, {mbYes, mbHelp}, mbYes, false},
+    {mbYesNoHelp, {u"Yes", u"No", u"Help"}, {mbYes, mbNo, mbHelp}, {}, false},
+    {mbOkHelp, {u"OK", u"Help"}, {mbOK, mbHelp}, mbOK, false},
+    {static_cast<ButtonsChoice>(-1), {u"OK"}, {mbOK}, mbOK, true},
 };
 
-/// The answer of a box that has ended; absent while it is open.
-std::optional<MbMsgBoxResult> AnswerOf(MessageBox& box) {
-    if (box.IsOpen()) return std::nullopt;
-    return box.ReturnedValue();
-}
-
-TEST_F(MessageBoxTest, EveryButtonGivesItsResult) {
+TEST_F(MessageBoxTest, EverySetAnswersByItsButtonsItsCloseBoxAndItsKeys) {
     for (const SetRow& row : kSets) {
+        SCOPED_TRACE(row.set);
+        const MessageBox open = Make(row.set);
+        EXPECT_EQ(open.HasCloseBox(), row.closed.has_value());
         for (int i = -1; i < 4; ++i) {
-            SCOPED_TRACE(std::to_string(row.set) + " " + std::to_string(i));
-            MessageBox box = Make(row.set);
-            int changes = 0;
-            box.Changed = [&] { ++changes; };
             const auto at = static_cast<std::size_t>(i);
             const bool shown = i >= 0 && at < row.captions.size();
-            EXPECT_EQ(box.ButtonCaption(i), shown ? row.captions[at] : u"");
-            EXPECT_EQ(at < 3 && box.Layout().buttons[at].has_value(), shown);
-            box.Press(i);
-            box.Abandon();
-            EXPECT_EQ(changes, 1);
-            EXPECT_EQ(box.ReturnedValue(),
+            EXPECT_EQ(open.ButtonCaption(i), shown ? u"&" + row.captions[at] : u"");
+            EXPECT_EQ(at < 3 && open.Layout().buttons[at].has_value(), shown);
+            const auto pressThenAbandon = [&](MessageBox& box) {
+                box.Press(i);
+                box.Abandon();
+            };
+            EXPECT_EQ(AnswerAfter(row.set, pressThenAbandon),
                       shown ? row.results[at] : row.closed.value_or(kNotAnswered));
         }
-    }
-}
-
-TEST_F(MessageBoxTest, TheCloseBoxAnswersOrIsNotThere) {
-    for (const SetRow& row : kSets) {
-        SCOPED_TRACE(row.set);
-        MessageBox closed = Make(row.set);
-        EXPECT_EQ(closed.HasCloseBox(), row.closed.has_value());
-        closed.CloseByUser();
-        closed.Press(0);
-        EXPECT_EQ(AnswerOf(closed), row.closed ? row.closed : row.results[0]);
-
-        MessageBox abandoned = Make(row.set);
-        abandoned.Abandon();
-        abandoned.CloseByUser();
-        EXPECT_EQ(AnswerOf(abandoned), row.closed.value_or(kNotAnswered));
-    }
-}
-
-TEST_F(MessageBoxTest, EscapeAndEnterCloseOnlyWhereTheSetAllows) {
-    for (const SetRow& row : kSets) {
-        SCOPED_TRACE(row.set);
-        MessageBox escaped = Make(row.set, 5);
-        escaped.KeyDown(kEscape, MessageBox::kNoModifier);
-        EXPECT_EQ(AnswerOf(escaped), row.escapeCloses ? row.closed : std::nullopt);
-        EXPECT_FALSE(escaped.CountdownRunning());
-        for (const int key : {kEnter, kEscape, int{'O'}}) {
-            MessageBox typed = Make(row.set);
-            typed.FormKeyPress(key);
-            EXPECT_EQ(!typed.IsOpen(), row.set == mbNoButtons && key != 'O') << key;
-            EXPECT_EQ(typed.ReturnedValue(), mbOK);
-        }
+        const auto closeThenPress = [](MessageBox& box) {
+            box.CloseByUser();
+            box.Press(0);
+        };
+        EXPECT_EQ(AnswerAfter(row.set, closeThenPress), row.closed ? row.closed : row.results[0]);
+        const auto escape = [](MessageBox& box) {
+            box.KeyDown(kEscape, MessageBox::kNoModifier);
+            EXPECT_FALSE(box.CountdownRunning());
+        };
+        EXPECT_EQ(AnswerAfter(row.set, escape), row.escapeCloses ? row.closed : std::nullopt);
+        const auto enter = [](MessageBox& box) {
+            box.FormKeyPress('O');
+            box.FormKeyPress(kEnter);
+        };
+        EXPECT_EQ(AnswerAfter(row.set, enter).has_value(), row.set == mbNoButtons);
     }
 }
 
 TEST_F(MessageBoxTest, AcceleratorsPressByTheLetterAlone) {
-    std::vector<int> keys = {-1, 256 + 'O', 65536 + 'Y', 0x1000000, kInt32.max(), kInt32.min()};
-    for (int key = 0; key < 256; ++key) keys.push_back(key);
+    std::vector<int> keys = {-1, 65536 + 'O', 65536 + 'Y', kInt32.max()};
+    for (int key = 0; key < 300; ++key) keys.push_back(key);
     for (const SetRow& row : kSets) {
         for (const int key : keys) {
             for (unsigned modifiers = 0; modifiers < 8; ++modifiers) {
                 if (key == kEscape || (key == 'C' && modifiers == MessageBox::kControl)) continue;
-                MessageBox box = Make(row.set, 5);
-                const auto action = box.KeyDown(key, modifiers);
                 std::optional<MbMsgBoxResult> expected;
                 for (std::size_t i = row.captions.size(); i-- > 0;) {
-                    if (row.captions[i][1] == key) expected = row.results[i];
+                    if (row.captions[i][0] == key) expected = row.results[i];
                 }
-                ASSERT_EQ(AnswerOf(box), expected) << row.set << " " << key << " " << modifiers;
-                ASSERT_EQ(action == MessageBox::KeyAction::Handled, expected.has_value());
-                ASSERT_FALSE(box.CountdownRunning());
+                const auto press = [&](MessageBox& box) {
+                    const auto action = box.KeyDown(key, modifiers);
+                    ASSERT_EQ(action == MessageBox::KeyAction::Handled, expected.has_value());
+                    ASSERT_FALSE(box.CountdownRunning());
+                };
+                ASSERT_EQ(AnswerAfter(row.set, press), expected)
+                    << row.set << " " << key << " " << modifiers;
             }
         }
     }
 }
 
 TEST_F(MessageBoxTest, ControlCCopiesAndNeverPresses) {
-    for (const SetRow& row : kSets) {
-        MessageBox box = Make(row.set, 5);
-        EXPECT_EQ(box.KeyDown('C', MessageBox::kControl), MessageBox::KeyAction::Copy) << row.set;
-        EXPECT_TRUE(box.IsOpen()) << row.set;
-        EXPECT_FALSE(box.CountdownRunning()) << row.set;
-    }
+    const auto copy = [](MessageBox& box) {
+        EXPECT_EQ(box.KeyDown('C', MessageBox::kControl), MessageBox::KeyAction::Copy);
+        EXPECT_FALSE(box.CountdownRunning());
+    };
+    EXPECT_EQ(AnswerAfter(mbOkCancel, copy), std::nullopt);
     EXPECT_EQ(Make({u"Save R&D &amp; go?\r\nNow", mbSaveDontSave, mbNoIcon, u"A & B"}).CopyText(),
               u"A & B\r\n\r\nSave R&D &amp; go?\r\nNow\r\n\r\nSave   Don't Save");
     EXPECT_EQ(Make({u"Wait", mbNoButtons, mbNoIcon, u""}).CopyText(),
               u"Front Desk\r\n\r\nWait\r\n");
 }
 
-TEST_F(MessageBoxTest, ReadingTheAnswerClearsIt) {
-    MessageBox box = Make(mbYesNo);
-    box.Press(1);
-    EXPECT_EQ(box.ReturnedValue(), mbNo);
-    EXPECT_EQ(box.ReturnedValue(), mbOK);
-}
-
 // Countdown
 
 TEST_F(MessageBoxTest, ACountdownOfNEndsAtTheNthTick) {
-    MessageBox box = Make(mbYesNo, 3);
+    MessageBox box = Make(mbYesNo, 2);
     EXPECT_EQ(box.Caption(), u"Title");
-    for (const TextIn caption :
-         {u"Title          00:00:00 / 00:00:03", u"Title          00:00:01 / 00:00:03",
-          u"Title          00:00:02 / 00:00:03"}) {
-        EXPECT_TRUE(box.IsOpen());
-        box.Tick();
-        EXPECT_EQ(box.Caption(), caption);
-    }
-    EXPECT_FALSE(box.CountdownRunning());
     box.Tick();
+    EXPECT_EQ(box.Caption(), u"Title          00:00:00 / 00:00:02");
+    EXPECT_TRUE(box.IsOpen() && box.CountdownRunning());
+    box.Tick();
+    box.Tick();
+    EXPECT_EQ(box.Caption(), u"Title          00:00:01 / 00:00:02");
     box.Press(0);
-    EXPECT_EQ(AnswerOf(box), kClosedByCountdown);
-    EXPECT_EQ(static_cast<std::int32_t>(kClosedByCountdown), 99);
+    EXPECT_FALSE(box.IsOpen() || box.CountdownRunning());
+    EXPECT_EQ(static_cast<std::int32_t>(box.ReturnedValue()), 99);
+    EXPECT_EQ(box.ReturnedValue(), mbOK);  // reading the answer clears it
 }
 
 TEST_F(MessageBoxTest, ACountdownTakesAnyNumberOfSeconds) {
-    const struct {
-        std::int32_t seconds;
-        std::u16string caption;
-    } rows[] = {
-        {kInt32.min(), u"Title"},
-        {0, u"Title"},
-        {2, u"Title          00:00:00 / 00:00:02"},
-        {3661, u"Title          00:00:00 / 01:01:01"},
-        {360'000, u"Title          00:00:00 / 100:00:00"},
-        {2'147'483'639, u"Title          00:00:00 / 596523:13:59"},
-        {2'147'483'640, u"Title          00:00:00 / 596523:14:00"},
-        {kInt32.max(), u"Title          00:00:00 / 596523:14:00"},
+    const std::pair<std::int32_t, std::u16string> rows[] = {
+        {kInt32.min(), u""},
+        {0, u""},
+        {2'147'483'639, u"          00:00:00 / 596523:13:59"},
+        {kInt32.max(), u"          00:00:00 / 596523:14:00"},
     };
-    for (const auto& row : rows) {
-        MessageBox box = Make(mbOkOnly, row.seconds);
-        EXPECT_EQ(box.CountdownRunning(), row.seconds > 0);
+    for (const auto& [seconds, clock] : rows) {
+        MessageBox box = Make(mbOkOnly, seconds);
         box.Tick();
-        EXPECT_EQ(box.Caption(), row.caption);
+        EXPECT_EQ(box.Caption(), u"Title" + clock);
         EXPECT_TRUE(box.IsOpen());
     }
 }
 
 TEST_F(MessageBoxTest, AKeyStopsTheCountdownAndAnAnswerEndsIt) {
-    MessageBox stopped = Make(mbYesNo, 3);
-    stopped.Tick();
-    stopped.PressScroll(0);
-    EXPECT_TRUE(stopped.CountdownRunning());
-    EXPECT_EQ(stopped.KeyDown('Q', MessageBox::kNoModifier), MessageBox::KeyAction::None);
-    for (int i = 0; i < 9; ++i) stopped.Tick();
-    EXPECT_TRUE(stopped.IsOpen());
-    EXPECT_EQ(stopped.Caption(), u"Title          00:00:00 / 00:00:03");
-
-    MessageBox answered = Make(mbYesNo, 3);
-    answered.Tick();
-    EXPECT_EQ(answered.KeyDown('N', MessageBox::kShift), MessageBox::KeyAction::Handled);
-    for (int i = 0; i < 9; ++i) answered.Tick();
-    EXPECT_EQ(AnswerOf(answered), mbNo);
+    for (const int key : {int{'Q'}, int{'N'}}) {
+        const auto pressBetweenTicks = [&](MessageBox& box) {
+            box.PressScroll(0);
+            box.Tick();
+            EXPECT_TRUE(box.CountdownRunning());
+            box.KeyDown(key, MessageBox::kShift);
+            for (int i = 0; i < 9; ++i) box.Tick();
+            EXPECT_EQ(box.Caption(), u"Title          00:00:00 / 00:00:05");
+        };
+        EXPECT_EQ(AnswerAfter(mbYesNo, pressBetweenTicks),
+                  key == 'N' ? std::optional(mbNo) : std::nullopt);
+    }
 }
 
 // What the box shows
 
-TEST_F(MessageBoxTest, ColoursFollowTheScheme) {
-    const MessageBoxColors white = {kWhite, kBlack, 0xC0C0C0};
-    const struct {
-        std::int32_t scheme;
-        MessageBoxColors colors;
-    } rows[] = {{mbWhite, white},
-                {mbGray, {kButtonFace, std::nullopt, kButtonFace}},
-                {mbSkinColor, {0x112233, 0x445566, std::nullopt}},
-                {0, white},
-                {4, white},
-                {kInt32.min(), white}};
-    for (const auto& row : rows) {
-        MessageBoxRequest request;
-        request.background = static_cast<ColorChoice>(row.scheme);
-        const MessageBoxColors colors = Make(request).Colors();
-        EXPECT_EQ(colors.background, row.colors.background) << row.scheme;
-        EXPECT_EQ(colors.text, row.colors.text) << row.scheme;
-        EXPECT_EQ(colors.buttonFace, row.colors.buttonFace) << row.scheme;
+TEST_F(MessageBoxTest, ChoicesOutOfRangeAreReplaced) {
+    const auto make = [&](std::int32_t icon, std::int32_t background, std::int32_t fontSize) {
+        return Make({u"", mbOkOnly, static_cast<IconChoice>(icon), u"",
+                     static_cast<ColorChoice>(background), static_cast<FontSizeChoice>(fontSize)});
+    };
+    const std::int32_t fonts[][2] = {{mb8, 8}, {mb6, 6}, {mb14, 14}, {0, 9}, {10, 9}, {-1, 9}};
+    for (const auto& [choice, points] : fonts) {
+        EXPECT_EQ(make(mbNoIcon, mbWhite, choice).Font(), (FontSpec{u"", points})) << choice;
     }
-}
-
-TEST_F(MessageBoxTest, FontsAndIconsOutOfRangeAreReplaced) {
-    const struct {
-        std::int32_t choice;
-        FontSpec font;
-    } fonts[] = {{mb8, {u"", 8}}, {mb5, {u"Courier New", 9}},
-                 {mb6, {u"", 6}}, {mb14, {u"", 14}},
-                 {0, {u"", 9}},   {10, {u"", 9}},
-                 {-1, {u"", 9}},  {kInt32.max(), {u"", 9}}};
-    for (const auto& row : fonts) {
-        MessageBoxRequest request;
-        request.fontSize = static_cast<FontSizeChoice>(row.choice);
-        EXPECT_EQ(Make(request).Font(), row.font) << row.choice;
+    EXPECT_EQ(make(mbNoIcon, mbWhite, mb5).Font(), (FontSpec{u"Courier New", 9}));
+    EXPECT_EQ(make(8, mbWhite, mb9).Picture(), 8);
+    for (const int icon : {0, 9, -1}) EXPECT_EQ(make(icon, mbWhite, mb9).Picture(), 0) << icon;
+    const std::int32_t backgrounds[][2] = {{mbWhite, kWhite},
+                                           {mbGray, kButtonFace},
+                                           {mbSkinColor, 0x112233},
+                                           {0, kWhite},
+                                           {4, kWhite}};
+    for (const auto& [scheme, color] : backgrounds) {
+        EXPECT_EQ(make(mbNoIcon, scheme, mb9).Colors().background, color) << scheme;
     }
-    const std::int32_t icons[][2] = {{0, 0}, {1, 1}, {8, 8}, {9, 0}, {-1, 0}, {kInt32.min(), 0}};
-    for (const auto& [icon, picture] : icons) {
-        EXPECT_EQ(Make({u"", mbOkOnly, static_cast<IconChoice>(icon), u""}).Picture(), picture)
-            << icon;
-    }
+    EXPECT_EQ(make(mbNoIcon, mbSkinColor, mb9).Colors().text, 0x445566);
 }
 
 TEST_F(MessageBoxTest, ABoxIsCentredOnItsOwnerAndRefreshesItAtTheEnd) {
     const auto owner = std::make_shared<FakeOwner>();
-    const auto ownedBox = [&] {
-        MessageBoxRequest request;
-        request.buttons = mbYesNoCancel;
-        request.owner = owner;
-        return request;
+    const auto make = [&] {
+        return Make({u"", mbYesNoCancel, mbNoIcon, u"", mbWhite, mb9, false, 0, owner});
     };
-    using Ending = void (*)(MessageBox&);
-    const Ending endings[] = {[](MessageBox& box) { box.CloseByUser(); },
-                              [](MessageBox& box) { box.KeyDown(kEscape, 0); },
-                              [](MessageBox& box) { box.Abandon(); }};
-    for (const Ending end : endings) {
-        MessageBox box = Make(ownedBox());
+    for (const bool byUser : {true, false}) {
+        MessageBox box = make();
         const auto place = box.CentredOnOwner();
         ASSERT_TRUE(place.has_value());
-        EXPECT_EQ(place->left, 1000 + 4500 - box.Layout().form.width / 2);
-        EXPECT_EQ(place->top, -500 + 2000 - box.Layout().form.height / 2);
-        const int before = owner->refreshes;
-        end(box);
-        EXPECT_EQ(owner->refreshes, before + 1);
+        EXPECT_EQ(place->left + box.Layout().form.width / 2, 1000 + 4500);
+        EXPECT_EQ(place->top + box.Layout().form.height / 2, -500 + 2000);
+        owner->refreshes = 0;
+        byUser ? box.CloseByUser() : box.Abandon();
+        EXPECT_EQ(owner->refreshes, 1);
         EXPECT_EQ(owner.use_count(), 1);
     }
-    MessageBox orphan = Make(ownedBox());
+    MessageBox orphan = make();
     owner->exists = false;
     EXPECT_FALSE(orphan.CentredOnOwner().has_value());
     orphan.CloseByUser();
-    EXPECT_EQ(owner->refreshes, 3);
-    EXPECT_EQ(AnswerOf(orphan), mbCancel);
-    EXPECT_FALSE(Make(mbOkOnly).CentredOnOwner().has_value());
+    EXPECT_EQ(owner->refreshes, 1);
 }
 
 }  // namespace

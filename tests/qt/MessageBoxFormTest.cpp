@@ -13,13 +13,11 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextEdit>
-#include <QToolButton>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -64,22 +62,14 @@ struct SetRow {
     std::vector<MbMsgBoxResult> results;
     std::optional<MbMsgBoxResult> closed;  ///< by a close request
     bool escapeCloses;
-
-    Qt::Key Letter(std::size_t button) const { return static_cast<Qt::Key>(letters[button]); }
-    Qt::Key LastLetter() const { return Letter(letters.size() - 1); }
 };
 
+// One of each kind; the rules of every set need no window.
 const SetRow kSets[] = {
     {mbOkOnly, "O", {mbOK}, mbOK, true},
-    {mbOkCancel, "OC", {mbOK, mbCancel}, mbCancel, true},
     {mbAbortRetryIgnore, "ARI", {mbAbort, mbRetry, mbIgnore}, {}, false},
     {mbYesNoCancel, "YNC", {mbYes, mbNo, mbCancel}, mbCancel, true},
-    {mbYesNo, "YN", {mbYes, mbNo}, {}, false},
-    {mbRetryCancel, "RC", {mbRetry, mbCancel}, mbCancel, true},
-    {mbSaveDontSave, "SD", {mbSave, mbDontSave}, {}, false},
     {mbYesHelp, "YH", {mbYes, mbHelp}, mbYes, false},
-    {mbYesNoHelp, "YNH", {mbYes, mbNo, mbHelp}, {}, false},
-    {mbOkHelp, "OH", {mbOK, mbHelp}, mbOK, false},
 };
 
 // Answers
@@ -93,39 +83,37 @@ TEST_F(MessageBoxFormTest, EveryButtonIsPressedByKeysAndByTheMouse) {
     for (const SetRow& row : kSets) {
         const std::size_t count = row.results.size();
         for (std::size_t i = 0; i < count; ++i) {
+            const auto letter = static_cast<Qt::Key>(row.letters[i]);
             const auto click = [&](QDialog& box) { Click(box, Find(box, qPrintable(Button(i)))); };
-            EXPECT_EQ(Answer(row.set, click), row.results[i]) << row.set << " " << i;
-            for (const User::Acts& keys :
-                 {Keys({row.Letter(i)}), afterTabs(i, Qt::Key_Return), afterTabs(i, Qt::Key_Space),
+            for (const User::Acts& acts :
+                 {User::Acts(click), Keys({letter}), Keys({Qt::AltModifier | letter}),
+                  afterTabs(i, Qt::Key_Return), afterTabs(i, Qt::Key_Space),
                   // Once around: nothing but the buttons takes the focus.
                   afterTabs(i + count, Qt::KeypadModifier | Qt::Key_Enter)}) {
-                EXPECT_EQ(Answer(row.set, keys), row.results[i]) << row.set << " " << i;
+                EXPECT_EQ(Answer(row.set, acts), row.results[i]) << row.set << " " << i;
             }
         }
     }
-    EXPECT_EQ(Answer(mbYesNo, Keys({Qt::AltModifier | Qt::Key_N})), mbNo);
 }
 
 TEST_F(MessageBoxFormTest, EscapeAndCloseRequestsAnswerOrDoNothing) {
     for (const SetRow& row : kSets) {
         const MbMsgBoxResult last = row.results.back();
-        const auto thenTheLast = Keys({row.LastLetter()});
+        const auto lastLetter = static_cast<Qt::Key>(row.letters.back());
         const auto close = [&](QDialog& box) {
             CloseRequest(box);
             box.close();
-            thenTheLast(box);
+            Keys({lastLetter})(box);
         };
         EXPECT_EQ(Answer(row.set, close), row.closed.value_or(last)) << row.set;
-        EXPECT_EQ(Answer(row.set, Keys({Qt::Key_Escape, row.LastLetter()})),
-                  row.escapeCloses ? *row.closed : last)
-            << row.set;
+        const auto byEscape = Answer(row.set, Keys({Qt::Key_Escape, lastLetter}));
+        EXPECT_EQ(byEscape, row.escapeCloses ? *row.closed : last) << row.set;
     }
 }
 
 TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
-    for (const User::Acts& way :
-         {Keys({Qt::Key_Return}), Keys({Qt::KeypadModifier | Qt::Key_Enter}),
-          Keys({Qt::Key_Escape}), User::Acts([](QDialog& box) { CloseRequest(box); })}) {
+    for (const User::Acts& way : {Keys({Qt::Key_Return}), Keys({Qt::Key_Escape}),
+                                  User::Acts([](QDialog& box) { CloseRequest(box); })}) {
         const auto afterOtherKeys = [&](QDialog& box) {
             Keys({Qt::Key_Space, Qt::Key_O, Qt::Key_Tab})(box);
             EXPECT_TRUE(box.isVisible());
@@ -137,32 +125,20 @@ TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
 
 TEST_F(MessageBoxFormTest, OnlyControlCCopies) {
     QClipboard& clipboard = *QApplication::clipboard();
-    const auto copied = [&](QDialog& box) {
-        clipboard.clear();
-        PressKey(box, Qt::ControlModifier | Qt::Key_C);
-        EXPECT_TRUE(box.isVisible());
-        const QString text = clipboard.text();
-        clipboard.clear();
-        return text;
-    };
-    const QString expected = "Visit\r\n\r\nGo on?\r\n";
-    for (const auto others :
-         {Qt::ShiftModifier | Qt::Key_C, Qt::AltModifier | Qt::Key_C, Qt::MetaModifier | Qt::Key_C,
+    for (const QKeyCombination other :
+         {Qt::ControlModifier | Qt::Key_Insert, Qt::MetaModifier | Qt::Key_C,
           (Qt::ControlModifier | Qt::ShiftModifier) | Qt::Key_C,
           (Qt::ControlModifier | Qt::AltModifier) | Qt::Key_C,
           (Qt::ControlModifier | Qt::MetaModifier) | Qt::Key_C}) {
-        const auto copyThenCancel = [&](QDialog& box) {
-            EXPECT_EQ(copied(box), expected + "\r\nOK   Cancel");
-            Keys({Qt::ControlModifier | Qt::Key_Insert, others})(box);
+        const auto copy = [&](QDialog& box) {
+            PressKey(box, Qt::ControlModifier | Qt::Key_C);
+            EXPECT_EQ(clipboard.text(), "Visit\r\n\r\nGo on?\r\n\r\nOK   Cancel");
+            clipboard.clear();
+            Keys({other, Qt::Key_C})(box);
         };
-        EXPECT_EQ(Answer(mbOkCancel, copyThenCancel), mbCancel) << others.toCombined();
-        EXPECT_EQ(clipboard.text(), "");
+        EXPECT_EQ(Answer(mbOkCancel, copy), mbCancel);
+        EXPECT_EQ(clipboard.text(), "") << other.toCombined();
     }
-    const auto copyThenEnd = [&](QDialog& box) {
-        EXPECT_EQ(copied(box), expected);
-        PressKey(box, Qt::Key_Return);
-    };
-    EXPECT_EQ(Answer(mbNoButtons, copyThenEnd), mbOK);
 }
 
 TEST_F(MessageBoxFormTest, EveryEndingRestoresTheMousePointer) {
@@ -170,45 +146,32 @@ TEST_F(MessageBoxFormTest, EveryEndingRestoresTheMousePointer) {
     const struct {
         const char* name;
         User::Acts end;
-        MbMsgBoxResult okCancel;
-        MbMsgBoxResult yesNo;
+        MbMsgBoxResult answer;
     } rows[] = {
-        {"button", Keys({Qt::Key_Return}), mbOK, mbYes},
-        {"Escape", Keys({Qt::Key_Escape, Qt::Key_N}), mbCancel, mbNo},
-        {"close request",
-         [](QDialog& box) {
-             CloseRequest(box);
-             Keys({Qt::Key_N})(box);
-         },
-         mbCancel, mbNo},
+        {"button", Keys({Qt::Key_Return}), mbYes},
         {"countdown", [](QDialog& box) { Find<QTimer>(box, "tmrUnload").setInterval(0); },
-         kClosedByCountdown, kClosedByCountdown},
-        {"the owner goes", [&](QDialog&) { owner.reset(); }, mbCancel, kNotAnswered},
-        {"the application ends", [](QDialog&) { QCoreApplication::exit(1); }, mbCancel,
-         kNotAnswered},
+         kClosedByCountdown},
+        {"the owner goes", [&](QDialog&) { owner.reset(); }, kNotAnswered},
+        {"the application ends", [](QDialog&) { QCoreApplication::exit(1); }, kNotAnswered},
     };
     for (const auto& row : rows) {
-        for (const ButtonsChoice buttons : {mbOkCancel, mbYesNo}) {
-            SCOPED_TRACE(row.name);
-            const auto watchAndEnd = [&](QDialog& box) {
-                ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-                EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-                row.end(box);
-            };
-            const auto ask = [&] {
-                owner = OpenHostWindow(QRect(100, 100, 400, 300));
-                QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-                EXPECT_EQ(Answer(buttons, watchAndEnd, u"Go on?", u"Visit", 2),
-                          buttons == mbYesNo ? row.yesNo : row.okCancel);
-                EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-                QGuiApplication::restoreOverrideCursor();
-                EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-                QCoreApplication::exit();
-            };
-            QTimer::singleShot(0, ask);
-            QApplication::exec();
-            owner.reset();
-        }
+        SCOPED_TRACE(row.name);
+        const auto watchAndEnd = [&](QDialog& box) {
+            EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+            row.end(box);
+        };
+        const auto ask = [&] {
+            owner = OpenHostWindow(QRect(100, 100, 400, 300));
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+            EXPECT_EQ(Answer(mbYesNo, watchAndEnd, u"Go on?", u"Visit", 2), row.answer);
+            EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+            QGuiApplication::restoreOverrideCursor();
+            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+            QCoreApplication::exit();
+        };
+        QTimer::singleShot(0, ask);
+        QApplication::exec();
+        owner.reset();
     }
 }
 
@@ -216,9 +179,7 @@ TEST_F(MessageBoxFormTest, ACountdownTicksOnceASecondAndAKeyStopsIt) {
     int timeouts = 0;
     const auto wait = [&](QDialog& box) {
         auto& timer = Find<QTimer>(box, "tmrUnload");
-        EXPECT_TRUE(timer.isActive());
         EXPECT_EQ(timer.interval(), 1000);
-        EXPECT_EQ(box.windowTitle(), "Visit");
         QObject::connect(&timer, &QTimer::timeout, [&] { ++timeouts; });
         timer.setInterval(0);
         EXPECT_TRUE(Soon([&] { return timeouts > 0; }));
@@ -235,22 +196,15 @@ TEST_F(MessageBoxFormTest, ACountdownTicksOnceASecondAndAKeyStopsIt) {
         };
         EXPECT_EQ(Answer(mbYesNo, stop, u"Go on?", u"Visit", 3), mbNo);
     }
-    const auto without = [](QDialog& box) {
-        EXPECT_FALSE(Find<QTimer>(box, "tmrUnload").isActive());
-        PressKey(box, Qt::Key_Y);
-    };
-    EXPECT_EQ(Answer(mbYesNo, without), mbYes);
 }
 
 TEST_F(MessageBoxFormTest, ABoxOpensOverABox) {
-    const auto inner = Keys({Qt::Key_N});
     const auto outer = [&](QDialog& box) {
-        EXPECT_EQ(Answer(mbYesNo, inner, u"Sure?", u"Inner"), mbNo);
+        EXPECT_EQ(Answer(mbYesNo, Keys({Qt::Key_N})), mbNo);
         EXPECT_EQ(QApplication::activeModalWidget(), &box);
-        EXPECT_EQ(box.windowTitle(), "Outer");
         PressKey(box, Qt::Key_C);
     };
-    EXPECT_EQ(Answer(mbOkCancel, outer, u"Go on?", u"Outer"), mbCancel);
+    EXPECT_EQ(Answer(mbOkCancel, outer), mbCancel);
     const auto bothGo = [&](QDialog&) {
         EXPECT_EQ(Answer(mbYesNo, [](QDialog&) { QCoreApplication::exit(); }), kNotAnswered);
     };
@@ -271,41 +225,27 @@ TEST_F(MessageBoxFormTest, HostTextIsShownAsItIs) {
 }
 
 TEST_F(MessageBoxFormTest, TextOfAnyLengthLeavesABoxThatAnswers) {
-    const std::u16string lines = Lines(20'000);
-    const std::u16string words(300'000, u'x');
     const std::u16string controls = std::u16string(u"a\0b", 3) + u"\xD800\x202E\x0007 \xFFFF";
-    const struct {
-        TextIn prompt, title;
-    } rows[] = {{u"", u""}, {lines, words}, {words, lines}, {controls, controls}};
-    for (const auto& row : rows) {
+    for (const auto& text :
+         {std::u16string(), Lines(20'000), std::u16string(300'000, u'x'), controls}) {
         const auto look = [&](QDialog& box) {
-            const QSize screen = box.screen()->availableSize();
-            EXPECT_LE(box.frameGeometry().height(), screen.height());
-            EXPECT_LE(box.frameGeometry().width(), screen.width());
+            const QSize size = box.frameGeometry().size();
+            EXPECT_EQ(size.boundedTo(box.screen()->availableSize()), size);
             EXPECT_LE(box.windowHandle()->title().size(), 2000);
             PressKey(box, Qt::Key_N);
         };
-        EXPECT_EQ(Answer(mbYesNo, look, row.prompt, row.title), mbNo) << row.prompt.size();
+        EXPECT_EQ(Answer(mbYesNo, look, text, text), mbNo) << text.size();
     }
 }
 
-TEST_F(MessageBoxFormTest, TheMouseSelectsTextWithoutTakingTheFocus) {
-    const auto select = [](QDialog& box) {
-        auto& text = Find<QTextEdit>(box, "lblText");
-        const QPoint word = text.mapTo(&box, QPoint(4, text.height() / 2));
-        QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, word);
-        EXPECT_EQ(text.textCursor().selectedText(), "Chart");
-        EXPECT_EQ(box.focusWidget()->objectName(), Button(0));
-        PressKey(box, Qt::Key_N);
-    };
-    EXPECT_EQ(Answer(mbYesNo, select, u"Chart"), mbNo);
-}
-
-TEST_F(MessageBoxFormTest, SelectingBeyondTheEdgeScrollsAndTheKeysGoOnFromThere) {
+TEST_F(MessageBoxFormTest, TheMouseSelectsAndScrollsWithoutTakingTheFocus) {
     const auto drag = [](QDialog& box) {
         auto& text = Find<QTextEdit>(box, "lblText");
         QScrollBar& bar = *text.verticalScrollBar();
         const QPoint start = text.mapTo(&box, QPoint(4, 4));
+        QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, start);
+        EXPECT_EQ(text.textCursor().selectedText(), "first");
+        EXPECT_EQ(box.focusWidget()->objectName(), Button(0));
         QTest::mousePress(box.windowHandle(), Qt::LeftButton, {}, start);
         const QPoint below = start + QPoint(0, text.height() + 20);
         QCursor::setPos(box.mapToGlobal(below));
@@ -313,44 +253,36 @@ TEST_F(MessageBoxFormTest, SelectingBeyondTheEdgeScrollsAndTheKeysGoOnFromThere)
         EXPECT_TRUE(Soon([&] { return bar.value() > 20; }));
         QTest::mouseRelease(box.windowHandle(), Qt::LeftButton, {}, start);
         EXPECT_TRUE(Find(box, "cmdUpDn_1").isEnabled());
-        const int before = bar.value();
-        Click(box, Find(box, "cmdUpDn_0"));
-        EXPECT_GT(bar.value(), before);
         PressKey(box, Qt::Key_O);
     };
     EXPECT_EQ(Answer(mbOkOnly, drag, Lines(150)), mbOK);
 }
 
 TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
-    const struct {
-        const char* name;
-        void (*scroll)(QDialog& box, bool down);
-    } ways[] = {
-        {"ends", [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_End : Qt::Key_Home); }},
-        {"pages",
-         [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_PageDown : Qt::Key_PageUp); }},
-        {"wheel",
-         [](QDialog& box, bool down) {
-             auto& view = *Find<QTextEdit>(box, "lblText").viewport();
-             const QPointF at = view.rect().center();
-             QWheelEvent wheel(at, view.mapToGlobal(at), {}, {0, down ? -120 : 120}, Qt::NoButton,
-                               {}, Qt::NoScrollPhase, false);
-             QCoreApplication::sendEvent(&view, &wheel);
-         }},
-        {"buttons",
-         [](QDialog& box, bool down) { Click(box, Find(box, down ? "cmdUpDn_0" : "cmdUpDn_1")); }},
+    using Scroll = void (*)(QDialog & box, bool down);
+    const Scroll ways[] = {
+        [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_End : Qt::Key_Home); },
+        [](QDialog& box, bool down) { PressKey(box, down ? Qt::Key_PageDown : Qt::Key_PageUp); },
+        [](QDialog& box, bool down) {
+            auto& view = *Find<QTextEdit>(box, "lblText").viewport();
+            const QPointF at = view.rect().center();
+            QWheelEvent wheel(at, view.mapToGlobal(at), {}, {0, down ? -120 : 120}, Qt::NoButton,
+                              {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&view, &wheel);
+        },
+        [](QDialog& box, bool down) { Click(box, Find(box, down ? "cmdUpDn_0" : "cmdUpDn_1")); },
     };
-    std::size_t waysTried = 0;
+    std::size_t waysTried = std::size(ways);
     const auto scroll = [&](QDialog& box) {
         auto& text = Find<QTextEdit>(box, "lblText");
         const int line = text.fontMetrics().lineSpacing();
-        for (const auto& [name, way] : std::span(ways).first(waysTried)) {
+        for (std::size_t way = 0; way < waysTried; ++way) {
             for (const bool down : {true, false}) {
-                SCOPED_TRACE(std::string(name) + (down ? " down" : " up"));
+                SCOPED_TRACE(std::to_string(way) + (down ? " down" : " up"));
                 QScrollBar& bar = *text.verticalScrollBar();
                 for (int before = -1; bar.value() != before;) {
                     before = bar.value();
-                    way(box, down);
+                    ways[way](box, down);
                     const bool atEnd = bar.value() == (down ? bar.maximum() : 0);
                     // Every line is whole on one page or the next, but for a rounded pixel.
                     EXPECT_TRUE(atEnd || std::abs(bar.value() - before) <= text.height() - line + 1)
@@ -366,20 +298,11 @@ TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
                 EXPECT_EQ(Find(box, "cmdUpDn_1").isEnabled(), down);
             }
         }
-        PressKey(box, Qt::Key_Tab);
-        EXPECT_EQ(box.focusWidget()->objectName(), Button(0));
         PressKey(box, Qt::Key_O);
     };
-    std::u16string words;
-    for (int i = 0; i < 2'000; ++i) words += u"words ";
-    const struct {
-        std::u16string prompt;
-        std::size_t ways;  // the last ones go in small steps
-    } rows[] = {{Lines(150), 4}, {words, 4}, {std::u16string(100'000, u'W'), 2}};
-    for (const auto& row : rows) {
-        waysTried = row.ways;
-        EXPECT_EQ(Answer(mbOkOnly, scroll, row.prompt), mbOK) << row.prompt.size();
-    }
+    EXPECT_EQ(Answer(mbOkOnly, scroll, Lines(150)), mbOK);
+    waysTried = 2;  // the others go in too small steps
+    EXPECT_EQ(Answer(mbOkOnly, scroll, std::u16string(100'000, u'W')), mbOK);
 }
 
 TEST_F(MessageBoxFormTest, TheFocusIsSeenFromTheBeginning) {
@@ -404,9 +327,7 @@ TEST_F(MessageBoxFormTest, EveryControlHasANameAndARole) {
         {"frmMessageBox", QAccessible::Dialog, "Visit & [*]"},
         {"lblText", QAccessible::EditableText, "Message"},
         {"Image1", QAccessible::Graphic, "Question"},
-        {"arrCmd_0", QAccessible::PushButton, "Save"},
         {"arrCmd_1", QAccessible::PushButton, "Don't Save"},
-        {"cmdUpDn_0", QAccessible::PushButton, "Later lines"},
         {"cmdUpDn_1", QAccessible::PushButton, "Earlier lines"},
     };
     const auto listen = [&](QDialog& box) {
@@ -424,63 +345,51 @@ TEST_F(MessageBoxFormTest, EveryControlHasANameAndARole) {
 
 // The desktop
 
-TEST_F(MessageBoxFormTest, AModelessBoxGoesOnModallyInItsWindow) {
-    const auto box = MakeBox(mbYesNo);
-    desktop_.Show(box, Modality::Modeless);
+TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyByItsButtonOrWithTheDesktop) {
+    const auto modal = MakeBox(mbYesNo);
+    desktop_.Show(modal, Modality::Modeless);
     const QPointer<QDialog> window = OpenDialog();
     ASSERT_NE(window, nullptr);
     EXPECT_FALSE(window->isModal());
-    desktop_.Show(box, Modality::Modeless);
-    const User user([&](QDialog& modal) {
-        EXPECT_EQ(&modal, window.data());
-        PressKey(modal, Qt::Key_N);
+    const User user([&](QDialog& dialog) {
+        EXPECT_EQ(&dialog, window.data());
+        PressKey(dialog, Qt::Key_N);
     });
-    desktop_.Show(box, Modality::Modal);
-    EXPECT_EQ(box->ReturnedValue(), mbNo);
+    desktop_.Show(modal, Modality::Modal);
+    EXPECT_EQ(modal->ReturnedValue(), mbNo);
     EXPECT_EQ(window, nullptr);
-}
 
-TEST_F(MessageBoxFormTest, AModelessBoxEndsByItsButtonOrWithTheDesktop) {
     const auto answered = MakeBox(mbYesNoCancel);
     desktop_.Show(answered, Modality::Modeless);
-    const QPointer<QDialog> window = OpenDialog();
-    ASSERT_TRUE(Soon([&] { return window->isActiveWindow(); }));
-    PressKey(*window, Qt::Key_N);
-    EXPECT_TRUE(Soon([&] { return window == nullptr; }));
+    ASSERT_TRUE(Soon([&] { return OpenDialog()->isActiveWindow(); }));
+    PressKey(*OpenDialog(), Qt::Key_N);
+    EXPECT_TRUE(Soon([&] { return OpenDialog() == nullptr; }));
     EXPECT_EQ(answered->ReturnedValue(), mbNo);
 
-    auto inner = std::make_unique<QtPlatform>();
     const auto left = MakeBox(mbYesNoCancel);
-    inner->Show(left, Modality::Modeless);
-    inner.reset();
+    std::make_unique<QtPlatform>()->Show(left, Modality::Modeless);
     EXPECT_FALSE(left->IsOpen());
     EXPECT_EQ(left->ReturnedValue(), mbCancel);
 }
 
 TEST_F(MessageBoxFormTest, ABoxIsCentredOnItsOwner) {
     auto host = OpenHostWindow(QRect(250, 400, 300, 200));
-    const auto centreOf = [](const QWidget& window) { return window.frameGeometry().center(); };
     const auto active = OpenHostWindow(QRect(10, 10, 200, 100));
     const auto owner = AsOwnerForm(host.get());
-    const auto centred = MakeBox(mbYesNo, owner);
     const User user([&](QDialog& box) {
-        const QPoint off = centreOf(box) - centreOf(*host);
-        EXPECT_LE(std::abs(off.x()), 2) << off.x();
-        EXPECT_LE(std::abs(off.y()), 2) << off.y();
+        const QPoint off = box.frameGeometry().center() - host->frameGeometry().center();
+        EXPECT_LE(off.manhattanLength(), 4);
         PressKey(box, Qt::Key_N);
     });
-    desktop_.Show(centred, Modality::Modal);
-    EXPECT_EQ(centred->ReturnedValue(), mbNo);
+    desktop_.Show(MakeBox(mbYesNo, owner), Modality::Modal);
 
-    const auto orphan = MakeBox(mbYesNo, owner);
     host.reset();
-    EXPECT_FALSE(owner->Exists());
     EXPECT_EQ(FaultOf([&] { owner->Left(); }), 91);
     EXPECT_EQ(FaultOf([&] { owner->Refresh(); }), 91);
     EXPECT_EQ(AsOwnerForm(nullptr), nullptr);
     const User another(Keys({Qt::Key_Y}));
-    desktop_.Show(orphan, Modality::Modal);
-    EXPECT_EQ(orphan->ReturnedValue(), mbYes);
+    desktop_.Show(MakeBox(mbYesNo, owner), Modality::Modal);
+    EXPECT_TRUE(user.HasActed() && another.HasActed());
 }
 
 TEST_F(MessageBoxFormTest, TheDesktopBelongsToTheUserInterfaceThread) {
