@@ -12,7 +12,7 @@ constexpr int kMostMnemonics = 9;
 
 }  // namespace
 
-WindowsMenu::WindowsMenu(Desk& desk) : QMenu("&Windows"), desk_(desk) {
+WindowsMenu::WindowsMenu(Desk& desk) : QMenu("Wi&ndows"), desk_(desk) {
     setObjectName("windows");
     connect(this, &QMenu::aboutToShow, this, [this] { Fill(); });
     Fill();

@@ -52,7 +52,7 @@ QLayout* ErrorLogPage::MakeTailHeading() {
 
 void ErrorLogPage::Refresh() {
     const QString path = desk_.ErrorLog().Path();
-    tailLabel_.setText("E&nd of " + QFileInfo(path).fileName());
+    tailLabel_.setText("En&d of " + QFileInfo(path).fileName());
     tailLabel_.setToolTip(path);
     tail_->setPlainText(desk_.ErrorLog().Tail(kTailLines));
     tail_->verticalScrollBar()->setValue(tail_->verticalScrollBar()->maximum());

@@ -80,7 +80,7 @@ void SelectionPage::AddArguments(QFormLayout& form) {
     noDeleted_.setText("&Do not include deleted entries");
     noDeleted_.setAccessibleName("Do not include deleted entries");
     AddRow(form, "L&ist", &sample_);
-    AddRow(form, "List &name", &listName_);
+    AddRow(form, "List na&me", &listName_);
     AddRow(form, "All values", valuesShown_);
     form.addRow(LabelOf("&Codes", codes_), MakeCodes());
     AddRow(form, "&Typed character", &typed_);
