@@ -112,6 +112,21 @@ request_close() {
     wait_until "the window manager answers" bash -c "! xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
 }
 
+# Starts the demo client, which keeps a record of what the library returned. Usage: start_client
+# DEMO; sets $record and $main.
+start_client() {
+    record=$work/record.txt
+    start "$1" --record "$record"
+    wait_until "the record is kept" test -e "$record"
+    wait_for_window "Front Desk"
+    main=$window
+}
+
+# Whether the record has grown beyond $answered lines.
+has_answer() {
+    [ "$(wc -l <"$record")" -gt "$answered" ]
+}
+
 # Leaves a picture of the screen when HALVEK_PICTURES names a folder. Usage: picture NAME
 picture() {
     [ -n "${HALVEK_PICTURES:-}" ] && [ -n "${DISPLAY:-}" ] || return 0

@@ -3,7 +3,6 @@
 # Usage: message_box.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
-record=$work/record.txt
 
 # Shows the sample box of a button set. Usage: open_box VALUE TITLE; sets $window.
 open_box() {
@@ -13,10 +12,6 @@ open_box() {
     answered=$(wc -l <"$record")
     keys alt+w
     wait_for_window "$2"
-}
-
-has_answer() {
-    [ "$(wc -l <"$record")" -gt "$answered" ]
 }
 
 # Checks what the last box returned. Usage: expect_answer SET RESULT WAY
@@ -36,10 +31,7 @@ click_second_button() {
 }
 
 start_desktop
-start "$1" --record "$record"
-wait_until "the record is kept" test -e "$record"
-wait_for_window "Front Desk"
-main=$window
+start_client "$1"
 keys ctrl+6
 
 # VALUE TITLE SET KEYS RESULT

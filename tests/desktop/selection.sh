@@ -3,7 +3,6 @@
 # Usage: selection.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
-record=$work/record.txt
 all='MB,MA,MC,BL,BX,CI,HM,PP,PS,EP,WC,AM,CH…P,CP,MG,OLD,17,IND'
 
 # Enters the insurance types with MB and MG chosen, and opens the list with keys in the field of
@@ -14,10 +13,6 @@ open_list() {
     answered=$(wc -l <"$record")
     keys "$@"
     wait_for_window "Insurance Types    [Total: 28]"
-}
-
-has_answer() {
-    [ "$(wc -l <"$record")" -gt "$answered" ]
 }
 
 # Checks what the last list returned. Usage: expect_choice CODES WAY
@@ -47,10 +42,7 @@ click_part() {
 }
 
 start_desktop
-start "$1" --record "$record"
-wait_until "the record is kept" test -e "$record"
-wait_for_window "Front Desk"
-main=$window
+start_client "$1"
 keys ctrl+7
 
 # KEYS CODES; the box of codes has the focus and ends with MG, the grid follows it.
