@@ -46,7 +46,7 @@ HALVEK_EXPORT ColorChoice NormalizedBackground(ColorChoice background);
 /// how it ends. A window draws it and forwards its events.
 class HALVEK_EXPORT MessageBox {
   public:
-    /// The picture in the title bar's and the text's fonts is measured on this desktop.
+    /// Takes the session's name and skin, and measures texts and the screen on this desktop.
     MessageBox(MessageBoxRequest request, const Services& session, const Desktop& desktop);
     ~MessageBox();
     MessageBox(const MessageBox&) = delete;
