@@ -91,6 +91,7 @@ TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
         {Letters(182), false, {16000, 500}, 17220},  // would be wider than the screen
         {u"head\r\n" + Letters(41), true, {4220, 500}, 5440},
         {u"head\r\n" + Letters(159), false, {16000, 500}, 17220},
+        {Lines(167) + u"\r\n" + Letters(100), false, {4600, 34300}, 5400},  // behind 1000
     };
     desktop_.SetScreenSize({20000, 11520});
     for (const auto& row : rows) {
