@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -31,6 +32,7 @@ class User {
 
     explicit User(Acts acts) : acts_(std::move(acts)) {
         QObject::connect(&look_, &QTimer::timeout, [this] { Look(); });
+        sinceAsked_.start();
         look_.start(0);
         QObject::connect(&giveUp_, &QTimer::timeout, [] {
             ADD_FAILURE() << "a dialog stays open or never opens";
@@ -45,12 +47,23 @@ class User {
   private:
     void Look() {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || !dialog->isActiveWindow()) return;
+        if (dialog == nullptr) return;
+        if (!dialog->isActiveWindow()) {
+            // A window manager that is still starting may leave a new window behind.
+            if (sinceAsked_.hasExpired(kAskAgain)) {
+                sinceAsked_.start();
+                dialog->activateWindow();
+            }
+            return;
+        }
         look_.stop();
         acts_(*dialog);
     }
 
+    static constexpr int kAskAgain = 1000;
+
     Acts acts_;
+    QElapsedTimer sinceAsked_;
     QTimer look_;
     QTimer giveUp_;
 };
