@@ -158,12 +158,6 @@ double CentsOf(std::string_view number, std::size_t point) {
 
 }  // namespace
 
-TextIn Trimmed(TextIn text) noexcept {
-    while (text.starts_with(u' ')) text.remove_prefix(1);
-    while (text.ends_with(u' ')) text.remove_suffix(1);
-    return text;
-}
-
 double Val(TextIn text) {
     std::u16string_view rest = WithoutLeadingBlanks(text);
     const bool negative = rest.starts_with(u'-');
@@ -194,6 +188,13 @@ std::int32_t RoundToInt32(double number) {
 }
 
 std::int32_t ToInt32(TextIn text) {
+    // Up to nine digits alone, as servers send a number, always fit.
+    constexpr std::size_t kFitting = 9;
+    if (!text.empty() && text.size() <= kFitting && std::ranges::all_of(text, IsDigit)) {
+        std::int32_t number = 0;
+        for (const char16_t digit : text) number = number * 10 + (digit - u'0');
+        return number;
+    }
     return RoundToInt32(Val(text));
 }
 

@@ -18,7 +18,11 @@ constexpr bool IsBlank(char16_t character) {
 }
 
 /// The text without the blanks at both ends, as a view into it. TAB stays: it separates fields.
-HALVEK_EXPORT TextIn Trimmed(TextIn text) noexcept;
+constexpr TextIn Trimmed(TextIn text) noexcept {
+    while (text.starts_with(u' ')) text.remove_prefix(1);
+    while (text.ends_with(u' ')) text.remove_suffix(1);
+    return text;
+}
 
 /// The value of the number that a text starts with: blanks skipped, a sign, digits with at most one
 /// point, an exponent; the longest such start counts and the rest is ignored.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstddef>
@@ -17,16 +18,16 @@ class Pieces {
         using value_type = TextIn;
         using difference_type = std::ptrdiff_t;
 
-        Iterator(TextIn rest, char16_t separator)
-            : rest_(rest), length_(rest.find(separator)), separator_(separator) {}
+        Iterator(TextIn text, char16_t separator)
+            : text_(text), separators_(text, separator), end_(separators_.Next()) {}
 
-        TextIn operator*() const { return rest_.substr(0, length_); }
+        TextIn operator*() const { return text_.substr(start_, end_ - start_); }
         Iterator& operator++() {
-            if (length_ == TextIn::npos) {
+            if (end_ == TextIn::npos) {
                 ended_ = true;
             } else {
-                rest_.remove_prefix(length_ + 1);
-                length_ = rest_.find(separator_);
+                start_ = end_ + 1;
+                end_ = separators_.Next();
             }
             return *this;
         }
@@ -34,9 +35,10 @@ class Pieces {
         friend bool operator==(const Iterator& at, std::default_sentinel_t) { return at.ended_; }
 
       private:
-        TextIn rest_;
-        std::size_t length_;
-        char16_t separator_;
+        TextIn text_;
+        CharacterScan<1> separators_;
+        std::size_t start_ = 0;
+        std::size_t end_;
         bool ended_ = false;
     };
 

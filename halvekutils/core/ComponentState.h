@@ -5,6 +5,7 @@
 #include <halvekutils/platform/Machine.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,8 @@ struct HALVEK_EXPORT ComponentState {
     std::u16string appName;
     std::u16string appType;
     std::u16string errFileName;  ///< rewritten into a full path by the first log line
+    std::u16string logPathName;  ///< the errFileName that logPath was made from
+    std::filesystem::path logPath;
     std::u16string exeFileStamp;
     std::u16string specialMode;
     StringArray colorArray;

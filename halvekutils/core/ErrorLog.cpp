@@ -47,6 +47,16 @@ void SettlePaths(ComponentState& state) {
     }
 }
 
+/// The log file; its path is made anew only when the name has changed.
+const fs::path& LogPath(ComponentState& state) {
+    SettlePaths(state);
+    if (state.logPathName != state.errFileName) {
+        state.logPath = NativePath(state.errFileName);
+        state.logPathName = state.errFileName;
+    }
+    return state.logPath;
+}
+
 fs::path ArchivePath(const ComponentState& state) {
     const DateParts date = PartsOf(state.machine->Now());
     const DateParts time = PartsOf(state.machine->Now());
@@ -99,11 +109,13 @@ void PrepareFile(const ComponentState& state, const fs::path& file) {
 std::string Stamp(DateTime now) {
     const DateParts parts = PartsOf(now);
     const int hour = parts.hour % 12 == 0 ? 12 : parts.hour % 12;
-    char stamp[64];
-    std::snprintf(stamp, sizeof stamp, "%02u/%02u/%02d %02d:%02d:%02d %s", parts.month, parts.day,
-                  parts.year % 100, hour, parts.minute, parts.second,
-                  parts.hour < 12 ? "AM" : "PM");
-    return stamp;
+    const auto twoDigits = [](auto number) {
+        return std::string{static_cast<char>('0' + number / 10 % 10),
+                           static_cast<char>('0' + number % 10)};
+    };
+    return twoDigits(parts.month) + '/' + twoDigits(parts.day) + '/' + twoDigits(parts.year) + ' ' +
+           twoDigits(hour) + ':' + twoDigits(parts.minute) + ':' + twoDigits(parts.second) +
+           (parts.hour < 12 ? " AM" : " PM");
 }
 
 std::string LogLine(const ComponentState& state, TextIn message) {
@@ -126,8 +138,7 @@ void WriteErrorLog(ComponentState& state, TextIn message) noexcept {
     try {
         try {
             if (state.loginUserName.empty()) state.loginUserName = state.machine->LoginName();
-            SettlePaths(state);
-            const fs::path file = NativePath(state.errFileName);
+            const fs::path& file = LogPath(state);
             PrepareFile(state, file);
             state.machine->Append(file, LogLine(state, message));
         } catch (const std::exception& caught) {

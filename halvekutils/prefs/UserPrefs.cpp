@@ -16,6 +16,7 @@ namespace {
 
 constexpr char16_t kFieldSeparator = 223;
 constexpr char16_t kPieceMark = u'|';
+constexpr std::size_t kUsualLength = 2000;  // of a settings text; a longer one grows
 
 using TextMember = std::u16string UserPrefs::*;
 using NumberMember = std::int32_t UserPrefs::*;
@@ -34,8 +35,8 @@ void Reset(UserPrefs& prefs, const Text& row) {
 void Read(UserPrefs& prefs, const Text& row, TextIn field) {
     prefs.*row.member = field;
 }
-std::u16string Written(const UserPrefs& prefs, const Text& row) {
-    return prefs.*row.member;
+void Write(const UserPrefs& prefs, const Text& row, std::u16string& out) {
+    out += prefs.*row.member;
 }
 
 /// A text that may arrive between two bars, and is written without them.
@@ -49,8 +50,8 @@ void Reset(UserPrefs& prefs, const BarredText& row) {
 void Read(UserPrefs& prefs, const BarredText& row, TextIn field) {
     prefs.*row.member = field.starts_with(kPieceMark) ? SplitStr(field, u"|", 2) : field.Str();
 }
-std::u16string Written(const UserPrefs& prefs, const BarredText& row) {
-    return prefs.*row.member;
+void Write(const UserPrefs& prefs, const BarredText& row, std::u16string& out) {
+    out += prefs.*row.member;
 }
 
 /// A number, or a colour whose reset value of -1 also stands for an empty field.
@@ -66,8 +67,8 @@ void Read(UserPrefs& prefs, const Number& row, TextIn field) {
     if (field.empty()) return;
     prefs.*row.member = Quietly(row.reset, [&] { return ToInt32(field); });
 }
-std::u16string Written(const UserPrefs& prefs, const Number& row) {
-    return IntegerText(prefs.*row.member);
+void Write(const UserPrefs& prefs, const Number& row, std::u16string& out) {
+    out += IntegerText(prefs.*row.member);
 }
 
 struct Switch {
@@ -81,8 +82,8 @@ void Reset(UserPrefs& prefs, const Switch& row) {
 void Read(UserPrefs& prefs, const Switch& row, TextIn field) {
     prefs.*row.member = EqualFolded(field, u"true");
 }
-std::u16string Written(const UserPrefs& prefs, const Switch& row) {
-    return BooleanText(prefs.*row.member);
+void Write(const UserPrefs& prefs, const Switch& row, std::u16string& out) {
+    out += BooleanText(prefs.*row.member);
 }
 
 /// A switch that the settings hold as a level, on from 2.
@@ -96,8 +97,8 @@ void Reset(UserPrefs& prefs, const Level& row) {
 void Read(UserPrefs& prefs, const Level& row, TextIn field) {
     prefs.*row.member = Val(field) >= 2;
 }
-std::u16string Written(const UserPrefs& prefs, const Level& row) {
-    return prefs.*row.member ? u"2" : u"0";
+void Write(const UserPrefs& prefs, const Level& row, std::u16string& out) {
+    out += prefs.*row.member ? u'2' : u'0';
 }
 
 using Row = std::variant<Text, BarredText, Number, Switch, Level>;
@@ -158,9 +159,10 @@ bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
 
 std::u16string UserPrefs::GetSettingsString() const {
     std::u16string settings;
+    settings.reserve(kUsualLength);
     for (const Row& row : Table::kRows) {
         if (&row != Table::kRows.data()) settings += kFieldSeparator;
-        settings += std::visit([&](const auto& kind) { return Written(*this, kind); }, row);
+        std::visit([&](const auto& kind) { Write(*this, kind, settings); }, row);
     }
     return settings;
 }

@@ -12,7 +12,7 @@ namespace {
 constexpr char16_t kFieldSeparator = 230;
 constexpr std::size_t kLeastFields = 6;
 
-enum Field : std::size_t {
+enum FieldNumber : std::size_t {
     kDescription,
     kKey,
     kHasLookup,
@@ -41,6 +41,7 @@ Record Cut(TextIn data) {
 }
 
 bool IsOne(TextIn field) {
+    if (field.size() == 1) return field.front() == u'1';  // as servers send it
     return Val(field) == 1.0;
 }
 
@@ -53,16 +54,18 @@ void CodeDefinition::Init(TextIn codeData) {
     const Record record = Cut(codeData);
     if (record.count < kLeastFields) return;
     const auto& fields = record.fields;
-    codeDescription_ = fields[kDescription];
-    codeKey_ = fields[kKey];
+    const auto fieldOf = [&](const TextIn& text) {
+        return Field{static_cast<std::size_t>(text.data() - codeData.data()), text.size()};
+    };
+    record_ = codeData;
+    codeDescription_ = fieldOf(fields[kDescription]);
+    codeKey_ = fieldOf(fields[kKey]);
     codeHasLookup_ = IsOne(fields[kHasLookup]);
     includedInMenu_ = fields[kIncludedInMenu] == u"1";
-    reportName_ = fields[kReportName];
-    sortByList_ = fields[kSortBy];
-    if (record.count > kSortBySecond) {
-        sortByList_ += kFieldSeparator;
-        sortByList_ += fields[kSortBySecond];
-    }
+    reportName_ = fieldOf(fields[kReportName]);
+    sortByList_ = fieldOf(fields[kSortBy]);
+    // The second half stands right behind the first, parted as a list of two is.
+    if (record.count > kSortBySecond) sortByList_.length += 1 + fields[kSortBySecond].size();
     if (record.count > kEntitySpecific) isEntitySpecific_ = IsOne(fields[kEntitySpecific]);
     if (record.count > kSystemCode) isSystemCode_ = IsOne(fields[kSystemCode]);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace halvek {
 
@@ -22,24 +25,38 @@ class HALVEK_EXPORT CodeDefinition {
 
     bool IsSystemCode() const { return isSystemCode_; }
     bool IsEntitySpecific() const { return isEntitySpecific_; }
-    std::u16string ReportName() const { return reportName_; }
+    std::u16string ReportName() const { return TextOf(reportName_); }
     bool IncludedInMenu() const { return includedInMenu_; }
     /// One sort order, or two parted by the character of code 230.
-    std::u16string SortByList() const { return sortByList_; }
+    std::u16string SortByList() const { return TextOf(sortByList_); }
     bool CodeHasLookup() const { return codeHasLookup_; }
-    std::u16string CodeDescription() const { return codeDescription_; }
-    std::u16string CodeKey() const { return codeKey_; }
+    std::u16string CodeDescription() const { return TextOf(codeDescription_); }
+    std::u16string CodeKey() const { return TextOf(codeKey_); }
 
   private:
     friend class CodesCollection;
+    friend class ObjectStore<CodeDefinition>;
+
+    /// Where a field stands in the record.
+    struct Field {
+        std::size_t start = 0;
+        std::size_t length = 0;
+    };
+
     CodeDefinition();
 
-    std::u16string codeKey_;
-    std::u16string codeDescription_;
+    std::u16string_view ViewOf(const Field& field) const {
+        return std::u16string_view(record_).substr(field.start, field.length);
+    }
+    std::u16string TextOf(const Field& field) const { return std::u16string(ViewOf(field)); }
+
+    std::u16string record_;  ///< holds the text of all fields
+    Field codeKey_;
+    Field codeDescription_;
+    Field sortByList_;
+    Field reportName_;
     bool codeHasLookup_ = false;
-    std::u16string sortByList_;
     bool includedInMenu_ = false;
-    std::u16string reportName_;
     bool isEntitySpecific_ = false;
     bool isSystemCode_ = false;
 };

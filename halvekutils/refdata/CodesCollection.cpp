@@ -46,19 +46,20 @@ void CodesCollection::AddRecords(TextIn codesData, Services& services) {
 }
 
 void CodesCollection::AddRecord(TextIn record, Services& services) {
-    const std::shared_ptr<CodeDefinition> definition(new CodeDefinition);
+    const std::shared_ptr<CodeDefinition> definition = store_.Make();
     definition->Init(record);
+    const TextIn key = definition->ViewOf(definition->codeKey_);
     try {
-        if (definition->codeKey_.empty()) {
+        if (key.empty()) {
             definitions_.Add(definition);
         } else {
-            definitions_.Add(definition, definition->codeKey_);
+            definitions_.Add(definition, key);
         }
     } catch (const std::exception& caught) {
         services.LogError(u"Error adding to CodesCollection in HalvekUtils.Add:\r\n" +
                           AsRuntimeError(caught).Description() +
-                          u"\r\n\r\nPossible duplicate CodeKey/CodeDescription:  " +
-                          definition->codeKey_ + u'/' + definition->codeDescription_);
+                          u"\r\n\r\nPossible duplicate CodeKey/CodeDescription:  " + key.Str() +
+                          u'/' + definition->CodeDescription());
         if (services.DebugMode()) Beep();
     }
 }

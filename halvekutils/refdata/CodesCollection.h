@@ -4,6 +4,7 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/CodeDefinition.h>
@@ -45,6 +46,7 @@ class HALVEK_EXPORT CodesCollection : public Fetchable,
     CodesCollection();
     void AddRecord(TextIn record, Services& services);
 
+    ObjectStore<CodeDefinition> store_;
     KeyedCollection<CodeDefinition> definitions_;
 };
 

@@ -34,7 +34,7 @@ std::shared_ptr<SecurityItem> SecurityItemsCollection::Item(std::int32_t positio
         if (fullAccess) found->Init(IntegerText(position), kEveryRight);
         return found;
     }
-    std::shared_ptr<SecurityItem> item(new SecurityItem);
+    std::shared_ptr<SecurityItem> item = store_.Make();
     if (fullAccess) item->Init(IntegerText(position), kEveryRight);
     items_.Add(item, item->itemKey_);
     return item;
@@ -45,7 +45,7 @@ std::shared_ptr<SecurityItem> SecurityItemsCollection::Item(TextIn key) {
         if (fullAccess) (*found)->Init(key, kEveryRight);
         return *found;
     }
-    std::shared_ptr<SecurityItem> item(new SecurityItem);
+    std::shared_ptr<SecurityItem> item = store_.Make();
     item->Init(key, fullAccess ? kEveryRight : kNoRight);
     items_.Add(item, key);
     if (!fullAccess) ReportMissing(key);
@@ -71,7 +71,7 @@ void SecurityItemsCollection::AddItems(TextIn securityData) {
     if (fullAccess) return;
     for (const TextIn piece : Pieces(securityData, kItemSeparator)) {
         if (piece.empty()) continue;
-        const std::shared_ptr<SecurityItem> item(new SecurityItem);
+        const std::shared_ptr<SecurityItem> item = store_.Make();
         item->Init(piece.substr(0, piece.size() - 1), piece.back());
         Add(item);
     }

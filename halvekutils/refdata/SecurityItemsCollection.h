@@ -4,6 +4,7 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/SecurityItem.h>
@@ -66,6 +67,7 @@ class HALVEK_EXPORT SecurityItemsCollection
     void ReportMissing(TextIn key);
 
     Services& services_;
+    ObjectStore<SecurityItem> store_;
     KeyedCollection<SecurityItem> items_;
 };
 

@@ -1,5 +1,6 @@
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/selection/SelectGrid.h>
 #include <halvekutils/text/CharacterFilter.h>
@@ -38,10 +39,22 @@ void Append(std::u16string& codes, std::u16string_view code) {
 std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
     codes.reserve(text.size());
-    ForEachCode(text, [&](std::u16string_view code) {
-        if (!code.empty() && code != leftOut) Append(codes, code);
-        return true;
-    });
+    const auto append = [&](std::u16string_view part) {
+        if (!part.empty()) Append(codes, part);
+    };
+    // Codes that stay as they are, one behind the other, are copied together.
+    std::size_t runStart = 0;
+    std::size_t start = 0;
+    for (const std::u16string_view piece : Pieces(text, u',')) {
+        const std::u16string_view code = Trimmed(piece);
+        if (code.size() != piece.size() || code.empty() || code == leftOut) {
+            if (start > runStart) append(text.substr(runStart, start - 1 - runStart));
+            if (code != leftOut) append(code);
+            runStart = start + piece.size() + 1;
+        }
+        start += piece.size() + 1;
+    }
+    if (start > runStart) append(text.substr(runStart));
     return codes;
 }
 

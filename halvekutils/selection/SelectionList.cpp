@@ -1,3 +1,4 @@
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/selection/SelectionList.h>
@@ -17,38 +18,53 @@ constexpr char16_t kFieldEnd = u'\t';
 constexpr std::u16string_view kAllCodesPiece = u" \t *** ALL CODES *** ";
 constexpr std::u16string_view kDeleted = u"1";
 
-/// The length of the field that a text starts with.
-std::size_t FieldLength(std::u16string_view text) {
-    std::size_t length = 0;
-    while (length < text.size() && text[length] != kFieldEnd && text[length] != kEntryEnd) ++length;
-    return length;
+/// The field that a text starts with.
+std::u16string_view FirstField(std::u16string_view text) {
+    return text.substr(0, CharacterScan(text, kFieldEnd, kEntryEnd).Next());
 }
 
-/// Walks over a piece once and sees whether it is marked as deleted.
-class DeletedFlag {
+std::size_t HashOf(std::u16string_view code) {
+    return std::hash<std::u16string_view>()(code);
+}
+
+/// One piece of the list, told by the separators in it from left to right.
+class Piece {
   public:
-    /// Reads the piece at `start` and returns where it ends.
-    std::size_t Read(std::u16string_view text, std::size_t start) {
-        std::size_t field = 1;
-        std::size_t flagStart = start;
-        std::size_t flagEnd = text.size();
-        std::size_t at = start;
-        for (; at < text.size() && text[at] != kEntryEnd; ++at) {
-            if (text[at] != kFieldEnd) continue;
-            if (field == fields_) flagEnd = at;
-            ++field;
-            if (field == fields_ || fields_ == 0) flagStart = at + 1;
-        }
-        if (fields_ == 0 && at > start) fields_ = field;
-        isDeleted_ = field >= fields_ &&
-                     text.substr(flagStart, std::min(flagEnd, at) - flagStart) == kDeleted;
-        return at;
+    void Start(std::size_t start) {
+        start_ = flagStart_ = start;
+        codeEnd_ = flagEnd_ = kOpen;
+        field_ = 1;
     }
-    bool IsDeleted() const { return isDeleted_; }
+    void EndField(std::size_t at) {
+        if (field_ == 1) codeEnd_ = at;
+        if (field_ == fields_) flagEnd_ = at;
+        ++field_;
+        if (field_ == fields_ || fields_ == 0) flagStart_ = at + 1;
+    }
+    void End(std::size_t at) {
+        end_ = at;
+        if (fields_ == 0 && at > start_) fields_ = field_;
+    }
+
+    std::size_t Start() const { return start_; }
+    std::u16string_view Code(std::u16string_view text) const {
+        return text.substr(start_, std::min(codeEnd_, end_) - start_);
+    }
+    bool IsDeleted(std::u16string_view text) const {
+        return field_ >= fields_ &&
+               text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_) == kDeleted;
+    }
 
   private:
+    static constexpr std::size_t kOpen = std::u16string_view::npos;
+
+    std::size_t start_ = 0;
+    std::size_t codeEnd_ = kOpen;
+    std::size_t flagStart_ = 0;
+    std::size_t flagEnd_ = kOpen;
+    std::size_t end_ = 0;
+    std::size_t field_ = 1;
     std::size_t fields_ = 0;  ///< of the first piece that was not empty; its last field is the flag
-    bool isDeleted_ = false;
 };
 
 }  // namespace
@@ -60,68 +76,92 @@ SelectionList::SelectionList(std::u16string allValues, bool doNotIncludeDeleted)
     }
     ReadEntries(doNotIncludeDeleted);
     lastShown_ = std::min(Count(), RowCount() / kRowsPerBand * kColumns);
-    IndexCodes();
 }
 
 void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
-    const auto pieces = static_cast<std::size_t>(std::ranges::count(values_, kEntryEnd)) + 1;
+    const std::u16string_view text = values_;
+    const std::size_t pieces = CountOf(text, kEntryEnd) + 1;
     starts_.reserve(pieces);
     if (!doNotIncludeDeleted) deleted_.reserve(pieces);
     starts_.push_back(0);
     if (!doNotIncludeDeleted) deleted_.push_back(false);
-    const std::u16string_view text = values_;
-    DeletedFlag flag;
-    for (std::size_t end = text.find(kEntryEnd); end < text.size();) {
-        const std::size_t start = end + 1;
-        end = flag.Read(text, start);
-        if (doNotIncludeDeleted && flag.IsDeleted()) continue;
-        starts_.push_back(static_cast<std::uint32_t>(start));
-        if (!doNotIncludeDeleted) deleted_.push_back(flag.IsDeleted());
+    CharacterScan separators(text, kEntryEnd, kFieldEnd);
+    Piece piece;
+    const auto readTo = [&](std::size_t end) {
+        piece.End(end);
+        const bool isDeleted = piece.IsDeleted(text);
+        if (doNotIncludeDeleted && isDeleted) return;
+        starts_.push_back(static_cast<std::uint32_t>(piece.Start()));
+        if (!doNotIncludeDeleted) deleted_.push_back(isDeleted);
+        MeasureCode(Trimmed(piece.Code(text)).size());
+    };
+    bool inHeader = true;
+    for (std::size_t at; (at = separators.Next()) < text.size();) {
+        if (text[at] == kFieldEnd) {
+            piece.EndField(at);
+            continue;
+        }
+        if (!std::exchange(inHeader, false)) readTo(at);
+        piece.Start(at + 1);
     }
+    if (!inHeader) readTo(text.size());
 }
 
-void SelectionList::IndexCodes() {
-    std::size_t longest = 0;
-    std::size_t codes = 0;
-    for (std::int32_t entry = 1; entry <= Count(); ++entry) {
-        const std::size_t length = TrimmedCode(entry).size();
-        longest = std::max(longest, length);
-        if (length > 0) ++codes;
-    }
-    longestCodeLength_ = static_cast<std::int32_t>(longest);
+void SelectionList::MeasureCode(std::size_t length) {
+    longestCodeLength_ = std::max(longestCodeLength_, static_cast<std::int32_t>(length));
+    if (length > 0) ++codes_;
+}
+
+void SelectionList::IndexCodes() const {
+    entryBits_ = std::bit_ceil(static_cast<std::uint32_t>(lastShown_) + 1) - 1;
     // A short text with many codes can only repeat a few of them.
-    ResizeIndex(std::bit_ceil(std::min(codes, values_.size() / 8) * 4 / 3 + 2));
+    ResizeIndex(std::bit_ceil(std::min(codes_, values_.size() / 8) * 4 / 3 + 2));
     for (std::int32_t entry = 1; entry <= lastShown_; ++entry) AddToIndex(entry);
 }
 
-void SelectionList::AddToIndex(std::int32_t entry) {
+void SelectionList::AddToIndex(std::int32_t entry) const {
     const std::u16string_view code = TrimmedCode(entry);
     if (code.empty()) return;
-    std::uint32_t& slot = slots_[SlotOf(code)];
+    const std::size_t hash = HashOf(code);
+    std::uint32_t& slot = slots_[SlotOf(code, hash)];
     if (slot != 0) return;  // the first entry of a code stands for it
-    slot = static_cast<std::uint32_t>(entry);
+    slot = static_cast<std::uint32_t>(entry) | TagOf(hash);
     if (++indexed_ * 4 > slots_.size() * 3) ResizeIndex(slots_.size() * 2);
 }
 
-void SelectionList::ResizeIndex(std::size_t size) {
+void SelectionList::ResizeIndex(std::size_t size) const {
     std::vector<std::uint32_t> old(size);
     old.swap(slots_);
-    for (const std::uint32_t entry : old) {
-        if (entry != 0) slots_[SlotOf(TrimmedCode(static_cast<std::int32_t>(entry)))] = entry;
+    for (const std::uint32_t taken : old) {
+        if (taken == 0) continue;
+        const std::u16string_view code = TrimmedCode(EntryIn(taken));
+        slots_[SlotOf(code, HashOf(code))] = taken;
     }
 }
 
-std::size_t SelectionList::SlotOf(std::u16string_view code) const {
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t at = std::hash<std::u16string_view>()(code) & mask;
-    while (slots_[at] != 0 && TrimmedCode(static_cast<std::int32_t>(slots_[at])) != code) {
-        at = (at + 1) & mask;
+std::uint32_t SelectionList::TagOf(std::size_t hash) const {
+    return static_cast<std::uint32_t>(hash >> 32) & ~entryBits_;
+}
+
+std::int32_t SelectionList::EntryIn(std::uint32_t slot) const {
+    return static_cast<std::int32_t>(slot & entryBits_);
+}
+
+std::size_t SelectionList::SlotOf(std::u16string_view code, std::size_t hash) const {
+    const std::size_t last = slots_.size() - 1;
+    const std::uint32_t tag = TagOf(hash);
+    std::size_t at = hash & last;
+    for (; slots_[at] != 0; at = (at + 1) & last) {
+        const bool sameTag = (slots_[at] & ~entryBits_) == tag;
+        if (sameTag && TrimmedCode(EntryIn(slots_[at])) == code) break;
     }
     return at;
 }
 
 std::int32_t SelectionList::Find(std::u16string_view code) const {
-    return code.empty() ? 0 : static_cast<std::int32_t>(slots_[SlotOf(code)]);
+    if (code.empty()) return 0;
+    if (slots_.empty()) IndexCodes();
+    return EntryIn(slots_[SlotOf(code, HashOf(code))]);
 }
 
 std::int32_t SelectionList::RowCount() const {
@@ -134,8 +174,7 @@ std::u16string_view SelectionList::From(std::int32_t entry) const {
 }
 
 std::u16string_view SelectionList::Code(std::int32_t entry) const {
-    const std::u16string_view text = From(entry);
-    return text.substr(0, FieldLength(text));
+    return FirstField(From(entry));
 }
 
 std::u16string_view SelectionList::TrimmedCode(std::int32_t entry) const {
@@ -144,10 +183,10 @@ std::u16string_view SelectionList::TrimmedCode(std::int32_t entry) const {
 
 std::u16string_view SelectionList::Description(std::int32_t entry) const {
     std::u16string_view text = From(entry);
-    text.remove_prefix(FieldLength(text));
+    text.remove_prefix(Code(entry).size());
     if (!text.starts_with(kFieldEnd)) return {};
     text.remove_prefix(1);
-    return text.substr(0, FieldLength(text));
+    return FirstField(text);
 }
 
 bool SelectionList::IsDeleted(std::int32_t entry) const {

@@ -54,16 +54,24 @@ class HALVEK_EXPORT SelectionList {
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
     void ReadEntries(bool doNotIncludeDeleted);
-    void IndexCodes();
-    void AddToIndex(std::int32_t entry);
-    void ResizeIndex(std::size_t size);
-    std::size_t SlotOf(std::u16string_view code) const;
+    void MeasureCode(std::size_t length);
+    void IndexCodes() const;
+    void AddToIndex(std::int32_t entry) const;
+    void ResizeIndex(std::size_t size) const;
+    std::uint32_t TagOf(std::size_t hash) const;
+    std::int32_t EntryIn(std::uint32_t slot) const;
+    std::size_t SlotOf(std::u16string_view code, std::size_t hash) const;
 
     std::u16string values_;
     std::vector<std::uint32_t> starts_;  ///< where each entry's piece starts
     std::vector<bool> deleted_;          ///< empty when deleted entries are left out
-    std::vector<std::uint32_t> slots_;   ///< hash of a code to its first entry, 0 for a free slot
-    std::size_t indexed_ = 0;
+    // The index of the codes, made when one is first looked up. A slot is 0 when it is free, else
+    // the first entry of a code and, in the bits that no entry needs, a part of the code's hash,
+    // which spares most looks into the text.
+    mutable std::vector<std::uint32_t> slots_;
+    mutable std::uint32_t entryBits_ = 0;
+    mutable std::size_t indexed_ = 0;
+    std::size_t codes_ = 0;  ///< how many entries have one
     std::int32_t lastShown_ = 0;
     std::int32_t longestCodeLength_ = 0;
 };

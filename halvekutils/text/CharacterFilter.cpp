@@ -1,3 +1,4 @@
+#include <halvekutils/base/CharacterBlock.h>
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
@@ -8,6 +9,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <functional>
 #include <string_view>
 #include <utility>
 
@@ -53,21 +56,38 @@ bool ReadExceptions(TextIn strExceptions, Filter& filter) {
     return true;
 }
 
+/// Calls `visit` with the position of each character that some filter may not keep as it is.
+template <class Visit>
+void ForEachSpecial(std::u16string_view text, const Visit& visit) {
+    std::size_t at = 0;
+    for (; at + kBlockLength <= text.size(); at += kBlockLength) {
+        std::uint32_t mask = MaskOfOthers<u' ', u'~', u':', u'^', u'`', u'|'>(text.data() + at);
+        for (; mask != 0; mask &= mask - 1) {
+            visit(at + static_cast<std::size_t>(std::countr_zero(mask)));
+        }
+    }
+    for (; at < text.size(); ++at) visit(at);
+}
+
 /// The text with some characters replaced. `keeps(character, code)` is true for those that stay;
 /// `replace(code, out)` appends what stands for any other.
 template <class Keeps, class Replace>
 std::u16string Replaced(TextIn text, const Keeps& keeps, const Replace& replace) {
+    constexpr std::size_t kStep = 4096;  // small enough to be copied while it is in the cache
     std::u16string out;
     out.reserve(text.size());
-    std::size_t start = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::uint8_t code = CodeOf(text[i]);
-        if (keeps(text[i], code)) continue;
-        out.append(text, start, i - start);
-        replace(code, out);
-        start = i + 1;
+    for (TextIn rest = text; !rest.empty(); rest.remove_prefix(std::min(kStep, rest.size()))) {
+        const TextIn step = rest.substr(0, kStep);
+        std::size_t start = 0;
+        ForEachSpecial(step, [&](std::size_t at) {
+            const std::uint8_t code = CodeOf(step[at]);
+            if (keeps(step[at], code)) return;
+            out.append(step, start, at - start);
+            replace(code, out);
+            start = at + 1;
+        });
+        out.append(step, start);
     }
-    out.append(text, start);
     return out;
 }
 
@@ -77,6 +97,12 @@ std::u16string MessageOf(const Filter& filter, bool bDoNotRemoveUnwantedChars) {
                                              : u"Invalid characters were found and removed.";
     return std::u16string(headline) + u"\r\nThe following characters may not be used: \r\n" +
            filter.named + u"\r\n";
+}
+
+/// True when writing to the owner would change what the view shows.
+bool IsViewOf(std::u16string_view view, const std::u16string& owner) {
+    const std::less_equal<const char16_t*> isUpTo;
+    return isUpTo(owner.data(), view.data()) && isUpTo(view.data(), owner.data() + owner.size());
 }
 
 /// Both texts for the debug console, which drops what comes outside debug mode.
@@ -145,9 +171,15 @@ FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn st
         strOUT = bDoNotRemoveUnwantedChars ? strIN.Str() : std::move(result);
         return report;
     }
-    const std::u16string original(strIN);  // it may be a view of the output
-    strOUT = bDoNotRemoveUnwantedChars ? original : result;
-    TellDebugConsole(Services::Current(), original, result);
+    const std::u16string kept = IsViewOf(strIN, strOUT) ? strIN.Str() : std::u16string();
+    const TextIn original = kept.empty() ? strIN : TextIn(kept);
+    if (bDoNotRemoveUnwantedChars) {
+        strOUT = original;
+        TellDebugConsole(Services::Current(), original, result);
+    } else {
+        strOUT = std::move(result);
+        TellDebugConsole(Services::Current(), original, strOUT);
+    }
     report.message = MessageOf(filter, bDoNotRemoveUnwantedChars);
     return report;
 }

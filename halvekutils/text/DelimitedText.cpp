@@ -1,3 +1,4 @@
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/text/DelimitedText.h>
@@ -16,25 +17,75 @@ bool EndsWithWhole(std::u16string_view text, std::u16string_view del) {
     return !text.empty() && text.substr(text.size() - 1) == del;
 }
 
-/// A text with its delimiter appended, so that the last field needs no closing one. A delimiter of
-/// one character ends the last field just where the text ends and needs no copy for that.
-class ClosedText {
-  public:
-    ClosedText(TextIn text, TextIn delim) : view_(text) {
-        if (delim.size() < 2) return;
-        closed_.reserve(text.size() + delim.size());
-        closed_.append(text).append(delim);
-        view_ = closed_;
+std::size_t CountAll(std::u16string_view text, std::u16string_view wanted) {
+    if (wanted.empty()) return 0;
+    if (wanted.size() == 1) return CountOf(text, wanted.front());
+    if (wanted.size() == 2 && wanted[0] != wanted[1])
+        return CountOfPair(text, wanted[0], wanted[1]);
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = text.find(wanted, at)) != kNone; at += wanted.size()) ++count;
+    return count;
+}
+
+/// A text with its delimiter appended, so that the last field needs no closing one.
+std::u16string Closed(std::u16string_view text, std::u16string_view delim) {
+    std::u16string closed;
+    closed.reserve(text.size() + delim.size());
+    return closed.append(text).append(delim);
+}
+
+std::u16string FieldOf(std::u16string_view text, char16_t delim, std::int16_t number) {
+    CharacterScan delimiters(text, delim);
+    std::size_t start = 0;
+    if (number > 1) {
+        delimiters.Skip(static_cast<std::size_t>(number) - 2);
+        const std::size_t before = delimiters.Next();
+        if (before == kNone) return {};
+        start = before + 1;
     }
-    ClosedText(const ClosedText&) = delete;
-    ClosedText& operator=(const ClosedText&) = delete;
+    return std::u16string(text.substr(start, delimiters.Next() - start));
+}
 
-    std::u16string_view View() const { return view_; }
+std::u16string FieldOf(std::u16string_view text, std::u16string_view delim, std::int16_t number) {
+    const std::u16string closed = Closed(text, delim);
+    std::size_t start = 0;
+    for (std::int16_t field = 1;; ++field) {
+        const std::size_t end = closed.find(delim, start);
+        if (end == kNone) return {};
+        if (field == number) return closed.substr(start, end - start);
+        start = end + delim.size();
+    }
+}
 
-  private:
-    std::u16string closed_;
-    std::u16string_view view_;
-};
+std::vector<std::u16string> Fields(std::u16string_view text, char16_t delim) {
+    const bool openEnd = text.empty() || text.back() != delim;
+    const std::size_t count = CountOf(text, delim) + (openEnd ? 1 : 0);
+    std::vector<std::u16string> fields;
+    fields.reserve(count + 1);
+    fields.emplace_back();
+    CharacterScan delimiters(text, delim);
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t end = delimiters.Next();
+        fields.emplace_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    return fields;
+}
+
+std::vector<std::u16string> Fields(std::u16string_view text, std::u16string_view delim) {
+    const std::u16string closed = Closed(text, delim);
+    std::vector<std::u16string> fields(1);
+    if (delim.empty()) return fields;
+    const std::u16string_view view = closed;
+    std::size_t start = 0;
+    for (std::size_t i = CountAll(view, delim); i > 0; --i) {
+        const std::size_t end = view.find(delim, start);
+        fields.emplace_back(view.substr(start, end - start));
+        start = end + 1;  // by one character: the rest of the delimiter begins the next field
+    }
+    return fields;
+}
 
 /// The part of a chunk up to its last delimiter, the delimiter included; empty when there is none.
 std::u16string_view UpToLastDelimiter(std::u16string_view chunk, std::u16string_view del) {
@@ -66,50 +117,20 @@ bool CutIntoChunks(std::u16string_view text, std::size_t length, std::u16string_
 std::u16string SplitStr(TextIn strSplit, TextIn delim, std::int16_t intNum) {
     return Quietly(std::u16string(), [&]() -> std::u16string {
         if (intNum < 1 || delim.empty()) return {};
-        const ClosedText closed(strSplit, delim);
-        const std::u16string_view text = closed.View();
-        std::size_t start = 0;
-        for (std::int16_t field = 1;; ++field) {
-            const std::size_t end = text.find(delim, start);
-            if (end == kNone && (delim.size() > 1 || field != intNum)) return {};
-            if (field == intNum) return std::u16string(text.substr(start, end - start));
-            start = end + delim.size();
-        }
+        if (delim.size() == 1) return FieldOf(strSplit, delim.front(), intNum);
+        return FieldOf(strSplit, delim, intNum);
     });
 }
 
 bool StrToArr(TextIn str, TextIn del, StringArray& arr) {
     return Quietly(false, [&] {
-        const ClosedText closed(str, EndsWithWhole(str, del) ? TextIn() : del);
-        const std::u16string_view text = closed.View();
-        const bool openEnd = del.size() == 1 && !EndsWithWhole(text, del);
-        const std::int32_t count = CountInstances(TextIn(text), del) + (openEnd ? 1 : 0);
-        std::vector<std::u16string> fields;
-        fields.reserve(static_cast<std::size_t>(count) + 1);
-        fields.emplace_back();
-        std::size_t start = 0;
-        for (std::int32_t i = 1; i <= count; ++i) {
-            const std::size_t end = text.find(del, start);
-            fields.emplace_back(text.substr(start, end - start));
-            start = end + 1;  // by one character, also past a longer delimiter
-        }
-        arr = StringArray(0, std::move(fields));
+        arr = StringArray(0, del.size() == 1 ? Fields(str, del.front()) : Fields(str, del));
         return true;
     });
 }
 
 std::int32_t CountInstances(TextIn strSearchIn, TextIn strSearchFor) {
-    if (strSearchFor.empty()) return 0;
-    if (strSearchFor.size() == 1) {
-        return static_cast<std::int32_t>(std::ranges::count(strSearchIn, strSearchFor.front()));
-    }
-    std::int32_t count = 0;
-    std::size_t at = 0;
-    while ((at = strSearchIn.find(strSearchFor, at)) != kNone) {
-        ++count;
-        at += strSearchFor.size();
-    }
-    return count;
+    return static_cast<std::int32_t>(CountAll(strSearchIn, strSearchFor));
 }
 
 bool ChunkStrToArr(TextIn str, StringArray& arr, std::int32_t chunkLength, TextIn del) {

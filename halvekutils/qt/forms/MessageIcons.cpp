@@ -3,6 +3,8 @@
 #include <QAccessibleWidget>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
+#include <QPixmapCache>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -209,6 +211,22 @@ QAccessibleInterface* AccessibleIcon(const QString&, QObject* object) {
     return icon == nullptr ? nullptr : new QAccessibleWidget(icon, QAccessible::Graphic);
 }
 
+/// An icon as it is painted, kept for the next box that shows it.
+QPixmap PictureOf(int number, int side, qreal pixelRatio) {
+    const QString key =
+        QStringLiteral("halvekutils/icon/%1/%2/%3").arg(number).arg(side).arg(pixelRatio);
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture)) return picture;
+    picture = QPixmap(QSize(side, side) * pixelRatio);
+    picture.setDevicePixelRatio(pixelRatio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    PaintMessageIcon(painter, number, QRect(0, 0, side, side));
+    painter.end();
+    QPixmapCache::insert(key, picture);
+    return picture;
+}
+
 }  // namespace
 
 void PaintMessageIcon(QPainter& painter, int number, const QRectF& area) {
@@ -243,9 +261,8 @@ QSize MessageIcon::sizeHint() const {
 
 void MessageIcon::paintEvent(QPaintEvent*) {
     const int side = std::min(width(), height());
-    QPainter painter(this);
-    PaintMessageIcon(painter, number_,
-                     QRect((width() - side) / 2, (height() - side) / 2, side, side));
+    const QPixmap picture = PictureOf(number_, side, devicePixelRatioF());
+    QPainter(this).drawPixmap((width() - side) / 2, (height() - side) / 2, picture);
 }
 
 }  // namespace halvek

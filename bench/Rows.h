@@ -1,0 +1,48 @@
+#pragma once
+
+#include <halvekutils/core/Utils.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+using Work = std::function<void()>;
+
+/// The same work done three ways on one input; a way that is left out is not measured.
+struct Case {
+    Work floor;  ///< the least that any implementation has to do
+    Work ours;
+    Work peer;  ///< what a host's programmer would pick instead
+};
+
+/// A line of the table.
+struct Row {
+    std::string work;
+    std::string floor;
+    double atMost = 0;  ///< how often the floor's time we may take; 0 when it is only reported
+    std::string peer;
+    double fasterBy = 0;  ///< how much longer the peer is to take; 0 when it is only reported
+
+    /// Makes the input, `scale` times as large as the row says: 1, and for the growth 0.1 and 10.
+    std::function<Case(double scale)> prepare;
+    bool grows = true;  ///< false for work whose size is fixed
+};
+
+using Rows = std::vector<Row>;
+
+Rows TextRows();
+Rows RefdataRows();
+Rows PrefsRows();
+Rows LogRows();
+Rows SelectionRows();
+Rows WindowRows();
+
+/// The session that all rows share.
+halvek::Utils& Session();
+
+/// Keeps the optimiser from dropping a result.
+void Use(const void* result);
+
+}  // namespace bench

@@ -1,0 +1,90 @@
+#include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/KeyIndex.h>
+#include <halvekutils/base/RuntimeError.h>
+
+#include <algorithm>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::size_t kFirstSlots = 16;
+
+std::uint32_t HashOf(std::u16string_view key) {
+    return static_cast<std::uint32_t>(HashFolded(key));
+}
+
+}  // namespace
+
+std::u16string_view KeyIndex::TextOf(const Key& key) const noexcept {
+    return std::u16string_view(text_).substr(key.start, key.length);
+}
+
+std::size_t KeyIndex::SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept {
+    const std::size_t last = slots_.size() - 1;
+    std::size_t slot = hash & last;
+    for (; slots_[slot] != 0; slot = (slot + 1) & last) {
+        const Key& taken = keys_[slots_[slot] - 1];
+        if (taken.hash == hash && EqualFolded(TextOf(taken), key)) break;
+    }
+    return slot;
+}
+
+std::size_t KeyIndex::Find(std::u16string_view key) const noexcept {
+    if (slots_.empty()) return kNone;
+    const std::uint32_t number = slots_[SlotOf(key, HashOf(key))];
+    return number == 0 ? kNone : number - 1;
+}
+
+void KeyIndex::AddWithoutKey() {
+    keys_.push_back({0, kNoKey, 0});
+}
+
+bool KeyIndex::Add(std::u16string_view key) {
+    if (key.size() >= kNoKey) throw RuntimeError(Fault::InvalidArgument);
+    if (2 * (used_ + 1) > slots_.size()) GrowSlots();
+    const std::uint32_t hash = HashOf(key);
+    std::uint32_t& slot = slots_[SlotOf(key, hash)];
+    if (slot != 0) return false;
+    keys_.push_back({text_.size(), static_cast<std::uint32_t>(key.size()), hash});
+    try {
+        text_.append(key);
+    } catch (...) {
+        keys_.pop_back();
+        throw;
+    }
+    slot = static_cast<std::uint32_t>(keys_.size());
+    ++used_;
+    return true;
+}
+
+void KeyIndex::Remove(std::size_t number) noexcept {
+    const Key removed = keys_[number];
+    keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(number));
+    if (removed.length != kNoKey) {
+        text_.erase(removed.start, removed.length);
+        --used_;
+        for (Key& key : keys_) {
+            if (key.length != kNoKey && key.start > removed.start) key.start -= removed.length;
+        }
+    }
+    FillSlots();
+}
+
+void KeyIndex::GrowSlots() {
+    slots_ = std::vector<std::uint32_t>(std::max(2 * slots_.size(), kFirstSlots));
+    FillSlots();
+}
+
+void KeyIndex::FillSlots() noexcept {
+    std::ranges::fill(slots_, 0);
+    const std::size_t last = slots_.size() - 1;
+    for (std::size_t i = 0; i < keys_.size(); ++i) {
+        if (keys_[i].length == kNoKey) continue;
+        std::size_t slot = keys_[i].hash & last;
+        while (slots_[slot] != 0) slot = (slot + 1) & last;
+        slots_[slot] = static_cast<std::uint32_t>(i + 1);
+    }
+}
+
+}  // namespace halvek

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvek {
+
+/// The keys of a collection's items, found without regard to letter case.
+///
+/// Every item has a number from 0 and may have a key; an item without one differs from one under
+/// the empty key. Keys stand one behind the other in one text, beside a hash table of the numbers.
+class HALVEK_EXPORT KeyIndex {
+  public:
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+    /// The number of the item under a key; kNone when there is none.
+    std::size_t Find(std::u16string_view key) const noexcept;
+
+    /// Gives the next item no key.
+    void AddWithoutKey();
+    /// Gives the next item a key; false, and nothing is added, when the key is taken.
+    bool Add(std::u16string_view key);
+
+    /// Takes an item out; those behind it move up by one.
+    void Remove(std::size_t number) noexcept;
+
+  private:
+    struct Key {
+        std::size_t start;
+        std::uint32_t length;  ///< kNoKey for an item without a key
+        std::uint32_t hash;
+    };
+    static constexpr std::uint32_t kNoKey = 0xFFFFFFFF;
+
+    std::u16string_view TextOf(const Key& key) const noexcept;
+    std::size_t SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept;
+    void GrowSlots();
+    void FillSlots() noexcept;
+
+    std::vector<Key> keys_;
+    std::u16string text_;
+    std::vector<std::uint32_t> slots_;  ///< number + 1; 0 for a free slot. At most half are taken
+    std::size_t used_ = 0;              ///< how many items have a key
+};
+
+}  // namespace halvek
