@@ -27,13 +27,13 @@ namespace {
 
 // In twips.
 constexpr std::int32_t kButtonWidth = 840;
-constexpr std::int32_t kButtonHeight = 630;
+constexpr std::int32_t kButtonHeight = 720;
 constexpr std::int32_t kSpace = 90;
 constexpr std::int32_t kMargin = 180;
 
 // In points.
 constexpr std::int32_t kDisplayFont = 16;
-constexpr std::int32_t kButtonFont = 11;
+constexpr std::int32_t kButtonFont = 13;
 
 const char* const kLongestNumber = "-8.88888888888888E+888";
 
@@ -141,23 +141,25 @@ void frmCalculator::BuildBox() {
 QGridLayout* frmCalculator::BuildStatus() {
     auto* const grid = new QGridLayout;
     grid->setSpacing(TwipsToPixels(kSpace));
-    lblMEM_ = AddStatus(*grid, "lblMEM", tr("MEM"), 0, 0);
+    lblMEM_ = AddStatus(*grid, "lblMEM", tr("MEM"), 0, 0, 3);
     lblOp_ = AddStatus(*grid, "lblOp", tr("last operator"), 1, 0);
     lblNumDone_ = AddStatus(*grid, "lblNumDone", tr("number done"), 1, 2);
-    grid->addWidget(lblMEM_, 0, 1, 1, 3);
     for (const int column : {1, 3}) grid->setColumnStretch(column, 1);
     return grid;
 }
 
 QLabel* frmCalculator::AddStatus(QGridLayout& grid, const char* name, const QString& caption,
-                                 int row, int column) {
+                                 int row, int column, int columns) {
     auto* const value = new QLabel(this);
     value->setObjectName(QLatin1String(name));
     value->setTextFormat(Qt::PlainText);
+    QFont font = value->font();
+    font.setBold(true);
+    value->setFont(font);
     value->setAccessibleName(caption);
     value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid.addWidget(new QLabel(caption, this), row, column);
-    grid.addWidget(value, row, column + 1);
+    grid.addWidget(value, row, column + 1, 1, columns);
     return value;
 }
 

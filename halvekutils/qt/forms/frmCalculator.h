@@ -50,7 +50,7 @@ class frmCalculator : public QDialog {
     QGridLayout* BuildStatus();
     QGridLayout* BuildButtons();
     QLabel* AddStatus(QGridLayout& grid, const char* name, const QString& caption, int row,
-                      int column);
+                      int column, int columns = 1);
     QWidget* ControlOf(int index) const;
     void Sync();
     void Announce();
