@@ -37,36 +37,18 @@ constexpr std::int32_t kButtonFont = 13;
 
 const char* const kLongestNumber = "-8.88888888888888E+888";
 
-/// Where a button stands and what a screen reader calls it, by its number.
-struct ButtonRow {
-    int row, column;
-    const char* name;
-    const char* toolTip = "";
-    int rows = 1;
+/// The buttons as they lie before the user; the tab key follows them.
+constexpr int kFace[4][5] = {
+    {7, 8, 9, Calculator::kDivide, Calculator::kClear},
+    {4, 5, 6, Calculator::kMultiply, Calculator::kEquals},
+    {1, 2, 3, Calculator::kMinus, Calculator::kEquals},
+    {0, Calculator::kPoint, Calculator::kChangeSign, Calculator::kPlus, Calculator::kReturn},
 };
 
-constexpr ButtonRow kButtons[] = {
-    {3, 0, "0"},
-    {2, 0, "1"},
-    {2, 1, "2"},
-    {2, 2, "3"},
-    {1, 0, "4"},
-    {1, 1, "5"},
-    {1, 2, "6"},
-    {0, 0, "7"},
-    {0, 1, "8"},
-    {0, 2, "9"},
-    {3, 2, "change sign", "Change sign"},
-    {3, 1, "point"},
-    {0, 3, "divide"},
-    {1, 3, "multiply"},
-    {2, 3, "minus"},
-    {3, 3, "plus"},
-    {1, 4, "equals", "", 2},
-    {0, 4, "clear", "Clear (Delete)"},
-    {3, 4, "return the result", "Return the result"},
-};
-static_assert(std::size(kButtons) == Calculator::kButtonCount);
+/// What screen readers and tool tips call the buttons behind the digits.
+constexpr const char* kNames[] = {"change sign", "point",  "divide", "multiply",         "minus",
+                                  "plus",        "equals", "clear",  "return the result"};
+static_assert(Calculator::kChangeSign + std::size(kNames) == Calculator::kButtonCount);
 
 bool IsEnter(const QKeyEvent& key) {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -166,24 +148,37 @@ QLabel* frmCalculator::AddStatus(QGridLayout& grid, const char* name, const QStr
 QGridLayout* frmCalculator::BuildButtons() {
     auto* const grid = new QGridLayout;
     grid->setSpacing(TwipsToPixels(kSpace));
-    for (int i = 0; i < Calculator::kButtonCount; ++i) {
-        const ButtonRow& row = kButtons[i];
-        auto* const button = new FlashButton(ToCaption(Calculator::Caption(i)), this);
-        button->setObjectName(QStringLiteral("arrCmd_%1").arg(i));
-        button->setAccessibleName(tr(row.name));
-        button->setToolTip(tr(row.toolTip));
-        button->setFont(ToQFont({{}, kButtonFont}));
-        button->setMinimumSize(TwipsToPixels(kButtonWidth), TwipsToPixels(kButtonHeight));
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        button->setAutoDefault(false);
-        button->installEventFilter(this);
-        connect(button, &QPushButton::clicked, this, [this, i] {
-            GuardEvent(u"frmCalculator.arrCmd_Click", [this, i] { rules_->Press(i); });
-        });
-        grid->addWidget(button, row.row, row.column, row.rows, 1);
-        arrCmd_[static_cast<std::size_t>(i)] = button;
+    for (int row = 0; row < 4; ++row) {
+        for (int column = 0; column < 5; ++column) {
+            const int index = kFace[row][column];
+            const int rows = index == Calculator::kEquals ? 2 : 1;
+            FlashButton*& button = arrCmd_[static_cast<std::size_t>(index)];
+            if (button != nullptr) continue;
+            button = MakeButton(index);
+            grid->addWidget(button, row, column, rows, 1);
+        }
     }
     return grid;
+}
+
+FlashButton* frmCalculator::MakeButton(int index) {
+    auto* const button = new FlashButton(ToCaption(Calculator::Caption(index)), this);
+    button->setObjectName(QStringLiteral("arrCmd_%1").arg(index));
+    if (index >= Calculator::kChangeSign) {
+        button->setAccessibleName(tr(kNames[index - Calculator::kChangeSign]));
+        button->setToolTip(button->accessibleName());
+    } else {
+        button->setAccessibleName(button->text());
+    }
+    button->setFont(ToQFont({{}, kButtonFont}));
+    button->setMinimumSize(TwipsToPixels(kButtonWidth), TwipsToPixels(kButtonHeight));
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    button->setAutoDefault(false);
+    button->installEventFilter(this);
+    connect(button, &QPushButton::clicked, this, [this, index] {
+        GuardEvent(u"frmCalculator.arrCmd_Click", [this, index] { rules_->Press(index); });
+    });
+    return button;
 }
 
 QWidget* frmCalculator::ControlOf(int index) const {

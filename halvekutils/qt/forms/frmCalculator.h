@@ -49,6 +49,7 @@ class frmCalculator : public QDialog {
     void BuildBox();
     QGridLayout* BuildStatus();
     QGridLayout* BuildButtons();
+    FlashButton* MakeButton(int index);
     QLabel* AddStatus(QGridLayout& grid, const char* name, const QString& caption, int row,
                       int column, int columns = 1);
     QWidget* ControlOf(int index) const;
