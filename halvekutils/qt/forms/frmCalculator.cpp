@@ -213,11 +213,13 @@ void frmCalculator::Sync() {
     show_.End();
 }
 
-/// A screen reader says what changes in the control that has the focus; in the box it reads along.
+/// A screen reader says what changes about the button that has the focus; the box it reads anyway.
 void frmCalculator::Announce() {
-    const QString display = ToQString(rules_->Display());
-    if (rules_->Focus() == Calculator::kBox) return;
-    ControlOf(rules_->Focus())->setAccessibleDescription(tr("Display") + u' ' + display);
+    const QString display = tr("Display") + u' ' + ToQString(rules_->Display());
+    const QWidget* const focused = ControlOf(rules_->Focus());
+    for (FlashButton* const button : arrCmd_) {
+        button->setAccessibleDescription(button == focused ? display : QString());
+    }
 }
 
 bool frmCalculator::eventFilter(QObject* watched, QEvent* event) {
@@ -246,30 +248,28 @@ void frmCalculator::keyPressEvent(QKeyEvent* event) {
 
 /// Whether the key is done with; any other goes on to the box.
 bool frmCalculator::TakeKey(const QKeyEvent& key) {
+    const bool inBox = rules_->Focus() == Calculator::kBox;
+    const bool pastes = key.matches(QKeySequence::Paste);
+    // A key that is held down counts once, and not at all when it was before the calculator opened.
+    if (key.isAutoRepeat() && (pastes || !inBox)) return true;
+    if (pastes) {
+        Paste(QClipboard::Clipboard);
+        return true;
+    }
     if (key.matches(QKeySequence::Copy)) {
         Copy();
         return true;
     }
-    if (key.matches(QKeySequence::Paste)) {
-        Paste(QClipboard::Clipboard);
-        return true;
-    }
-    const int code = KeyCodeOf(key);
-    if (code != 0 && rules_->KeyDown(code)) return true;
     if (IsEnter(key)) {
-        // One that opened the calculator may still be held down.
-        const bool presses = rules_->Focus() != Calculator::kBox && !key.isAutoRepeat();
-        if (presses) rules_->Press(rules_->Focus());
+        if (!inBox) rules_->Press(rules_->Focus());
         return true;
     }
-    return TypeKey(key);
+    return rules_->KeyDown(KeyCodeOf(key)) || TypeKey(key);
 }
 
 bool frmCalculator::TypeKey(const QKeyEvent& key) {
     const char16_t typed = TypedBy(key);
     if (typed == 0) return false;
-    // Only a button can be pressed by a key; held down it counts once.
-    if (key.isAutoRepeat() && rules_->Focus() != Calculator::kBox) return true;
     if (!rules_->KeyPress(typed)) return true;
     if (!BoxIsFull()) return false;
     Beep();
