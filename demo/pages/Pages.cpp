@@ -1,5 +1,6 @@
 #include "pages/Pages.h"
 
+#include "pages/CalculatorPage.h"
 #include "pages/CharacterFilterPage.h"
 #include "pages/CodesPage.h"
 #include "pages/DataBinsPage.h"
@@ -31,6 +32,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<SettingsPage>(desk));
     pages.push_back(std::make_unique<OpenWindowsPage>(desk));
     pages.push_back(std::make_unique<RemindersPage>(desk));
+    pages.push_back(std::make_unique<CalculatorPage>(desk));
     return pages;
 }
 

@@ -242,6 +242,19 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                         std::u16string& strRight);
 
+    /// Lets the user work out an amount on a four-function calculator.
+    ///
+    /// It works from left to right and shows results with two decimals. A fault is beeped and
+    /// logged with "Error in Utils.Calculate ".
+    /// @param InitValue  the amount to start from, as a field shows it; what is not numeric starts
+    ///     with an empty display
+    /// @return what the display shows when the user presses RET, "ERROR" after a division by zero;
+    ///     empty when the user presses Escape or closes the window
+    ///
+    ///     auto amount = utils->Calculate(field.text());
+    ///     if (!amount.empty()) field.setText(ToQString(amount));
+    std::u16string Calculate(TextIn InitValue = {});
+
     std::u16string AppName() const;
     std::u16string AppType() const;
 

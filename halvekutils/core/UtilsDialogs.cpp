@@ -24,4 +24,17 @@ MbMsgBoxResult Utils::ShowMsgBox(TextIn Prompt, ButtonsChoice Buttons, IconChoic
     return Guarded(OnFault::Beep, u"Error in Utils.ShowMsgBox ", LogOf(*this), kNotAnswered, show);
 }
 
+std::u16string Utils::Calculate(TextIn InitValue) {
+    const auto self = shared_from_this();
+    const auto calculate = [&] {
+        Platform& platform = Platform::Installed();
+        const auto calculator =
+            std::make_shared<Calculator>(InitValue, Services::Current(), platform);
+        platform.Show(calculator);
+        return calculator->Result();
+    };
+    return Guarded(OnFault::Beep, u"Error in Utils.Calculate ", LogOf(*this), std::u16string(),
+                   calculate);
+}
+
 }  // namespace halvek

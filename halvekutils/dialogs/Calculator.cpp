@@ -1,0 +1,290 @@
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/dialogs/Calculator.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::u16string_view kCaptions[] = {u"0", u"1", u"2", u"3",   u"4",  u"5", u"6",
+                                             u"7", u"8", u"9", u"+ -", u".",  u"/", u"*",
+                                             u"-", u"+", u"=", u"CLR", u"RET"};
+static_assert(std::size(kCaptions) == Calculator::kButtonCount);
+
+/// In the order of their buttons, which begin with kDivide.
+constexpr std::u16string_view kOperators = u"/*-+=";
+
+constexpr std::u16string_view kError = u"ERROR";
+
+constexpr int kBackspaceKey = 8;
+constexpr int kEnterKey = 13;
+constexpr int kEscapeKey = 27;
+constexpr int kDeleteKey = 46;
+constexpr int kKeypadZero = 96;
+constexpr int kUnknownButton = 99;
+
+struct HookedKey {
+    int keyCode;
+    int button;
+};
+
+// Backspace deliberately leaves the display alone: all that it does is to be logged.
+constexpr HookedKey kHookedKeys[] = {
+    {106, Calculator::kMultiply},     {107, Calculator::kPlus},
+    {109, Calculator::kMinus},        {110, Calculator::kPoint},
+    {111, Calculator::kDivide},       {kEscapeKey, Calculator::kClear},
+    {kDeleteKey, Calculator::kClear}, {kBackspaceKey, kUnknownButton},
+};
+
+constexpr bool IsDigit(char16_t character) {
+    return character >= u'0' && character <= u'9';
+}
+
+constexpr bool IsMainDigit(int keyCode) {
+    return keyCode >= 48 && keyCode <= 57;
+}
+
+constexpr bool IsKeypadDigit(int keyCode) {
+    return keyCode >= kKeypadZero && keyCode <= kKeypadZero + 9;
+}
+
+bool HoldsPoint(std::u16string_view text) {
+    return text.find(u'.') != text.npos;
+}
+
+bool IsOperator(char16_t character) {
+    return kOperators.find(character) != kOperators.npos;
+}
+
+int ButtonOf(char16_t op) {
+    return Calculator::kDivide + static_cast<int>(kOperators.find(op));
+}
+
+/// A number that is no longer one as text is too large to go on with.
+std::u16string ResultText(double number) {
+    const std::u16string text = NumberText(number);
+    return IsNumeric(text) ? text : std::u16string(kError);
+}
+
+std::u16string RoundedText(std::u16string_view text) {
+    const auto number = ToNumber(text);
+    return number ? ResultText(RoundToCents(*number)) : std::u16string(text);
+}
+
+TextIn WithoutLineEnds(TextIn text) {
+    while (text.ends_with(u'\n') || text.ends_with(u'\r')) text.remove_suffix(1);
+    return text;
+}
+
+/// A number of any notation as the characters that enter it; empty for what is no number.
+std::u16string Keystrokes(TextIn text) {
+    const auto number = ToNumber(text);
+    if (!number) return {};
+    if (text.find_first_of(u"eE") != text.npos) return NumberText(*number);
+    std::u16string keys(*number < 0 ? u"-" : u"");
+    std::ranges::copy_if(text, std::back_inserter(keys),
+                         [](char16_t each) { return IsDigit(each) || each == u'.'; });
+    return keys;
+}
+
+}  // namespace
+
+Calculator::Calculator(TextIn InitValue, Services& session, Desktop& desktop)
+    : session_(session), desktop_(desktop) {
+    if (IsNumeric(InitValue)) display_ = RoundedText(InitValue);
+}
+
+Calculator::~Calculator() = default;
+
+std::u16string Calculator::LastOperator() const {
+    return lastOperator_ == 0 ? std::u16string() : std::u16string(1, lastOperator_);
+}
+
+std::u16string_view Calculator::Caption(int index) {
+    return index < 0 || index >= kButtonCount ? std::u16string_view() : kCaptions[index];
+}
+
+void Calculator::Press(int index) {
+    if (!open_) return;
+    if (Caption(index).empty()) {
+        session_.LogError(u"calculator : WHICH BUTTON WAS CLICKED? " + IntegerText(index));
+        return;
+    }
+    const char16_t key = Caption(index).front();
+    if (index >= kDivide && index <= kEquals) {
+        Operate(key);
+        if (index == kEquals) focus_ = kReturn;
+    } else {
+        Flash(index);
+        if (IsDigit(key)) AddDigit(key);
+        if (index == kChangeSign) ChangeSign();
+        if (index == kPoint) AddPoint();
+        if (index == kClear) Clear();
+        if (index == kReturn) Accept();
+    }
+    NotifyChanged();
+}
+
+void Calculator::StartNumber() {
+    if (std::exchange(numberDone_, false)) display_.clear();
+}
+
+void Calculator::AddDigit(char16_t digit) {
+    StartNumber();
+    if (display_.size() >= kMaxLength) return desktop_.Beep();
+    display_ += digit;
+}
+
+void Calculator::AddPoint() {
+    StartNumber();
+    if (display_.size() >= kMaxLength || HoldsPoint(display_)) return desktop_.Beep();
+    display_ += u'.';
+}
+
+void Calculator::ChangeSign() {
+    display_ = ResultText(-1 * RoundToCents(Val(display_)));
+}
+
+void Calculator::Clear() {
+    display_.clear();
+    accumulator_ = u"0";
+    lastOperator_ = 0;
+    numberDone_ = true;
+}
+
+void Calculator::Operate(char16_t op) {
+    if (!open_) return;
+    if (IsOperator(op)) Flash(ButtonOf(op));
+    const std::u16string result = PendingResult();
+    display_ = RoundedText(result);
+    const bool ends = op == u'=';
+    accumulator_ = ends ? std::u16string() : result;
+    lastOperator_ = ends ? u'\0' : op;
+    numberDone_ = true;
+    NotifyChanged();
+}
+
+std::u16string Calculator::PendingResult() {
+    if (lastOperator_ == 0) return display_;
+    if (!IsOperator(lastOperator_)) {
+        Tell(u"last operator?");
+        return {};
+    }
+    return numberDone_ ? display_ : Compute(accumulator_, lastOperator_, display_);
+}
+
+std::u16string Calculator::Compute(TextIn a, char16_t op, TextIn b) {
+    const double left = Val(a);
+    const double right = Val(b);
+    switch (op) {
+        case u'+':
+            return ResultText(left + right);
+        case u'-':
+            return ResultText(left - right);
+        case u'*':
+            return ResultText(left * right);
+        case u'/':
+            if (right != 0) return ResultText(left / right);
+            accumulator_ = u"0";
+            lastOperator_ = 0;
+            numberDone_ = true;
+            return std::u16string(kError);
+        default:
+            Tell(u"operator ?");
+            return {};
+    }
+}
+
+bool Calculator::KeyPress(char16_t character) {
+    if (!open_) return false;
+    if (IsOperator(character)) {
+        Operate(character);
+        focus_ = character == u'=' ? kReturn : kEquals;
+        NotifyChanged();
+        return false;
+    }
+    if (focus_ != kBox) {
+        if (IsDigit(character)) Press(character - u'0');
+        if (character == u'.') Press(kPoint);
+        return false;
+    }
+    if (character != u'.') return IsDigit(character) || character == kBackspaceKey;
+    if (!HoldsPoint(display_)) return true;
+    desktop_.Beep();
+    return false;
+}
+
+bool Calculator::KeyDown(int keyCode) {
+    if (keyCode == kEscapeKey) {
+        Cancel();
+        return true;
+    }
+    if (keyCode != kDeleteKey || focus_ == kBox) return false;
+    Press(kClear);
+    return true;
+}
+
+void Calculator::HookedKeyDown(int KeyCode) {
+    if (IsMainDigit(KeyCode)) return;
+    // A digit between two Enters leaves the second one armed.
+    if (IsKeypadDigit(KeyCode)) return Press(KeyCode - kKeypadZero);
+    const bool armed = std::exchange(enterArmed_, KeyCode == kEnterKey);
+    if (KeyCode == kEnterKey) return Press(armed ? kReturn : kEquals);
+    const auto row = std::ranges::find(kHookedKeys, KeyCode, &HookedKey::keyCode);
+    if (row != std::end(kHookedKeys)) Press(row->button);
+}
+
+void Calculator::EditDisplay(TextIn text) {
+    if (!open_ || text == display_) return;
+    display_ = text;
+    NotifyChanged();
+}
+
+void Calculator::Paste(TextIn text, std::size_t start, std::size_t selected) {
+    if (!open_) return;
+    const std::u16string keys = Keystrokes(WithoutLineEnds(text));
+    std::u16string whole = numberDone_ && selected == 0 ? std::u16string() : display_;
+    whole.replace(selected == 0 ? whole.size() : std::min(start, whole.size()), selected, keys);
+    if (keys.empty() || whole.size() > kMaxLength || !IsNumeric(whole)) return desktop_.Beep();
+    display_ = std::move(whole);
+    numberDone_ = false;
+    NotifyChanged();
+}
+
+std::u16string Calculator::Copy() {
+    if (IsNumeric(display_)) return display_;
+    desktop_.Beep();
+    return {};
+}
+
+void Calculator::Accept() {
+    result_ = display_;
+    open_ = false;
+}
+
+void Calculator::Cancel() {
+    if (open_) result_.clear();
+    End();
+}
+
+void Calculator::End() {
+    if (std::exchange(open_, false)) NotifyChanged();
+}
+
+void Calculator::Flash(int index) const {
+    if (Flashed) Flashed(index);
+}
+
+void Calculator::Tell(TextIn message) {
+    NotifyChanged();
+    desktop_.ShowStockMessage(message, StockIcon::None, session_.AppName());
+}
+
+void Calculator::NotifyChanged() const {
+    if (Changed) Changed();
+}
+
+}  // namespace halvek

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Services.h>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace halvek {
+
+/// The rules of the calculator, without a window: what its buttons and keys do, what it shows and
+/// how it ends. A window draws it, moves the focus as asked and forwards its events.
+///
+/// It works from left to right: each operator completes the one before. The display shows a result
+/// with two decimals, the accumulator keeps it unrounded. An empty display, and any other that
+/// shows no number, counts as 0 in an operation. A division by zero gives "ERROR", and so does a
+/// result beyond the range of numbers.
+class HALVEK_EXPORT Calculator {
+  public:
+    /// The buttons behind the digits, which are the buttons 0 to 9.
+    enum Button : int {
+        kChangeSign = 10,
+        kPoint,
+        kDivide,
+        kMultiply,
+        kMinus,
+        kPlus,
+        kEquals,
+        kClear,
+        kReturn
+    };
+    static constexpr int kButtonCount = 19;
+    /// Stands for the box of the display where a button's number says who has the focus.
+    static constexpr int kBox = -1;
+    /// How many characters can be typed. A result is shown whole, however long it is.
+    static constexpr std::size_t kMaxLength = 15;
+
+    /// Starts with the value of a numeric text, rounded to two decimals, or else empty.
+    Calculator(TextIn InitValue, Services& session, Desktop& desktop);
+    ~Calculator();
+    Calculator(const Calculator&) = delete;
+    Calculator& operator=(const Calculator&) = delete;
+
+    // What the window shows
+
+    const std::u16string& Display() const { return display_; }
+    /// The left operand as text.
+    const std::u16string& Accumulator() const { return accumulator_; }
+    /// "+", "-", "*" or "/"; empty for none.
+    std::u16string LastOperator() const;
+    /// True when the next digit starts a new number.
+    bool NumberDone() const { return numberDone_; }
+    /// The button that has the focus, or kBox; the button RET at first.
+    int Focus() const { return focus_; }
+    /// The caption of button 0 to 18.
+    static std::u16string_view Caption(int index);
+
+    bool IsOpen() const { return open_; }
+
+    /// Called after every change that the window shows, before every message that is raised, and
+    /// once when the calculator ends.
+    std::function<void()> Changed;
+    /// Called when a button is pressed in any way: it flashes.
+    std::function<void(int index)> Flashed;
+
+    // What the user does
+
+    /// Presses button 0 to 18; any other number is only logged.
+    void Press(int index);
+
+    /// The user has moved the focus to a button or to kBox.
+    void FocusOn(int control) { focus_ = control; }
+
+    /// A character is typed where the focus is. True when it goes into the box as it is; any other
+    /// is done with.
+    bool KeyPress(char16_t character);
+
+    /// Escape (27) ends the calculator without a result, Delete (46) clears it unless the box has
+    /// the focus. False for any other key and for Delete in the box.
+    bool KeyDown(int keyCode);
+
+    /// A key that the host's keyboard hook caught, by its virtual key code: the keypad (96 to 111),
+    /// Enter (13), which is "=" at first and RET when pressed again, Escape (27) and Delete (46),
+    /// which clear. The digits of the main block (48 to 57) are ignored.
+    void HookedKeyDown(int KeyCode);
+
+    /// The user has edited the text in the box.
+    void EditDisplay(TextIn text);
+
+    /// Takes a number or an amount over from the clipboard as if its digits were pressed, or in the
+    /// place of what is selected in the box; beeps when it is none or does not fit.
+    /// @param start, selected  the selected characters, counted from 0
+    void Paste(TextIn text, std::size_t start = 0, std::size_t selected = 0);
+    /// The number shown, for the clipboard; empty with a beep when none is shown.
+    std::u16string Copy();
+
+    /// Completes the operation that is pending and starts another: "+", "-", "*", "/", or "=" for
+    /// none.
+    void Operate(char16_t op);
+    /// The result of one operation on the values of two texts.
+    std::u16string Compute(TextIn a, char16_t op, TextIn b);
+
+    // How it ends
+
+    /// The close box: the result stays as it stands.
+    void CloseByUser() { End(); }
+    /// The modal loop ended with the calculator still open.
+    void Abandon() { End(); }
+
+    /// What was shown when RET was pressed; empty otherwise.
+    const std::u16string& Result() const { return result_; }
+
+  private:
+    void AddDigit(char16_t digit);
+    void AddPoint();
+    void StartNumber();
+    void ChangeSign();
+    void Clear();
+    void Accept();
+    void Cancel();
+    void End();
+    std::u16string PendingResult();
+    void Flash(int index) const;
+    void Tell(TextIn message);
+    void NotifyChanged() const;
+
+    Services& session_;
+    Desktop& desktop_;
+    std::u16string display_;
+    std::u16string accumulator_ = u"0";
+    std::u16string result_;
+    char16_t lastOperator_ = 0;
+    int focus_ = kReturn;
+    bool numberDone_ = true;
+    bool enterArmed_ = false;
+    bool open_ = true;
+};
+
+}  // namespace halvek

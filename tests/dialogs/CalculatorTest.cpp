@@ -1,0 +1,142 @@
+#include "tests/CleanState.h"
+#include "tests/FakeServices.h"
+
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/dialogs/Calculator.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace halvek {
+namespace {
+
+/// A calculator on a desk of its own, played by the words of the table.
+struct Desk {
+    explicit Desk(TextIn initValue = {}) : calculator(initValue, session, desktop) {}
+
+    void Type(char16_t character) {
+        std::u16string text = calculator.Display();
+        if (!calculator.KeyPress(character)) return;
+        if (character != 8) return calculator.EditDisplay(text + character);
+        calculator.EditDisplay(text.substr(0, text.empty() ? 0 : text.size() - 1));
+    }
+
+    void Play(const std::string& word) {
+        if (word[0] == 'h') return calculator.HookedKeyDown(std::stoi(word.substr(1)));
+        if (word[0] == 'v') return calculator.Paste(FromUtf8(word.substr(2)));
+        if (word == "box") return calculator.FocusOn(Calculator::kBox);
+        if (word[0] == 'b') return calculator.Press(std::stoi(word.substr(1)));
+        if (word == "BS") return Type(8);
+        if (word == "+-") return calculator.Press(Calculator::kChangeSign);
+        if (word == "CLR") return calculator.Press(Calculator::kClear);
+        if (word == "RET") return calculator.Press(Calculator::kReturn);
+        if (word == "CLOSE") return calculator.CloseByUser();
+        if (word == "DEL" || word == "ESC") {
+            calculator.KeyDown(word == "DEL" ? 46 : 27);
+        } else if (word[0] == '"') {
+            for (std::size_t i = 1; i + 1 < word.size(); ++i) Type(static_cast<char16_t>(word[i]));
+        } else {
+            constexpr std::string_view kButtons = "0123456789 ./*-+=";
+            for (const char each : word) calculator.Press(static_cast<int>(kButtons.find(each)));
+        }
+    }
+
+    /// What is seen under a name of the table.
+    std::string Seen(const std::string& name) const {
+        if (name == "mem") return ToUtf8(calculator.Accumulator());
+        if (name == "op") return ToUtf8(calculator.LastOperator());
+        if (name == "done") return calculator.NumberDone() ? "T" : "F";
+        if (name == "focus") return std::to_string(calculator.Focus());
+        if (name == "beeps") return std::to_string(desktop.Beeps());
+        if (name == "log") return std::to_string(session.logged.size());
+        return calculator.IsOpen() ? "open" : ToUtf8(calculator.Result());
+    }
+
+    FakeServices session;
+    ScriptedPlatform desktop;
+    Calculator calculator;
+};
+
+void ExpectShown(const std::string& sequence) {
+    SCOPED_TRACE(sequence);
+    std::istringstream words(sequence);
+    std::string word;
+    words >> word;
+    const bool hasInitValue = word.starts_with("init:");
+    Desk desk(hasInitValue ? FromUtf8(word.substr(5)) : u"");
+    if (hasInitValue) words >> word;
+    for (; words && word != "->"; words >> word) desk.Play(word);
+    words >> word;
+    EXPECT_EQ(ToUtf8(desk.calculator.Display()), word == "_" ? "" : word);
+    std::map<std::string, std::string> more = {{"beeps", "0"}, {"log", "0"}, {"ended", "open"}};
+    while (words >> word) more[word.substr(0, word.find(':'))] = word.substr(word.find(':') + 1);
+    for (const auto& [name, value] : more) EXPECT_EQ(desk.Seen(name), value) << name;
+}
+
+TEST(Calculator, ShowsWhatItsKeysGive) {
+    std::ifstream table(HALVEK_CALCULATOR_KEYS);
+    int sequences = 0;
+    for (std::string line; std::getline(table, line);) {
+        if (line.empty() || line[0] == '#') continue;
+        for (std::size_t start = 0, end = 0; end != line.npos; start = end + 3, ++sequences) {
+            end = line.find(" | ", start);
+            ExpectShown(line.substr(start, end - start));
+        }
+    }
+    EXPECT_GE(sequences, 300);
+}
+
+TEST(Calculator, WhatIsNoOperatorAndNoButtonIsTold) {
+    Desk desk(u"5");
+    desk.calculator.Operate(u'%');
+    EXPECT_EQ(desk.calculator.Display(), u"5");
+    desk.calculator.Operate(u'+');
+    EXPECT_EQ(desk.calculator.Display(), u"");
+    EXPECT_EQ(desk.calculator.Compute(u"6", u'^', u"2"), u"");
+    ASSERT_EQ(desk.desktop.StockMessages().size(), 2u);
+    EXPECT_EQ(desk.desktop.StockMessages()[0].text, u"last operator?");
+    EXPECT_EQ(desk.desktop.StockMessages()[1].text, u"operator ?");
+    desk.calculator.HookedKeyDown(8);
+    EXPECT_EQ(desk.session.logged[0], u"calculator : WHICH BUTTON WAS CLICKED? 99");
+}
+
+TEST(Calculator, TextOfAnyLengthAndAnyNumberIsSurvived) {
+    for (const auto* start : {u"", u"-", u".", u"1e308", u"nan"}) {
+        const std::u16string text = start + std::u16string(400, u'9');
+        Desk desk(text);
+        desk.calculator.Paste(text);
+        for (const char16_t op : std::u16string_view(u"*/+-*=")) {
+            desk.calculator.EditDisplay(text);
+            desk.calculator.Operate(op);
+            desk.calculator.Press(Calculator::kChangeSign);
+            const std::u16string shown = desk.calculator.Display();
+            EXPECT_TRUE(shown == u"ERROR" || IsNumeric(shown)) << ToUtf8(shown);
+        }
+    }
+}
+
+struct ScriptedCalculator : CleanState {};
+
+TEST_F(ScriptedCalculator, CalculateReturnsWhatTheUserAcceptsAndLogsAFault) {
+    const auto utils = Utils::Create();
+    EXPECT_EQ(utils->Calculate(u"5"), u"");  // before InitUtils
+    utils->InitUtils(u"", u"Front Desk", u"", false, u"");
+    desktop_.OnCalculator([](Calculator& calculator) {
+        for (const int key : {106, 99, 13, 13}) calculator.HookedKeyDown(key);
+    });
+    EXPECT_EQ(utils->Calculate(u"$1.25"), u"3.75");
+    desktop_.OnCalculator([](Calculator& calculator) { calculator.Press(3); });
+    EXPECT_EQ(utils->Calculate(), u"");
+    EXPECT_EQ(desktop_.Beeps(), 1);
+    const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
+    EXPECT_NE(log.find("\tError in Utils.Calculate Object not set"), log.npos);
+}
+
+}  // namespace
+}  // namespace halvek
