@@ -1,6 +1,7 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/selection/SelectGrid.h>
 
@@ -20,6 +21,8 @@ class HALVEK_EXPORT Forms {
     virtual ~Forms();
 
     virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
+    /// Modal.
+    virtual void Show(const std::shared_ptr<Calendar>& calendar) = 0;
     /// Modal.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 

@@ -4,6 +4,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
+#include <halvekutils/qt/forms/frmCalendar.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
 
@@ -162,6 +163,10 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         Qt::QueuedConnection);
     window->ShowModeless();
     box->ShownModeless();
+}
+
+void QtPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
+    frmCalendar(calendar, *this).ShowModal();
 }
 
 void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

@@ -66,6 +66,9 @@ ScriptedPlatform::~ScriptedPlatform() {
 void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
     messageBoxAnswers_.push_back(std::move(answer));
 }
+void ScriptedPlatform::OnCalendar(CalendarAnswer answer) {
+    calendarAnswers_.push_back(std::move(answer));
+}
 void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
     selectionAnswers_.push_back(std::move(answer));
 }
@@ -118,6 +121,11 @@ void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality mod
     std::erase(modeless_, box);
     TakeAnswer(messageBoxAnswers_, u"message box", box->Caption())(*box);
     box->Abandon();
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
+    TakeAnswer(calendarAnswers_, u"calendar", DateOnlyText(calendar->MarkedDay()))(*calendar);
+    calendar->Close();
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

@@ -30,6 +30,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
         std::u16string title;
     };
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
+    using CalendarAnswer = std::function<void(Calendar&)>;
     using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
@@ -37,11 +38,15 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     /// Queues what the user does with the next message box.
     void OnMessageBox(MessageBoxAnswer answer);
+    /// Queues what the user does in the next calendar.
+    void OnCalendar(CalendarAnswer answer);
     /// Queues what the user does in the next selection dialog.
     void OnSelection(SelectionAnswer answer);
 
     /// The answers that no dialog has taken yet.
-    std::size_t AnswersLeft() const { return messageBoxAnswers_.size() + selectionAnswers_.size(); }
+    std::size_t AnswersLeft() const {
+        return messageBoxAnswers_.size() + calendarAnswers_.size() + selectionAnswers_.size();
+    }
     /// The boxes that are on the screen modelessly.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
@@ -66,10 +71,12 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     Size ScreenSize() const override { return screen_; }
     Size FrameSize() const override { return frame_; }
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<Calendar>& calendar) override;
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
+    std::deque<CalendarAnswer> calendarAnswers_;
     std::deque<SelectionAnswer> selectionAnswers_;
     std::vector<std::shared_ptr<MessageBox>> modeless_;
     std::vector<StockMessage> stockMessages_;
