@@ -45,6 +45,13 @@ constexpr Qt::KeyboardModifiers kCommands =
 
 const FontSpec kFont = {u"Tahoma", 7};
 
+// What QCalendarWidget calls its parts.
+constexpr char kPreviousMonth[] = "qt_calendar_prevmonth";
+constexpr char kNextMonth[] = "qt_calendar_nextmonth";
+
+constexpr int kDaysInWeek = 7;
+constexpr int kRows = 7;  // six weeks below the names of the days
+
 const QDate kEpoch(1970, 1, 1);
 
 QDate ToQDate(Calendar::Day day) {
@@ -52,6 +59,13 @@ QDate ToQDate(Calendar::Day day) {
 }
 Calendar::Day ToDay(QDate date) {
     return Calendar::Day(std::chrono::days(kEpoch.daysTo(date)));
+}
+
+/// Nearly half way from one colour to the other.
+QColor Blended(const QColor& text, const QColor& base) {
+    const auto mixed = [](int from, int to) { return (from * 55 + to * 45) / 100; };
+    return QColor(mixed(text.red(), base.red()), mixed(text.green(), base.green()),
+                  mixed(text.blue(), base.blue()));
 }
 
 /// The key as it acts: where text runs from right to left, the days do too.
@@ -72,7 +86,7 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);
     setVerticalHeaderFormat(NoVerticalHeader);
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
+    MakeReadable();
     NameParts();
     days_->installEventFilter(this);
     yearEdit_->installEventFilter(this);
@@ -83,6 +97,25 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     Refresh();
 }
 
+void MonthView::MakeReadable() {
+    // Red weekends would be hard to read on a dark desktop, as would pale days of other months.
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
+    QPalette colors = palette();
+    const QColor faded = Blended(colors.color(QPalette::Text), colors.color(QPalette::Base));
+    colors.setColor(QPalette::Disabled, QPalette::Text, faded);
+    days_->setPalette(colors);
+    // In so small a font the days would be hard to hit.
+    const int free = fontMetrics().height() * 2 / 3;
+    setMinimumSize(minimumSizeHint() + QSize(kDaysInWeek * free, kRows * free));
+    const Qt::ArrowType arrows[] = {Qt::LeftArrow, Qt::RightArrow};
+    colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
+    for (const char* const part : {kPreviousMonth, kNextMonth}) {
+        auto* const button = findChild<QToolButton*>(QLatin1String(part));
+        button->setArrowType(arrows[(part == kNextMonth) != isRightToLeft()]);
+        button->setPalette(colors);
+    }
+}
+
 void MonthView::NameParts() {
     setAccessibleName(tr("Calendar"));
     yearEdit_->setAccessibleName(tr("Year"));
@@ -90,8 +123,8 @@ void MonthView::NameParts() {
         const char* part;
         QString name;
     } buttons[] = {
-        {"qt_calendar_prevmonth", tr("Previous month (Page Up)")},
-        {"qt_calendar_nextmonth", tr("Next month (Page Down)")},
+        {kPreviousMonth, tr("Previous month (Page Up)")},
+        {kNextMonth, tr("Next month (Page Down)")},
         {"qt_calendar_monthbutton", tr("Choose the month")},
         {"qt_calendar_yearbutton", tr("Choose the year (Ctrl+Page Up, Ctrl+Page Down)")},
     };

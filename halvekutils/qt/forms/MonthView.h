@@ -29,6 +29,7 @@ class MonthView : public QCalendarWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void MakeReadable();
     void NameParts();
     void KeyDown(const QKeyEvent& event);
     void PageChanged(int year, int month);

@@ -24,6 +24,7 @@ frmCalendar::frmCalendar(std::shared_ptr<Calendar> rules, const Desktop& desktop
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     setWindowTitle(QString());
+    Command1_->setFont(ToQFont({u"Tahoma", 8}));
     Command1_->setObjectName(QLatin1String("Command1"));
     Command1_->setAccessibleName(Command1_->text());
     Command1_->setAutoDefault(false);
