@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/frmCalendar.h>
 
 #include <QCloseEvent>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -23,7 +24,8 @@ frmCalendar::frmCalendar(std::shared_ptr<Calendar> rules, const Desktop& desktop
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    setWindowTitle(QString());
+    // No title; an empty one would become the application's name.
+    setWindowTitle(QStringLiteral(" "));
     Command1_->setFont(ToQFont({u"Tahoma", 8}));
     Command1_->setObjectName(QLatin1String("Command1"));
     Command1_->setAccessibleName(Command1_->text());
@@ -70,7 +72,10 @@ bool frmCalendar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove) {
         const QPoint at = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
         // A calendar that opens under a resting pointer keeps the focus on its days.
-        if (at != pointerAtStart_) FollowPointer(*static_cast<QWidget*>(watched));
+        if (at != pointerRestsAt_) {
+            pointerRestsAt_.reset();
+            FollowPointer(*static_cast<QWidget*>(watched));
+        }
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -101,7 +106,7 @@ void frmCalendar::closeEvent(QCloseEvent* event) {
 
 void frmCalendar::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    pointerAtStart_ = QCursor::pos();
+    pointerRestsAt_ = QCursor::pos();
     MonthView1_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -5,8 +5,10 @@
 #include <halvekutils/qt/forms/DialogShow.h>
 
 #include <QDialog>
+#include <QPoint>
 
 #include <memory>
+#include <optional>
 
 class QPushButton;
 
@@ -46,7 +48,7 @@ class frmCalendar : public QDialog {
     MonthView* MonthView1_;
     QPushButton* Command1_;
     Point place_;
-    QPoint pointerAtStart_;
+    std::optional<QPoint> pointerRestsAt_;  ///< until it first moves
     DialogShow show_;
 };
 
