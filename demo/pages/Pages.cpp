@@ -4,6 +4,7 @@
 #include "pages/CharacterFilterPage.h"
 #include "pages/CodesPage.h"
 #include "pages/DataBinsPage.h"
+#include "pages/DatesPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
 #include "pages/MessageBoxPage.h"
@@ -32,6 +33,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<SettingsPage>(desk));
     pages.push_back(std::make_unique<OpenWindowsPage>(desk));
     pages.push_back(std::make_unique<RemindersPage>(desk));
+    pages.push_back(std::make_unique<DatesPage>(desk));
     pages.push_back(std::make_unique<CalculatorPage>(desk));
     return pages;
 }

@@ -2,6 +2,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/dialogs/Calculator.h>
+#include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/selection/SelectGrid.h>
 
@@ -23,6 +24,7 @@ class HALVEK_EXPORT Forms {
     virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
     /// Modal.
     virtual void Show(const std::shared_ptr<Calculator>& calculator) = 0;
+    virtual void Show(const std::shared_ptr<Calendar>& calendar) = 0;
     /// Modal.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 

@@ -2,6 +2,7 @@
 
 #include <halvekutils/base/ByRef.h>
 #include <halvekutils/base/Color.h>
+#include <halvekutils/base/DateText.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/StringArray.h>
@@ -151,6 +152,17 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// SubscriptOutOfRange before InitPrefs.
     StringArray ColorArray() const;
 
+    /// Learns how far the server's clock is ahead of the workstation's; each object keeps its own.
+    ///
+    /// @param TimeFromServer  date and time, or a time of today; any other text changes nothing
+    ///
+    /// Throws Overflow, and keeps what it knew, when the clocks are more than 68 years apart.
+    void InitServerTime(TextIn TimeFromServer);
+
+    /// The server's date and time in whole seconds; the workstation's until InitServerTime. After a
+    /// fault, which is logged, 1/1/1970.
+    DateTime ServerTime();
+
     /// A text of diagnostic words that all parts of the library and the host can read.
     std::u16string SpecialMode() const;
     void SpecialMode(TextIn value);
@@ -234,13 +246,64 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Throws InvalidArgument for what is no code of a character, below 0 or above 255.
     bool IsDateChar(std::int32_t locChar) const;
 
+    /// A date with slashes as digits, month before day and year, or such digits as a date.
+    ///
+    /// Days that do not exist are not noticed. Without two slashes a text loses the slashes it has.
+    /// @param bConvert  true from digits: empty for what is no number, a month above 12 and a year
+    ///     of three digits. No year is the current one, one of two digits is 1930 to 2029.
+    ///
+    ///     utils->ConvertNumberToDate(u"3/5/2024", false);  // 03052024
+    ///     utils->ConvertNumberToDate(u"030524", true);     // 03/05/2024
+    std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert);
+
     /// The text with every character but those of the codes 32 to 126 shown as its code, as in
     /// "<9>". A line break follows each "<13>".
     std::u16string RemoveUnprintableChars(TextIn Str) const;
 
+    /// The server's date and time as text: mm/dd/yyyy, with hh:mm:ss AM or PM unless it is
+    /// midnight.
+    ///
+    /// Integer parts count, what is no number is 0, negative counts go back.
+    /// @param HDate  days since 12/31/1840; "days,seconds" with the seconds since midnight; or
+    ///     ",seconds" for a time today
+    /// @return "Error: time is incorrect" from 86,400 seconds on, which debug mode tells in a
+    ///     message too. Empty for an empty text, and for a day before 1/1/100 or after 12/31/9999,
+    ///     which is logged with "Error in Utils.ConvertHDate ".
+    ///
+    ///     utils->ConvertHDate(u"60000,43200");  // 04/10/2005 12:00:00 PM
+    std::u16string ConvertHDate(TextIn HDate);
+
     /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                         std::u16string& strRight);
+
+    /// Lets the user choose a day from a calendar.
+    ///
+    /// A fault is logged with "Error in Utils.ShowCalendar ".
+    /// @param posLeft, posTopUp, posTopDown  twips on the screen: where the calendar's left edge
+    ///     lies, where it ends when it opens upwards and where it starts when it opens downwards;
+    ///     negative for not given, which centres it. It always lies wholly on the screen.
+    /// @param DateToShow  any date; without one, or when it lies before 1753, DefaultDate is shown
+    /// @param DefaultDate  likewise; without one today
+    /// @param FormToRefresh  repainted when the calendar ends; null for none
+    /// @param bNeedsConversions  DateToShow may be digits, see ConvertNumberToDate
+    /// @return mm/dd/yyyy; empty when the calendar was closed without a choice
+    ///
+    ///     const auto day = utils->ShowCalendar(-1, -1, -1, visit.text());
+    ///     if (!day.empty()) visit.setText(ToQString(day));
+    std::u16string ShowCalendar(float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
+                                TextIn DateToShow = {}, TextIn DefaultDate = {},
+                                const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+                                bool bNeedsConversions = false);
+
+    /// ShowCalendar, beside a button or cell: left edges aligned, below it when the screen has
+    /// room, else above. Centred without a target, or when it is gone, which is logged.
+    ///
+    ///     auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
+    std::u16string ShowCalendarAndCalculateCoordinates(
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr, TextIn DateToShow = {},
+        TextIn DefaultDate = {}, const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
+        bool bNeedsConversions = false);
 
     /// Lets the user work out an amount on a four-function calculator.
     ///

@@ -5,6 +5,7 @@
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
+#include <halvekutils/qt/forms/frmCalendar.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
 
@@ -167,6 +168,10 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
 
 void QtPlatform::Show(const std::shared_ptr<Calculator>& calculator) {
     frmCalculator(calculator, *this).ShowModal();
+}
+
+void QtPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
+    frmCalendar(calendar, *this).ShowModal();
 }
 
 void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

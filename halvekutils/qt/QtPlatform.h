@@ -33,6 +33,7 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     std::unique_ptr<PrinterSource> Printers() override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
     void Show(const std::shared_ptr<Calculator>& calculator) override;
+    void Show(const std::shared_ptr<Calendar>& calendar) override;
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:

@@ -69,8 +69,16 @@ void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
 void ScriptedPlatform::OnCalculator(CalculatorAnswer answer) {
     calculatorAnswers_.push_back(std::move(answer));
 }
+void ScriptedPlatform::OnCalendar(CalendarAnswer answer) {
+    calendarAnswers_.push_back(std::move(answer));
+}
 void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
     selectionAnswers_.push_back(std::move(answer));
+}
+
+std::size_t ScriptedPlatform::AnswersLeft() const {
+    return messageBoxAnswers_.size() + calculatorAnswers_.size() + calendarAnswers_.size() +
+           selectionAnswers_.size();
 }
 
 void ScriptedPlatform::SetPrinterConnections(
@@ -126,6 +134,11 @@ void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality mod
 void ScriptedPlatform::Show(const std::shared_ptr<Calculator>& calculator) {
     TakeAnswer(calculatorAnswers_, u"calculator", calculator->Display())(*calculator);
     calculator->Abandon();
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
+    TakeAnswer(calendarAnswers_, u"calendar", DateOnlyText(calendar->MarkedDay()))(*calendar);
+    calendar->Close();
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

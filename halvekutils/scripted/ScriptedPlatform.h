@@ -31,6 +31,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     };
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
     using CalculatorAnswer = std::function<void(Calculator&)>;
+    using CalendarAnswer = std::function<void(Calendar&)>;
     using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
@@ -40,13 +41,13 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void OnMessageBox(MessageBoxAnswer answer);
     /// Queues what the user does with the next calculator.
     void OnCalculator(CalculatorAnswer answer);
+    /// Queues what the user does in the next calendar.
+    void OnCalendar(CalendarAnswer answer);
     /// Queues what the user does in the next selection dialog.
     void OnSelection(SelectionAnswer answer);
 
     /// The answers that no dialog has taken yet.
-    std::size_t AnswersLeft() const {
-        return messageBoxAnswers_.size() + calculatorAnswers_.size() + selectionAnswers_.size();
-    }
+    std::size_t AnswersLeft() const;
     /// The boxes that are on the screen modelessly.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
@@ -72,11 +73,13 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     Size FrameSize() const override { return frame_; }
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
     void Show(const std::shared_ptr<Calculator>& calculator) override;
+    void Show(const std::shared_ptr<Calendar>& calendar) override;
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
     std::deque<CalculatorAnswer> calculatorAnswers_;
+    std::deque<CalendarAnswer> calendarAnswers_;
     std::deque<SelectionAnswer> selectionAnswers_;
     std::vector<std::shared_ptr<MessageBox>> modeless_;
     std::vector<StockMessage> stockMessages_;

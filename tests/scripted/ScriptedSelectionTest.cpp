@@ -1,4 +1,5 @@
 #include "tests/CleanState.h"
+#include "tests/HostWindow.h"
 
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
@@ -13,18 +14,6 @@ namespace halvek {
 namespace {
 
 constexpr const char16_t* kProviders = u"H:A1\tAdams\t0:B2\tBaker\t1:C3\tClark\t0:";
-
-struct HostWindow : OwnerForm {
-    std::int32_t Left() const override { return 0; }
-    std::int32_t Top() const override { return 0; }
-    std::int32_t Width() const override { return 0; }
-    std::int32_t Height() const override { return 0; }
-    bool Exists() const override { return exists; }
-    void Refresh() override { ++refreshes; }
-
-    bool exists = true;
-    int refreshes = 0;
-};
 
 struct ScriptedSelection : CleanState {
     void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }

@@ -1,0 +1,201 @@
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/forms/MonthView.h>
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include <algorithm>
+#include <iterator>
+
+namespace halvek {
+
+namespace {
+
+struct DayKey {
+    int key;
+    Qt::KeyboardModifiers commands;  ///< Ctrl, Alt and the like that have to be down
+    Calendar::Key action;
+};
+
+constexpr DayKey kKeys[] = {
+    {Qt::Key_Return, Qt::NoModifier, Calendar::Key::Enter},
+    {Qt::Key_Enter, Qt::NoModifier, Calendar::Key::Enter},
+    {Qt::Key_Escape, Qt::NoModifier, Calendar::Key::Escape},
+    {Qt::Key_Left, Qt::NoModifier, Calendar::Key::Left},
+    {Qt::Key_Right, Qt::NoModifier, Calendar::Key::Right},
+    {Qt::Key_Up, Qt::NoModifier, Calendar::Key::Up},
+    {Qt::Key_Down, Qt::NoModifier, Calendar::Key::Down},
+    {Qt::Key_PageUp, Qt::NoModifier, Calendar::Key::PageUp},
+    {Qt::Key_PageDown, Qt::NoModifier, Calendar::Key::PageDown},
+    {Qt::Key_PageUp, Qt::ControlModifier, Calendar::Key::CtrlPageUp},
+    {Qt::Key_PageDown, Qt::ControlModifier, Calendar::Key::CtrlPageDown},
+    {Qt::Key_Home, Qt::NoModifier, Calendar::Key::Home},
+    {Qt::Key_End, Qt::NoModifier, Calendar::Key::End},
+    {Qt::Key_T, Qt::NoModifier, Calendar::Key::Today},
+};
+
+constexpr Qt::KeyboardModifiers kCommands =
+    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+const FontSpec kFont = {u"Tahoma", 7};
+
+// What QCalendarWidget calls its parts.
+constexpr char kPreviousMonth[] = "qt_calendar_prevmonth";
+constexpr char kNextMonth[] = "qt_calendar_nextmonth";
+
+constexpr int kDaysInWeek = 7;
+constexpr int kRows = 7;  // six weeks below the names of the days
+
+const QDate kEpoch(1970, 1, 1);
+
+QDate ToQDate(Calendar::Day day) {
+    return kEpoch.addDays(day.time_since_epoch().count());
+}
+Calendar::Day ToDay(QDate date) {
+    return Calendar::Day(std::chrono::days(kEpoch.daysTo(date)));
+}
+
+/// Nearly half way from one colour to the other.
+QColor Blended(const QColor& text, const QColor& base) {
+    const auto mixed = [](int from, int to) { return (from * 55 + to * 45) / 100; };
+    return QColor(mixed(text.red(), base.red()), mixed(text.green(), base.green()),
+                  mixed(text.blue(), base.blue()));
+}
+
+/// The key as it acts: where text runs from right to left, the days do too.
+int Mirrored(int key, bool rightToLeft) {
+    if (!rightToLeft || (key != Qt::Key_Left && key != Qt::Key_Right)) return key;
+    return key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
+}
+
+}  // namespace
+
+MonthView::MonthView(Calendar& rules, QWidget* parent)
+    : QCalendarWidget(parent),
+      rules_(rules),
+      days_(findChild<QAbstractItemView*>(QLatin1String("qt_calendar_calendarview"))),
+      yearEdit_(findChild<QSpinBox*>(QLatin1String("qt_calendar_yearedit"))) {
+    setObjectName(QLatin1String("MonthView1"));
+    setFont(ToQFont(kFont));
+    setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
+    setDateEditEnabled(false);
+    setVerticalHeaderFormat(NoVerticalHeader);
+    MakeReadable();
+    NameParts();
+    days_->installEventFilter(this);
+    yearEdit_->installEventFilter(this);
+    connect(this, &QCalendarWidget::clicked, this, [this](QDate date) {
+        GuardEvent(u"frmCalendar.MonthView1_DateClick", [&] { rules_.ClickDay(ToDay(date)); });
+    });
+    connect(this, &QCalendarWidget::currentPageChanged, this, &MonthView::PageChanged);
+    Refresh();
+}
+
+void MonthView::MakeReadable() {
+    // Red weekends would be hard to read on a dark desktop, as would pale days of other months.
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
+    QPalette colors = palette();
+    const QColor faded = Blended(colors.color(QPalette::Text), colors.color(QPalette::Base));
+    colors.setColor(QPalette::Disabled, QPalette::Text, faded);
+    days_->setPalette(colors);
+    // In so small a font the days would be hard to hit.
+    const int free = fontMetrics().height() * 2 / 3;
+    setMinimumSize(minimumSizeHint() + QSize(kDaysInWeek * free, kRows * free));
+    const Qt::ArrowType arrows[] = {Qt::LeftArrow, Qt::RightArrow};
+    colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
+    for (const char* const part : {kPreviousMonth, kNextMonth}) {
+        auto* const button = findChild<QToolButton*>(QLatin1String(part));
+        button->setArrowType(arrows[(part == kNextMonth) != isRightToLeft()]);
+        button->setPalette(colors);
+    }
+}
+
+void MonthView::NameParts() {
+    setAccessibleName(tr("Calendar"));
+    yearEdit_->setAccessibleName(tr("Year"));
+    const struct {
+        const char* part;
+        QString name;
+    } buttons[] = {
+        {kPreviousMonth, tr("Previous month (Page Up)")},
+        {kNextMonth, tr("Next month (Page Down)")},
+        {"qt_calendar_monthbutton", tr("Choose the month")},
+        {"qt_calendar_yearbutton", tr("Choose the year (Ctrl+Page Up, Ctrl+Page Down)")},
+    };
+    for (const auto& [part, name] : buttons) {
+        auto* const button = findChild<QToolButton*>(QLatin1String(part));
+        button->setToolTip(name);
+        button->setAccessibleDescription(name);
+    }
+}
+
+void MonthView::Refresh() {
+    const QSignalBlocker ownChange(this);
+    const QDate marked = ToQDate(rules_.MarkedDay());
+    setSelectedDate(marked);
+    setCurrentPage(marked.year(), marked.month());
+    const QString day = locale().toString(marked, QLocale::LongFormat);
+    const bool isToday = rules_.MarkedDay() == rules_.Today();
+    // Told to screen readers at once.
+    days_->setAccessibleName(isToday ? tr("%1, today").arg(day) : day);
+}
+
+void MonthView::TakeFocus() {
+    if (!isAncestorOf(window()->focusWidget())) days_->setFocus(Qt::MouseFocusReason);
+}
+
+// The month or year was chosen in the bar above the days, or by the wheel.
+void MonthView::PageChanged(int year, int month) {
+    const QDate selected = selectedDate();
+    if (selected.year() == year && selected.month() == month) return;
+    GuardEvent(u"frmCalendar.MonthView1_SelChange",
+               [&] { rules_.ShowMonth(year, static_cast<unsigned>(month)); });
+}
+
+bool MonthView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == days_ && event->type() == QEvent::KeyPress) {
+        const auto& press = *static_cast<QKeyEvent*>(event);
+        if (press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab) return false;
+        KeyDown(press);
+        return true;
+    }
+    // The focus of the year goes back to the days, not on to the button.
+    if (watched == yearEdit_ && event->type() == QEvent::Hide && yearEdit_->hasFocus()) {
+        days_->setFocus(Qt::OtherFocusReason);
+    }
+    return QCalendarWidget::eventFilter(watched, event);
+}
+
+void MonthView::KeyDown(const QKeyEvent& event) {
+    GuardEvent(u"frmCalendar.MonthView1_KeyDown", [&] {
+        const int key = Mirrored(event.key(), isRightToLeft());
+        const Qt::KeyboardModifiers commands = event.modifiers() & kCommands;
+        const auto* const known = std::ranges::find_if(
+            kKeys, [&](const DayKey& row) { return row.key == key && row.commands == commands; });
+        if (known != std::end(kKeys)) rules_.KeyDown(known->action);
+    });
+}
+
+// Reached by what the year does not take, its own Enter above all, which is not the form's.
+void MonthView::keyPressEvent(QKeyEvent* event) {
+    QCalendarWidget::keyPressEvent(event);
+    event->accept();
+}
+
+void MonthView::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
+    QCalendarWidget::paintCell(painter, rect, date);
+    if (ToDay(date) != rules_.Today()) return;
+    const bool isMarked = date == selectedDate();
+    painter->save();
+    painter->setPen(palette().color(isMarked ? QPalette::HighlightedText : QPalette::Highlight));
+    painter->drawRect(rect.adjusted(1, 1, -2, -2));
+    painter->restore();
+}
+
+}  // namespace halvek

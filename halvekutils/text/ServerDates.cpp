@@ -1,0 +1,102 @@
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/text/ServerDates.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <limits>
+
+namespace halvek {
+
+namespace {
+
+using std::chrono::seconds;
+
+constexpr DateTime kDayZero = detail::MidnightOf(1840, 12, 31);
+constexpr std::int64_t kSecondsInDay = 86'400;
+
+/// A day or second count. What lies beyond every date is cut off where it still does.
+std::int64_t CountIn(TextIn text) {
+    constexpr double kFar = 1e12;
+    return static_cast<std::int64_t>(std::clamp(Val(text), -kFar, kFar));
+}
+
+DateTime DayOf(TextIn count) {
+    return kDayZero + seconds(kSecondsInDay * CountIn(count));
+}
+
+DateTime Today(Machine& machine) {
+    return std::chrono::floor<std::chrono::days>(machine.Now());
+}
+
+std::u16string TwoDigits(TextIn part) {
+    const TextIn digits = Trimmed(part);
+    return std::u16string(digits.size() < 2 ? 2 - digits.size() : 0, u'0').append(digits);
+}
+
+/// The year in four digits where it has none or two; empty for one that no date has.
+std::u16string FullYear(TextIn year, Machine& machine) {
+    if (year.size() == 1 || year.size() > 3) return year.Str();
+    if (year.size() == 3) return {};
+    const DateTime now = machine.Now();
+    const auto date = year.empty() ? now : ParseDateTime(u"1/1/" + year.Str(), now);
+    return date ? DateOnlyText(*date).substr(6) : std::u16string();
+}
+
+}  // namespace
+
+std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine) {
+    const std::size_t comma = HDate.find(u',');
+    if (comma == TextIn::npos) return DayOf(HDate);
+    const std::int64_t time = CountIn(HDate.substr(comma + 1));
+    if (time >= kSecondsInDay) return std::nullopt;
+    return (comma == 0 ? Today(machine) : DayOf(HDate.substr(0, comma))) + seconds(time);
+}
+
+std::u16string DigitsOfDate(TextIn strDate) {
+    constexpr std::size_t kFirstPlaceOfSecond = 3;
+    const std::size_t first = strDate.find(u'/');
+    const std::size_t second = first == TextIn::npos
+                                   ? TextIn::npos
+                                   : strDate.find(u'/', std::max(first + 1, kFirstPlaceOfSecond));
+    std::u16string digits;
+    if (second == TextIn::npos) {
+        digits = strDate.Str();
+        std::erase(digits, u'/');
+    } else {
+        digits = TwoDigits(strDate.substr(0, first)) +
+                 TwoDigits(strDate.substr(first + 1, second - first - 1));
+        digits += strDate.substr(second + 1);
+    }
+    return Trimmed(digits).Str();
+}
+
+std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
+    constexpr std::size_t kDayAt = 2;
+    constexpr std::size_t kYearAt = 4;
+    constexpr double kLastMonth = 12;
+    if (!IsNumeric(strDate)) return {};
+    const TextIn digits = Trimmed(strDate);
+    const TextIn month = digits.substr(0, kDayAt);
+    const TextIn day = digits.substr(std::min(kDayAt, digits.size()), kYearAt - kDayAt);
+    const std::u16string year = FullYear(digits.substr(std::min(kYearAt, digits.size())), machine);
+    if (Val(month) > kLastMonth || year.empty()) return {};
+    return TwoDigits(month) + u'/' + TwoDigits(day) + u'/' + year;
+}
+
+std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine) {
+    return bConvert ? DateOfDigits(strDate, machine) : DigitsOfDate(strDate);
+}
+
+std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const DateTime now = machine.Now();
+    const std::optional<DateTime> server = ParseDateTime(timeFromServer, now);
+    if (!server) return std::nullopt;
+    const std::int64_t offset = (*server - now).count();
+    if (offset < Limits::min() || offset > Limits::max()) throw RuntimeError(Fault::Overflow);
+    return static_cast<std::int32_t>(offset);
+}
+
+}  // namespace halvek

@@ -1,0 +1,73 @@
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/qt/QtControls.h>
+#include <halvekutils/qt/QtText.h>
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace halvek {
+namespace {
+
+/// On 3/5/2024, in the United States.
+struct CalendarFormTest : FormTest {
+    CalendarFormTest() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+    ~CalendarFormTest() override { QLocale::setDefault(QLocale::system()); }
+
+    /// What the user's acts choose; a calendar that they leave open is closed.
+    QString Chosen(const User::Acts& acts, QWidget* owner = nullptr) {
+        const User user([&](QDialog& dialog) {
+            acts(dialog);
+            if (dialog.isVisible()) CloseRequest(dialog);
+        });
+        const auto form = AsOwnerForm(owner);
+        return ToQString(utils_->ShowCalendar(-1, -1, -1, u"3/7/2004", u"", form));
+    }
+};
+
+TEST_F(CalendarFormTest, KeysActOnWhatHasTheFocus) {
+    const std::pair<std::vector<QKeyCombination>, const char*> cases[] = {
+        {{Qt::Key_1, Qt::ALT | Qt::Key_T, Qt::CTRL | Qt::Key_T, Qt::Key_Enter}, "03/07/2004"},
+        {{Qt::SHIFT | Qt::Key_T, Qt::Key_Return}, "03/05/2024"},
+        {{Qt::Key_Escape, Qt::Key_Return}, ""},
+        {{Qt::Key_Tab, Qt::Key_Return}, ""},
+        {{Qt::Key_Tab, Qt::Key_Escape}, ""},
+        {{Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return}, "03/07/2004"},
+    };
+    for (const auto& [keys, day] : cases) EXPECT_EQ(Chosen(Keys(keys)), day);
+}
+
+TEST_F(CalendarFormTest, TheMarkedDayFollowsTheMonthAndYearAndIsToldInFull) {
+    const char* const year = "qt_calendar_yearbutton";
+    const std::tuple<const char*, std::vector<QKeyCombination>, const char*> steps[] = {
+        {"qt_calendar_nextmonth", {Qt::Key_End}, "Friday, April 30, 2004"},
+        {"qt_calendar_prevmonth", {Qt::Key_End, Qt::Key_PageUp}, "Sunday, February 29, 2004"},
+        {year, {Qt::Key_1, Qt::Key_9, Qt::Key_9, Qt::Key_9}, "Sunday, February 29, 2004"},
+        {year, {Qt::Key_Return}, "Sunday, February 28, 1999"},
+        {year, {Qt::Key_2, Qt::Key_Escape}, "Sunday, February 28, 1999"},
+        {year, {Qt::Key_Return, Qt::Key_T}, "Tuesday, March 5, 2024, today"},
+    };
+    const auto act = [&](QDialog& dialog) {
+        const QRect month = Find(dialog, "MonthView1").geometry();
+        const QRect close = Find(dialog, "Command1").geometry();
+        EXPECT_EQ(month | close, dialog.rect());
+        EXPECT_EQ(month.height() + close.height(), dialog.height());
+        for (const auto& [part, keys, told] : steps) {
+            if (Find(dialog, part).isVisible()) Click(dialog, Find(dialog, part));
+            Keys(keys)(dialog);
+            EXPECT_EQ(Find(dialog, "qt_calendar_calendarview").accessibleName(), told);
+        }
+    };
+    EXPECT_EQ(Chosen(act), "");
+}
+
+TEST_F(CalendarFormTest, EndsWithItsOwnerWhichIsNotRefreshedThen) {
+    auto window = OpenHostWindow({100, 100, 300, 200});
+    EXPECT_EQ(Chosen([&](QDialog&) { window.reset(); }, window.get()), "");
+}
+
+}  // namespace
+}  // namespace halvek
