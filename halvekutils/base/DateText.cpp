@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 
 namespace halvek {
@@ -46,19 +47,26 @@ std::optional<DateTime> Joined(const DateParts& parts) {
 
 // Writing
 
+constexpr char16_t Tens(unsigned number) {
+    return static_cast<char16_t>(u'0' + number / 10);
+}
+constexpr char16_t Ones(unsigned number) {
+    return static_cast<char16_t>(u'0' + number % 10);
+}
+
 void AppendTwoDigits(std::u16string& out, unsigned number) {
-    out += static_cast<char16_t>(u'0' + number / 10);
-    out += static_cast<char16_t>(u'0' + number % 10);
+    out += Tens(number);
+    out += Ones(number);
 }
 
 void AppendDate(std::u16string& out, const DateParts& parts) {
-    const auto year = static_cast<unsigned>(parts.year);
-    AppendTwoDigits(out, parts.month);
-    out += u'/';
-    AppendTwoDigits(out, parts.day);
-    out += u'/';
-    AppendTwoDigits(out, year / 100);
-    AppendTwoDigits(out, year % 100);
+    const unsigned month = parts.month;
+    const unsigned day = parts.day;
+    const unsigned century = static_cast<unsigned>(parts.year) / 100;
+    const unsigned year = static_cast<unsigned>(parts.year) % 100;
+    const char16_t text[] = {Tens(month), Ones(month),   u'/',          Tens(day),  Ones(day),
+                             u'/',        Tens(century), Ones(century), Tens(year), Ones(year)};
+    out.append(text, std::size(text));
 }
 
 void AppendTime(std::u16string& out, const DateParts& parts) {

@@ -5,7 +5,8 @@
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 
-#include <utility>
+#include <memory>
+#include <string>
 
 namespace halvek {
 
@@ -16,7 +17,7 @@ constexpr char16_t kFault[] = u"Error in Utils.ShowCalendar ";
 /// `makeRequest` copies the caller's texts.
 template <class MakeRequest>
 std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
-                            std::shared_ptr<OwnerForm> formToRefresh) {
+                            const std::shared_ptr<OwnerForm>& formToRefresh) {
     const auto self = utils.shared_from_this();
     const auto show = [&] {
         Services::Current();  // throws before the first InitUtils
@@ -24,8 +25,8 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         Platform::Installed().Show(calendar);
         return calendar->ReturnValue().Str();
     };
-    const auto refresh = [&] {
-        if (formToRefresh != nullptr && formToRefresh->Exists()) formToRefresh->Refresh();
+    const auto refresh = [form = formToRefresh] {
+        if (form != nullptr && form->Exists()) form->Refresh();
     };
     std::u16string day = Guarded(OnFault::Beep, kFault, LogOf(utils), std::u16string(), show);
     Guarded(OnFault::Quiet, kFault, LogOf(utils), refresh);

@@ -18,8 +18,15 @@ constexpr std::int64_t kSecondsInDay = 86'400;
 
 /// A day or second count. What lies beyond every date is cut off where it still does.
 std::int64_t CountIn(TextIn text) {
-    constexpr double kFar = 1e12;
-    return static_cast<std::int64_t>(std::clamp(Val(text), -kFar, kFar));
+    constexpr std::int64_t kFar = 1'000'000'000'000;
+    std::int64_t count = 0;
+    for (const char16_t digit : text) {
+        if (digit < u'0' || digit > u'9' || count > kFar) {
+            return static_cast<std::int64_t>(std::clamp<double>(Val(text), -kFar, kFar));
+        }
+        count = 10 * count + (digit - u'0');
+    }
+    return std::min(count, kFar);
 }
 
 DateTime DayOf(TextIn count) {
@@ -30,9 +37,9 @@ DateTime Today(Machine& machine) {
     return std::chrono::floor<std::chrono::days>(machine.Now());
 }
 
-std::u16string TwoDigits(TextIn part) {
+void AppendTwoDigits(std::u16string& out, TextIn part) {
     const TextIn digits = Trimmed(part);
-    return std::u16string(digits.size() < 2 ? 2 - digits.size() : 0, u'0').append(digits);
+    out.append(digits.size() < 2 ? 2 - digits.size() : 0, u'0').append(digits);
 }
 
 /// The year in four digits where it has none or two; empty for one that no date has.
@@ -61,15 +68,17 @@ std::u16string DigitsOfDate(TextIn strDate) {
                                    ? TextIn::npos
                                    : strDate.find(u'/', std::max(first + 1, kFirstPlaceOfSecond));
     std::u16string digits;
+    digits.reserve(strDate.size() + 2);
     if (second == TextIn::npos) {
-        digits = strDate.Str();
+        digits = strDate;
         std::erase(digits, u'/');
     } else {
-        digits = TwoDigits(strDate.substr(0, first)) +
-                 TwoDigits(strDate.substr(first + 1, second - first - 1));
+        AppendTwoDigits(digits, strDate.substr(0, first));
+        AppendTwoDigits(digits, strDate.substr(first + 1, second - first - 1));
         digits += strDate.substr(second + 1);
     }
-    return Trimmed(digits).Str();
+    const TextIn trimmed = Trimmed(digits);
+    return trimmed.size() == digits.size() ? digits : trimmed.Str();
 }
 
 std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
@@ -82,7 +91,14 @@ std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
     const TextIn day = digits.substr(std::min(kDayAt, digits.size()), kYearAt - kDayAt);
     const std::u16string year = FullYear(digits.substr(std::min(kYearAt, digits.size())), machine);
     if (Val(month) > kLastMonth || year.empty()) return {};
-    return TwoDigits(month) + u'/' + TwoDigits(day) + u'/' + year;
+    std::u16string date;
+    date.reserve(10);
+    AppendTwoDigits(date, month);
+    date += u'/';
+    AppendTwoDigits(date, day);
+    date += u'/';
+    date += year;
+    return date;
 }
 
 std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine) {

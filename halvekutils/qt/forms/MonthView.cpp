@@ -86,7 +86,9 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);
     setVerticalHeaderFormat(NoVerticalHeader);
-    MakeReadable();
+    MakeDaysReadable();
+    MakeArrow(kPreviousMonth, isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
+    MakeArrow(kNextMonth, isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
     NameParts();
     days_->installEventFilter(this);
     yearEdit_->installEventFilter(this);
@@ -97,23 +99,24 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     Refresh();
 }
 
-void MonthView::MakeReadable() {
+void MonthView::MakeDaysReadable() {
     // Red weekends would be hard to read on a dark desktop, as would pale days of other months.
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
     QPalette colors = palette();
     const QColor faded = Blended(colors.color(QPalette::Text), colors.color(QPalette::Base));
     colors.setColor(QPalette::Disabled, QPalette::Text, faded);
     days_->setPalette(colors);
-    // In so small a font the days would be hard to hit.
+    // In so small a font they would be hard to hit, too.
     const int free = fontMetrics().height() * 2 / 3;
     setMinimumSize(minimumSizeHint() + QSize(kDaysInWeek * free, kRows * free));
-    const Qt::ArrowType arrows[] = {Qt::LeftArrow, Qt::RightArrow};
+}
+
+void MonthView::MakeArrow(const char* part, Qt::ArrowType arrow) {
+    auto* const button = findChild<QToolButton*>(QLatin1String(part));
+    button->setArrowType(arrow);
+    QPalette colors = palette();
     colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
-    for (const char* const part : {kPreviousMonth, kNextMonth}) {
-        auto* const button = findChild<QToolButton*>(QLatin1String(part));
-        button->setArrowType(arrows[(part == kNextMonth) != isRightToLeft()]);
-        button->setPalette(colors);
-    }
+    button->setPalette(colors);
 }
 
 void MonthView::NameParts() {
@@ -131,6 +134,7 @@ void MonthView::NameParts() {
     for (const auto& [part, name] : buttons) {
         auto* const button = findChild<QToolButton*>(QLatin1String(part));
         button->setToolTip(name);
+        if (button->text().isEmpty()) button->setAccessibleName(name);
         button->setAccessibleDescription(name);
     }
 }

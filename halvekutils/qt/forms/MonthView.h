@@ -29,7 +29,8 @@ class MonthView : public QCalendarWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void MakeReadable();
+    void MakeDaysReadable();
+    void MakeArrow(const char* part, Qt::ArrowType arrow);
     void NameParts();
     void KeyDown(const QKeyEvent& event);
     void PageChanged(int year, int month);
