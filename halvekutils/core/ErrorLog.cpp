@@ -139,8 +139,10 @@ void WriteErrorLog(ComponentState& state, TextIn message) noexcept {
         try {
             if (state.loginUserName.empty()) state.loginUserName = state.machine->LoginName();
             const fs::path& file = LogPath(state);
+            const std::string line = LogLine(state, message);
+            if (state.machine->AppendBelow(file, line, kRotationLength)) return;
             PrepareFile(state, file);
-            state.machine->Append(file, LogLine(state, message));
+            state.machine->Append(file, line);
         } catch (const std::exception& caught) {
             ReportFailure(state, caught);
         }

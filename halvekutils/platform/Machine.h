@@ -53,6 +53,11 @@ class HALVEK_EXPORT Machine {
     /// Adds bytes at the end of a regular file in one write, creating the file when it is missing.
     virtual void Append(const std::filesystem::path& file, std::string_view bytes) = 0;
 
+    /// Append, when there is nothing to be done before it: false, and nothing is written, unless
+    /// the file is there, regular, writable for its owner and shorter than `length` bytes.
+    virtual bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
+                             std::uintmax_t length) = 0;
+
   protected:
     Machine() = default;
     Machine(const Machine&) = default;

@@ -71,9 +71,10 @@ std::optional<Account> EffectiveAccount() {
 
 // Only regular files hold logs. Without O_NONBLOCK the open itself would wait for the other end of
 // a pipe that somebody put in the log's place.
+constexpr int kAppendFlags = O_WRONLY | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+
 int OpenForAppend(const fs::path& file) {
-    constexpr int kFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    return ::open(file.c_str(), kFlags, S_IRUSR | S_IWUSR);
+    return ::open(file.c_str(), kAppendFlags | O_CREAT, S_IRUSR | S_IWUSR);
 }
 
 struct stat StatusOf(const Descriptor& open, const fs::path& file) {
@@ -86,6 +87,16 @@ void RequireRegular(const Descriptor& open, const fs::path& file) {
     if (!S_ISREG(StatusOf(open, file).st_mode)) {
         throw RuntimeError(Fault::PermissionDenied, FromUtf8(file.native()));
     }
+}
+
+/// Writes the bytes and closes the file.
+void WriteAll(Descriptor& open, std::string_view bytes, const fs::path& file) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(open.Number(), bytes.data(), bytes.size());
+        if (written < 0) ThrowLastError(file);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    if (!open.Close()) ThrowLastError(file);
 }
 
 void CreatePrivateFolder(const fs::path& folder) {
@@ -174,12 +185,18 @@ void LocalMachine::Append(const fs::path& file, std::string_view bytes) {
     Descriptor open(number);
     if (number < 0) ThrowLastError(file);
     RequireRegular(open, file);
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(open.Number(), bytes.data(), bytes.size());
-        if (written < 0) ThrowLastError(file);
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    if (!open.Close()) ThrowLastError(file);
+    WriteAll(open, bytes, file);
+}
+
+bool LocalMachine::AppendBelow(const fs::path& file, std::string_view bytes,
+                               std::uintmax_t length) {
+    Descriptor open(::open(file.c_str(), kAppendFlags));
+    if (open.Number() < 0) return false;
+    const struct stat status = StatusOf(open, file);
+    const bool ready = S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0 &&
+                       static_cast<std::uintmax_t>(status.st_size) < length;
+    if (ready) WriteAll(open, bytes, file);
+    return ready;
 }
 
 }  // namespace halvek

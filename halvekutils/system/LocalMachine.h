@@ -24,6 +24,8 @@ class HALVEK_EXPORT LocalMachine : public Machine {
     void VisitFiles(const std::filesystem::path& folder,
                     const std::function<bool(const std::filesystem::path&)>& visit) override;
     void Append(const std::filesystem::path& file, std::string_view bytes) override;
+    bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
+                     std::uintmax_t length) override;
 };
 
 }  // namespace halvek
