@@ -85,7 +85,8 @@ class HALVEK_EXPORT Calculator {
 
     /// A key that the host's keyboard hook caught, by its virtual key code: the keypad (96 to 111),
     /// Enter (13), which is "=" at first and RET when pressed again, Escape (27) and Delete (46),
-    /// which clear. The digits of the main block (48 to 57) are ignored.
+    /// which clear. The digits of the main block (48 to 57) are ignored, Backspace (8) is only
+    /// logged. Any key but a digit between two Enters makes the second one "=" again.
     void HookedKeyDown(int KeyCode);
 
     /// The user has edited the text in the box.

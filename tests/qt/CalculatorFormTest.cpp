@@ -48,7 +48,7 @@ class CalculatorFormTest : public FormTest {
             acts({form});
             if (form.isVisible()) PressKey(form, Qt::Key_Escape);
         });
-        const QString result = ToQString(utils_->Calculate(initValue));
+        QString result = ToQString(utils_->Calculate(initValue));
         EXPECT_TRUE(user.HasActed());
         return result;
     }
@@ -134,9 +134,10 @@ TEST_F(CalculatorFormTest, TheClipboardTakesTheNumberAndGivesOne) {
 TEST_F(CalculatorFormTest, TheCloseBoxAndTheEndOfTheApplicationReturnNothing) {
     const Acts close = [](const Seen& seen) { seen.Type("+3="), CloseRequest(seen.form); };
     const Acts quit = [](const Seen& seen) { seen.Type("+3="), QCoreApplication::exit(); };
-    QTimer::singleShot(0, [&] {
+    const auto calculate = [&] {
         for (const Acts& end : {close, quit}) EXPECT_EQ(Result(u"5", end), "");
-    });
+    };
+    QTimer::singleShot(0, calculate);
     QApplication::exec();
 }
 

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -215,7 +216,8 @@ void frmCalculator::Sync() {
 
 /// A screen reader says what changes about the button that has the focus; the box it reads anyway.
 void frmCalculator::Announce() {
-    const QString display = tr("Display") + u' ' + ToQString(rules_->Display());
+    const QString shown = ToQString(rules_->Display());
+    const QString display = tr("Display") + u' ' + (shown.isEmpty() ? tr("empty") : shown);
     const QWidget* const focused = ControlOf(rules_->Focus());
     for (FlashButton* const button : arrCmd_) {
         button->setAccessibleDescription(button == focused ? display : QString());
