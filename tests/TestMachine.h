@@ -14,12 +14,10 @@ class TestMachine : public LocalMachine {
     explicit TestMachine(std::filesystem::path own) : ownFolder(std::move(own)) {}
 
     DateTime Now() override { return now; }
-    void Sleep(std::chrono::milliseconds time) override { slept += time; }
     std::u16string LoginName() override { return loginName; }
     std::filesystem::path OwnFolder() override { return ownFolder; }
 
     DateTime now = MakeDateTime(2024, 3, 5, 9, 7, 3);
-    std::chrono::milliseconds slept{};
     std::u16string loginName = u"nina";
     std::filesystem::path ownFolder;
 };
