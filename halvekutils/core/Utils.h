@@ -205,9 +205,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Takes the close button off a window of the host's.
     ///
-    /// The window's menu and keys cannot close it either. The host still can, with close(), hide()
-    /// or by destroying it, and it holds up neither the end of the program nor that of the
-    /// session. A window flag that shows the button again gives it its work back.
+    /// Its menu and Alt+F4 do not close it either; Escape still ends a QDialog. The host can close,
+    /// hide or destroy it as ever, and neither the end of the program nor that of the session waits
+    /// for it. The window flag of the close button, set again, undoes this.
     /// @param hwnd  the window's id; one that no window of this program has does nothing
     ///
     ///     utils->KillCloseButton(static_cast<std::int32_t>(window.winId()));

@@ -19,14 +19,17 @@ namespace halvek {
 
 namespace {
 
-// From here on a box that measures all its entries for its own width is slow to open.
+// From here on Qt's defaults make people wait: a box measures all its entries for its own width,
+// and some styles make room for all of them when it drops down.
 constexpr int kManyItems = 1000;
 constexpr int kWidthForMany = 20;  // in characters
 
 void OpenFastWithMany(QComboBox& box) {
+    if (box.count() < kManyItems) return;
     if (auto* const list = qobject_cast<QListView*>(box.view())) list->setUniformItemSizes(true);
+    if (box.styleSheet().isEmpty()) box.setStyleSheet(QStringLiteral("combobox-popup: 0"));
     const auto policy = QComboBox::AdjustToMinimumContentsLengthWithIcon;
-    if (box.count() < kManyItems || box.sizeAdjustPolicy() == policy) return;
+    if (box.sizeAdjustPolicy() == policy) return;
     box.setSizeAdjustPolicy(policy);
     box.setMinimumContentsLength(std::max(box.minimumContentsLength(), kWidthForMany));
 }

@@ -43,9 +43,12 @@ HALVEK_EXPORT std::shared_ptr<ControlFont> FontOf(QWidget* widget);
 /// The font of a grid's cells and headers, for GridSetFontObject.
 HALVEK_EXPORT std::shared_ptr<GridFont> GridFontOf(QAbstractItemView* grid);
 
-/// A combo box, for FillCombo and FindInCombo. One with 1000 entries or more no longer takes its
-/// width from them, which would cost seconds with a long list; at most half the screen's width is
-/// given to a box that is widened.
+/// A combo box, for FillCombo and FindInCombo. A box that is widened gets at most half the screen's
+/// width.
+///
+/// One with 1000 entries or more no longer takes its width from them and, unless it has a style
+/// sheet of its own, drops down as a list with a scroll bar; otherwise it would take seconds to
+/// open.
 HALVEK_EXPORT std::shared_ptr<ComboBox> AsComboBox(QComboBox* box);
 
 }  // namespace halvek
