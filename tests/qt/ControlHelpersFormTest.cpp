@@ -31,8 +31,7 @@ TEST_F(ControlHelpersFormTest, HighlightsShowOnAnyFormAndGoAgain) {
     const QString sheets[][2] = {
         {"QWidget { background: #102030; color: red; }", ""},
         {"", "color: red; background: yellow"},
-        {"", "QWidget#x:enabled { background: yellow; } QLabel#x { border: 2px solid red }"},
-    };
+        {"", "QWidget#x:enabled { background: yellow; } QLabel#x { border: 2px solid red }"}};
     for (const auto& [ofForm, own] : sheets) {
         QWidget form;
         form.resize(200, 200);
