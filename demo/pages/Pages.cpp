@@ -7,6 +7,7 @@
 #include "pages/DatesPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
+#include "pages/HelpersPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/OpenWindowsPage.h"
 #include "pages/PrintersPage.h"
@@ -35,6 +36,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<RemindersPage>(desk));
     pages.push_back(std::make_unique<DatesPage>(desk));
     pages.push_back(std::make_unique<CalculatorPage>(desk));
+    pages.push_back(std::make_unique<HelpersPage>(desk));
     return pages;
 }
 

@@ -86,6 +86,14 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     std::int32_t ScrollBarWidth() const;
 
+    /// Undoes HighlightHeading.
+    ///
+    /// The control shows the background of its container; a label loses its border, whoever gave
+    /// it. Other kinds of control are left as they are.
+    /// @param UseBlack  black text; false for the text colour of forms, which is the one to use
+    ///     where forms are dark
+    void UnhighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool UseBlack = true);
+
     /// Parks a text under a key, or replaces the text and type of the bin with exactly this key.
     ///
     /// A key that differs from an existing one in letter case only is refused: the refusal beeps
@@ -167,6 +175,18 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     std::u16string SpecialMode() const;
     void SpecialMode(TextIn value);
 
+    /// Marks the caption of a field, in the highlight colours given to InitOtherSettings.
+    ///
+    /// A label, an option button or a check box; any other kind of control is left as it is. No
+    /// control, or one that is gone, is logged with "Error in Utils.HighlightHeading ".
+    /// @param EditCtr  AsHeading(&label)
+    /// @param bDemoBlue  has no effect
+    /// @param iBorderStyle  0 for a label without a border; any other value draws a thin line
+    ///
+    ///     utils->HighlightHeading(AsHeading(&providerLabel));
+    void HighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool bDemoBlue = false,
+                          std::int16_t iBorderStyle = 1);
+
     Color FormSkinColor() const;
 
     /// The current printers collection; null when none was built.
@@ -189,7 +209,26 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
                                                                       bool ExcludeSerial = false);
 
     Color RequiredFieldBackColor() const;
+
+    /// True while the key is down, at the left or the right; false without a desktop.
+    bool ShiftPressed() const;
+    bool AltPressed() const;
+    bool CtrlPressed() const;
+
+    /// Takes the close button off a window of the host's.
+    ///
+    /// Its menu and Alt+F4 do not close it either; Escape still ends a QDialog. The host can close,
+    /// hide or destroy it as ever, and neither the end of the program nor that of the session waits
+    /// for it. The window flag of the close button, set again, undoes this.
+    /// @param hwnd  the window's id; one that no window of this program has does nothing
+    ///
+    ///     utils->KillCloseButton(static_cast<std::int32_t>(window.winId()));
+    void KillCloseButton(std::int32_t hwnd);
+
     std::u16string ExeFileStamp() const;
+
+    /// Waits without handling any event; not at all for 0 and below.
+    void Sleep(std::int32_t MilliSeconds);
 
     /// Shows a message box and waits for its answer.
     ///
@@ -213,6 +252,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Works before InitUtils and never throws. A line that cannot be written is lost with a beep,
     /// and in debug mode with a message.
     void LogError(TextIn strError) noexcept;
+
+    /// Chooses the first entry of a combo box that matches a text; without one the box stays as it
+    /// is.
+    ///
+    /// A fault is logged with " | Function: FindInCombo | Error: #" and its number.
+    /// @param blnPartialMatch  finds entries that contain the text; the empty text is contained in
+    ///     every entry but the empty one
+    /// @param blnMatchCase  false finds texts that differ in letter case, too
+    /// @param blnShowErrors  tells the user about a fault, too
+    /// @return the entry's position from 0; -1 when none matches, and after a fault
+    ///
+    ///     utils->FindInCombo(AsComboBox(&providers), u"ADAMS", true, false);
+    std::int32_t FindInCombo(const std::shared_ptr<ComboBox>& cboComboBox, TextIn strStringToFind,
+                             bool blnPartialMatch = false, bool blnMatchCase = true,
+                             bool blnShowErrors = false);
 
     /// True when every character is a letter from A to Z, capital or small; true for an empty text.
     bool IsAlpha(TextIn strText) const;
@@ -241,6 +295,19 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// True for the code of a colon, circumflex, grave accent or vertical bar, of a control
     /// character other than line feed and carriage return, and for every code from 127 on.
     bool IsUnwantedChar(std::int32_t locChar) const;
+
+    /// Fills a combo box anew; no entry is chosen then.
+    ///
+    /// @param Items  parted by ":", which may also close the last one; the empty text empties the
+    ///     box
+    /// @param bMaxLength  makes the box and its drop-down as wide as the longest entry needs,
+    /// within
+    ///     the screen; they are never made narrower
+    /// @return true when the box was filled; a fault is logged with "Error in Utils.FillCombo "
+    ///
+    ///     utils->FillCombo(u"Dr. Adams:Dr. Baker:Dr. Clark", AsComboBox(&providers), true);
+    bool FillCombo(TextIn Items, const std::shared_ptr<ComboBox>& cboComboBox,
+                   bool bMaxLength = false);
 
     /// True for the code of a character that may be typed into a date: a digit, "/" and backspace.
     /// Throws InvalidArgument for what is no code of a character, below 0 or above 255.
@@ -273,9 +340,27 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     utils->ConvertHDate(u"60000,43200");  // 04/10/2005 12:00:00 PM
     std::u16string ConvertHDate(TextIn HDate);
 
+    /// Gives a control a font of at least a size.
+    ///
+    /// Where the font comes out smaller, as one with a few fixed sizes may, it is asked for in
+    /// steps of 0.1 points more, 10 points at most. A font that does not get there either keeps the
+    /// size as it was asked for.
+    /// @param ob  FontOf(&widget)
+    /// @param fontSize  points, above 0 and up to 2160; any other is a fault, and nothing is
+    /// changed
+    /// @return true when the font reports the size or more
+    bool SetFontProperties(const std::shared_ptr<ControlFont>& ob, TextIn fontName = u"Tahoma",
+                           float fontSize = 7.0F);
+
     /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                         std::u16string& strRight);
+
+    /// Gives a grid one of nine fonts: "0" to "2" are 8 points plain, bold and italic, "3" to "5"
+    /// the same at 10 points, "6" to "8" at 12. Any other code changes nothing.
+    ///
+    ///     utils->GridSetFontObject(GridFontOf(&grid), u"5");  // 10 points, italic
+    void GridSetFontObject(const std::shared_ptr<GridFont>& GridFontObject, TextIn FontCode);
 
     /// Lets the user choose a day from a calendar.
     ///
@@ -379,6 +464,14 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// The entities that the user may see, as the server sent them; stored for the host.
     void EntityListForUser(TextIn value);
     std::u16string EntityListForUser() const;
+
+    /// True for a key that opens a look-up: the LookupKey or LookupKey1 of the current system
+    /// preferences, of which the low 16 bits count. Throws ObjectNotSet without preferences.
+    bool IsLookupKey(std::int16_t CodeKey) const;
+
+    /// "1" for the LookupKey, else "2" for the LookupKey1 and empty for any other key. Throws
+    /// ObjectNotSet without preferences.
+    std::u16string ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const;
 
     /// ShowSelection, beside a button or cell.
     std::u16string ShowSelectionAndCalculateCoordinates(

@@ -4,5 +4,9 @@ namespace halvek {
 
 OwnerForm::~OwnerForm() = default;
 PopupTarget::~PopupTarget() = default;
+HeadingControl::~HeadingControl() = default;
+ControlFont::~ControlFont() = default;
+GridFont::~GridFont() = default;
+ComboBox::~ComboBox() = default;
 
 }  // namespace halvek

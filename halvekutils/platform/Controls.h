@@ -1,9 +1,14 @@
 #pragma once
 
+#include <halvekutils/base/Color.h>
 #include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Geometry.h>
 
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace halvek {
 
@@ -52,6 +57,93 @@ class HALVEK_EXPORT PopupTarget {
     PopupTarget() = default;
     PopupTarget(const PopupTarget&) = default;
     PopupTarget& operator=(const PopupTarget&) = default;
+};
+
+/// What a heading is: highlighting knows these three kinds of control.
+enum class HeadingKind { Other, Label, OptionButton, CheckBox };
+
+/// How a heading is drawn.
+struct HeadingLook {
+    std::optional<Color> back;  ///< nothing: the container's background shows through
+    Color fore = kBlack;
+    bool border = false;  ///< a thin line around a label; other kinds have none of their own
+
+    friend bool operator==(const HeadingLook&, const HeadingLook&) = default;
+};
+
+/// The caption of a field, a label, option button or check box, that can be highlighted.
+///
+/// Passed as a shared pointer. The members throw ObjectNotSet once the control is gone.
+class HALVEK_EXPORT HeadingControl {
+  public:
+    virtual ~HeadingControl();
+
+    virtual HeadingKind Kind() const = 0;
+    virtual void Show(const HeadingLook& look) = 0;
+
+  protected:
+    HeadingControl() = default;
+    HeadingControl(const HeadingControl&) = default;
+    HeadingControl& operator=(const HeadingControl&) = default;
+};
+
+/// The font of a control. Passed as a shared pointer. The members throw ObjectNotSet once the
+/// control is gone.
+class HALVEK_EXPORT ControlFont {
+  public:
+    virtual ~ControlFont();
+
+    virtual void Name(TextIn face) = 0;
+
+    /// The size in points: what is asked for, and what the font really has, which may differ.
+    virtual void Size(float points) = 0;
+    virtual float Size() const = 0;
+
+  protected:
+    ControlFont() = default;
+    ControlFont(const ControlFont&) = default;
+    ControlFont& operator=(const ControlFont&) = default;
+};
+
+/// The font of a grid. Passed as a shared pointer. The members throw ObjectNotSet once the grid is
+/// gone.
+class HALVEK_EXPORT GridFont {
+  public:
+    virtual ~GridFont();
+
+    virtual void SetSize(std::int16_t points) = 0;
+    virtual void SetBold(bool bold) = 0;
+    virtual void SetItalic(bool italic) = 0;
+
+  protected:
+    GridFont() = default;
+    GridFont(const GridFont&) = default;
+    GridFont& operator=(const GridFont&) = default;
+};
+
+/// A combo box. Positions count from 0. Passed as a shared pointer. The members throw ObjectNotSet
+/// once the box is gone.
+class HALVEK_EXPORT ComboBox {
+  public:
+    virtual ~ComboBox();
+
+    virtual std::int32_t ListCount() const = 0;
+    virtual std::u16string List(std::int32_t index) const = 0;
+
+    /// Chooses an entry.
+    virtual void ListIndex(std::int32_t index) = 0;
+
+    /// Replaces all entries; none is chosen. The views are valid for the call only.
+    virtual void SetItems(const std::vector<TextIn>& items) = 0;
+
+    /// Makes the box and its drop-down wide enough for the longest entry, as far as the screen has
+    /// room, and never narrower than they are.
+    virtual void WidenToItems() = 0;
+
+  protected:
+    ComboBox() = default;
+    ComboBox(const ComboBox&) = default;
+    ComboBox& operator=(const ComboBox&) = default;
 };
 
 }  // namespace halvek

@@ -30,6 +30,12 @@ Rect Desktop::ScreenRectAt(Point) const {
     return ScreenRect();
 }
 
+HeldKeys Desktop::KeysHeld() const {
+    return {};
+}
+
+void Desktop::RemoveCloseButton(std::int32_t) {}
+
 std::unique_ptr<PrinterSource> Desktop::Printers() {
     return nullptr;
 }

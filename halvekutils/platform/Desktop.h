@@ -44,6 +44,13 @@ class HALVEK_EXPORT TextMeter {
 /// The icon of a stock message.
 enum class StockIcon { None, Critical };
 
+/// Which of the modifier keys are down.
+struct HeldKeys {
+    bool shift = false;
+    bool alt = false;
+    bool ctrl = false;
+};
+
 /// What the library asks of the desktop besides its own dialogs.
 class HALVEK_EXPORT Desktop : public TextMeter {
   public:
@@ -72,6 +79,14 @@ class HALVEK_EXPORT Desktop : public TextMeter {
 
     /// What the window frame of a dialog adds to its inner size.
     virtual Size FrameSize() const = 0;
+
+    /// The modifier keys that are down at this moment; none unless overridden.
+    virtual HeldKeys KeysHeld() const;
+
+    /// Takes the close button off a window, which refuses the user's close requests from then on.
+    /// Nothing for a number that no window of this process has.
+    /// @param window  the window's 32-bit id
+    virtual void RemoveCloseButton(std::int32_t window);
 
     /// A source for one build of the printers collection; null where the desktop knows no printers.
     virtual std::unique_ptr<PrinterSource> Printers();

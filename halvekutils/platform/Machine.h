@@ -3,6 +3,7 @@
 #include <halvekutils/base/DateText.h>
 #include <halvekutils/base/Export.h>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -21,6 +22,9 @@ class HALVEK_EXPORT Machine {
 
     /// The local wall clock in whole seconds.
     virtual DateTime Now() = 0;
+
+    /// Lets time pass without handling any event.
+    virtual void Sleep(std::chrono::milliseconds time);
 
     /// The login name of the user the process acts for; empty when it cannot be found.
     virtual std::u16string LoginName() = 0;

@@ -6,6 +6,7 @@
 #include <memory>
 
 class QAbstractItemView;
+class QComboBox;
 class QModelIndex;
 class QWidget;
 
@@ -24,5 +25,30 @@ HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QWidget* widget);
 /// A cell of a grid or list as such a target: the part of it that the view shows. Null for a null
 /// view. The target is gone when the view is, or the cell's row or column.
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell);
+
+// Controls for the members of Utils that work on them; null for null. Each may be destroyed at any
+// time.
+
+/// The caption of a field, for HighlightHeading: a QLabel, QRadioButton or QCheckBox; any other
+/// widget is one that is left as it is.
+///
+/// The look outweighs the palettes and style sheets that the host has set; what these say of other
+/// things, fonts and margins above all, stays. Text on disabled controls is paler.
+HALVEK_EXPORT std::shared_ptr<HeadingControl> AsHeading(QWidget* control);
+
+/// A widget's font, for SetFontProperties. It reports the size that the screen shows, which is one
+/// of whole pixels: 6.75 for 7 points at 96 dots per inch.
+HALVEK_EXPORT std::shared_ptr<ControlFont> FontOf(QWidget* widget);
+
+/// The font of a grid's cells and headers, for GridSetFontObject.
+HALVEK_EXPORT std::shared_ptr<GridFont> GridFontOf(QAbstractItemView* grid);
+
+/// A combo box, for FillCombo and FindInCombo. A box that is widened gets at most half the screen's
+/// width.
+///
+/// One with 1000 entries or more no longer takes its width from them and, unless it has a style
+/// sheet of its own, drops down as a list with a scroll bar; otherwise it would take seconds to
+/// open.
+HALVEK_EXPORT std::shared_ptr<ComboBox> AsComboBox(QComboBox* box);
 
 }  // namespace halvek

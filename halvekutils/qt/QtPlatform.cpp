@@ -2,6 +2,7 @@
 #include <halvekutils/devices/CupsPrinters.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CloseBox.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
@@ -133,6 +134,17 @@ Size QtPlatform::FrameSize() const {
     const QSize added = owner->frameGeometry().size() - owner->geometry().size();
     if (added.height() <= 0) return kTypicalFrame;
     return {PixelsToTwips(added.width()), PixelsToTwips(added.height())};
+}
+
+HeldKeys QtPlatform::KeysHeld() const {
+    const Qt::KeyboardModifiers held = QGuiApplication::queryKeyboardModifiers();
+    return {held.testFlag(Qt::ShiftModifier), held.testFlag(Qt::AltModifier),
+            held.testFlag(Qt::ControlModifier)};
+}
+
+void QtPlatform::RemoveCloseButton(std::int32_t window) {
+    QWidget* const found = QWidget::find(static_cast<std::uint32_t>(window));
+    if (found != nullptr && found->isWindow()) RemoveCloseBox(*found);
 }
 
 std::unique_ptr<PrinterSource> QtPlatform::Printers() {

@@ -30,6 +30,8 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     Rect ScreenRect() const override;
     Rect ScreenRectAt(Point point) const override;
     Size FrameSize() const override;
+    HeldKeys KeysHeld() const override;
+    void RemoveCloseButton(std::int32_t window) override;
     std::unique_ptr<PrinterSource> Printers() override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
     void Show(const std::shared_ptr<Calculator>& calculator) override;

@@ -57,6 +57,14 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void SetScreenSize(Size size) { screen_ = size; }
     void SetFrameSize(Size size) { frame_ = size; }
 
+    /// The modifier keys that are down from now on, none at first.
+    void HoldKeys(HeldKeys keys) { keysHeld_ = keys; }
+    HeldKeys KeysHeld() const override { return keysHeld_; }
+
+    /// The windows that lost their close buttons, in the order of the calls.
+    const std::vector<std::int32_t>& WithoutCloseButton() const { return withoutCloseButton_; }
+    void RemoveCloseButton(std::int32_t window) override { withoutCloseButton_.push_back(window); }
+
     /// The workstation's printer connections, none at first; nullopt for a source that fails.
     void SetPrinterConnections(std::optional<std::vector<PrinterConnection>> connections);
     /// The workstation's printer list, empty at first.
@@ -86,6 +94,8 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     int beeps_ = 0;
     Size screen_ = {20490, 11520};  // 1366 by 768 pixels
     Size frame_ = {0, 450};
+    HeldKeys keysHeld_;
+    std::vector<std::int32_t> withoutCloseButton_;
     std::optional<std::vector<PrinterConnection>> connections_ = std::vector<PrinterConnection>();
     std::vector<InstalledPrinter> installedPrinters_;
 };

@@ -1,4 +1,5 @@
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CloseBox.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/MessageIcons.h>
 #include <halvekutils/qt/forms/Metrics.h>
@@ -174,10 +175,9 @@ void frmMessageBox::ApplyColors() {
 }
 
 void frmMessageBox::SetCloseBox() {
-    constexpr Qt::WindowFlags kFrame = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-    setWindowFlags(box_->HasCloseBox()
-                       ? kFrame | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint
-                       : kFrame);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    if (!box_->HasCloseBox()) RemoveCloseBox(*this);
 }
 
 void frmMessageBox::ShowModal() {

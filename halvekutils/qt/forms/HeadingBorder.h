@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace halvek {
+
+/// The thin line around a highlighted label. It is painted on top of the label and takes no room,
+/// so nothing on the form moves when it comes and goes.
+class HeadingBorder : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit HeadingBorder(QWidget& label);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+/// Draws the line around a control, or no longer.
+void SetHeadingBorder(QWidget& control, bool on);
+
+}  // namespace halvek
