@@ -1,6 +1,8 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/selection/SelectGrid.h>
 
@@ -20,6 +22,10 @@ class HALVEK_EXPORT Forms {
     virtual ~Forms();
 
     virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
+    /// Modal.
+    virtual void Show(const std::shared_ptr<ColorPalette>& palette) = 0;
+    /// Modeless, without taking the focus; called for every line, nothing happens when it is shown.
+    virtual void Show(const std::shared_ptr<DebugConsole>& console) = 0;
     /// Modal.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 

@@ -4,6 +4,8 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
+#include <halvekutils/qt/forms/frmColor.h>
+#include <halvekutils/qt/forms/frmDebug.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
 
@@ -54,6 +56,7 @@ QString WithPlainLineEnds(TextIn text) {
 
 struct QtPlatform::Private {
     std::vector<std::unique_ptr<frmMessageBox>> modeless;
+    std::unique_ptr<frmDebug> debug;
 };
 
 QtPlatform::QtPlatform() : d_(std::make_unique<Private>()) {
@@ -162,6 +165,17 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         Qt::QueuedConnection);
     window->ShowModeless();
     box->ShownModeless();
+}
+
+void QtPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
+    frmColor(palette, *this).ShowModal();
+}
+
+void QtPlatform::Show(const std::shared_ptr<DebugConsole>& console) {
+    if (d_->debug == nullptr || d_->debug->Console() != console) {
+        d_->debug = std::make_unique<frmDebug>(console);
+    }
+    d_->debug->ShowInBackground();
 }
 
 void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

@@ -32,6 +32,8 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     Size FrameSize() const override;
     std::unique_ptr<PrinterSource> Printers() override;
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<ColorPalette>& palette) override;
+    void Show(const std::shared_ptr<DebugConsole>& console) override;
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:

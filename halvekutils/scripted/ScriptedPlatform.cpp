@@ -66,8 +66,15 @@ ScriptedPlatform::~ScriptedPlatform() {
 void ScriptedPlatform::OnMessageBox(MessageBoxAnswer answer) {
     messageBoxAnswers_.push_back(std::move(answer));
 }
+void ScriptedPlatform::OnColorPalette(ColorPaletteAnswer answer) {
+    colorPaletteAnswers_.push_back(std::move(answer));
+}
 void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
     selectionAnswers_.push_back(std::move(answer));
+}
+
+std::size_t ScriptedPlatform::AnswersLeft() const {
+    return messageBoxAnswers_.size() + colorPaletteAnswers_.size() + selectionAnswers_.size();
 }
 
 void ScriptedPlatform::SetPrinterConnections(
@@ -118,6 +125,11 @@ void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality mod
     std::erase(modeless_, box);
     TakeAnswer(messageBoxAnswers_, u"message box", box->Caption())(*box);
     box->Abandon();
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
+    TakeAnswer(colorPaletteAnswers_, u"dialog", ColorPalette::kCaption)(*palette);
+    palette->Cancel();
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

@@ -30,6 +30,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
         std::u16string title;
     };
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
+    using ColorPaletteAnswer = std::function<void(ColorPalette&)>;
     using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
@@ -37,19 +38,26 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     /// Queues what the user does with the next message box.
     void OnMessageBox(MessageBoxAnswer answer);
+    /// Queues what the user does in the next colour palette.
+    void OnColorPalette(ColorPaletteAnswer answer);
     /// Queues what the user does in the next selection dialog.
     void OnSelection(SelectionAnswer answer);
 
     /// The answers that no dialog has taken yet.
-    std::size_t AnswersLeft() const { return messageBoxAnswers_.size() + selectionAnswers_.size(); }
+    std::size_t AnswersLeft() const;
     /// The boxes that are on the screen modelessly.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
+
+    /// The debug console with its text; null until something has shown it.
+    const std::shared_ptr<DebugConsole>& Console() const { return console_; }
 
     int Beeps() const { return beeps_; }
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
 
     void SetScreenSize(Size size) { screen_ = size; }
     void SetFrameSize(Size size) { frame_ = size; }
+    /// Whether the debug console may be shown; it may at first.
+    void AllowModelessWindows(bool allow) { allowsModeless_ = allow; }
 
     /// The workstation's printer connections, none at first; nullopt for a source that fails.
     void SetPrinterConnections(std::optional<std::vector<PrinterConnection>> connections);
@@ -61,18 +69,24 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;
     std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
                                std::int32_t width) const override;
+    bool AllowsModelessWindows() const override { return allowsModeless_; }
     void Beep() override { ++beeps_; }
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
     Size ScreenSize() const override { return screen_; }
     Size FrameSize() const override { return frame_; }
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
+    void Show(const std::shared_ptr<ColorPalette>& palette) override;
+    void Show(const std::shared_ptr<DebugConsole>& console) override { console_ = console; }
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
+    std::deque<ColorPaletteAnswer> colorPaletteAnswers_;
     std::deque<SelectionAnswer> selectionAnswers_;
     std::vector<std::shared_ptr<MessageBox>> modeless_;
     std::vector<StockMessage> stockMessages_;
+    std::shared_ptr<DebugConsole> console_;
+    bool allowsModeless_ = true;
     int beeps_ = 0;
     Size screen_ = {20490, 11520};  // 1366 by 768 pixels
     Size frame_ = {0, 450};

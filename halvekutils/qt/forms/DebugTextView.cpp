@@ -1,0 +1,109 @@
+#include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
+
+#include <QTextCursor>
+
+#include <algorithm>
+#include <string_view>
+
+namespace halvek {
+
+namespace {
+
+constexpr int kPoints = 9;
+constexpr qint64 kInterval = 40;  // milliseconds
+constexpr qint64 kBurst = 10;
+
+/// A line's layout takes time with the square of its length and is made as a whole.
+constexpr int kLongestLine = 1000;
+
+constexpr char16_t kFirstPrintable = u' ';
+constexpr char16_t kControlPictures = 0x2400;
+
+bool EndsLine(char16_t character) {
+    return character == u'\r' || character == u'\n';
+}
+
+/// The text with a picture for each control character and very long lines cut.
+QString Shown(std::u16string_view text) {
+    QString shown;
+    shown.reserve(static_cast<qsizetype>(text.size() + text.size() / kLongestLine));
+    int length = 0;
+    for (char16_t character : text) {
+        const bool endsLine = EndsLine(character);
+        if (!endsLine && length >= kLongestLine && !QChar::isLowSurrogate(character)) {
+            shown += QLatin1Char('\n');
+            length = 0;
+        }
+        length = endsLine ? 0 : length + 1;
+        const bool isControl = character < kFirstPrintable && !endsLine && character != u'\t';
+        shown += QChar(isControl ? static_cast<char16_t>(kControlPictures + character) : character);
+    }
+    return shown;
+}
+
+}  // namespace
+
+bool RepaintBudget::Take() {
+    const qint64 now = clock_.elapsed();
+    if (spentUntil_ > now + kBurst * kInterval) return false;
+    spentUntil_ = std::max(spentUntil_, now) + kInterval;
+    return true;
+}
+
+DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
+    : QPlainTextEdit(parent), console_(console) {
+    setObjectName(QLatin1String("txtDebug"));
+    setAccessibleName(tr("Debug lines"));
+    setFont(ToQFont({u"Courier New", kPoints, false}));
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    later_.setSingleShot(true);
+    later_.setInterval(kInterval);
+    connect(&later_, &QTimer::timeout, this,
+            [this] { GuardEvent(u"frmDebug.txtDebug", [this] { ShowText(); }); });
+}
+
+bool DebugTextView::IsCurrent() const {
+    return replacements_ == console_.Replacements() && shown_ == console_.Text().size();
+}
+
+void DebugTextView::Refresh() {
+    if (later_.isActive() || IsCurrent()) return;
+    if (!budget_.Take()) {
+        later_.start();
+        return;
+    }
+    ShowText();
+    repaint();
+}
+
+void DebugTextView::ShowText() {
+    if (replacements_ != console_.Replacements()) {
+        clear();
+        shown_ = 0;
+        replacements_ = console_.Replacements();
+    }
+    const std::u16string_view text = console_.Text();
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(Shown(text.substr(shown_)));
+    shown_ = text.size();
+    moveCursor(QTextCursor::End);
+}
+
+bool DebugTextView::Find(const QString& text, QTextDocument::FindFlags direction) {
+    if (text.isEmpty()) return false;
+    if (find(text, direction)) return true;
+    const QTextCursor before = textCursor();
+    moveCursor(direction & QTextDocument::FindBackward ? QTextCursor::End : QTextCursor::Start);
+    if (find(text, direction)) return true;
+    setTextCursor(before);
+    return false;
+}
+
+}  // namespace halvek
