@@ -2,7 +2,9 @@
 
 #include "pages/CharacterFilterPage.h"
 #include "pages/CodesPage.h"
+#include "pages/ColoursPage.h"
 #include "pages/DataBinsPage.h"
+#include "pages/DebugPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
 #include "pages/MessageBoxPage.h"
@@ -31,6 +33,8 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<SettingsPage>(desk));
     pages.push_back(std::make_unique<OpenWindowsPage>(desk));
     pages.push_back(std::make_unique<RemindersPage>(desk));
+    pages.push_back(std::make_unique<ColoursPage>(desk));
+    pages.push_back(std::make_unique<DebugPage>(desk));
     return pages;
 }
 

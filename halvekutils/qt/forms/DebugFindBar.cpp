@@ -7,12 +7,19 @@
 
 namespace halvek {
 
+namespace {
+
+constexpr int kBoxWidth = 240;
+
+}  // namespace
+
 DebugFindBar::DebugFindBar(DebugTextView& text, QWidget* parent)
     : QWidget(parent), text_(text), txtFind_(new QLineEdit), lblFind_(new QLabel) {
     txtFind_->setObjectName(QLatin1String("txtFind"));
     txtFind_->setAccessibleName(tr("Find"));
     txtFind_->setPlaceholderText(tr("Find"));
     txtFind_->setToolTip(tr("F3 goes on, Shift+F3 goes back, Escape closes"));
+    txtFind_->setFixedWidth(kBoxWidth);
     lblFind_->setObjectName(QLatin1String("lblFind"));
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins({});

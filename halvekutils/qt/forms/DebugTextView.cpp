@@ -12,7 +12,7 @@ namespace halvek {
 namespace {
 
 constexpr int kPoints = 9;
-constexpr qint64 kInterval = 40;  // milliseconds
+constexpr qint64 kInterval = 40;  // milliseconds between repaints
 constexpr qint64 kBurst = 10;
 
 /// A line's layout takes time with the square of its length and is made as a whole.
@@ -63,7 +63,6 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     setUndoRedoEnabled(false);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     later_.setSingleShot(true);
-    later_.setInterval(kInterval);
     connect(&later_, &QTimer::timeout, this,
             [this] { GuardEvent(u"frmDebug.txtDebug", [this] { ShowText(); }); });
 }
@@ -75,7 +74,7 @@ bool DebugTextView::IsCurrent() const {
 void DebugTextView::Refresh() {
     if (later_.isActive() || IsCurrent()) return;
     if (!budget_.Take()) {
-        later_.start();
+        later_.start(0);
         return;
     }
     ShowText();

@@ -26,7 +26,7 @@ class RepaintBudget {
 /// txtDebug: shows the console's text, the newest line in view.
 ///
 /// A line shows at once, also while the program is too busy for its event loop. When thousands come
-/// in a second they show many at a time, the last a moment later.
+/// in a second they show many at a time, the last as soon as the event loop goes on.
 class DebugTextView : public QPlainTextEdit {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include <halvekutils/qt/forms/DebugFindBar.h>
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmDebug.h>
 
@@ -98,6 +99,12 @@ void frmDebug::BuildLayout() {
     rows->addLayout(bar);
     rows->addWidget(txtDebug_, 1);
     rows->addWidget(findBar_);
+    OutlineBoxes();
+}
+
+void frmDebug::OutlineBoxes() {
+    const QPalette outlined = WithVisibleOutline(palette());
+    for (QWidget* const box : {chkNoLog_, chkToFile_, Check1_}) box->setPalette(outlined);
 }
 
 void frmDebug::BuildShortcuts() {
@@ -136,6 +143,7 @@ QWidget* frmDebug::HostWindow() const {
 
 bool frmDebug::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) KeepUsable();
+    if (event->type() == QEvent::PaletteChange) OutlineBoxes();
     return QWidget::event(event);
 }
 

@@ -43,6 +43,7 @@ class frmDebug : public QWidget {
     QCheckBox* MakeBox(const char* name, const QString& caption, void (DebugConsole::*set)(bool));
     template <class Act>
     QPushButton* MakeButton(const char* name, const QString& caption, Act act);
+    void OutlineBoxes();
     void PlaceInCorner();
     void KeepUsable();
     void Sync();
