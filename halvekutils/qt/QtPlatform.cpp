@@ -173,7 +173,7 @@ void QtPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
 
 void QtPlatform::Show(const std::shared_ptr<DebugConsole>& console) {
     if (d_->debug == nullptr || d_->debug->Console() != console) {
-        d_->debug = std::make_unique<frmDebug>(console);
+        d_->debug = std::make_unique<frmDebug>(console, *this);
     }
     d_->debug->ShowInBackground();
 }

@@ -12,7 +12,7 @@ namespace halvek {
 namespace {
 
 constexpr int kPoints = 9;
-constexpr qint64 kInterval = 40;  // milliseconds between repaints
+constexpr int kInterval = 40;  // milliseconds between repaints
 constexpr qint64 kBurst = 10;
 
 /// A line's layout takes time with the square of its length and is made as a whole.
@@ -63,8 +63,12 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     setUndoRedoEnabled(false);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     later_.setSingleShot(true);
-    connect(&later_, &QTimer::timeout, this,
-            [this] { GuardEvent(u"frmDebug.txtDebug", [this] { ShowText(); }); });
+    connect(&later_, &QTimer::timeout, this, [this] {
+        GuardEvent(u"frmDebug.txtDebug", [this] {
+            ShowText();
+            sinceLater_.start();
+        });
+    });
 }
 
 bool DebugTextView::IsCurrent() const {
@@ -74,7 +78,8 @@ bool DebugTextView::IsCurrent() const {
 void DebugTextView::Refresh() {
     if (later_.isActive() || IsCurrent()) return;
     if (!budget_.Take()) {
-        later_.start(0);
+        const bool justShown = sinceLater_.isValid() && !sinceLater_.hasExpired(kInterval);
+        later_.start(justShown ? kInterval : 0);
         return;
     }
     ShowText();

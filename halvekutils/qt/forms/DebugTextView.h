@@ -49,6 +49,7 @@ class DebugTextView : public QPlainTextEdit {
     std::size_t shown_ = 0;  ///< characters of the console's text
     RepaintBudget budget_;
     QTimer later_;
+    QElapsedTimer sinceLater_;
 };
 
 }  // namespace halvek

@@ -2,14 +2,12 @@
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/Metrics.h>
-#include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmDebug.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QThread>
 #include <QVBoxLayout>
@@ -38,7 +36,7 @@ bool ProgramIsLeaving(const QWindow* console) {
 
 }  // namespace
 
-frmDebug::frmDebug(std::shared_ptr<DebugConsole> console)
+frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop)
     : console_(std::move(console)),
       hostWindow_(QApplication::activeWindow()),
       txtDebug_(new DebugTextView(*console_, this)),
@@ -52,6 +50,7 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console)
     setAttribute(Qt::WA_ShowWithoutActivating);
     BuildLayout();
     BuildShortcuts();
+    PlaceInCorner(desktop);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
         if (now != nullptr && now->window() != this) hostWindow_ = now->window();
     });
@@ -121,20 +120,18 @@ void frmDebug::BuildShortcuts() {
 
 void frmDebug::ShowInBackground() {
     if (isVisible() || ProgramIsLeaving(windowHandle())) return;
-    if (!std::exchange(placed_, true)) PlaceInCorner();
     if (windowHandle() != nullptr) windowHandle()->setTransientParent(nullptr);
     show();
 }
 
 // Out of the way of the windows that people work in.
-void frmDebug::PlaceInCorner() {
-    resize(kSize);
-    const QScreen* const screen = CurrentScreen();
-    if (screen == nullptr) return;
-    const QRect usable = screen->availableGeometry();
-    resize(kSize.boundedTo(usable.size()));
-    const QMargins frame(0, 0, kMargin, kMargin);
-    move(usable.marginsRemoved(frame).bottomRight() - QPoint(width(), height()));
+void frmDebug::PlaceInCorner(const Desktop& desktop) {
+    const Size added = desktop.FrameSize();
+    const QSize frame(TwipsToPixels(added.width), TwipsToPixels(added.height));
+    const QRect usable = ToQRect(desktop.ScreenRect());
+    const QSize outer = (kSize + frame).boundedTo(usable.size());
+    resize(outer - frame);
+    move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
 }
 
 QWidget* frmDebug::HostWindow() const {

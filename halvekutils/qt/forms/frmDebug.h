@@ -1,6 +1,7 @@
 #pragma once
 
 #include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/platform/Desktop.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -23,7 +24,8 @@ class frmDebug : public QWidget {
     Q_OBJECT
 
   public:
-    explicit frmDebug(std::shared_ptr<DebugConsole> console);
+    /// `desktop` knows the screen.
+    frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop);
     ~frmDebug() override;
 
     const std::shared_ptr<DebugConsole>& Console() const { return console_; }
@@ -44,7 +46,7 @@ class frmDebug : public QWidget {
     template <class Act>
     QPushButton* MakeButton(const char* name, const QString& caption, Act act);
     void OutlineBoxes();
-    void PlaceInCorner();
+    void PlaceInCorner(const Desktop& desktop);
     void KeepUsable();
     void Sync();
     void SyncOnTop();
@@ -56,7 +58,6 @@ class frmDebug : public QWidget {
     QCheckBox* chkNoLog_;
     QCheckBox* chkToFile_;
     QCheckBox* Check1_;
-    bool placed_ = false;
 };
 
 }  // namespace halvek
