@@ -1,0 +1,60 @@
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/core/DebugConsole.h>
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+namespace halvek {
+namespace {
+
+struct DebugConsoleFormTest : FormTest {
+    void SetUp() override {
+        utils_->InitUtils(u"", u"", u"", true, u"");
+        utils_->ClearDebug();
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            if (window->objectName() == "frmDebug") window_ = window;
+        text_ = &Find<QPlainTextEdit>(*window_, "txtDebug");
+    }
+    bool EndsWith(const QString& end) {
+        const QScrollBar& bar = *text_->verticalScrollBar();
+        const auto isAtEnd = [&] { return bar.value() == bar.maximum(); };
+        return Soon([&] { return isAtEnd() && text_->toPlainText().endsWith(end); });
+    }
+
+    QWidget* window_ = nullptr;
+    QPlainTextEdit* text_ = nullptr;
+};
+
+TEST_F(DebugConsoleFormTest, TheNewestLineShowsHoweverManyOrLongTheyAre) {
+    for (int i = 0; i < 5000; ++i) utils_->ShowInDebug(QString::number(i));
+    EXPECT_TRUE(EndsWith("\n4998\n4999\n"));
+    CloseRequest(*window_);
+    utils_->ShowInDebug(QString(3'000'000, 'x'));
+    EXPECT_TRUE(window_->isVisible() && EndsWith("xxx\n"));
+    utils_->ShowInDebug(std::u16string(u"a\0\x1b\tb", 5));
+    EXPECT_TRUE(EndsWith("<<<<<CLEARED>>>>>>a\u2400\u241b\tb\n"));
+}
+
+TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
+    const User user([&](QDialog& dialog) {
+        utils_->ShowInDebug(u"one two");
+        window_->activateWindow();
+        EXPECT_TRUE(Soon([&] { return window_->isActiveWindow(); }));
+        Click(*window_, Find(*window_, "chkNoLog"));
+        EXPECT_TRUE(EndsWith("one two\n<<<<<LOG STOPPED>>>>>\n"));
+        Click(*window_, Find(*window_, "Check1"));
+        EXPECT_TRUE(window_->isVisible() && DebugConsole::Current()->KeptOnTop());
+        PressKey(*window_, Qt::CTRL | Qt::Key_F);
+        QTest::keyClicks(&Find<QLineEdit>(*window_, "txtFind"), "TWO");
+        EXPECT_EQ(text_->textCursor().selectedText(), "two");
+        PressKey(*window_, Qt::Key_F7);
+        EXPECT_TRUE(Soon([&] { return text_->toPlainText().isEmpty(); }));
+        PressKey(dialog, Qt::Key_Return);
+    });
+    utils_->ShowMsgBox(u"Look at the console", mbOkOnly, mbNoIcon, u"");
+}
+
+}  // namespace
+}  // namespace halvek
