@@ -75,19 +75,6 @@ TEST_F(DebugConsoleTest, ItsTextIsSavedToAFileThatCanBeDeleted) {
     std::filesystem::create_directory(file);
     console.SaveToFile();
     console.KillLogFile();
-    EXPECT_EQ(Log(), "(missing)");
-}
-
-/// A desktop that cannot show the console.
-struct BrokenDesktop : ScriptedPlatform {
-    using ScriptedPlatform::Show;
-    void Show(const std::shared_ptr<DebugConsole>&) override { throw std::bad_alloc(); }
-};
-
-TEST_F(DebugConsoleTest, ADesktopThatCannotShowItIsLogged) {
-    const BrokenDesktop broken;
-    utils_->ShowInDebug(u"lost");
-    EXPECT_EQ(Log(), kStamp + std::string("Can not display Debug windowOut of memory\r\n"));
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 #include "tests/FakeServices.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/dialogs/ColorPaletteLayout.h>
-
 namespace halvek {
 namespace {
 
@@ -19,13 +17,11 @@ TEST(ColorPalette, ShowsTheFirstEntryAndFromTheSecondToTheLastButTwoTheUsedOnes)
         {{-1, Texts{u"8", u"9", u"1", u"2", u"3", u"4"}}, {{1, 1}, {2, 2}}},
     };
     FakeServices session;
-    for (const auto& [colors, cells] : cases) {
+    for (const auto& [colors, cells] : cases)
         EXPECT_EQ(ColorPalette(colors, {}, session).Cells(), cells);
-    }
     EXPECT_EQ(session.logged, Texts{u"Error in Utils.ShowColor color 2: Overflow"});
-    for (const StringArray& colors : {StringArray(), {1, 0}, {2, 9}, {-9, 0}}) {
+    for (const StringArray& colors : {StringArray(), {1, 0}, {2, 9}, {-9, 0}})
         EXPECT_EQ(FaultOf([&] { ColorPalette palette(colors, {}, session); }), 9);
-    }
 }
 
 TEST(ColorPalette, KeysMoveOverTheRowsAndChoose) {
@@ -42,15 +38,8 @@ TEST(ColorPalette, KeysMoveOverTheRowsAndChoose) {
     }
     palette.Changed = [&] { EXPECT_FALSE(palette.IsOpen() || !session.shown.empty()); };
     palette.KeyDown(Key::Enter);
-    palette.Click(1);
     EXPECT_EQ(palette.ReturnValue(), u"0\t2");
     EXPECT_EQ(session.shown, Texts{u"CLICKED COLOR 2"});
-}
-
-TEST(ColorPalette, RowsThatTheScreenHasNoRoomForAreScrolledTo) {
-    EXPECT_EQ(PaletteCellPlace(9), (Rect{1250, 650, 600, 600}));
-    EXPECT_EQ(LayOutColorPalette(6, 200, {9000, 4500}, {50, 620}).form, (Size{3930, 4500}));
-    EXPECT_EQ(LayOutColorPalette(6, 200, {9000, 4500}, {50, 621}).rowsOnPage, 5);
 }
 
 TEST_F(CleanState, ShowColorReturnsTheColourAndItsIndexAndLogsItsFaults) {
@@ -63,8 +52,6 @@ TEST_F(CleanState, ShowColorReturnsTheColourAndItsIndexAndLogsItsFaults) {
         palette.Click(2);
     });
     EXPECT_EQ(utils->ShowColor(70, -1, 90), u"255\t3");
-    desktop_.OnColorPalette([](ColorPalette& palette) { palette.KeyDown(Key::Right); });
-    EXPECT_EQ(utils->ShowColorAndCalculateCoordinates(), u"");
     EXPECT_TRUE(ReadFile(machine_.ownFolder / "Error.Log")
                     .ends_with("\tError in Utils.ShowColor Subscript out of range: color 1\r\n"));
 }

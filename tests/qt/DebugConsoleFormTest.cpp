@@ -4,7 +4,6 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollBar>
 
 namespace halvek {
 namespace {
@@ -13,14 +12,13 @@ struct DebugConsoleFormTest : FormTest {
     void SetUp() override {
         utils_->InitUtils(u"", u"", u"", true, u"");
         utils_->ClearDebug();
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == "frmDebug") window_ = window;
+        for (QWidget* const widget : QApplication::topLevelWidgets())
+            if (widget->objectName() == "frmDebug") window_ = widget;
         text_ = &Find<QPlainTextEdit>(*window_, "txtDebug");
     }
     bool EndsWith(const QString& end) {
-        const QScrollBar& bar = *text_->verticalScrollBar();
-        const auto isAtEnd = [&] { return bar.value() == bar.maximum(); };
-        return Soon([&] { return isAtEnd() && text_->toPlainText().endsWith(end); });
+        return Soon([&] { return text_->toPlainText().endsWith(end); }) &&
+               text_->viewport()->rect().contains(text_->cursorRect());
     }
 
     QWidget* window_ = nullptr;
