@@ -76,7 +76,7 @@ QLayout* ColoursPage::MakeButtons() {
 }
 
 QString ColoursPage::Choose(Opening opening) {
-    const QString chosen = Open(opening);
+    QString chosen = Open(opening);
     returned_->setText(Shown(chosen));
     if (!chosen.isEmpty()) Colour(table_.currentRow(), chosen);
     return chosen;
@@ -86,14 +86,14 @@ QString ColoursPage::Open(Opening opening) {
     Utils& library = desk_.Library();
     const auto form = AsOwnerForm(this);
     if (opening == Opening::Centred) {
-        const QString chosen = ToQString(library.ShowColor(-1, -1, -1, form));
+        QString chosen = ToQString(library.ShowColor(-1, -1, -1, form));
         desk_.Calls().Add("ShowColor", Args(-1, -1, -1) << "the window", Shown(chosen));
         return chosen;
     }
     const bool isCell = opening == Opening::BesideCell;
     const QModelIndex cell = table_.model()->index(table_.currentRow(), kColour);
     const auto target = isCell ? Beside(&table_, cell) : Beside(choose_);
-    const QString chosen = ToQString(library.ShowColorAndCalculateCoordinates(target, form));
+    QString chosen = ToQString(library.ShowColorAndCalculateCoordinates(target, form));
     desk_.Calls().Add("ShowColorAndCalculateCoordinates",
                       {isCell ? "the cell" : "the button", "the window"}, Shown(chosen));
     return chosen;

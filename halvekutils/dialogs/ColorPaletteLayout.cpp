@@ -10,6 +10,7 @@ namespace {
 
 constexpr Size kCell = {600, 600};
 constexpr std::int32_t kFrameBorder = 50;
+constexpr std::int32_t kFrameBorders = 2 * kFrameBorder;
 constexpr std::int32_t kMargin = 90;
 
 }  // namespace
@@ -22,18 +23,22 @@ Rect PaletteCellPlace(int cell) {
             kCell.width, kCell.height};
 }
 
+int PaletteRowAt(std::int32_t top) {
+    return std::max(top - kFrameBorder, 0) / kCell.height;
+}
+
 std::int32_t PaletteHeight(int rows) {
-    return LimitedTwips(std::int64_t{rows} * kCell.height + 2 * kFrameBorder);
+    return LimitedTwips(std::int64_t{rows} * kCell.height + kFrameBorders);
 }
 
 ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth, Size screen,
                                       Size frame) {
     ColorPaletteLayout layout;
-    const std::int32_t space = screen.height - frame.height - 2 * kMargin - 2 * kFrameBorder;
+    const std::int32_t space = screen.height - frame.height - 2 * kMargin - kFrameBorders;
     layout.rowsOnPage = std::clamp(space / kCell.height, 1, std::max(rows, 1));
     layout.scrolls = rows > layout.rowsOnPage;
     layout.frame = {kMargin, kMargin,
-                    ColorPalette::kColumns * kCell.width + 2 * kFrameBorder +
+                    ColorPalette::kColumns * kCell.width + kFrameBorders +
                         (layout.scrolls ? scrollBarWidth : 0),
                     PaletteHeight(layout.rowsOnPage)};
     layout.inner = {layout.frame.Right() + kMargin, layout.frame.Bottom() + kMargin};

@@ -24,6 +24,9 @@ HALVEK_EXPORT ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrol
 /// Where a cell, numbered from 1, lies in Frame2 before scrolling.
 HALVEK_EXPORT Rect PaletteCellPlace(int cell);
 
+/// The row, from 0, that lies at a height in Frame2 before scrolling.
+HALVEK_EXPORT int PaletteRowAt(std::int32_t top);
+
 /// The height that rows of cells take in Frame2.
 HALVEK_EXPORT std::int32_t PaletteHeight(int rows);
 

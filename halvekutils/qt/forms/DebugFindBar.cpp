@@ -1,5 +1,6 @@
 #include <halvekutils/qt/forms/DebugFindBar.h>
 #include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/forms/EventGuard.h>
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -25,14 +26,10 @@ DebugFindBar::DebugFindBar(DebugTextView& text, QWidget* parent)
     row->setContentsMargins({});
     row->addWidget(txtFind_);
     row->addWidget(lblFind_, 1);
-    connect(txtFind_, &QLineEdit::textEdited, this, [this] {
-        // What was found goes on to match while more of it is typed.
-        QTextCursor cursor = text_.textCursor();
-        cursor.setPosition(cursor.selectionStart());
-        text_.setTextCursor(cursor);
-        FindNext();
-    });
-    connect(txtFind_, &QLineEdit::returnPressed, this, &DebugFindBar::FindNext);
+    connect(txtFind_, &QLineEdit::textEdited, this,
+            [this] { GuardEvent(u"frmDebug.txtFind_Change", [this] { FindTyped(); }); });
+    connect(txtFind_, &QLineEdit::returnPressed, this,
+            [this] { GuardEvent(u"frmDebug.txtFind_KeyPress", [this] { FindNext(); }); });
     hide();
 }
 
@@ -40,6 +37,14 @@ void DebugFindBar::Open() {
     show();
     txtFind_->setFocus(Qt::ShortcutFocusReason);
     txtFind_->selectAll();
+}
+
+// What was found may go on to match while more of it is typed.
+void DebugFindBar::FindTyped() {
+    QTextCursor cursor = text_.textCursor();
+    cursor.setPosition(cursor.selectionStart());
+    text_.setTextCursor(cursor);
+    FindNext();
 }
 
 void DebugFindBar::FindNext() {

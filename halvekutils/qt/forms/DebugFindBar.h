@@ -24,6 +24,7 @@ class DebugFindBar : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void FindTyped();
     void Tell(bool found);
 
     DebugTextView& text_;

@@ -15,7 +15,7 @@ constexpr int kPoints = 9;
 constexpr int kInterval = 40;  // milliseconds between repaints
 constexpr qint64 kBurst = 10;
 
-/// A line's layout takes time with the square of its length and is made as a whole.
+/// A line is laid out as a whole: one of megabytes would hold the program up.
 constexpr int kLongestLine = 1000;
 
 constexpr char16_t kFirstPrintable = u' ';
@@ -27,8 +27,9 @@ bool EndsLine(char16_t character) {
 
 /// The text with a picture for each control character and very long lines cut.
 QString Shown(std::u16string_view text) {
+    const auto size = static_cast<qsizetype>(text.size());
     QString shown;
-    shown.reserve(static_cast<qsizetype>(text.size() + text.size() / kLongestLine));
+    shown.reserve(size + size / kLongestLine);
     int length = 0;
     for (char16_t character : text) {
         const bool endsLine = EndsLine(character);

@@ -104,11 +104,10 @@ void PaletteView::ApplyLayout(const ColorPaletteLayout& layout) {
 }
 
 void PaletteView::MakeVisibleCells() {
-    const int top = verticalScrollBar()->value();
-    const int rowHeight = std::max(ToQRect(PaletteCellPlace(1)).height(), 1);
-    const int firstRow = std::max(top / rowHeight - 1, 0);
+    constexpr int kRowsBeyond = 2;  // two may show in part
+    const int firstRow = PaletteRowAt(PixelsToTwips(verticalScrollBar()->value()));
     const int first = firstRow * ColorPalette::kColumns + 1;
-    const int count = (rowsOnPage_ + 3) * ColorPalette::kColumns;
+    const int count = (rowsOnPage_ + kRowsBeyond) * ColorPalette::kColumns;
     for (int cell = first; cell < first + count && cell <= rules_.CellCount(); ++cell) {
         PaletteCellButton*& button = cells_[static_cast<std::size_t>(cell) - 1];
         if (button == nullptr) button = MakeCell(cell);
