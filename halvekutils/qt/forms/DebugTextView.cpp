@@ -18,28 +18,32 @@ constexpr qint64 kBurst = 10;
 /// A line is laid out as a whole: one of megabytes would hold the program up.
 constexpr int kLongestLine = 1000;
 
-constexpr char16_t kFirstPrintable = u' ';
-constexpr char16_t kControlPictures = 0x2400;
-
 bool EndsLine(char16_t character) {
     return character == u'\r' || character == u'\n';
 }
 
-/// The text with a picture for each control character and very long lines cut.
+bool IsControl(char16_t character) {
+    return character < u' ' && !EndsLine(character) && character != u'\t';
+}
+
+/// The text with control characters as their codes, as in "<27>", and very long lines cut.
 QString Shown(std::u16string_view text) {
     const auto size = static_cast<qsizetype>(text.size());
     QString shown;
     shown.reserve(size + size / kLongestLine);
     int length = 0;
-    for (char16_t character : text) {
+    for (const char16_t character : text) {
         const bool endsLine = EndsLine(character);
         if (!endsLine && length >= kLongestLine && !QChar::isLowSurrogate(character)) {
             shown += QLatin1Char('\n');
             length = 0;
         }
         length = endsLine ? 0 : length + 1;
-        const bool isControl = character < kFirstPrintable && !endsLine && character != u'\t';
-        shown += QChar(isControl ? static_cast<char16_t>(kControlPictures + character) : character);
+        if (IsControl(character)) {
+            shown += QStringLiteral("<%1>").arg(static_cast<int>(character));
+        } else {
+            shown += QChar(character);
+        }
     }
     return shown;
 }

@@ -52,7 +52,8 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
     BuildShortcuts();
     PlaceInCorner(desktop);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
-        if (now != nullptr && now->window() != this) hostWindow_ = now->window();
+        QWidget* const window = now == nullptr ? nullptr : now->window();
+        if (window != nullptr && window != this && !window->isModal()) hostWindow_ = window;
     });
     console_->Changed = [this] { Sync(); };
     Sync();
@@ -164,9 +165,7 @@ void frmDebug::SyncOnTop() {
     const bool keep = console_->KeptOnTop();
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == keep) return;
     overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, keep));
-    if (windowHandle() != nullptr) {
-        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, keep);
-    }
+    if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, keep);
 }
 
 }  // namespace halvek
