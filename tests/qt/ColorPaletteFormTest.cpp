@@ -20,11 +20,10 @@ struct ColorPaletteFormTest : FormTest {
 };
 
 TEST_F(ColorPaletteFormTest, KeysAndClicksChooseFromListsOfAnyLength) {
-    const auto click = [](QDialog& dialog) { Click(dialog, Find(dialog, "txtPalette_9")); };
     const std::tuple<int, User::Acts, const char*> cases[] = {
         {20, Keys({Qt::Key_Down, Qt::Key_Right, Qt::Key_Return}), "8\t8"},
         {20, Keys({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Enter}), "2\t2"},
-        {20, click, "9\t9"},
+        {20, [](QDialog& dialog) { Click(dialog, Find(dialog, "txtPalette_9")); }, "9\t9"},
         {10'000, Keys({Qt::Key_End, Qt::Key_Home, Qt::Key_End, Qt::Key_Return}), "10000\t10000"},
         {10'000, CloseRequest, ""},
     };

@@ -38,6 +38,7 @@ TEST_F(DebugConsoleFormTest, TheNewestLineShowsHoweverManyOrLongTheyAre) {
 TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
     const User user([&](QDialog& dialog) {
         utils_->ShowInDebug(u"one two");
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));  // until then it takes no focus
         window_->activateWindow();
         EXPECT_TRUE(Soon([&] { return window_->isActiveWindow(); }));
         Click(*window_, Find(*window_, "chkNoLog"));

@@ -121,8 +121,19 @@ void frmDebug::BuildShortcuts() {
 
 void frmDebug::ShowInBackground() {
     if (isVisible() || ProgramIsLeaving(windowHandle())) return;
-    if (windowHandle() != nullptr) windowHandle()->setTransientParent(nullptr);
+    winId();  // creates the window handle
+    windowHandle()->setTransientParent(nullptr);
+    // Not every window manager minds that a new window asks for no activation; one that takes no
+    // focus at all is left alone.
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
     show();
+}
+
+// The window stands and takes the focus again when it is clicked.
+void frmDebug::paintEvent(QPaintEvent* event) {
+    QWindow* const window = windowHandle();
+    if (window != nullptr) window->setFlag(Qt::WindowDoesNotAcceptFocus, false);
+    QWidget::paintEvent(event);
 }
 
 // Out of the way of the windows that people work in.

@@ -38,6 +38,7 @@ class frmDebug : public QWidget {
 
   protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void BuildLayout();
