@@ -25,7 +25,7 @@ constexpr Sample kSamples[] = {
 }  // namespace
 
 CalculatorPage::CalculatorPage(Desk& desk)
-    : Page("Calculat&or",
+    : Page("Calc&ulator",
            "Lets the user work out an amount. Press Enter in the field, or the button beside it."),
       desk_(desk),
       returned_(MakeReadOnlyLine()) {

@@ -3,8 +3,10 @@
 #include "pages/CalculatorPage.h"
 #include "pages/CharacterFilterPage.h"
 #include "pages/CodesPage.h"
+#include "pages/ColoursPage.h"
 #include "pages/DataBinsPage.h"
 #include "pages/DatesPage.h"
+#include "pages/DebugPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
 #include "pages/HelpersPage.h"
@@ -37,6 +39,8 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<DatesPage>(desk));
     pages.push_back(std::make_unique<CalculatorPage>(desk));
     pages.push_back(std::make_unique<HelpersPage>(desk));
+    pages.push_back(std::make_unique<ColoursPage>(desk));
+    pages.push_back(std::make_unique<DebugPage>(desk));
     return pages;
 }
 

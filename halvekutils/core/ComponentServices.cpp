@@ -1,5 +1,6 @@
 #include <halvekutils/core/ComponentServices.h>
 #include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/ErrorLog.h>
 
 namespace halvek {
@@ -9,8 +10,7 @@ namespace {
 class StateServices : public Services {
   public:
     void LogError(TextIn message) noexcept override { WriteErrorLog(State(), message); }
-    // The way to the debug console; no console shows these lines yet.
-    void ShowInDebug(TextIn) override {}
+    void ShowInDebug(TextIn text) override { DebugConsole::Current()->ShowInDebug(text); }
     bool DebugMode() const override { return State().debugMode; }
     std::u16string AppName() const override { return State().appName; }
     std::u16string SpecialMode() const override { return State().specialMode; }

@@ -1,4 +1,5 @@
 #include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/CodesCollection.h>
 #include <halvekutils/refdata/PrintersCollection.h>

@@ -12,6 +12,7 @@
 namespace halvek {
 
 class CodesCollection;
+class DebugConsole;
 class PrintersCollection;
 class SecurityItemsCollection;
 class Utils;
@@ -43,6 +44,7 @@ struct HALVEK_EXPORT ComponentState {
     std::u16string entityListForUser;
     std::u16string remoteSettings;
     std::shared_ptr<Utils> currentUtils;
+    std::shared_ptr<DebugConsole> debugConsole;
     std::u16string loginUserName;
     std::u16string logFolder;
     std::shared_ptr<CodesCollection> codes;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/dialogs/Calculator.h>
 #include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/dialogs/MessageBox.h>
@@ -25,6 +27,9 @@ class HALVEK_EXPORT Forms {
     /// Modal.
     virtual void Show(const std::shared_ptr<Calculator>& calculator) = 0;
     virtual void Show(const std::shared_ptr<Calendar>& calendar) = 0;
+    virtual void Show(const std::shared_ptr<ColorPalette>& palette) = 0;
+    /// Modeless, without taking the focus; called for every line, nothing happens when it is shown.
+    virtual void Show(const std::shared_ptr<DebugConsole>& console) = 0;
     /// Modal.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 

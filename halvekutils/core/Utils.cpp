@@ -1,5 +1,6 @@
 #include <halvekutils/core/ComponentServices.h>
 #include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/ErrorLog.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/core/UtilsPrivate.h>
@@ -135,10 +136,17 @@ void Utils::AppDataFolderCommon(TextIn value) {
     d_->appDataFolderCommon = std::u16string(value);
 }
 
-// Error log
+// Error log and debug console
 
 void Utils::LogError(TextIn strError) noexcept {
     WriteErrorLog(State(), strError);
+}
+
+void Utils::ShowInDebug(TextIn strText) {
+    ComponentServices().ShowInDebug(strText);
+}
+void Utils::ClearDebug() {
+    DebugConsole::Current()->ClearDebug();
 }
 
 }  // namespace halvek

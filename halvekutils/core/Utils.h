@@ -145,6 +145,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
                                   float& posTopUp, float& posTopDown,
                                   PopupEdge Edge = PopupEdge::Left);
 
+    /// Shows the debug console and empties it; does nothing outside debug mode.
+    void ClearDebug();
+
     /// Adds the server's serial printers, then the workstation's, to the current printers
     /// collection.
     ///
@@ -390,6 +393,14 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
         TextIn DefaultDate = {}, const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
         bool bNeedsConversions = false);
 
+    /// Adds one line to the debug console, a window that stays out of the user's way: it opens
+    /// without taking the focus and stands beside modal dialogs.
+    ///
+    /// Dropped outside debug mode, and without a desktop. The console keeps some 30,000 characters:
+    /// a line beyond that clears it first. What goes wrong is logged with "Can not display Debug
+    /// window".
+    void ShowInDebug(TextIn strText);
+
     /// Lets the user work out an amount on a four-function calculator.
     ///
     /// It works from left to right and shows results with two decimals. A fault is beeped and
@@ -472,6 +483,28 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// "1" for the LookupKey, else "2" for the LookupKey1 and empty for any other key. Throws
     /// ObjectNotSet without preferences.
     std::u16string ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const;
+
+    /// ShowColor, beside a button or cell: left edges aligned, below it when the screen has room,
+    /// else above. Without a target, or when it is gone, which is logged, the palette is centred.
+    ///
+    ///     auto chosen = utils->ShowColorAndCalculateCoordinates(Beside(&button));
+    std::u16string ShowColorAndCalculateCoordinates(
+        const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
+        const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr);
+
+    /// Lets the user choose one of the colours given to InitPrefs.
+    ///
+    /// Shown are entry 1 and, of entry 2 to the last but two, those above -1. A fault, such as
+    /// colours without an entry 1, is logged with "Error in Utils.ShowColor ".
+    /// @param posLeft, posTopUp, posTopDown  twips on the screen: where the palette's left edge
+    ///     lies, where it ends when it opens upwards and where it starts when it opens downwards;
+    ///     negative for not given, which centres it. It always lies wholly on the screen.
+    /// @param FormToRefresh  repainted when the palette ends; null for none
+    /// @return the colour, a tab and its index in the list; empty when none was chosen
+    ///
+    ///     utils->ShowColor(left, top, bottom)  // 255<TAB>7
+    std::u16string ShowColor(float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
+                             const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr);
 
     /// ShowSelection, beside a button or cell.
     std::u16string ShowSelectionAndCalculateCoordinates(

@@ -21,6 +21,10 @@ Desktop* Desktop::Install(Desktop* desktop) noexcept {
     return std::exchange(installedDesktop, desktop);
 }
 
+bool Desktop::AllowsModelessWindows() const {
+    return true;
+}
+
 Rect Desktop::ScreenRect() const {
     const Size size = ScreenSize();
     return {0, 0, size.width, size.height};

@@ -60,6 +60,10 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// Makes this the installed desktop; null for none. Returns the one that was installed before.
     static Desktop* Install(Desktop* desktop) noexcept;
 
+    /// Whether windows that are not modal may be shown, which the debug console is; true unless
+    /// overridden.
+    virtual bool AllowsModelessWindows() const;
+
     /// Sounds the system beep.
     virtual void Beep() = 0;
 

@@ -7,6 +7,8 @@
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
+#include <halvekutils/qt/forms/frmColor.h>
+#include <halvekutils/qt/forms/frmDebug.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
 
@@ -57,6 +59,7 @@ QString WithPlainLineEnds(TextIn text) {
 
 struct QtPlatform::Private {
     std::vector<std::unique_ptr<frmMessageBox>> modeless;
+    std::unique_ptr<frmDebug> debug;
 };
 
 QtPlatform::QtPlatform() : d_(std::make_unique<Private>()) {
@@ -184,6 +187,17 @@ void QtPlatform::Show(const std::shared_ptr<Calculator>& calculator) {
 
 void QtPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
     frmCalendar(calendar, *this).ShowModal();
+}
+
+void QtPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
+    frmColor(palette, *this).ShowModal();
+}
+
+void QtPlatform::Show(const std::shared_ptr<DebugConsole>& console) {
+    if (d_->debug == nullptr || d_->debug->Console() != console) {
+        d_->debug = std::make_unique<frmDebug>(console, *this);
+    }
+    d_->debug->ShowInBackground();
 }
 
 void QtPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

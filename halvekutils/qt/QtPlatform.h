@@ -36,6 +36,8 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
     void Show(const std::shared_ptr<Calculator>& calculator) override;
     void Show(const std::shared_ptr<Calendar>& calendar) override;
+    void Show(const std::shared_ptr<ColorPalette>& palette) override;
+    void Show(const std::shared_ptr<DebugConsole>& console) override;
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:

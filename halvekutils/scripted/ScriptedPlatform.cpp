@@ -72,13 +72,16 @@ void ScriptedPlatform::OnCalculator(CalculatorAnswer answer) {
 void ScriptedPlatform::OnCalendar(CalendarAnswer answer) {
     calendarAnswers_.push_back(std::move(answer));
 }
+void ScriptedPlatform::OnColorPalette(ColorPaletteAnswer answer) {
+    colorPaletteAnswers_.push_back(std::move(answer));
+}
 void ScriptedPlatform::OnSelection(SelectionAnswer answer) {
     selectionAnswers_.push_back(std::move(answer));
 }
 
 std::size_t ScriptedPlatform::AnswersLeft() const {
     return messageBoxAnswers_.size() + calculatorAnswers_.size() + calendarAnswers_.size() +
-           selectionAnswers_.size();
+           colorPaletteAnswers_.size() + selectionAnswers_.size();
 }
 
 void ScriptedPlatform::SetPrinterConnections(
@@ -139,6 +142,11 @@ void ScriptedPlatform::Show(const std::shared_ptr<Calculator>& calculator) {
 void ScriptedPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
     TakeAnswer(calendarAnswers_, u"calendar", DateOnlyText(calendar->MarkedDay()))(*calendar);
     calendar->Close();
+}
+
+void ScriptedPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
+    TakeAnswer(colorPaletteAnswers_, u"dialog", ColorPalette::kCaption)(*palette);
+    palette->Cancel();
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {

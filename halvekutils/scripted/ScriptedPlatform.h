@@ -32,6 +32,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
     using CalculatorAnswer = std::function<void(Calculator&)>;
     using CalendarAnswer = std::function<void(Calendar&)>;
+    using ColorPaletteAnswer = std::function<void(ColorPalette&)>;
     using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
@@ -43,6 +44,8 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void OnCalculator(CalculatorAnswer answer);
     /// Queues what the user does in the next calendar.
     void OnCalendar(CalendarAnswer answer);
+    /// Queues what the user does in the next colour palette.
+    void OnColorPalette(ColorPaletteAnswer answer);
     /// Queues what the user does in the next selection dialog.
     void OnSelection(SelectionAnswer answer);
 
@@ -51,11 +54,16 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     /// The boxes that are on the screen modelessly.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
+    /// The debug console with its text; null until something has shown it.
+    const std::shared_ptr<DebugConsole>& Console() const { return console_; }
+
     int Beeps() const { return beeps_; }
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
 
     void SetScreenSize(Size size) { screen_ = size; }
     void SetFrameSize(Size size) { frame_ = size; }
+    /// Whether the debug console may be shown; it may at first.
+    void AllowModelessWindows(bool allow) { allowsModeless_ = allow; }
 
     /// The modifier keys that are down from now on, none at first.
     void HoldKeys(HeldKeys keys) { keysHeld_ = keys; }
@@ -75,6 +83,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;
     std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
                                std::int32_t width) const override;
+    bool AllowsModelessWindows() const override { return allowsModeless_; }
     void Beep() override { ++beeps_; }
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
     Size ScreenSize() const override { return screen_; }
@@ -82,15 +91,20 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
     void Show(const std::shared_ptr<Calculator>& calculator) override;
     void Show(const std::shared_ptr<Calendar>& calendar) override;
+    void Show(const std::shared_ptr<ColorPalette>& palette) override;
+    void Show(const std::shared_ptr<DebugConsole>& console) override { console_ = console; }
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
     std::deque<CalculatorAnswer> calculatorAnswers_;
     std::deque<CalendarAnswer> calendarAnswers_;
+    std::deque<ColorPaletteAnswer> colorPaletteAnswers_;
     std::deque<SelectionAnswer> selectionAnswers_;
     std::vector<std::shared_ptr<MessageBox>> modeless_;
     std::vector<StockMessage> stockMessages_;
+    std::shared_ptr<DebugConsole> console_;
+    bool allowsModeless_ = true;
     int beeps_ = 0;
     Size screen_ = {20490, 11520};  // 1366 by 768 pixels
     Size frame_ = {0, 450};

@@ -49,7 +49,7 @@ start() {
 start_desktop() {
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
     unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_FONT_DPI
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -nolisten tcp -noreset \
         3>"$work/display" >"$work/Xvfb.log" 2>&1 &
     started+=($!)
     wait_until "the display starts" grep -q . "$work/display"

@@ -59,4 +59,12 @@ QColor ToQColor(Color color, const QPalette& palette) {
     return QColor(RedOf(color), GreenOf(color), BlueOf(color));
 }
 
+QPalette WithVisibleOutline(QPalette palette) {
+    constexpr int kOutlineTone = 150;  // per cent
+    const QColor text = palette.color(QPalette::Text);
+    const bool isDark = text.lightness() > palette.color(QPalette::Base).lightness();
+    if (isDark) palette.setColor(QPalette::Window, text.darker(kOutlineTone));
+    return palette;
+}
+
 }  // namespace halvek

@@ -28,4 +28,8 @@ QTextOption WrappingOf(const QString& text);
 /// A colour of the rules; those of the desktop's scheme come from the palette.
 QColor ToQColor(Color color, const QPalette& palette);
 
+/// A palette for drawing check boxes. Styles outline them in a dark tone of the window's colour,
+/// which a dark desktop would swallow.
+QPalette WithVisibleOutline(QPalette palette);
+
 }  // namespace halvek

@@ -1,4 +1,5 @@
 #include <halvekutils/qt/forms/ModalOwner.h>
+#include <halvekutils/qt/forms/frmDebug.h>
 
 #include <QApplication>
 #include <QScreen>
@@ -9,7 +10,10 @@ namespace halvek {
 
 QWidget* CurrentOwner() {
     QWidget* const modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : QApplication::activeWindow();
+    if (modal != nullptr) return modal;
+    QWidget* const active = QApplication::activeWindow();
+    const auto* const console = qobject_cast<const frmDebug*>(active);
+    return console == nullptr ? active : console->HostWindow();
 }
 
 QScreen* CurrentScreen() {

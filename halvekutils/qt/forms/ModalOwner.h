@@ -7,8 +7,8 @@ class QWidget;
 
 namespace halvek {
 
-/// The window that a dialog opened now belongs to: the active modal window, else the active window;
-/// null when the application has none.
+/// The window that a dialog opened now belongs to: the active modal window, else the active window,
+/// which the debug console never counts as; null when the application has none.
 QWidget* CurrentOwner();
 
 /// The screen that a dialog opened now belongs on; null without a display.

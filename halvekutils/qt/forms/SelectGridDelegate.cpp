@@ -15,19 +15,9 @@ namespace {
 
 constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 5;
-constexpr int kOutlineTone = 150;  // per cent
 
 /// No cell is so wide that more of a text could show.
 constexpr qsizetype kLongestShown = 500;
-
-/// Styles outline a check box in a dark tone of the window's colour, which a dark grid would
-/// swallow.
-QPalette WithVisibleOutline(QPalette palette) {
-    const QColor text = palette.color(QPalette::Text);
-    const bool isDark = text.lightness() > palette.color(QPalette::Base).lightness();
-    if (isDark) palette.setColor(QPalette::Window, text.darker(kOutlineTone));
-    return palette;
-}
 
 void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
                    bool checked) {

@@ -1,0 +1,130 @@
+#include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/DateText.h>
+#include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/core/ErrorLog.h>
+#include <halvekutils/core/Platform.h>
+#include <halvekutils/platform/Guard.h>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::size_t kMostCharacters = 30'000;
+constexpr std::u16string_view kLineBreak = u"\r\n";
+constexpr std::u16string_view kCleared = u"<<<<<CLEARED>>>>>>";
+constexpr std::u16string_view kStopped = u"<<<<<LOG STOPPED>>>>>";
+constexpr std::u16string_view kStarted = u"<<<<<LOG STARTED>>>>>";
+constexpr char16_t kFault[] = u"Can not display Debug window";
+
+auto LogOf(ComponentState& state) {
+    return [&state](TextIn line) { WriteErrorLog(state, line); };
+}
+
+std::filesystem::path FileOf(Machine& machine) {
+    return machine.OwnFolder() / "DEBUG.log";
+}
+
+}  // namespace
+
+std::shared_ptr<DebugConsole> DebugConsole::Current() {
+    std::shared_ptr<DebugConsole>& console = State().debugConsole;
+    if (console == nullptr) console = std::make_shared<DebugConsole>(State());
+    return console;
+}
+
+DebugConsole::DebugConsole(ComponentState& state) : state_(state) {}
+DebugConsole::~DebugConsole() = default;
+
+bool DebugConsole::MayShow() const {
+    const Desktop* const desktop = Desktop::Installed();
+    return state_.debugMode && desktop != nullptr && desktop->AllowsModelessWindows();
+}
+
+void DebugConsole::ShowInDebug(TextIn strText) noexcept {
+    Guarded(OnFault::Quiet, kFault, LogOf(state_), [&] {
+        if (!MayShow()) return;
+        const std::u16string line(strText);
+        Platform::Installed().Show(shared_from_this());
+        if (loggingStopped_) return;
+        if (text_.size() > kMostCharacters) Replace(kCleared);
+        if (state_.debugMode) AddLine(line);
+        if (allGoesToFile_) SendToFile(line);
+    });
+}
+
+void DebugConsole::ClearDebug() noexcept {
+    Guarded(OnFault::Quiet, kFault, LogOf(state_), [&] {
+        if (!MayShow()) return;
+        Platform::Installed().Show(shared_from_this());
+        Clear();
+    });
+}
+
+void DebugConsole::StopLogging(bool stop) {
+    loggingStopped_ = stop;
+    if (stop) {
+        AddLine(kStopped);
+    } else {
+        ShowInDebug(kStarted);
+    }
+}
+
+void DebugConsole::SendAllToFile(bool send) {
+    allGoesToFile_ = send;
+    NotifyChanged();
+}
+
+void DebugConsole::KeepOnTop(bool keep) {
+    keptOnTop_ = keep;
+    NotifyChanged();
+}
+
+void DebugConsole::Clear() {
+    Replace({});
+    NotifyChanged();
+}
+
+void DebugConsole::SaveToFile() noexcept {
+    const auto save = [&] {
+        const std::u16string stamp = DateTimeText(state_.machine->Now());
+        std::u16string saved(stamp);
+        saved.append(kLineBreak).append(kLineBreak).append(text_).append(kLineBreak);
+        state_.machine->Append(FileOf(*state_.machine), ToCodePage(saved));
+        return true;
+    };
+    Quietly(false, save);
+}
+
+void DebugConsole::KillLogFile() noexcept {
+    Quietly(false, [&] {
+        state_.machine->Delete(FileOf(*state_.machine));
+        return true;
+    });
+}
+
+void DebugConsole::AddLine(std::u16string_view line) {
+    text_.reserve(text_.size() + line.size() + kLineBreak.size());  // all of the line or nothing
+    text_.append(line).append(kLineBreak);
+    NotifyChanged();
+}
+
+void DebugConsole::Replace(std::u16string_view text) {
+    text_ = std::u16string(text);  // and so gives the memory of a huge line back
+    ++replacements_;
+}
+
+/// A line that comes while another is on its way to the log, from the log's own doing or during
+/// its failure's message, is not sent on: it might never end.
+void DebugConsole::SendToFile(TextIn line) {
+    if (sendingToFile_) return;
+    sendingToFile_ = true;
+    WriteErrorLog(state_, line);
+    sendingToFile_ = false;
+}
+
+void DebugConsole::NotifyChanged() const {
+    if (Changed) Changed();
+}
+
+}  // namespace halvek

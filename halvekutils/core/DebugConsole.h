@@ -1,0 +1,86 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace halvek {
+
+struct ComponentState;
+
+/// The debug console without its window: its text, its switches and its file.
+///
+/// There is one in a process, made for the first line. A window shows it and forwards its events.
+class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugConsole> {
+  public:
+    /// The console of the process.
+    static std::shared_ptr<DebugConsole> Current();
+
+    /// @param state  the session's values; it outlives the console
+    explicit DebugConsole(ComponentState& state);
+    ~DebugConsole();
+    DebugConsole(const DebugConsole&) = delete;
+    DebugConsole& operator=(const DebugConsole&) = delete;
+
+    // What the program writes
+
+    /// Adds a line and shows the console. Dropped outside debug mode, where the desktop allows no
+    /// modeless windows, and while logging is stopped. What goes wrong is logged with "Can not
+    /// display Debug window".
+    void ShowInDebug(TextIn strText) noexcept;
+
+    /// Shows the console and empties it; does nothing outside debug mode.
+    void ClearDebug() noexcept;
+
+    // What the window shows
+
+    /// The lines, each ended by CR LF.
+    const std::u16string& Text() const { return text_; }
+
+    /// Changes whenever the text is not just longer than it was.
+    std::uint64_t Replacements() const { return replacements_; }
+
+    bool LoggingStopped() const { return loggingStopped_; }
+    bool AllGoesToFile() const { return allGoesToFile_; }
+    bool KeptOnTop() const { return keptOnTop_; }
+
+    /// Called after every change.
+    std::function<void()> Changed;
+
+    // What the user does
+
+    /// chkNoLog: new lines are dropped while logging is stopped.
+    void StopLogging(bool stop);
+    /// chkToFile: every new line goes to the error log as well.
+    void SendAllToFile(bool send);
+    /// Check1: the window stays above all others.
+    void KeepOnTop(bool keep);
+    /// cmdClear and F7.
+    void Clear();
+    /// Command1: appends the text to DEBUG.log in the component's own folder, in Windows-1252. A
+    /// failure is told to nobody.
+    void SaveToFile() noexcept;
+    /// Command2: deletes that file. A failure is told to nobody.
+    void KillLogFile() noexcept;
+
+  private:
+    bool MayShow() const;
+    void AddLine(std::u16string_view line);
+    void Replace(std::u16string_view text);
+    void SendToFile(TextIn line);
+    void NotifyChanged() const;
+
+    ComponentState& state_;
+    std::u16string text_;
+    std::uint64_t replacements_ = 0;
+    bool loggingStopped_ = false;
+    bool allGoesToFile_ = false;
+    bool keptOnTop_ = false;
+    bool sendingToFile_ = false;
+};
+
+}  // namespace halvek

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/StringArray.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/text/Placement.h>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace halvek {
+
+/// The log's prefix for whatever goes wrong with a palette.
+inline constexpr char16_t kPaletteFault[] = u"Error in Utils.ShowColor ";
+
+/// A colour that a palette shows.
+struct PaletteCell {
+    Color color = 0;
+    std::int32_t index = 0;  ///< of its entry in the colour list
+
+    friend bool operator==(const PaletteCell&, const PaletteCell&) = default;
+};
+
+/// The rules of one colour palette, without a window: which colours it shows, where its keys lead
+/// and what it returns. A window draws it and forwards its events.
+class HALVEK_EXPORT ColorPalette {
+  public:
+    static constexpr char16_t kCaption[] = u"Color Palette";
+    static constexpr int kColumns = 6;
+
+    /// Shows entry 1 of the list, then, of entry 2 to the last but two, all above -1; the others
+    /// are unused slots.
+    ///
+    /// An entry that is no number is black. One of the entries from 2 on that no 32-bit integer
+    /// holds is logged and left out. Throws SubscriptOutOfRange when there is no entry 1, Overflow
+    /// when it is such a number.
+    ColorPalette(const StringArray& colors, const PopupAnchor& anchor, Services& session);
+    ~ColorPalette();
+    ColorPalette(const ColorPalette&) = delete;
+    ColorPalette& operator=(const ColorPalette&) = delete;
+
+    // What the window shows. Cells are numbered from 1, in rows of six.
+
+    const std::vector<PaletteCell>& Cells() const { return cells_; }
+    int CellCount() const { return static_cast<int>(cells_.size()); }
+    int RowCount() const { return (CellCount() + kColumns - 1) / kColumns; }
+
+    /// The cell that the keys have moved to.
+    int Current() const { return current_; }
+
+    /// What a tool tip and a screen reader say of a cell: "Color 7: 255".
+    std::u16string CellName(int cell) const;
+
+    const PopupAnchor& Anchor() const { return anchor_; }
+    bool IsOpen() const { return open_; }
+
+    /// Called after every change that the window shows, and once when the palette ends.
+    std::function<void()> Changed;
+
+    // What the user does
+
+    /// Clicks a cell: the palette ends with its colour. Throws SubscriptOutOfRange for a cell that
+    /// there is not.
+    void Click(int cell);
+
+    enum class Key {
+        Enter,  ///< Enter and Space choose the current cell
+        Space,
+        Escape,
+        Left,
+        Right,
+        Up,
+        Down,
+        PageUp,
+        PageDown,
+        Home,
+        End,
+        Next,  ///< Tab and Shift+Tab: around the whole palette
+        Previous,
+    };
+    /// A key pressed while `rowsOnPage` rows are in view.
+    void KeyDown(Key key, int rowsOnPage = 1);
+
+    /// Escape, the close box, or a window that goes away with the palette still open.
+    void Cancel();
+
+    /// The chosen colour, a tab and its index in the list, as in "255<TAB>7"; empty when none was
+    /// chosen.
+    std::u16string ReturnValue() const;
+
+  private:
+    const PaletteCell& CellAt(int cell) const;
+    int Moved(Key key, int rowsOnPage) const;
+    int MovedDown(int rows) const;
+    void End();
+
+    PopupAnchor anchor_;
+    Services& session_;
+    std::vector<PaletteCell> cells_;
+    std::optional<PaletteCell> chosen_;
+    int current_ = 1;
+    bool open_ = true;
+};
+
+}  // namespace halvek

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/platform/Geometry.h>
+
+#include <cstdint>
+
+namespace halvek {
+
+/// The sizes and places of a palette's parts, in twips.
+struct ColorPaletteLayout {
+    Size form;           ///< with the window's frame
+    Size inner;          ///< without it
+    Rect frame;          ///< Frame2, in the form
+    int rowsOnPage = 1;  ///< the rows of cells that are in view
+    bool scrolls = false;
+};
+
+/// Lays a palette of so many rows out on a screen, for a window frame that adds `frame` to its
+/// inner size. Rows that do not fit are scrolled to.
+HALVEK_EXPORT ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
+                                                    Size screen, Size frame);
+
+/// Where a cell, numbered from 1, lies in Frame2 before scrolling.
+HALVEK_EXPORT Rect PaletteCellPlace(int cell);
+
+/// The row, from 0, that lies at a height in Frame2 before scrolling.
+HALVEK_EXPORT int PaletteRowAt(std::int32_t top);
+
+/// The height that rows of cells take in Frame2.
+HALVEK_EXPORT std::int32_t PaletteHeight(int rows);
+
+}  // namespace halvek

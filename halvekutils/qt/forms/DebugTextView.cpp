@@ -1,0 +1,118 @@
+#include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
+
+#include <QTextCursor>
+
+#include <algorithm>
+#include <string_view>
+
+namespace halvek {
+
+namespace {
+
+constexpr int kPoints = 9;
+constexpr int kInterval = 40;  // milliseconds between repaints
+constexpr qint64 kBurst = 10;
+
+/// A line is laid out as a whole: one of megabytes would hold the program up.
+constexpr int kLongestLine = 1000;
+
+bool EndsLine(char16_t character) {
+    return character == u'\r' || character == u'\n';
+}
+
+bool IsControl(char16_t character) {
+    return character < u' ' && !EndsLine(character) && character != u'\t';
+}
+
+/// The text with control characters as their codes, as in "<27>", and very long lines cut.
+QString Shown(std::u16string_view text) {
+    const auto size = static_cast<qsizetype>(text.size());
+    QString shown;
+    shown.reserve(size + size / kLongestLine);
+    int length = 0;
+    for (const char16_t character : text) {
+        const bool endsLine = EndsLine(character);
+        if (!endsLine && length >= kLongestLine && !QChar::isLowSurrogate(character)) {
+            shown += QLatin1Char('\n');
+            length = 0;
+        }
+        length = endsLine ? 0 : length + 1;
+        if (IsControl(character)) {
+            shown += QStringLiteral("<%1>").arg(static_cast<int>(character));
+        } else {
+            shown += QChar(character);
+        }
+    }
+    return shown;
+}
+
+}  // namespace
+
+bool RepaintBudget::Take() {
+    const qint64 now = clock_.elapsed();
+    if (spentUntil_ > now + kBurst * kInterval) return false;
+    spentUntil_ = std::max(spentUntil_, now) + kInterval;
+    return true;
+}
+
+DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
+    : QPlainTextEdit(parent), console_(console) {
+    setObjectName(QLatin1String("txtDebug"));
+    setAccessibleName(tr("Debug lines"));
+    setFont(ToQFont({u"Courier New", kPoints, false}));
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    later_.setSingleShot(true);
+    connect(&later_, &QTimer::timeout, this, [this] {
+        GuardEvent(u"frmDebug.txtDebug", [this] {
+            ShowText();
+            sinceLater_.start();
+        });
+    });
+}
+
+bool DebugTextView::IsCurrent() const {
+    return replacements_ == console_.Replacements() && shown_ == console_.Text().size();
+}
+
+void DebugTextView::Refresh() {
+    if (later_.isActive() || IsCurrent()) return;
+    if (!budget_.Take()) {
+        const bool justShown = sinceLater_.isValid() && !sinceLater_.hasExpired(kInterval);
+        later_.start(justShown ? kInterval : 0);
+        return;
+    }
+    ShowText();
+    repaint();
+}
+
+void DebugTextView::ShowText() {
+    if (replacements_ != console_.Replacements()) {
+        clear();
+        shown_ = 0;
+        replacements_ = console_.Replacements();
+    }
+    const std::u16string_view text = console_.Text();
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(Shown(text.substr(shown_)));
+    shown_ = text.size();
+    moveCursor(QTextCursor::End);
+}
+
+bool DebugTextView::Find(const QString& text, QTextDocument::FindFlags direction) {
+    if (text.isEmpty()) return false;
+    if (find(text, direction)) return true;
+    const QTextCursor before = textCursor();
+    moveCursor(direction & QTextDocument::FindBackward ? QTextCursor::End : QTextCursor::Start);
+    if (find(text, direction)) return true;
+    setTextCursor(before);
+    return false;
+}
+
+}  // namespace halvek

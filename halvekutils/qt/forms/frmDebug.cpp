@@ -1,0 +1,182 @@
+#include <halvekutils/qt/forms/DebugFindBar.h>
+#include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/forms/frmDebug.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+#include <QThread>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr QSize kSize(640, 320);
+constexpr int kMargin = 6;
+
+/// Whether the program is about to end because its last window was closed. A window that is shown
+/// then would keep it alive.
+bool ProgramIsLeaving(const QWindow* console) {
+    const bool endsItself =
+        QGuiApplication::quitOnLastWindowClosed() && QThread::currentThread()->loopLevel() > 0;
+    return endsItself && std::ranges::none_of(QGuiApplication::topLevelWindows(),
+                                              [console](const QWindow* window) {
+                                                  return window != console && window->isVisible();
+                                              });
+}
+
+}  // namespace
+
+frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop)
+    : console_(std::move(console)),
+      hostWindow_(QApplication::activeWindow()),
+      txtDebug_(new DebugTextView(*console_, this)),
+      findBar_(new DebugFindBar(*txtDebug_, this)),
+      chkNoLog_(MakeBox("chkNoLog", tr("STOP logging"), &DebugConsole::StopLogging)),
+      chkToFile_(MakeBox("chkToFile", tr("All goes to file"), &DebugConsole::SendAllToFile)),
+      Check1_(MakeBox("Check1", tr("Keep on top"), &DebugConsole::KeepOnTop)) {
+    setObjectName(QLatin1String("frmDebug"));
+    setWindowTitle(tr("DEBUG"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    BuildLayout();
+    BuildShortcuts();
+    PlaceInCorner(desktop);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        QWidget* const window = now == nullptr ? nullptr : now->window();
+        if (window != nullptr && window != this && !window->isModal()) hostWindow_ = window;
+    });
+    console_->Changed = [this] { Sync(); };
+    Sync();
+}
+
+frmDebug::~frmDebug() {
+    console_->Changed = nullptr;
+}
+
+QCheckBox* frmDebug::MakeBox(const char* name, const QString& caption,
+                             void (DebugConsole::*set)(bool)) {
+    auto* const box = new QCheckBox(caption);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(caption);
+    connect(box, &QCheckBox::clicked, this, [this, set](bool checked) {
+        GuardEvent(u"frmDebug.Check_Click", [&] { ((*console_).*set)(checked); });
+    });
+    return box;
+}
+
+template <class Act>
+QPushButton* frmDebug::MakeButton(const char* name, const QString& caption, Act act) {
+    auto* const button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(caption);
+    connect(button, &QPushButton::clicked, this,
+            [this, act] { GuardEvent(u"frmDebug.Command_Click", [&] { ((*console_).*act)(); }); });
+    return button;
+}
+
+void frmDebug::BuildLayout() {
+    QPushButton* const clear = MakeButton("cmdClear", tr("Clear"), &DebugConsole::Clear);
+    clear->setToolTip(tr("Clear (F7)"));
+    auto* const bar = new QHBoxLayout;
+    for (QWidget* const box : {chkNoLog_, chkToFile_, Check1_}) bar->addWidget(box);
+    bar->addStretch();
+    bar->addWidget(clear);
+    bar->addWidget(MakeButton("Command1", tr("Save to File"), &DebugConsole::SaveToFile));
+    bar->addWidget(MakeButton("Command2", tr("Kill log file"), &DebugConsole::KillLogFile));
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    rows->setSpacing(kMargin);
+    rows->addLayout(bar);
+    rows->addWidget(txtDebug_, 1);
+    rows->addWidget(findBar_);
+    OutlineBoxes();
+}
+
+void frmDebug::OutlineBoxes() {
+    const QPalette outlined = WithVisibleOutline(palette());
+    for (QWidget* const box : {chkNoLog_, chkToFile_, Check1_}) box->setPalette(outlined);
+}
+
+void frmDebug::BuildShortcuts() {
+    const auto add = [this](const QKeySequence& keys, const auto& act) {
+        auto* const shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this,
+                [act] { GuardEvent(u"frmDebug.Form_KeyDown", act); });
+    };
+    add(Qt::Key_F7, [this] { console_->Clear(); });
+    add(QKeySequence::Find, [this] { findBar_->Open(); });
+    add(Qt::Key_F3, [this] { findBar_->FindNext(); });
+    add(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->FindPrevious(); });
+}
+
+void frmDebug::ShowInBackground() {
+    if (isVisible() || ProgramIsLeaving(windowHandle())) return;
+    winId();  // creates the window handle
+    windowHandle()->setTransientParent(nullptr);
+    // Not every window manager minds that a new window asks for no activation; one that takes no
+    // focus at all is left alone.
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
+    show();
+}
+
+// The window stands and takes the focus again when it is clicked.
+void frmDebug::paintEvent(QPaintEvent* event) {
+    QWindow* const window = windowHandle();
+    if (window != nullptr) window->setFlag(Qt::WindowDoesNotAcceptFocus, false);
+    QWidget::paintEvent(event);
+}
+
+// Out of the way of the windows that people work in.
+void frmDebug::PlaceInCorner(const Desktop& desktop) {
+    const Size added = desktop.FrameSize();
+    const QSize frame(TwipsToPixels(added.width), TwipsToPixels(added.height));
+    const QRect usable = ToQRect(desktop.ScreenRect());
+    const QSize outer = (kSize + frame).boundedTo(usable.size());
+    resize(outer - frame);
+    move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
+}
+
+QWidget* frmDebug::HostWindow() const {
+    return hostWindow_ != nullptr && hostWindow_->isVisible() ? hostWindow_.data() : nullptr;
+}
+
+bool frmDebug::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) KeepUsable();
+    if (event->type() == QEvent::PaletteChange) OutlineBoxes();
+    return QWidget::event(event);
+}
+
+// Lines are read beside a modal dialog, too. A modal dialog does not block windows that belong to
+// it.
+void frmDebug::KeepUsable() {
+    QWindow* const dialog = QGuiApplication::modalWindow();
+    if (dialog != nullptr && windowHandle() != nullptr) windowHandle()->setTransientParent(dialog);
+}
+
+void frmDebug::Sync() {
+    chkNoLog_->setChecked(console_->LoggingStopped());
+    chkToFile_->setChecked(console_->AllGoesToFile());
+    Check1_->setChecked(console_->KeptOnTop());
+    SyncOnTop();
+    txtDebug_->Refresh();
+}
+
+// Through the window's handle: the widget's own call would make a new window.
+void frmDebug::SyncOnTop() {
+    const bool keep = console_->KeptOnTop();
+    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == keep) return;
+    overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, keep));
+    if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, keep);
+}
+
+}  // namespace halvek

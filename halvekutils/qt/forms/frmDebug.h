@@ -1,0 +1,64 @@
+#pragma once
+
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/platform/Desktop.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+class QCheckBox;
+class QPushButton;
+
+namespace halvek {
+
+class DebugFindBar;
+class DebugTextView;
+
+/// The window of the debug console: shows its rules and forwards its events.
+///
+/// It never takes the focus by itself, stays usable beside modal dialogs and lets the application
+/// end. Its close box hides it.
+class frmDebug : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `desktop` knows the screen.
+    frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop);
+    ~frmDebug() override;
+
+    const std::shared_ptr<DebugConsole>& Console() const { return console_; }
+
+    /// Shows the window behind the active one's back; does nothing when it is shown.
+    void ShowInBackground();
+
+    /// The program's own window that was active last; null when it is not on the screen.
+    QWidget* HostWindow() const;
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void BuildLayout();
+    void BuildShortcuts();
+    QCheckBox* MakeBox(const char* name, const QString& caption, void (DebugConsole::*set)(bool));
+    template <class Act>
+    QPushButton* MakeButton(const char* name, const QString& caption, Act act);
+    void OutlineBoxes();
+    void PlaceInCorner(const Desktop& desktop);
+    void KeepUsable();
+    void Sync();
+    void SyncOnTop();
+
+    std::shared_ptr<DebugConsole> console_;
+    QPointer<QWidget> hostWindow_;
+    DebugTextView* txtDebug_;
+    DebugFindBar* findBar_;
+    QCheckBox* chkNoLog_;
+    QCheckBox* chkToFile_;
+    QCheckBox* Check1_;
+};
+
+}  // namespace halvek

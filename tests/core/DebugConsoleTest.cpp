@@ -1,0 +1,81 @@
+#include "tests/CleanState.h"
+
+namespace halvek {
+namespace {
+
+constexpr char kStamp[] = "03/05/24 09:07:03 AM\tnina\t";
+
+struct DebugConsoleTest : CleanState {
+    void SetUp() override { SetDebugMode(true); }
+    void SetDebugMode(bool on) { utils_->InitUtils(u"", u"Front Desk", u"", on, u""); }
+    std::u16string Text() const { return desktop_.Console()->Text(); }
+    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
+
+    std::shared_ptr<Utils> utils_ = Utils::Create();
+};
+
+TEST_F(DebugConsoleTest, LinesAreDroppedOutsideDebugModeAndWithoutModelessWindows) {
+    Desktop* const desktop = Desktop::Install(nullptr);
+    utils_->ShowInDebug(u"no desktop");
+    Desktop::Install(desktop);
+    desktop_.AllowModelessWindows(false);
+    utils_->ShowInDebug(u"no modeless windows");
+    EXPECT_EQ(desktop_.Console(), nullptr);
+    desktop_.AllowModelessWindows(true);
+    utils_->ClearDebug();
+    desktop_.Console()->SendAllToFile(true);
+    utils_->ShowInDebug(u"1");
+    desktop_.Console()->StopLogging(true);
+    utils_->ShowInDebug(u"logging stopped");
+    desktop_.Console()->StopLogging(false);
+    SetDebugMode(false);
+    utils_->ShowInDebug(u"no debug mode");
+    utils_->ClearDebug();
+    EXPECT_EQ(Text(), u"1\r\n<<<<<LOG STOPPED>>>>>\r\n<<<<<LOG STARTED>>>>>\r\n");
+    EXPECT_EQ(Log(), kStamp + std::string("1\r\n") + kStamp + "<<<<<LOG STARTED>>>>>\r\n");
+}
+
+TEST_F(DebugConsoleTest, MoreThan30000CharactersAreClearedByTheNextLine) {
+    utils_->ShowInDebug(std::u16string(29'998, u'x'));  // and a line break of two
+    utils_->ShowInDebug(desktop_.Console()->Text());
+    EXPECT_EQ(Text().size(), 60'002u);
+    utils_->ShowInDebug(u"new");
+    EXPECT_EQ(Text(), u"<<<<<CLEARED>>>>>>new\r\n");
+}
+
+/// A log whose writing is itself a matter for the debug console.
+struct TalkingMachine : TestMachine {
+    using TestMachine::TestMachine;
+    void Append(const std::filesystem::path& file, std::string_view bytes) override {
+        Services::Current().ShowInDebug(u"writing");
+        TestMachine::Append(file, bytes);
+    }
+};
+
+TEST_F(DebugConsoleTest, ALineThatIsWrittenWhileAnotherGoesToTheLogIsOnlyShown) {
+    TalkingMachine talking(machine_.ownFolder);
+    const UseMachine use(talking);
+    utils_->ClearDebug();
+    desktop_.Console()->SendAllToFile(true);
+    for (const auto* const line : {u"1", u"2"}) utils_->ShowInDebug(line);
+    EXPECT_EQ(Text(), u"1\r\nwriting\r\n2\r\nwriting\r\n");
+    EXPECT_EQ(Log(), kStamp + std::string("1\r\n") + kStamp + "2\r\n");
+}
+
+TEST_F(DebugConsoleTest, ItsTextIsSavedToAFileThatCanBeDeleted) {
+    const auto file = machine_.ownFolder / "DEBUG.log";
+    utils_->ShowInDebug(std::u16string(u"\u20AC\u0141\0", 3));
+    DebugConsole& console = *desktop_.Console();
+    console.KillLogFile();  // there is none yet
+    for (int i = 0; i < 2; ++i) console.SaveToFile();
+    const std::string saved("03/05/2024 09:07:03 AM\r\n\r\n\x80?\0\r\n\r\n", 33);
+    EXPECT_EQ(ReadFile(file), saved + saved);
+    console.KillLogFile();
+    EXPECT_EQ(ReadFile(file), "(missing)");
+    std::filesystem::create_directory(file);
+    console.SaveToFile();
+    console.KillLogFile();
+}
+
+}  // namespace
+}  // namespace halvek

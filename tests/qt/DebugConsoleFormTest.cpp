@@ -1,0 +1,59 @@
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/core/DebugConsole.h>
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace halvek {
+namespace {
+
+struct DebugConsoleFormTest : FormTest {
+    void SetUp() override {
+        utils_->InitUtils(u"", u"", u"", true, u"");
+        utils_->ClearDebug();
+        for (QWidget* const widget : QApplication::topLevelWidgets())
+            if (widget->objectName() == "frmDebug") window_ = widget;
+        text_ = &Find<QPlainTextEdit>(*window_, "txtDebug");
+    }
+    bool EndsWith(const QString& end) {
+        return Soon([&] { return text_->toPlainText().endsWith(end); }) &&
+               text_->viewport()->rect().contains(text_->cursorRect());
+    }
+
+    QWidget* window_ = nullptr;
+    QPlainTextEdit* text_ = nullptr;
+};
+
+TEST_F(DebugConsoleFormTest, TheNewestLineShowsHoweverManyOrLongTheyAre) {
+    for (int i = 0; i < 5000; ++i) utils_->ShowInDebug(QString::number(i));
+    EXPECT_TRUE(EndsWith("\n4998\n4999\n"));
+    CloseRequest(*window_);
+    utils_->ShowInDebug(QString(3'000'000, 'x'));
+    EXPECT_TRUE(window_->isVisible() && EndsWith("xxx\n"));
+    utils_->ShowInDebug(std::u16string(u"a\0\x1b\tb", 5));
+    EXPECT_TRUE(EndsWith("<<<<<CLEARED>>>>>>a<0><27>\tb\n"));
+}
+
+TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
+    const User user([&](QDialog& dialog) {
+        utils_->ShowInDebug(u"one two");
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));  // until then it takes no focus
+        window_->activateWindow();
+        EXPECT_TRUE(Soon([&] { return window_->isActiveWindow(); }));
+        Click(*window_, Find(*window_, "chkNoLog"));
+        EXPECT_TRUE(EndsWith("one two\n<<<<<LOG STOPPED>>>>>\n"));
+        Click(*window_, Find(*window_, "Check1"));
+        EXPECT_TRUE(window_->isVisible() && DebugConsole::Current()->KeptOnTop());
+        PressKey(*window_, Qt::CTRL | Qt::Key_F);
+        QTest::keyClicks(&Find<QLineEdit>(*window_, "txtFind"), "TWO");
+        EXPECT_EQ(text_->textCursor().selectedText(), "two");
+        PressKey(*window_, Qt::Key_F7);
+        EXPECT_TRUE(Soon([&] { return text_->toPlainText().isEmpty(); }));
+        PressKey(dialog, Qt::Key_Return);
+    });
+    utils_->ShowMsgBox(u"Look at the console", mbOkOnly, mbNoIcon, u"");
+}
+
+}  // namespace
+}  // namespace halvek
