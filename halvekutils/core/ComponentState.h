@@ -39,6 +39,7 @@ struct HALVEK_EXPORT ComponentState {
     std::int32_t scrollBarWidth = 0;
     std::u16string entityListForUser;
     std::u16string remoteSettings;
+    std::u16string helpFilePath;
     std::shared_ptr<Utils> currentUtils;
     std::u16string loginUserName;
     std::u16string logFolder;
