@@ -23,6 +23,7 @@ namespace halvek {
 
 namespace {
 
+constexpr double kPageMargin = 12;
 constexpr qint64 kMostPixelsOnPage = 64'000'000;
 
 QString ContextKey() {
@@ -44,8 +45,7 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
     setPalette(PaperPalette(palette()));
     setOpenLinks(false);
     setUndoRedoEnabled(false);
-    connect(this, &QTextBrowser::sourceChanged, this,
-            [this] { GuardEvent(u"HelpBrowser.SourceChanged", [this] { Settle(); }); });
+    document()->setDocumentMargin(kPageMargin);
 }
 
 HelpBrowser::~HelpBrowser() = default;
@@ -54,8 +54,8 @@ void HelpBrowser::SetHelp(std::shared_ptr<CompiledHelp> help, const std::u16stri
     help_ = std::move(help);
     fault_ = fault;
     ++fileNumber_;
-    setSource(Root());
-    clearHistory();
+    isFirstPage_ = true;
+    if (help_ == nullptr) setSource(Root());
 }
 
 QUrl HelpBrowser::Root() const {
@@ -99,11 +99,11 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
 }
 
 QString HelpBrowser::PageAt(const QUrl& address) {
+    pixelsLeft_ = kMostPixelsOnPage;
     if (help_ == nullptr) return UnreadablePage(fault_);
     const QString context = QUrlQuery(address).queryItemValue(ContextKey());
     if (!context.isEmpty()) return MissingContextPage(*help_, context);
     const QString path = address.path(QUrl::FullyDecoded);
-    if (path == QLatin1String("/")) return QStringLiteral("<html></html>");
     if (!IsInside(address) || !help_->Has(path)) return MissingTopicPage(*help_, path);
     QString page = UnreadablePage(u"");
     GuardEvent(u"HelpBrowser.PageAt", [&] {
@@ -135,26 +135,58 @@ QString HelpBrowser::StyleAt(const QUrl& address) {
                    [&] { return TamedMarkup(ToQString(HelpTextOf(help_->Read(path)))); });
 }
 
+void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+    QTextBrowser::doSetSource(name, type);
+    if (std::exchange(isFirstPage_, false)) clearHistory();
+    Settle();
+    if (source().hasFragment()) scrollToAnchor(source().fragment(QUrl::FullyDecoded));
+}
+
+void HelpBrowser::backward() {
+    QTextBrowser::backward();
+    Settle();
+}
+
+void HelpBrowser::forward() {
+    QTextBrowser::forward();
+    Settle();
+}
+
+void HelpBrowser::reload() {
+    const double place = ScrolledTo();
+    QTextBrowser::reload();
+    ScrollTo(place);
+    Settle();
+}
+
+/// How far down the page is scrolled, from 0 to 1.
+double HelpBrowser::ScrolledTo() const {
+    const QScrollBar* const bar = verticalScrollBar();
+    return bar->maximum() == 0 ? 0.0 : static_cast<double>(bar->value()) / bar->maximum();
+}
+
+void HelpBrowser::ScrollTo(double place) {
+    verticalScrollBar()->setValue(qRound(place * verticalScrollBar()->maximum()));
+}
+
 /// A new page is in the document.
 void HelpBrowser::Settle() {
-    pixelsLeft_ = kMostPixelsOnPage;
     setWordWrapMode(WrappingOf(toPlainText()).wrapMode());
     const QString title = documentTitle();
     setAccessibleName(title.isEmpty() ? tr("Help page") : title);
+    const double place = ScrolledTo();
     ScaleFonts();
-    if (source().hasFragment()) scrollToAnchor(source().fragment(QUrl::FullyDecoded));
+    ScrollTo(place);
+    emit PageShown();
 }
 
 void HelpBrowser::SetZoom(int percent) {
     if (percent == zoom_) return;
     zoom_ = percent;
-    QScrollBar* const bar = verticalScrollBar();
-    const double place = bar->maximum() == 0 ? 0.0 : double(bar->value()) / bar->maximum();
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * zoom_ / 100);
     setFont(font);
     reload();
-    bar->setValue(static_cast<int>(place * bar->maximum()));
 }
 
 /// Sizes that a page gives in points or pixels do not follow the font of the browser.

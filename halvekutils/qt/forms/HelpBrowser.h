@@ -38,11 +38,19 @@ class HelpBrowser : public QTextBrowser {
 
     QVariant loadResource(int type, const QUrl& name) override;
 
+  public slots:
+    void backward() override;
+    void forward() override;
+    void reload() override;
+
   signals:
+    /// A page is on the screen; the browser's own signal comes before its text.
+    void PageShown();
     /// Ctrl and the mouse wheel: 1 for larger, -1 for smaller.
     void ZoomAsked(int step);
 
   protected:
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
@@ -50,12 +58,15 @@ class HelpBrowser : public QTextBrowser {
     QString PageAt(const QUrl& address);
     QImage PictureAt(const QUrl& address);
     QString StyleAt(const QUrl& address);
+    double ScrolledTo() const;
+    void ScrollTo(double place);
     void Settle();
     void ScaleFonts();
 
     std::shared_ptr<CompiledHelp> help_;
     std::u16string fault_;
     int fileNumber_ = 0;
+    bool isFirstPage_ = false;  ///< of a file: the way back does not lead to the file before
     int zoom_ = 100;
     qint64 pixelsLeft_ = 0;
 };

@@ -55,7 +55,11 @@ class Copy {
             name += tag[i].toLower();
         }
         if (!Nests(name)) {
-            result_ += tag;
+            // Without a type Qt leaves a style sheet out.
+            const bool isPlainLink = name == QLatin1String("link") &&
+                                     !tag.contains(QLatin1String("type"), Qt::CaseInsensitive);
+            result_ += isPlainLink ? tag.first(5) : tag;
+            if (isPlainLink) result_ += QLatin1String(" type=\"text/css\"") + tag.mid(5);
         } else if (isEnd) {
             AddEnd(name, tag);
         } else {

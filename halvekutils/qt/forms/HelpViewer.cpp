@@ -58,10 +58,8 @@ bool StaysAbove(const QWindow* window, const QWindow* other) {
 }  // namespace
 
 HelpViewer::HelpViewer()
-    : browser_(new HelpBrowser),
-      trvContents_(new QTreeWidget),
-      find_(new HelpFindBar(*browser_)),
-      notice_(MakeNotice()) {
+    : browser_(new HelpBrowser), trvContents_(new QTreeWidget), find_(new HelpFindBar(*browser_)) {
+    notice_ = MakeNotice();
     setObjectName(QLatin1String("HelpViewer"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(tr("Help"));
@@ -92,8 +90,8 @@ HelpViewer::HelpViewer()
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         GuardEvent(u"HelpViewer.Link_Click", [&] { Follow(link); });
     });
-    connect(browser_, &QTextBrowser::sourceChanged, this,
-            [this] { GuardEvent(u"HelpViewer.SourceChanged", [this] { MarkInContents(); }); });
+    connect(browser_, &HelpBrowser::PageShown, this,
+            [this] { GuardEvent(u"HelpViewer.PageShown", [this] { MarkInContents(); }); });
     connect(browser_, &HelpBrowser::ZoomAsked, this,
             [this](int step) { GuardEvent(u"HelpViewer.Wheel", [&] { ChangeZoom(step); }); });
     const auto open = [this](QTreeWidgetItem* item) {
@@ -297,6 +295,7 @@ void HelpViewer::FillContents() {
             path.push_back(item);
         }
     }
+    trvContents_->expandToDepth(0);
     const bool hasContents = trvContents_->topLevelItemCount() > 0;
     showContents_->setEnabled(hasContents);
     showContents_->setChecked(hasContents);

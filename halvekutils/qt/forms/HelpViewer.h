@@ -67,7 +67,7 @@ class HelpViewer : public QWidget {
     HelpBrowser* browser_;
     QTreeWidget* trvContents_;
     HelpFindBar* find_;
-    QWidget* notice_;
+    QWidget* notice_ = nullptr;
     QLabel* lblOutside_ = nullptr;
     QAction* home_ = nullptr;
     QAction* showContents_ = nullptr;
