@@ -5,6 +5,7 @@
 #include "pages/DataBinsPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
+#include "pages/HelpPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/OpenWindowsPage.h"
 #include "pages/PrintersPage.h"
@@ -31,6 +32,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<SettingsPage>(desk));
     pages.push_back(std::make_unique<OpenWindowsPage>(desk));
     pages.push_back(std::make_unique<RemindersPage>(desk));
+    pages.push_back(std::make_unique<HelpPage>(desk));
     return pages;
 }
 

@@ -59,7 +59,9 @@ class Copy {
             const bool isPlainLink = name == QLatin1String("link") &&
                                      !tag.contains(QLatin1String("type"), Qt::CaseInsensitive);
             result_ += isPlainLink ? tag.first(5) : tag;
-            if (isPlainLink) result_ += QLatin1String(" type=\"text/css\"") + tag.mid(5);
+            if (!isPlainLink) return;
+            result_ += QLatin1String(" type=\"text/css\"");
+            result_ += tag.mid(5);
         } else if (isEnd) {
             AddEnd(name, tag);
         } else {
