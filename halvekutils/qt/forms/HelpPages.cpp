@@ -76,7 +76,9 @@ QString MissingContextPage(const CompiledHelp& help, TextIn contextId) {
 }
 
 QString UnreadablePage(TextIn what) {
-    return Page(Text("This help cannot be read"), {ToQString(what)});
+    return Page(Text("This help cannot be read"),
+                {Text("The file is damaged or is no help file. It has to be installed again."),
+                 ToQString(what)});
 }
 
 QImage PictureOf(const std::string& bytes) {

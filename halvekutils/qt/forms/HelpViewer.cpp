@@ -49,10 +49,12 @@ QToolButton* ButtonOf(QAction* action) {
     return button;
 }
 
-/// True when `window` is `other` or stays above it.
-bool StaysAbove(const QWindow* window, const QWindow* other) {
-    while (window != nullptr && window != other) window = window->transientParent();
-    return window != nullptr;
+/// Takes `lower` out from below `window`, if it is the owner of it or of one of its owners.
+void TakeOut(QWindow& lower, QWindow* window) {
+    while (window != nullptr && window->transientParent() != &lower) {
+        window = window->transientParent();
+    }
+    if (window != nullptr) window->setTransientParent(lower.transientParent());
 }
 
 }  // namespace
@@ -90,8 +92,12 @@ HelpViewer::HelpViewer()
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         GuardEvent(u"HelpViewer.Link_Click", [&] { Follow(link); });
     });
-    connect(browser_, &HelpBrowser::PageShown, this,
-            [this] { GuardEvent(u"HelpViewer.PageShown", [this] { MarkInContents(); }); });
+    connect(browser_, &HelpBrowser::PageShown, this, [this] {
+        GuardEvent(u"HelpViewer.PageShown", [this] {
+            notice_->hide();
+            MarkInContents();
+        });
+    });
     connect(browser_, &HelpBrowser::ZoomAsked, this,
             [this](int step) { GuardEvent(u"HelpViewer.Wheel", [&] { ChangeZoom(step); }); });
     const auto open = [this](QTreeWidgetItem* item) {
@@ -228,7 +234,6 @@ void HelpViewer::Open(const std::filesystem::path& file) {
 }
 
 void HelpViewer::ShowPage(const HelpTopic& topic) {
-    notice_->hide();
     browser_->ShowTopic(topic);
     BringForward();
     if (help_->Has(topic.path)) return;
@@ -252,14 +257,27 @@ void HelpViewer::BringForward() {
 }
 
 /// A modal dialog blocks every window that does not belong to it, so the viewer belongs to the one
-/// that is open.
+/// that is open, even when that was opened while the viewer was active.
 void HelpViewer::StayAboveDialogs() {
     const QWidget* const dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || windowHandle() == nullptr) return;
     QWindow* const above = dialog->window()->windowHandle();
-    if (above != nullptr && !StaysAbove(above, windowHandle())) {
-        windowHandle()->setTransientParent(above);
+    if (above == nullptr || above == windowHandle() || !above->isVisible()) return;
+    TakeOut(*windowHandle(), above);
+    BelongTo(above);
+}
+
+/// Until the owner hides: should it open again, from the viewer perhaps, neither may own the other.
+void HelpViewer::BelongTo(QWindow* owner) {
+    disconnect(ownerHides_);
+    if (owner != nullptr) {
+        ownerHides_ = connect(owner, &QWindow::visibleChanged, this, [this, owner](bool visible) {
+            if (visible) return;
+            QWindow* const below = owner->transientParent();
+            BelongTo(below != nullptr && below->isModal() && below->isVisible() ? below : nullptr);
+        });
     }
+    windowHandle()->setTransientParent(owner);
 }
 
 bool HelpViewer::event(QEvent* event) {
@@ -326,7 +344,6 @@ void HelpViewer::Follow(const QUrl& link) {
         NoteOutside(link);
         return;
     }
-    notice_->hide();
     browser_->setSource(address);
 }
 

@@ -54,6 +54,7 @@ class HelpViewer : public QWidget {
     void ShowPage(const HelpTopic& topic);
     void BringForward();
     void StayAboveDialogs();
+    void BelongTo(QWindow* owner);
 
     void FillContents();
     void MarkInContents();
@@ -63,6 +64,7 @@ class HelpViewer : public QWidget {
     void ChangeZoom(int step);
     void NoteOutside(const QUrl& link);
 
+    QMetaObject::Connection ownerHides_;
     std::shared_ptr<CompiledHelp> help_;
     HelpBrowser* browser_;
     QTreeWidget* trvContents_;
