@@ -1,5 +1,7 @@
 #pragma once
 
+#include <halvekutils/base/Export.h>
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +14,7 @@ namespace halvek {
 /// on each other. A new stretch needs a new decoder.
 ///
 /// The data is trusted in nothing: whatever the bytes are, a frame decodes or throws.
-class LzxDecoder {
+class HALVEK_EXPORT LzxDecoder {
   public:
     /// @param window  bytes that a match may reach back, a power of two from 32 KB to 2 MB; throws
     ///     DeviceError for any other
