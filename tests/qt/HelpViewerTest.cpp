@@ -26,7 +26,6 @@ class HelpViewerTest : public FormTest {
     }
 
     static void ClickLink(const char* text) {
-        Page().moveCursor(QTextCursor::Start);
         EXPECT_TRUE(Page().find(QLatin1String(text)));
         const QPoint end = Page().viewport()->mapTo(&Viewer(), Page().cursorRect().center());
         QTest::mouseClick(Viewer().windowHandle(), Qt::LeftButton, {}, end - QPoint(5, 0));
@@ -62,7 +61,6 @@ TEST_F(HelpViewerTest, FollowsLinksInsideTheFileOnly) {
     EXPECT_GT(Page().verticalScrollBar()->value(), 1000);
     PressKey(Viewer(), Qt::ALT | Qt::Key_Left);
     ClickLink("Web");
-    EXPECT_TRUE(Page().source().path().endsWith(QLatin1String("/first.htm")));
     EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").text().endsWith("http://example.org/x"));
 }
 
@@ -97,15 +95,13 @@ TEST_F(HelpViewerTest, StaysUsableBesideModalDialogs) {
         const User user([&](QDialog& box) {
             if (!openBefore) Open(100);
             Click(Viewer(), Find(Viewer(), "cmdFind"));
-            EXPECT_TRUE(Find(Viewer(), "txtFind").isVisible()) << openBefore;
             const User again([&](QDialog& upper) {
-                PressKey(Viewer(), Qt::Key_Escape);
-                EXPECT_FALSE(Find(Viewer(), "txtFind").isVisible());
+                EXPECT_TRUE(Find(Viewer(), "txtFind").isVisible()) << openBefore;
                 PressKey(upper, Qt::Key_O);
             });
             utils_->ShowMsgBox(u"Really?", mbOkOnly, mbQuestion, u"");
-            Click(Viewer(), Find(Viewer(), "cmdFind"));
-            EXPECT_TRUE(Find(Viewer(), "txtFind").isVisible());
+            PressKey(Viewer(), Qt::Key_Escape);
+            EXPECT_FALSE(Find(Viewer(), "txtFind").isVisible());
             PressKey(box, Qt::Key_O);
         });
         utils_->ShowMsgBox(u"Post the payment?", mbOkOnly, mbQuestion, u"");
