@@ -16,6 +16,8 @@ Desk::Desk(SampleData data, const QString& logFolder)
     utils_->SpecialMode(data_.SessionValue("SpecialMode"));
     utils_->EntityListForUser(data_.SessionValue("EntityListForUser"));
     utils_->RemoteSettings(data_.SessionValue("RemoteSettings"));
+    utils_->InitHelp(SampleData::HelpFile());
+    calls_.Add("InitHelp", Args(SampleData::HelpFile()));
     BuildCodes();
 }
 
@@ -44,6 +46,16 @@ void Desk::InitOtherSettings(const OtherSettings& settings) {
     calls_.Add("InitOtherSettings",
                Args(settings.highlightBack, settings.highlightFore, settings.codeDelimiter,
                     settings.columnAdjust, settings.scrollBarWidth));
+}
+
+QStringList Desk::ShowHelp(int contextId, const QString& file) {
+    const bool found = utils_->ShowHelp(0, contextId, file);
+    return calls_.Add("ShowHelp", Args(0, contextId, file), Shown(found));
+}
+
+QStringList Desk::ShowHelpByTopic(const QString& topic, const QString& file) {
+    const bool found = utils_->ShowHelpByTopic(0, topic, file);
+    return calls_.Add("ShowHelpByTopic", Args(0, topic, file), Shown(found));
 }
 
 void Desk::BuildCodes() {

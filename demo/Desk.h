@@ -30,6 +30,12 @@ class Desk {
     void InitPrefs(const Preferences& preferences);
     void InitOtherSettings(const OtherSettings& settings);
 
+    // The help members, noted as well; an empty file stands for the client's own. They give back
+    // what they logged.
+
+    QStringList ShowHelp(int contextId, const QString& file = {});
+    QStringList ShowHelpByTopic(const QString& topic, const QString& file = {});
+
     /// Builds the codes collection from the server's data.
     void BuildCodes();
     /// What the last build wrote to the error log.

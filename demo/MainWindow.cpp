@@ -74,6 +74,8 @@ void MainWindow::MakeMenus() {
     windows->setParent(menuBar(), windows->windowFlags());
     menuBar()->addMenu(windows);
     QMenu* help = menuBar()->addMenu("&Help");
+    help->addAction("&Help for this page", QKeySequence::HelpContents, this,
+                    [this] { ShowHelp(); });
     help->addAction("&About Front Desk", this, [this] { ShowAbout(); });
 }
 
@@ -117,6 +119,10 @@ QLayout* MainWindow::MakeCallPaneHeading() {
 void MainWindow::ShowPage(int index) {
     pages_[static_cast<std::size_t>(index)]->Refresh();
     stack_.setCurrentIndex(index);
+}
+
+void MainWindow::ShowHelp() {
+    desk_.ShowHelp(pages_[static_cast<std::size_t>(list_.currentRow())]->HelpContext());
 }
 
 void MainWindow::ShowAbout() {

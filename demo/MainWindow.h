@@ -34,6 +34,7 @@ class MainWindow : public QMainWindow {
     void ShowPage(int index);
     void ShowCall(const QString& line);
     void ShowAbout();
+    void ShowHelp();
 
     Desk& desk_;
     std::vector<Page*> pages_;

@@ -8,6 +8,14 @@ namespace frontdesk {
 
 class Tour;
 
+/// The context numbers of the client's help, as FrontDesk.hhp gives them.
+enum HelpTopicNumber : int {
+    kWelcomeTopic = 100,
+    kPaymentsTopic = 200,
+    kCodesTopic = 300,
+    kRemindersTopic = 400,
+};
+
 /// One service of the library on a page of the main window.
 ///
 /// A new service gets a class derived from this one and a line in MakePages.
@@ -20,6 +28,9 @@ class Page : public QWidget {
 
     const QString& TitleWithMnemonic() const { return title_; }
     QString Title() const { return QString(title_).remove('&'); }
+
+    /// The context number of the page's topic in the client's help.
+    virtual int HelpContext() const { return kWelcomeTopic; }
 
     /// Shows the present values; called whenever the page comes to the front.
     virtual void Refresh() {}

@@ -76,6 +76,11 @@ QString SampleData::Folder() {
     return installed.exists() ? installed.canonicalPath() : HALVEK_DEMO_DATA_FOLDER;
 }
 
+QString SampleData::HelpFile() {
+    const QString installed = Folder() + "/FrontDesk.chm";
+    return QFile::exists(installed) ? installed : HALVEK_DEMO_HELP_FILE;
+}
+
 Identity SampleData::StartIdentity() const {
     return {SessionValue("ErrFileName"), SessionValue("AppName"), SessionValue("AppType"),
             SessionValue("DebugMode") == "1", SessionValue("ExeFileStamp")};

@@ -60,6 +60,9 @@ class SampleData {
     /// The data folder beside an installed program, or that of the source tree.
     static QString Folder();
 
+    /// The client's help file, beside the data of an installed program or built with the client.
+    static QString HelpFile();
+
     Identity StartIdentity() const;
     Preferences StartPreferences() const;
     OtherSettings StartOtherSettings() const;

@@ -20,6 +20,7 @@ class MessageBoxPage : public Page {
   public:
     explicit MessageBoxPage(Desk& desk);
 
+    int HelpContext() const override { return kPaymentsTopic; }
     void Play(Tour& tour) override;
 
     /// Enters the arguments, presses "Show" and gives the box's answer.

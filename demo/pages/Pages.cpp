@@ -9,6 +9,7 @@
 #include "pages/DebugPage.h"
 #include "pages/DelimitedTextPage.h"
 #include "pages/ErrorLogPage.h"
+#include "pages/HelpPage.h"
 #include "pages/HelpersPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/OpenWindowsPage.h"
@@ -41,6 +42,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<HelpersPage>(desk));
     pages.push_back(std::make_unique<ColoursPage>(desk));
     pages.push_back(std::make_unique<DebugPage>(desk));
+    pages.push_back(std::make_unique<HelpPage>(desk));
     return pages;
 }
 

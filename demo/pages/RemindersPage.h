@@ -15,6 +15,7 @@ class RemindersPage : public Page {
   public:
     explicit RemindersPage(Desk& desk);
 
+    int HelpContext() const override { return kRemindersTopic; }
     void Play(Tour& tour) override;
 
   private:

@@ -22,6 +22,7 @@ class SelectionPage : public Page {
   public:
     explicit SelectionPage(Desk& desk);
 
+    int HelpContext() const override { return kCodesTopic; }
     void Play(Tour& tour) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

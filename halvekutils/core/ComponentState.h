@@ -43,6 +43,7 @@ struct HALVEK_EXPORT ComponentState {
     std::int32_t scrollBarWidth = 0;
     std::u16string entityListForUser;
     std::u16string remoteSettings;
+    std::u16string helpFilePath;
     std::shared_ptr<Utils> currentUtils;
     std::shared_ptr<DebugConsole> debugConsole;
     std::u16string loginUserName;

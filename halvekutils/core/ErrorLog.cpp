@@ -5,6 +5,7 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/ErrorLog.h>
+#include <halvekutils/core/NativePath.h>
 #include <halvekutils/platform/Desktop.h>
 
 #include <cstdint>
@@ -23,16 +24,6 @@ namespace {
 constexpr std::uintmax_t kRotationLength = 1'048'576;
 constexpr int kLastVisit = 2000;
 constexpr char16_t kSeparators[] = u"\\/";
-
-/// A host's path, in which both kinds of slash part the folders.
-fs::path NativePath(TextIn path) {
-    std::string native = ToUtf8(path);
-    if (native.find('\0') != std::string::npos) throw RuntimeError(Fault::PathNotFound, path);
-    for (char& character : native) {
-        if (character == '\\') character = '/';
-    }
-    return native;
-}
 
 void SettlePaths(ComponentState& state) {
     if (state.errFileName.empty()) state.errFileName = u"Error.Log";

@@ -476,6 +476,28 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     void EntityListForUser(TextIn value);
     std::u16string EntityListForUser() const;
 
+    /// Stores the path of the compiled help file (.chm) that the help members open.
+    void InitHelp(TextIn FilePath);
+
+    /// The path given to InitHelp, empty before.
+    std::u16string HelpFilePath() const;
+
+    /// Opens compiled help at the topic of a context number, in a window of its own that stays open
+    /// beside the host's windows and dialogs; a later call uses the same window.
+    ///
+    /// @param hwnd  accepted and not used
+    /// @param HelpFileLocation  the help file, folders parted by "/" or "\"; empty for the path
+    ///     given to InitHelp
+    /// @return false when there is no such file, which a message tells the user. True otherwise: a
+    ///     file that is no help file or is damaged, and a topic that is missing, show in the help
+    ///     window and are logged.
+    bool ShowHelp(std::int32_t hwnd, std::int32_t ContextID, TextIn HelpFileLocation = {});
+
+    /// The same at a topic, given by its path in the help file; empty for the file's first page.
+    ///
+    ///     utils->ShowHelpByTopic(0, u"::/billing/late.htm#fees");
+    bool ShowHelpByTopic(std::int32_t hwnd, TextIn TopicPath = {}, TextIn HelpFileLocation = {});
+
     /// True for a key that opens a look-up: the LookupKey or LookupKey1 of the current system
     /// preferences, of which the low 16 bits count. Throws ObjectNotSet without preferences.
     bool IsLookupKey(std::int16_t CodeKey) const;

@@ -6,6 +6,7 @@
 #include <halvekutils/platform/PrinterSource.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -69,6 +70,14 @@ class HALVEK_EXPORT Desktop : public TextMeter {
 
     /// Shows the desktop's own message box with an OK button; returns when it is closed.
     virtual void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) = 0;
+
+    /// Opens the help viewer on a compiled help file, at the topic of a context number, and returns
+    /// at once. A viewer that is open already is used again. What cannot be shown, a file that
+    /// cannot be read or a topic that is missing, the viewer tells the user; then it is thrown.
+    virtual void ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) = 0;
+
+    /// The same at a topic as hosts write it, see ParseHelpTopic; empty for the file's first page.
+    virtual void ShowHelpTopic(const std::filesystem::path& file, TextIn topic) = 0;
 
     /// The size of the screen that a new dialog opens on.
     virtual Size ScreenSize() const = 0;

@@ -3,6 +3,7 @@
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CloseBox.h>
+#include <halvekutils/qt/forms/HelpViewer.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
@@ -58,6 +59,12 @@ QString WithPlainLineEnds(TextIn text) {
 }  // namespace
 
 struct QtPlatform::Private {
+    HelpViewer& Help() {
+        if (help == nullptr) help = std::make_unique<HelpViewer>();
+        return *help;
+    }
+
+    std::unique_ptr<HelpViewer> help;
     std::vector<std::unique_ptr<frmMessageBox>> modeless;
     std::unique_ptr<frmDebug> debug;
 };
@@ -113,6 +120,14 @@ void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
     box.setAttribute(Qt::WA_QuitOnClose, false);
     SetOwner(box, CurrentOwner());
     box.exec();
+}
+
+void QtPlatform::ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) {
+    d_->Help().ShowContext(file, contextId);
+}
+
+void QtPlatform::ShowHelpTopic(const std::filesystem::path& file, TextIn topic) {
+    d_->Help().ShowTopic(file, topic);
 }
 
 Size QtPlatform::ScreenSize() const {

@@ -3,6 +3,8 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/core/Platform.h>
 
+#include <cstdint>
+#include <filesystem>
 #include <memory>
 
 namespace halvek {
@@ -26,6 +28,8 @@ class HALVEK_EXPORT QtPlatform : public Platform {
                                std::int32_t width) const override;
     void Beep() override;
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
+    void ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) override;
+    void ShowHelpTopic(const std::filesystem::path& file, TextIn topic) override;
     Size ScreenSize() const override;
     Rect ScreenRect() const override;
     Rect ScreenRectAt(Point point) const override;

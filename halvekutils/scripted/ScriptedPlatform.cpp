@@ -123,6 +123,14 @@ void ScriptedPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn titl
     stockMessages_.push_back({text.Str(), icon, title.Str()});
 }
 
+void ScriptedPlatform::ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) {
+    helpShown_.push_back({file, contextId, {}});
+}
+
+void ScriptedPlatform::ShowHelpTopic(const std::filesystem::path& file, TextIn topic) {
+    helpShown_.push_back({file, std::nullopt, topic.Str()});
+}
+
 void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {
     if (modality == Modality::Modeless) {
         modeless_.push_back(box);

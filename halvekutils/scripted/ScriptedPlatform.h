@@ -3,7 +3,9 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/core/Platform.h>
 
+#include <cstdint>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -28,6 +30,12 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
         std::u16string text;
         StockIcon icon;
         std::u16string title;
+    };
+    /// One call of a help member: by context number or else by topic.
+    struct ShownHelp {
+        std::filesystem::path file;
+        std::optional<std::int32_t> contextId;
+        std::u16string topic;
     };
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
     using CalculatorAnswer = std::function<void(Calculator&)>;
@@ -59,6 +67,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     int Beeps() const { return beeps_; }
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
+    const std::vector<ShownHelp>& HelpShown() const { return helpShown_; }
 
     void SetScreenSize(Size size) { screen_ = size; }
     void SetFrameSize(Size size) { frame_ = size; }
@@ -86,6 +95,8 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     bool AllowsModelessWindows() const override { return allowsModeless_; }
     void Beep() override { ++beeps_; }
     void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) override;
+    void ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) override;
+    void ShowHelpTopic(const std::filesystem::path& file, TextIn topic) override;
     Size ScreenSize() const override { return screen_; }
     Size FrameSize() const override { return frame_; }
     void Show(const std::shared_ptr<MessageBox>& box, Modality modality) override;
@@ -105,6 +116,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     std::vector<StockMessage> stockMessages_;
     std::shared_ptr<DebugConsole> console_;
     bool allowsModeless_ = true;
+    std::vector<ShownHelp> helpShown_;
     int beeps_ = 0;
     Size screen_ = {20490, 11520};  // 1366 by 768 pixels
     Size frame_ = {0, 450};

@@ -41,6 +41,21 @@ TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {
     EXPECT_EQ(Ask(mbYesNoCancel), mbCancel);  // a box left open is closed
 }
 
+TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMissing) {
+    WriteFile(folder_ / "desk.chm", "help");
+    EXPECT_FALSE(utils_->ShowHelp(0, 1));
+    EXPECT_EQ(desktop_.StockMessages().back().text, u"File  is not found.");
+    utils_->InitHelp((folder_ / "desk.chm").u16string());
+    EXPECT_TRUE(utils_->ShowHelp(0, -3));
+    EXPECT_EQ(desktop_.HelpShown().back().contextId, -3);
+    EXPECT_FALSE(utils_->ShowHelpByTopic(7, u"::/a.htm", u"C:\\none.chm"));
+    EXPECT_EQ(desktop_.StockMessages().back().text, u"File C:\\none.chm is not found.");
+    EXPECT_EQ(desktop_.StockMessages().back().icon, StockIcon::Critical);
+    EXPECT_TRUE(utils_->ShowHelpByTopic(0, u"::/a.htm#b"));
+    EXPECT_EQ(desktop_.HelpShown().back().file, folder_ / "desk.chm");
+    EXPECT_EQ(desktop_.HelpShown().back().topic, u"::/a.htm#b");
+}
+
 TEST_F(ScriptedPlatformTest, OutOfRangeChoicesAreWrittenBackBeforeTheBoxOpens) {
     const std::int32_t rows[][4] = {
         {0, 0, mbWhite, mb9},

@@ -1,0 +1,29 @@
+#include "fuzz/FuzzText.h"
+
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/devices/HelpContents.h>
+#include <halvekutils/devices/HelpText.h>
+#include <halvekutils/devices/LzxDecoder.h>
+
+#include <string_view>
+
+using namespace halvek;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    int depth = 0;
+    for (const HelpContentsEntry& entry : ParseHelpContents(HelpTextOf(bytes))) {
+        Require(entry.depth <= depth, "no entry skips a level");
+        depth = entry.depth + 1;
+    }
+    try {
+        LzxDecoder decoder(0x10000);
+        for (int frame = 0; frame < 2; ++frame) {
+            Require(decoder.Frame(bytes, LzxDecoder::kFrameLength).size() == 0x8000,
+                    "a frame is whole or a fault");
+        }
+    } catch (const RuntimeError& fault) {
+        Require(fault.Code() == Fault::DeviceError, "damage is a device error");
+    }
+    return 0;
+}
