@@ -37,6 +37,7 @@ Rows RefdataRows();
 Rows PrefsRows();
 Rows LogRows();
 Rows SelectionRows();
+Rows ValueRows();
 Rows WindowRows();
 
 /// The session that all rows share.

@@ -103,8 +103,8 @@ int Run(const Options& options) {
         "| growth | met |\n|---|---|---|---|---|---|---|---|---|---|\n");
     Session();
     bool allMet = true;
-    for (const auto& rows :
-         {TextRows(), RefdataRows(), PrefsRows(), LogRows(), SelectionRows(), WindowRows()}) {
+    for (const auto& rows : {TextRows(), RefdataRows(), PrefsRows(), LogRows(), SelectionRows(),
+                             ValueRows(), WindowRows()}) {
         for (const Row& row : rows) {
             if (row.work.find(options.only) == std::string::npos) continue;
             allMet = Print(row, options.growth) && allMet;

@@ -225,10 +225,16 @@ std::u16string NumberText(double number) {
     return Widened(buffer, end);
 }
 
-std::u16string IntegerText(std::int64_t number) {
+void AppendInteger(std::u16string& out, std::int64_t number) {
     char buffer[24];
     const auto [end, error] = std::to_chars(buffer, std::end(buffer), number);
-    return Widened(buffer, end);
+    out.append(buffer, end);
+}
+
+std::u16string IntegerText(std::int64_t number) {
+    std::u16string text;
+    AppendInteger(text, number);
+    return text;
 }
 
 std::u16string BooleanText(bool value) {

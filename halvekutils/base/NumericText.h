@@ -68,6 +68,8 @@ HALVEK_EXPORT std::u16string NumberText(double number);
 
 /// The integer with all its digits.
 HALVEK_EXPORT std::u16string IntegerText(std::int64_t number);
+/// The same, at the end of a text.
+HALVEK_EXPORT void AppendInteger(std::u16string& out, std::int64_t number);
 
 /// "True" or "False".
 HALVEK_EXPORT std::u16string BooleanText(bool value);

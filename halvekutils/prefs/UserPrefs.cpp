@@ -5,10 +5,9 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
-#include <array>
 #include <cstddef>
 #include <optional>
-#include <variant>
+#include <tuple>
 
 namespace halvek {
 
@@ -68,7 +67,7 @@ void Read(UserPrefs& prefs, const Number& row, TextIn field) {
     prefs.*row.member = Quietly(row.reset, [&] { return ToInt32(field); });
 }
 void Write(const UserPrefs& prefs, const Number& row, std::u16string& out) {
-    out += IntegerText(prefs.*row.member);
+    AppendInteger(out, prefs.*row.member);
 }
 
 struct Switch {
@@ -101,13 +100,11 @@ void Write(const UserPrefs& prefs, const Level& row, std::u16string& out) {
     out += prefs.*row.member ? u'2' : u'0';
 }
 
-using Row = std::variant<Text, BarredText, Number, Switch, Level>;
-
 }  // namespace
 
 /// The fields of the settings text, in its order.
 struct UserPrefs::Table {
-    static constexpr std::array<Row, 31> kRows{{
+    static constexpr std::tuple kRows{
         BarredText{&UserPrefs::aiFormData_},
         Text{&UserPrefs::demoFormData_},
         Text{&UserPrefs::scheduleFormData_},
@@ -139,31 +136,37 @@ struct UserPrefs::Table {
         Text{&UserPrefs::imageData_},
         Text{&UserPrefs::scanningDocType_},
         Text{&UserPrefs::solvaneImagesFolder_},
-    }};
+    };
+
+    template <class Visit>
+    static void ForEachRow(const Visit& visit) {
+        std::apply([&](const auto&... rows) { (visit(rows), ...); }, kRows);
+    }
 };
 
 UserPrefs::UserPrefs() = default;
 UserPrefs::~UserPrefs() = default;
 
 bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
-    for (const Row& row : Table::kRows) {
-        std::visit([&](const auto& kind) { Reset(*this, kind); }, row);
-    }
-    std::size_t at = 0;
-    for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
-        if (at == Table::kRows.size()) break;
-        std::visit([&](const auto& kind) { Read(*this, kind, field); }, Table::kRows[at++]);
-    }
+    Table::ForEachRow([&](const auto& row) { Reset(*this, row); });
+    const Pieces fields(StrAllSettings, kFieldSeparator);
+    auto field = fields.begin();
+    Table::ForEachRow([&](const auto& row) {
+        if (field == fields.end()) return;
+        Read(*this, row, *field);
+        ++field;
+    });
     return false;
 }
 
 std::u16string UserPrefs::GetSettingsString() const {
     std::u16string settings;
     settings.reserve(kUsualLength);
-    for (const Row& row : Table::kRows) {
-        if (&row != Table::kRows.data()) settings += kFieldSeparator;
-        std::visit([&](const auto& kind) { Write(*this, kind, settings); }, row);
-    }
+    Table::ForEachRow([&](const auto& row) {
+        Write(*this, row, settings);
+        settings += kFieldSeparator;
+    });
+    settings.pop_back();
     return settings;
 }
 
