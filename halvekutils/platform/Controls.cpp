@@ -4,5 +4,10 @@ namespace halvek {
 
 OwnerForm::~OwnerForm() = default;
 PopupTarget::~PopupTarget() = default;
+TextControl::~TextControl() = default;
+
+bool TextControl::Locked() const {
+    return false;
+}
 
 }  // namespace halvek
