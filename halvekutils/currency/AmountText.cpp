@@ -165,4 +165,10 @@ std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign) {
     return bare;
 }
 
+std::optional<std::u16string> TypedAmount(TextIn text, AmountSign sign) {
+    if (IsTypedAmount(text, sign)) return text.Str();
+    std::optional<std::u16string> bare = BareAmount(text, sign);
+    return bare && IsTypedAmount(*bare, sign) ? bare : std::nullopt;
+}
+
 }  // namespace halvek

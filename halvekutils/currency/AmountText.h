@@ -41,4 +41,8 @@ HALVEK_EXPORT bool IsTypedAmount(TextIn text, AmountSign sign);
 ///     BareAmount(u"(5.00)", AmountSign::Signed) == u"-5.00";
 HALVEK_EXPORT std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign);
 
+/// What a field is to hold when the user's doing, a paste say, would make it hold this text: the
+/// text itself or the bare amount in it. Nothing when it cannot be read or has too many digits.
+HALVEK_EXPORT std::optional<std::u16string> TypedAmount(TextIn text, AmountSign sign);
+
 }  // namespace halvek
