@@ -7,6 +7,7 @@
 #include "pages/ErrorLogPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/OpenWindowsPage.h"
+#include "pages/PaymentPage.h"
 #include "pages/PrintersPage.h"
 #include "pages/RemindersPage.h"
 #include "pages/RightsPage.h"
@@ -31,6 +32,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<SettingsPage>(desk));
     pages.push_back(std::make_unique<OpenWindowsPage>(desk));
     pages.push_back(std::make_unique<RemindersPage>(desk));
+    pages.push_back(std::make_unique<PaymentPage>(desk));
     return pages;
 }
 

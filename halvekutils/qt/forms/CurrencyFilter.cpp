@@ -119,10 +119,45 @@ QString ForValidation(const QString& text) {
     return ToQString(*bare);
 }
 
+/// The line edit of a filter; null once it is being destroyed.
+QLineEdit* LineOf(const CurrencyFilter& field) {
+    return qobject_cast<QLineEdit*>(field.parent());
+}
+
+/// Runs what a filter does on an event; true when the receiver must not see the event, or cannot.
+template <class Body>
+bool TakesEvent(QObject& receiver, const CurrencyFilter& field, const Body& body) {
+    const QPointer<QObject> alive(&receiver);
+    bool taken = false;
+    GuardEvent(u"CurrencyField", [&] {
+        QLineEdit* const line = LineOf(field);
+        taken = line != nullptr && body(*line);
+    });
+    return taken || alive == nullptr;
+}
+
 }  // namespace
 
+/// Watches the application while the field is edited.
+class CurrencyFilter::Elsewhere : public QObject {
+  public:
+    explicit Elsewhere(CurrencyFilter& field) : field_(field) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return watched != field_.parent() && TakesEvent(*watched, field_, [&](QLineEdit& line) {
+                   return field_.FilterElsewhere(line, *watched, *event);
+               });
+    }
+
+  private:
+    CurrencyFilter& field_;
+};
+
 CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils)
-    : QObject(&line), sign_(sign), utils_(std::move(utils)) {
+    : QObject(&line),
+      sign_(sign),
+      utils_(std::move(utils)),
+      elsewhere_(std::make_unique<Elsewhere>(*this)) {
     line.setInputMask(QString());
     line.setMaxLength(std::max(line.maxLength(), kRoom));
     line.setText(line.text());  // what was undoable before is not judged
@@ -133,13 +168,10 @@ CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr
     if (line.hasFocus()) Enter(line);
 }
 
+CurrencyFilter::~CurrencyFilter() = default;
+
 CurrencyFilter* CurrencyFilter::Of(const QLineEdit& line) {
     return line.findChild<CurrencyFilter*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-/// Null once the line edit is being destroyed.
-QLineEdit* CurrencyFilter::Line() const {
-    return qobject_cast<QLineEdit*>(parent());
 }
 
 Utils& CurrencyFilter::Library() {
@@ -153,14 +185,7 @@ Utils& CurrencyFilter::Library() {
 }
 
 bool CurrencyFilter::eventFilter(QObject* watched, QEvent* event) {
-    const QPointer<QObject> receiver(watched);
-    bool taken = false;
-    GuardEvent(u"CurrencyField", [&] {
-        QLineEdit* const line = Line();
-        if (line == nullptr) return;
-        taken = watched == line ? Filter(*line, *event) : FilterElsewhere(watched, *event);
-    });
-    return taken || receiver == nullptr;
+    return TakesEvent(*watched, *this, [&](QLineEdit& line) { return Filter(line, *event); });
 }
 
 bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
@@ -196,21 +221,20 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
     }
 }
 
-/// Watches the application while the field is edited: a button that is pressed without taking the
-/// focus, and the click that moved the focus when the field keeps it.
-bool CurrencyFilter::FilterElsewhere(QObject* watched, const QEvent& event) {
+/// A button that is pressed without taking the focus validates too; the click that moved the focus
+/// does nothing when the field keeps it.
+bool CurrencyFilter::FilterElsewhere(QLineEdit& line, const QObject& watched, const QEvent& event) {
     switch (event.type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            if (watched->isWidgetType() && std::exchange(refusesPress_, false)) return true;
+            if (watched.isWidgetType() && std::exchange(refusesPress_, false)) return true;
             break;
         case QEvent::Shortcut:
             break;
         default:
             return false;
     }
-    QLineEdit& line = *Line();
-    const auto* const button = qobject_cast<QPushButton*>(watched);
+    const auto* const button = qobject_cast<const QPushButton*>(&watched);
     const bool isPressed =
         button != nullptr && button->isEnabled() && button->window() == line.window();
     return isPressed && !Leave(line);
@@ -308,7 +332,7 @@ void CurrencyFilter::Drop(QLineEdit& line, QDropEvent& event) {
 /// The focus may move while the window is inactive, without a word to the field.
 void CurrencyFilter::FocusMoved(const QWidget* now) {
     GuardEvent(u"CurrencyField", [&] {
-        QLineEdit* const line = Line();
+        QLineEdit* const line = LineOf(*this);
         if (!editing_ || leaving || line == nullptr || now == nullptr || now == line) return;
         if (now->window() == line->window()) LoseFocus(*line, Qt::OtherFocusReason);
     });
@@ -336,7 +360,7 @@ void CurrencyFilter::Enter(QLineEdit& line) {
     if (editing_ || leaving) return;
     editing_ = true;
     wasLocked_ = line.isReadOnly();
-    qApp->installEventFilter(this);
+    qApp->installEventFilter(elsewhere_.get());
 
     const std::shared_ptr<TextField> field = CopyOf(line);
     const bool isReadable = BareAmount(line.text(), AmountSign::Signed).has_value();
@@ -381,7 +405,7 @@ bool CurrencyFilter::MayLeave(QLineEdit& line) {
 void CurrencyFilter::EndEditing() {
     editing_ = false;
     refusesPress_ = false;
-    qApp->removeEventFilter(this);
+    qApp->removeEventFilter(elsewhere_.get());
 }
 
 /// An amount that the program has set meanwhile, "$1,234.50" say, becomes a bare number again

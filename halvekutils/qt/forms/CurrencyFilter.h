@@ -32,6 +32,7 @@ class CurrencyFilter : public QObject {
     };
 
     CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
+    ~CurrencyFilter() override;
 
     /// The filter of a line edit; null when it is no currency field.
     static CurrencyFilter* Of(const QLineEdit& line);
@@ -41,8 +42,10 @@ class CurrencyFilter : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    class Elsewhere;
+
     bool Filter(QLineEdit& line, QEvent& event);
-    bool FilterElsewhere(QObject* watched, const QEvent& event);
+    bool FilterElsewhere(QLineEdit& line, const QObject& watched, const QEvent& event);
     bool PressKey(QLineEdit& line, const QKeyEvent& event);
     bool Type(QLineEdit& line, char16_t letter);
     bool Insert(QLineEdit& line, const QString& piece);
@@ -57,11 +60,11 @@ class CurrencyFilter : public QObject {
     void MakeBare(QLineEdit& line);
 
     Utils& Library();
-    QLineEdit* Line() const;
 
     AmountSign sign_;
     std::shared_ptr<Utils> utils_;
     std::shared_ptr<Utils> ownUtils_;
+    std::unique_ptr<Elsewhere> elsewhere_;
     Range range_;
     bool editing_ = false;  ///< entered and not left yet
     bool wasLocked_ = false;
