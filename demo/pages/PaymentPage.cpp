@@ -64,6 +64,7 @@ PaymentPage::PaymentPage(Desk& desk)
     post_.setText("&Post");
     connect(&post_, &QPushButton::clicked, this, [this] { Post(); });
     grid->addWidget(&post_, grid->rowCount(), 1, Qt::AlignLeft);
+    post_.setAutoDefault(false);  // it stays the default button without the focus
     post_.setDefault(true);
     grid->setColumnStretch(grid->columnCount(), 1);
     Body().addWidget(&form_);
