@@ -146,7 +146,7 @@ void PaymentPage::Play(Tour& tour) {
     tour.Expect(amount_.selectedText() == "9999999.99", "the focused amount is bare and selected");
     tour.Picture(*window(), "payment-focused");
 
-    const auto below = [&] { PlayEntry(tour, to, "0.49", ""); };
+    const auto below = [&] { PlayEntry(tour, entries_[3], "0.49", ""); };
     tour.Answer("payment-range", {tour.Snapshot("payment-range"), PressKey("", Qt::Key_Escape)},
                 below);
     PlayEntry(tour, to, "0.50", "$0.50");

@@ -13,14 +13,15 @@ namespace {
 
 /// Handles an event of a control, which is kept alive meanwhile.
 template <class Body>
-void Handle(Utils& utils, const char16_t* member, std::shared_ptr<TextControl> ctr,
+void Handle(Utils& utils, const char16_t* member, const std::shared_ptr<TextControl>& ctr,
             const Body& body) {
+    const std::shared_ptr<TextControl> control = ctr;
     const auto prefix = [member] {
         return std::u16string(u"Error in HalvekUtils/Utils/") + member + u"  ";
     };
     Guarded(OnFault::Quiet, prefix, LogOf(utils), [&] {
-        if (ctr == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"control");
-        body(*ctr);
+        if (control == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"control");
+        body(*control);
     });
 }
 

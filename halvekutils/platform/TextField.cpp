@@ -5,10 +5,10 @@
 namespace halvek {
 
 TextField::TextField() = default;
-TextField::TextField(TextIn text, std::int32_t selStart, std::int32_t selLength) : text_(text) {
-    SelStart(selStart);
-    SelLength(selLength);
-}
+TextField::TextField(TextIn text, std::int32_t selStart, std::int32_t selLength)
+    : text_(text),
+      selStart_(std::clamp(selStart, 0, Length())),
+      selLength_(std::clamp(selLength, 0, Length() - selStart_)) {}
 TextField::~TextField() = default;
 
 void TextField::Text(TextIn value) {

@@ -6,15 +6,10 @@ source "$(dirname "$0")/desktop.sh"
 
 # Presses keys and waits for what they put on record. Usage: expect KEYS LINE
 expect() {
+    local line=$2
     answered=$(wc -l <"$record")
     keys ${1//,/ }
-    wait_until "$1 gives $2" is_recorded "$2"
-}
-is_recorded() {
-    has_answer && [ "$(tail -n 1 "$record")" = "$1" ]
-}
-message_is_open() {
-    [ -n "$(active_window)" ] && ! is_active "$main"
+    wait_until "$1 gives $2" eval 'has_answer && [ "$(tail -n 1 "$record")" = "$line" ]'
 }
 
 start_desktop
@@ -28,20 +23,17 @@ while read -r typed before after; do
 done <<'ROWS'
 alt+a,1,2,3,4,period,5,6,7,Tab 1234.56 $1,234.56
 alt+a,Tab,shift+Tab,Tab 1234.56 $1,234.56
-alt+a,End,BackSpace,BackSpace,KP_9,x,Escape,Tab 1234.9 $1,234.90
-alt+a,Home,shift+Right,shift+Right,7,Tab 734.90 $734.90
-alt+a,KP_Decimal,5,ctrl+z,Tab 734.90 $734.90
-alt+a,ctrl+c,Delete,8,ctrl+a,ctrl+v,Tab 734.90 $734.90
+alt+a,End,BackSpace,KP_9,x,Escape,Home,shift+Right,shift+Right,7,Tab 734.59 $734.59
+alt+a,ctrl+c,KP_Decimal,5,ctrl+z,Delete,ctrl+v,Tab 734.59 $734.59
 alt+a,1,2,3,4,5,6,7,8,9,period,1,2,3,alt+d 1234567.12 $1,234,567.12
 alt+d,2,5,minus,1,Tab -125 $-125.00
-alt+d,plus,Tab 125.00 $125.00
 alt+d,minus,period,0,0,Tab -0.00 0.00
-alt+m,5,0,Tab 50 $50.00
+alt+m,5,0,alt+t 50 $50.00
 alt+t,5,0,Tab 50 $50.00
 ROWS
 picture currency-left
 keys alt+t 2 0 Tab
-wait_until "an amount below the lower one is told" message_is_open
+wait_until "an amount below the lower one is told" eval '[ -n "$(active_window)" ] && ! is_active "$main"'
 picture currency-range
 keys Return
 wait_until "the client is active again" is_active "$main"

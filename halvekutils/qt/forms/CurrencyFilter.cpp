@@ -1,7 +1,9 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyFilter.h>
+#include <halvekutils/qt/forms/CurrencyKeyEvent.h>
 #include <halvekutils/qt/forms/CurrencyValidator.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/LineEditCopy.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,7 +14,6 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdint>
@@ -23,91 +24,13 @@ namespace halvek {
 namespace {
 
 constexpr int kRoom = 64;
-constexpr char16_t kBackspace = 8;
 
 /// True while a field is being left: what its message does to the focus concerns no field.
 bool leaving = false;
 
-int CaretOf(const QLineEdit& line) {
-    return line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
-}
-
-std::shared_ptr<TextField> CopyOf(const QLineEdit& line) {
-    auto field = std::make_shared<TextField>(line.text(), CaretOf(line), line.selectionLength());
-    field->Locked(line.isReadOnly());
-    return field;
-}
-
-void Select(QLineEdit& line, int start, int length) {
-    if (length > 0) {
-        line.setSelection(start, length);
-    } else {
-        line.setCursorPosition(start);
-    }
-}
-
-/// Sets a text that is no doing of the user's and cannot be undone.
-void SetText(QLineEdit& line, const QString& text) {
-    if (line.maxLength() < text.size()) line.setMaxLength(static_cast<int>(text.size()));
-    line.setText(text);
-}
-
-/// Changes the text as the user would, by the part in which the new one differs.
-void Edit(QLineEdit& line, const QString& text) {
-    const QString before = line.text();
-    const auto [was, is] = std::mismatch(before.begin(), before.end(), text.begin(), text.end());
-    const auto start = was - before.begin();
-    const qsizetype shorter = std::min(before.size(), text.size()) - start;
-    qsizetype same = 0;
-    while (same < shorter && before[before.size() - 1 - same] == text[text.size() - 1 - same]) {
-        ++same;
-    }
-    Select(line, static_cast<int>(start), static_cast<int>(before.size() - start - same));
-    const QString inserted = text.mid(start, text.size() - start - same);
-    if (inserted.isEmpty()) {
-        line.del();
-    } else {
-        line.insert(inserted);
-    }
-}
-
 bool EditingGoesOn(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
-}
-
-/// Keys that say nothing to the field.
-bool IsPassing(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-        case Qt::Key_Escape:
-        case Qt::Key_Shift:
-        case Qt::Key_Control:
-        case Qt::Key_Alt:
-        case Qt::Key_AltGr:
-        case Qt::Key_Meta:
-        case Qt::Key_CapsLock:
-        case Qt::Key_NumLock:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool IsEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-/// The character that a key types, Backspace included; 0 for a command or an editing key.
-char16_t TypedBy(const QKeyEvent& event) {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return 0;
-    if (event.key() == Qt::Key_Backspace) return kBackspace;
-    if (event.text().size() != 1 || !event.text().front().isPrint()) return 0;
-    const char16_t letter = event.text().front().unicode();
-    // Where people write decimal commas the keypad has one instead of the point.
-    const bool isKeypadComma = letter == u',' && event.modifiers() & Qt::KeypadModifier;
-    return isKeypadComma ? u'.' : letter;
 }
 
 /// A readable amount in the form that no rule about digits without a point can misread.
@@ -170,6 +93,12 @@ CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr
 
 CurrencyFilter::~CurrencyFilter() = default;
 
+CurrencyFilter& CurrencyFilter::Attach(QLineEdit& line, AmountSign sign,
+                                       std::shared_ptr<Utils> utils) {
+    delete Of(line);
+    return *new CurrencyFilter(line, sign, std::move(utils));
+}
+
 CurrencyFilter* CurrencyFilter::Of(const QLineEdit& line) {
     return line.findChild<CurrencyFilter*>(QString(), Qt::FindDirectChildrenOnly);
 }
@@ -202,7 +131,7 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
         case QEvent::MouseButtonRelease:
             if (std::exchange(clickSelects_, false) && !line.hasSelectedText() &&
                 static_cast<QMouseEvent&>(event).button() == Qt::LeftButton) {
-                QTimer::singleShot(0, &line, &QLineEdit::selectAll);
+                QMetaObject::invokeMethod(&line, &QLineEdit::selectAll, Qt::QueuedConnection);
             }
             return false;
         case QEvent::Drop:
@@ -351,7 +280,8 @@ bool CurrencyFilter::LoseFocus(QLineEdit& line, Qt::FocusReason reason) {
     line.setFocus(Qt::OtherFocusReason);
     if (self != nullptr && reason == Qt::MouseFocusReason) {
         refusesPress_ = true;
-        QTimer::singleShot(0, this, [this] { refusesPress_ = false; });
+        const auto forget = [this] { refusesPress_ = false; };
+        QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
     }
     return true;
 }

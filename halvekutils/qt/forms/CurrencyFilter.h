@@ -34,6 +34,9 @@ class CurrencyFilter : public QObject {
     CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
     ~CurrencyFilter() override;
 
+    /// Attaches a new filter, which replaces the one before.
+    static CurrencyFilter& Attach(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
+
     /// The filter of a line edit; null when it is no currency field.
     static CurrencyFilter* Of(const QLineEdit& line);
 
