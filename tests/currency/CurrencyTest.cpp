@@ -15,17 +15,6 @@ std::u16string Wide(const std::string& text) {
     return std::u16string(text.begin(), text.end());
 }
 
-/// The rows of a table, parted by blanks; ">" parts what belongs to one.
-std::vector<std::vector<std::string>> Rows(const std::string& table) {
-    std::vector<std::vector<std::string>> rows;
-    std::istringstream words(table);
-    for (std::string word, part; words >> word;) {
-        std::istringstream parts(word);
-        for (rows.emplace_back(); std::getline(parts, part, '>');) rows.back().push_back(part);
-    }
-    return rows;
-}
-
 /// A field written as "12|.50" with its caret, or as "1[2.5]0" with its selection.
 TextField FieldOf(std::u16string shown) {
     const auto start = static_cast<std::int32_t>(shown.find_first_of(u"|["));
@@ -34,12 +23,9 @@ TextField FieldOf(std::u16string shown) {
     return TextField(shown, start, end < 0 ? 0 : end - start - 1);
 }
 
-std::string Shown(const TextField& field) {
-    std::u16string shown = field.Text();
-    const auto start = static_cast<std::size_t>(field.SelStart());
-    const auto length = static_cast<std::size_t>(field.SelLength());
-    if (length > 0) shown.insert(start + length, 1, u']');
-    return ToUtf8(shown.insert(start, 1, length > 0 ? u'[' : u'|'));
+bool operator==(const TextField& one, const TextField& other) {
+    return one.Text() == other.Text() && one.SelStart() == other.SelStart() &&
+           one.SelLength() == other.SelLength();
 }
 
 class Currency : public CleanState {
@@ -80,26 +66,30 @@ class Currency : public CleanState {
 };
 
 TEST_F(Currency, HandlersGiveTheTextAndTheCaret) {
+    // What the field shows, what is done in it, and what it shows then
     const char* const tables[] = {
-        "|>12.345>12.34| |>.>0.| |>a,+$-7>7| |>123456789.129>1234567.12| 12|34567>8>1234567| "
-        "1|234567.12>8>1234567.12| |1234567.1>8>8|1234567.1 1,234,567|.10>8>1,234,567.10| "
-        "$12.34|>5>$12.34| $12.3|4>5>$12.35| 1|.23.4>.>1.|23.4 $1|.5>.>$1.|5 |125>.>0.12| "
-        "12|.34>9>129|.34 12.|34>9>12.93| [12.50]>7>7| [12.50]>.>0.| [12.50]>->| [$12.50]>7>7| "
-        "[12.50]>x>[12.50] 1[2345]67>8>18|67 |$1,234.50>F>[1234.50] |-$5.00>F>[-5.00] "
-        "|5>L>|$5.00 |5.>L>|$5.00 |.5>L>|$0.50 |007>L>|$7.00 |123456789>L>|$1,234,567.89 "
-        "|12345678>L>|$1,234,567.00 |1234567890>L>|$1,234,567.00 |2.675>L>|$2.68 |->L>|- |.>L>|. "
-        "|999999.995>L>|$1,000,000.00 |1e5>L>|1e5 |1.2.3>L>|1.2.3 |>L>| "
-        "|1,234,567>L>|1,234,567",
-        "25|>->-|25 25|>-->|25 -2|5>+>|25 25|>+>|25 |>+->-| |>-5>-5| |>-.125>-0.12| |-25>1>-1|25 "
-        "|-25>.>-.|25 |-1.5>.>-1.|5 [-]25>1>1|25 -[25]>3>-3| [-25]>3>3| [25]>->-| "
-        "-1234567|>8.918>-1234567.91| -12.|34>9>-12.93| $|-25>1>$-1|25 |$-1,025.00>F>[-1025.00] "
-        "|-25>L>|$-25.00 |-0.00>L>|0.00 |-0>L>|$0.00 |->L>| |-123456789>L>|$-1,234,567.89 "
-        "|-2.674>L>|$-2.67"};
+        "| 12.345 12.34|  | . 0.|  | a,+$-7 7|  | 123456789.129 1234567.12|  "
+        "12|34567 8 1234567|  1|234567.12 8 1234567.12|  |1234567.1 8 8|1234567.1  "
+        "1,234,567|.10 8 1,234,567.10|  $12.34| 5 $12.34|  $12.3|4 5 $12.35|  "
+        "1|.23.4 . 1.|23.4  $1|.5 . $1.|5  |125 . 0.12|  12|.34 9 129|.34  12.|34 9 12.93|  "
+        "[12.50] 7 7|  [12.50] . 0.|  [12.50] - |  [$12.50] 7 7|  [12.50] x [12.50]  "
+        "1[2345]67 8 18|67  |$1,234.50 F [1234.50]  |-$5.00 F [-5.00]  |5 L |$5.00  "
+        "|5. L |$5.00  |.5 L |$0.50  |007 L |$7.00  |123456789 L |$1,234,567.89  "
+        "|12345678 L |$1,234,567.00  |1234567890 L |$1,234,567.00  |2.675 L |$2.68  |- L |-  "
+        "|. L |.  |999999.995 L |$1,000,000.00  |1e5 L |1e5  |1.2.3 L |1.2.3  | L |  "
+        "|1,234,567 L |1,234,567",
+        "25| - -|25  25| -- |25  -2|5 + |25  25| + |25  | +- -|  | -5 -5|  | -.125 -0.12|  "
+        "|-25 1 -1|25  |-25 . -.|25  |-1.5 . -1.|5  [-]25 1 1|25  -[25] 3 -3|  [-25] 3 3|  "
+        "[25] - -|  -1234567| 8.918 -1234567.91|  -12.|34 9 -12.93|  $|-25 1 $-1|25  "
+        "|$-1,025.00 F [-1025.00]  |-25 L |$-25.00  |-0.00 L |0.00  |-0 L |$0.00  |- L |  "
+        "|-123456789 L |$-1,234,567.89  |-2.674 L |$-2.67"};
     for (const bool isSigned : {false, true}) {
-        for (const auto& row : Rows(tables[isSigned])) {
-            *box_ = FieldOf(Wide(row[0]));
-            for (const char what : row[1]) Do(what, isSigned);
-            EXPECT_EQ(Shown(*box_), row[2]) << row[0] << " and " << row[1];
+        std::istringstream rows(tables[isSigned]);
+        for (std::string before, acts, after; rows >> before >> acts >> after;) {
+            *box_ = FieldOf(Wide(before));
+            for (const char what : acts) Do(what, isSigned);
+            EXPECT_TRUE(*box_ == FieldOf(Wide(after)))
+                << before << " " << acts << " gave " << ToUtf8(box_->Text());
         }
     }
 }
@@ -134,14 +124,16 @@ TEST_F(Currency, EveryAmountComesBackToItself) {
 }
 
 TEST_F(Currency, AnUpperAmountBelowTheLowerOneIsRefused) {
-    for (const auto& row : Rows("50>20>refused $10.01>$10.00>refused -5>-6>refused 10>10>ok "
-                                "0>-10>ok >10>ok 50>0>ok 50>x>ok 1,000>$1,000.01>ok")) {
-        box_->Text(Wide(row[1]));
+    std::istringstream rows(
+        "50 20 refused  $10.01 $10.00 refused  -5 -6 refused  10 10 ok  0 -10 ok  none 10 ok  "
+        "50 0 ok  50 none ok  1,000 $1,000.01 ok");
+    for (std::string lower, upper, result; rows >> lower >> upper >> result;) {
+        box_->Text(Wide(upper));
         cancel_ = false;
-        utils_->OnCurrencyCtrValidateRange(box_, Wide(row[0]), box_->Text(), u"From", u"To",
+        utils_->OnCurrencyCtrValidateRange(box_, Wide(lower), box_->Text(), u"From", u"To",
                                            cancel_);
-        EXPECT_EQ(cancel_, row[2] == "refused") << row[0];
-        EXPECT_EQ(ToUtf8(box_->Text()), cancel_ ? "" : row[1]);
+        EXPECT_EQ(cancel_, result == "refused") << lower;
+        EXPECT_EQ(ToUtf8(box_->Text()), cancel_ ? "" : upper);
     }
     ASSERT_EQ(desktop_.StockMessages().size(), 3);
     const auto& message = desktop_.StockMessages().front();
@@ -165,11 +157,12 @@ TEST_F(Currency, FaultsAreLoggedWithTheirMember) {
     utils_->OnNegCurrencyCtrChange(nullptr);
     utils_->OnCurrencyCtrValidateRange(box_, u"1e300", u"1", u"From", u"To", cancel_);
     const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
-    for (const auto& row : Rows("CurrencyCtrKeyPress>Inv CurrencyCtrChange>Obj "
-                                "CurrencyCtrGotFocus>Inv CurrencyCtrValidate>Inv "
-                                "NegCurrencyCtrKeyPress>Inv NegCurrencyCtrChange>Obj "
-                                "NegCurrencyCtrValidate>Inv CurrencyCtrValidateRange>Over")) {
-        const std::string line = "\tError in HalvekUtils/Utils/On" + row[0] + "  " + row[1];
+    std::istringstream rows(
+        "CurrencyCtrKeyPress Inv  CurrencyCtrChange Obj  CurrencyCtrGotFocus Inv  "
+        "CurrencyCtrValidate Inv  NegCurrencyCtrKeyPress Inv  NegCurrencyCtrChange Obj  "
+        "NegCurrencyCtrValidate Inv  CurrencyCtrValidateRange Over");
+    for (std::string member, fault; rows >> member >> fault;) {
+        const std::string line = "\tError in HalvekUtils/Utils/On" + member + "  " + fault;
         EXPECT_NE(log.find(line), log.npos) << line;
     }
 }

@@ -31,7 +31,6 @@ alt+d,minus,period,0,0,Tab -0.00 0.00
 alt+m,5,0,alt+t 50 $50.00
 alt+t,5,0,Tab 50 $50.00
 ROWS
-picture currency-left
 keys alt+t 2 0 Tab
 wait_until "an amount below the lower one is told" eval '[ -n "$(active_window)" ] && ! is_active "$main"'
 picture currency-range

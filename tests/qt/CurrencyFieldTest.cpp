@@ -44,16 +44,15 @@ struct CurrencyFieldTest : FormTest {
 };
 
 TEST_F(CurrencyFieldTest, WhatTheHostHasSetStaysUntilItIsEnteredAndLeft) {
-    for (const char* const row : {"$1,234.50>1234.50>$1,234.50", "1,234,567>1234567>$1,234,567.00",
-                                  "123456789>123456789>$1,234,567.89"}) {
-        const QStringList texts = QString(row).split('>');
+    for (const QString set : {"$1,234,567", "1,234,567", "123456700"}) {
         for (const bool isLocked : {false, true}) {
             amount_.setReadOnly(isLocked);
-            amount_.setText(texts[0]);
-            Type(amount_, isLocked ? "5" : "x");
-            EXPECT_EQ(amount_.selectedText(), texts[isLocked ? 0 : 1]);
+            amount_.setText(set);
+            Type(amount_, "x");
+            EXPECT_EQ(amount_.selectedText(),
+                      isLocked ? set : QString(set).remove('$').remove(','));
             plain_.setFocus();
-            EXPECT_EQ(amount_.text(), texts[isLocked ? 0 : 2]);
+            EXPECT_EQ(amount_.text(), isLocked ? set : "$1,234,567.00");
         }
     }
 }
