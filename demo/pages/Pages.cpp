@@ -13,6 +13,7 @@
 #include "pages/HelpersPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/OpenWindowsPage.h"
+#include "pages/PaymentPage.h"
 #include "pages/PrintersPage.h"
 #include "pages/RemindersPage.h"
 #include "pages/RightsPage.h"
@@ -43,6 +44,7 @@ std::vector<std::unique_ptr<Page>> MakePages(Desk& desk) {
     pages.push_back(std::make_unique<ColoursPage>(desk));
     pages.push_back(std::make_unique<DebugPage>(desk));
     pages.push_back(std::make_unique<HelpPage>(desk));
+    pages.push_back(std::make_unique<PaymentPage>(desk));
     return pages;
 }
 

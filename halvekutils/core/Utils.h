@@ -498,6 +498,66 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     utils->ShowHelpByTopic(0, u"::/billing/late.htm#fees");
     bool ShowHelpByTopic(std::int32_t hwnd, TextIn TopicPath = {}, TextIn HelpFileLocation = {});
 
+    // A currency field is an ordinary text box that hands its own events to the members below; the
+    // OnNeg... members serve amounts that may be negative. While it has the focus it holds a bare
+    // number of at most 7 digits before the point and 2 after it. Each member logs a fault with
+    // "Error in HalvekUtils/Utils/", its own name and two blanks, and leaves the text as it is
+    // then. A Qt host has all of this done by MakeCurrencyField.
+
+    /// Judges a key before the text box does.
+    ///
+    /// A full selection is emptied first. "." in an empty box makes "0.", a second one jumps behind
+    /// the first. A digit for which there is no room moves the caret to the end.
+    /// @param KeyAscii  the key's character code; set to 0 when the box must not insert it, after a
+    ///     fault too
+    ///
+    ///     std::int16_t key = u'5';
+    ///     utils->OnCurrencyCtrKeyPress(box, key);
+    ///     if (key != 0) ...  // insert it
+    void OnCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr, std::int16_t& KeyAscii);
+
+    /// Cuts what follows the point to two characters; only then the caret goes to the end.
+    void OnCurrencyCtrChange(const std::shared_ptr<TextControl>& ctr);
+
+    /// Takes "$" and the thousands commas off and selects the text, which is all that a locked box
+    /// gets. Serves both families.
+    void OnCurrencyCtrGotFocus(const std::shared_ptr<TextControl>& ctr);
+
+    /// Shows the amount as "$" and the number with thousands commas and two decimals.
+    ///
+    /// Without a point, a number of nine characters ends in cents, and one of any other length
+    /// above seven is cut to seven. A text that is no number stays as it is and is logged.
+    /// @param Cancel  false for an empty box, which stays empty; otherwise not written
+    void OnCurrencyCtrValidate(const std::shared_ptr<TextControl>& ctr, bool& Cancel);
+
+    /// The most digits before the point: 7, whatever the system preferences say.
+    std::int16_t CURRENCY_NUMDECIMALS() const;
+
+    /// The most digits after the point: 2, whatever the system preferences say.
+    std::int16_t CURRENCY_NUMFRACT() const;
+
+    /// OnCurrencyCtrKeyPress for signed amounts: "-" turns the sign over and "+" takes it off,
+    /// wherever the caret stands. Digits and points always land behind the sign.
+    void OnNegCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr, std::int16_t& KeyAscii);
+
+    /// OnCurrencyCtrChange for signed amounts.
+    void OnNegCurrencyCtrChange(const std::shared_ptr<TextControl>& ctr);
+
+    /// OnCurrencyCtrValidate for signed amounts: a negative one shows as "$-25.00", "-0.00" as
+    /// "0.00".
+    void OnNegCurrencyCtrValidate(const std::shared_ptr<TextControl>& ctr, bool& Cancel);
+
+    /// Checks, when the upper field of a range is left, that it is not below the lower one.
+    ///
+    /// When it is, a message says so, the field is emptied and Cancel becomes true. An amount that
+    /// is 0 or no number turns the check off.
+    /// @param strMin, strMax  the amounts as their fields show them
+    /// @param lblMin, lblMax  what the message calls the two fields
+    ///
+    ///     utils->OnCurrencyCtrValidateRange(to, from->Text(), to->Text(), u"From", u"To", cancel);
+    void OnCurrencyCtrValidateRange(const std::shared_ptr<TextControl>& ctr, TextIn strMin,
+                                    TextIn strMax, TextIn lblMin, TextIn lblMax, bool& Cancel);
+
     /// True for a key that opens a look-up: the LookupKey or LookupKey1 of the current system
     /// preferences, of which the low 16 bits count. Throws ObjectNotSet without preferences.
     bool IsLookupKey(std::int16_t CodeKey) const;

@@ -8,5 +8,10 @@ HeadingControl::~HeadingControl() = default;
 ControlFont::~ControlFont() = default;
 GridFont::~GridFont() = default;
 ComboBox::~ComboBox() = default;
+TextControl::~TextControl() = default;
+
+bool TextControl::Locked() const {
+    return false;
+}
 
 }  // namespace halvek

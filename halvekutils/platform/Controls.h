@@ -146,4 +146,34 @@ class HALVEK_EXPORT ComboBox {
     ComboBox& operator=(const ComboBox&) = default;
 };
 
+/// A text box of the host's whose keystrokes and text are looked after by the library.
+///
+/// Positions and lengths are counted in characters. Passed as a shared pointer; TextField is one
+/// without a window. A control that is gone throws ObjectNotSet.
+class HALVEK_EXPORT TextControl {
+  public:
+    virtual ~TextControl();
+
+    /// Setting the text puts the caret in front of it and ends the selection.
+    virtual void Text(TextIn value) = 0;
+    virtual std::u16string Text() const = 0;
+
+    /// How many characters stand before the caret, or before the selection. Setting it ends the
+    /// selection.
+    virtual void SelStart(std::int32_t value) = 0;
+    virtual std::int32_t SelStart() const = 0;
+
+    /// How many characters are selected from SelStart on.
+    virtual void SelLength(std::int32_t value) = 0;
+    virtual std::int32_t SelLength() const = 0;
+
+    /// True when the user may not edit the text. A control that cannot be locked leaves this out.
+    virtual bool Locked() const;
+
+  protected:
+    TextControl() = default;
+    TextControl(const TextControl&) = default;
+    TextControl& operator=(const TextControl&) = default;
+};
+
 }  // namespace halvek

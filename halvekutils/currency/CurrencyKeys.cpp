@@ -1,0 +1,129 @@
+#include <halvekutils/currency/BareText.h>
+#include <halvekutils/currency/CurrencyKeys.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::int16_t kBackspace = 8;
+
+constexpr bool IsDigitKey(std::int16_t key) {
+    return key >= u'0' && key <= u'9';
+}
+
+std::int32_t LengthOf(const std::u16string& text) {
+    return static_cast<std::int32_t>(text.size());
+}
+
+void WriteAndGoToEnd(TextControl& ctr, const std::u16string& text) {
+    ctr.Text(text);
+    ctr.SelStart(LengthOf(text));
+}
+
+/// What the rules see of a control: its number without "$", blanks around it and its sign.
+struct Entry {
+    Entry(const TextControl& ctr, AmountSign amountSign)
+        : shown(ctr.Text()), text(BareText(shown)), number(text) {
+        if (amountSign == AmountSign::Unsigned || text.find(u'-') == text.npos) return;
+        sign = u"-";
+        number = Without(text, u'-');
+    }
+
+    std::u16string shown;  ///< as it stands in the control
+    std::u16string text;
+    std::u16string number;
+    std::u16string sign;  ///< "-" or empty
+};
+
+bool CoversAll(const TextControl& ctr) {
+    const std::u16string shown = ctr.Text();
+    if (shown.empty()) return false;
+    const std::int32_t selected = ctr.SelLength();
+    return selected == LengthOf(shown) || selected == LengthOf(BareText(shown));
+}
+
+bool IsCaretAtEnd(const TextControl& ctr, const Entry& entry) {
+    const auto caret = static_cast<std::size_t>(std::max(ctr.SelStart(), 0));
+    return BareText(entry.shown.substr(0, caret)).size() >= entry.text.size();
+}
+
+/// What passes must not land in front of the sign.
+void PutCaretBehindSign(TextControl& ctr, const Entry& entry) {
+    if (entry.sign.empty() || !entry.text.starts_with(u'-')) return;
+    const auto behind = static_cast<std::int32_t>(entry.shown.find(u'-') + 1);
+    if (ctr.SelLength() == 0 && ctr.SelStart() < behind) ctr.SelStart(behind);
+}
+
+bool HasNoRoom(const std::u16string& number, bool caretAtEnd) {
+    const std::size_t point = number.find(u'.');
+    if (point == number.npos) return number.size() >= kWholeDigits;
+    const std::size_t fractionEnd = std::min(number.find(u'.', point + 1), number.size());
+    const std::size_t fraction = fractionEnd - point - 1;
+    const bool hasComma = number.find(u',') != number.npos;
+    if (hasComma && point > kWholeDigits) return true;
+    if (!hasComma && point == kWholeDigits && fraction == kFractionDigits) return true;
+    return fraction >= kFractionDigits && caretAtEnd;
+}
+
+// Each of these gives whether the control is to insert the key.
+
+bool PressDigit(TextControl& ctr, const Entry& entry, char16_t digit) {
+    if (ctr.SelLength() > 0) return true;
+    if (entry.number.empty()) {
+        WriteAndGoToEnd(ctr, entry.sign + digit);
+        return false;
+    }
+    if (HasNoRoom(entry.number, IsCaretAtEnd(ctr, entry))) {
+        ctr.SelStart(LengthOf(entry.shown));
+        return false;
+    }
+    PutCaretBehindSign(ctr, entry);
+    return true;
+}
+
+bool PressPoint(TextControl& ctr, const Entry& entry) {
+    if (entry.number.empty()) {
+        WriteAndGoToEnd(ctr, entry.sign + u"0.");
+        return false;
+    }
+    const std::size_t point = entry.shown.find(u'.');
+    if (point != entry.shown.npos) {
+        ctr.SelStart(static_cast<std::int32_t>(point + 1));
+        return false;
+    }
+    PutCaretBehindSign(ctr, entry);
+    return true;
+}
+
+bool PressSign(TextControl& ctr, const Entry& entry, bool minus) {
+    if (entry.text.empty()) return minus;
+    const bool becomesNegative = minus && entry.sign.empty();
+    ctr.Text(becomesNegative ? u"-" + entry.number : entry.number);
+    ctr.SelStart(becomesNegative ? 1 : 0);
+    return false;
+}
+
+bool Press(TextControl& ctr, std::int16_t key, AmountSign sign) {
+    if (ctr.Locked()) return false;
+    const bool replaces = IsDigitKey(key) || key == u'.' || key == u'-';
+    if (replaces && CoversAll(ctr)) ctr.Text(u"");
+    if (key == kBackspace) return true;
+
+    const Entry entry(ctr, sign);
+    if (IsDigitKey(key)) return PressDigit(ctr, entry, static_cast<char16_t>(key));
+    if (key == u'.') return PressPoint(ctr, entry);
+    const bool isSign = key == u'-' || key == u'+';
+    return isSign && sign == AmountSign::Signed && PressSign(ctr, entry, key == u'-');
+}
+
+}  // namespace
+
+void PressCurrencyKey(TextControl& ctr, std::int16_t& keyAscii, AmountSign sign) {
+    const std::int16_t key = std::exchange(keyAscii, std::int16_t{0});
+    if (Press(ctr, key, sign)) keyAscii = key;
+}
+
+}  // namespace halvek

@@ -1,0 +1,171 @@
+#include "tests/CleanState.h"
+
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/platform/TextField.h>
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sstream>
+
+namespace halvek {
+namespace {
+
+std::u16string Wide(const std::string& text) {
+    return std::u16string(text.begin(), text.end());
+}
+
+/// A field written as "12|.50" with its caret, or as "1[2.5]0" with its selection.
+TextField FieldOf(std::u16string shown) {
+    const auto start = static_cast<std::int32_t>(shown.find_first_of(u"|["));
+    const auto end = static_cast<std::int32_t>(shown.find(u']'));
+    std::erase_if(shown, [](char16_t c) { return c == u'|' || c == u'[' || c == u']'; });
+    return TextField(shown, start, end < 0 ? 0 : end - start - 1);
+}
+
+bool operator==(const TextField& one, const TextField& other) {
+    return one.Text() == other.Text() && one.SelStart() == other.SelStart() &&
+           one.SelLength() == other.SelLength();
+}
+
+class Currency : public CleanState {
+  protected:
+    Currency() { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
+
+    /// Enters the field ("F"), leaves it ("L"), or presses a key, which is inserted if it passes.
+    void Do(char what, bool isSigned) {
+        if (what == 'F') return utils_->OnCurrencyCtrGotFocus(box_);
+        if (what == 'L' && !isSigned) return utils_->OnCurrencyCtrValidate(box_, cancel_);
+        if (what == 'L') return utils_->OnNegCurrencyCtrValidate(box_, cancel_);
+        auto key = static_cast<std::int16_t>(what);
+        isSigned ? utils_->OnNegCurrencyCtrKeyPress(box_, key)
+                 : utils_->OnCurrencyCtrKeyPress(box_, key);
+        if (key == 0) return;
+        const std::int32_t start = box_->SelStart();
+        const auto selected = static_cast<std::size_t>(box_->SelLength());
+        box_->Text(box_->Text().replace(static_cast<std::size_t>(start), selected, Wide({what})));
+        box_->SelStart(start + 1);
+        isSigned ? utils_->OnNegCurrencyCtrChange(box_) : utils_->OnCurrencyCtrChange(box_);
+    }
+
+    /// Types the rest of an amount; whether it is kept when it is left, entered and left again.
+    bool ComesBack(const std::string& amount, std::size_t typed, bool isSigned) {
+        for (const char key : amount.substr(typed)) Do(key, isSigned);
+        for (const char what : {'L', 'F', 'L'}) {
+            Do(what, isSigned);
+            std::u16string bare = box_->Text();
+            std::erase_if(bare, [](char16_t mark) { return mark == u'$' || mark == u','; });
+            if (bare != Wide(amount)) return false;
+        }
+        return true;
+    }
+
+    std::shared_ptr<Utils> utils_ = Utils::Create();
+    std::shared_ptr<TextField> box_ = std::make_shared<TextField>();
+    bool cancel_ = false;
+};
+
+TEST_F(Currency, HandlersGiveTheTextAndTheCaret) {
+    // What the field shows, what is done in it, and what it shows then
+    const char* const tables[] = {
+        "| 12.345 12.34|  | . 0.|  | a,+$-7 7|  | 123456789.129 1234567.12|  "
+        "12|34567 8 1234567|  1|234567.12 8 1234567.12|  |1234567.1 8 8|1234567.1  "
+        "1,234,567|.10 8 1,234,567.10|  $12.34| 5 $12.34|  $12.3|4 5 $12.35|  "
+        "1|.23.4 . 1.|23.4  $1|.5 . $1.|5  |125 . 0.12|  12|.34 9 129|.34  12.|34 9 12.93|  "
+        "[12.50] 7 7|  [12.50] . 0.|  [12.50] - |  [$12.50] 7 7|  [12.50] x [12.50]  "
+        "1[2345]67 8 18|67  |$1,234.50 F [1234.50]  |-$5.00 F [-5.00]  |5 L |$5.00  "
+        "|5. L |$5.00  |.5 L |$0.50  |007 L |$7.00  |123456789 L |$1,234,567.89  "
+        "|12345678 L |$1,234,567.00  |1234567890 L |$1,234,567.00  |2.675 L |$2.68  |- L |-  "
+        "|. L |.  |999999.995 L |$1,000,000.00  |1e5 L |1e5  |1.2.3 L |1.2.3  | L |  "
+        "|1,234,567 L |1,234,567",
+        "25| - -|25  25| -- |25  -2|5 + |25  25| + |25  | +- -|  | -5 -5|  | -.125 -0.12|  "
+        "|-25 1 -1|25  |-25 . -.|25  |-1.5 . -1.|5  [-]25 1 1|25  -[25] 3 -3|  [-25] 3 3|  "
+        "[25] - -|  -1234567| 8.918 -1234567.91|  -12.|34 9 -12.93|  $|-25 1 $-1|25  "
+        "|$-1,025.00 F [-1025.00]  |-25 L |$-25.00  |-0.00 L |0.00  |-0 L |$0.00  |- L |  "
+        "|-123456789 L |$-1,234,567.89  |-2.674 L |$-2.67"};
+    for (const bool isSigned : {false, true}) {
+        std::istringstream rows(tables[isSigned]);
+        for (std::string before, acts, after; rows >> before >> acts >> after;) {
+            *box_ = FieldOf(Wide(before));
+            for (const char what : acts) Do(what, isSigned);
+            EXPECT_TRUE(*box_ == FieldOf(Wide(after)))
+                << before << " " << acts << " gave " << ToUtf8(box_->Text());
+        }
+    }
+}
+
+TEST_F(Currency, EveryAmountComesBackToItself) {
+#ifdef __SANITIZE_ADDRESS__
+    constexpr int kStep = 101;
+#else
+    constexpr int kStep = 1;
+#endif
+    int wrong = 0;
+    for (int dollars = 0; dollars < 100'000; dollars += kStep) {
+        const std::string start = std::to_string(dollars) + '.';
+        *box_ = TextField();
+        for (const char key : start) Do(key, false);
+        const TextField started = *box_;
+        for (int cents = 100; cents < 200; ++cents) {
+            *box_ = started;
+            const std::string amount = start + std::to_string(cents).substr(1);
+            wrong += !ComesBack(amount, start.size(), false);
+        }
+    }
+    EXPECT_EQ(wrong, 0);
+    std::mt19937 random;
+    for (int i = 0; i < 10'000; ++i) {
+        std::string amount = std::to_string(1'000'000'001 + random() % 999'999'999).substr(1);
+        amount.insert(7, 1, '.').erase(0, std::min(amount.find_first_not_of('0'), std::size_t{6}));
+        if (i % 2 == 0) amount.insert(0, 1, '-');
+        *box_ = TextField();
+        EXPECT_TRUE(ComesBack(amount, 0, true)) << amount;
+    }
+}
+
+TEST_F(Currency, AnUpperAmountBelowTheLowerOneIsRefused) {
+    std::istringstream rows(
+        "50 20 refused  $10.01 $10.00 refused  -5 -6 refused  10 10 ok  0 -10 ok  none 10 ok  "
+        "50 0 ok  50 none ok  1,000 $1,000.01 ok");
+    for (std::string lower, upper, result; rows >> lower >> upper >> result;) {
+        box_->Text(Wide(upper));
+        cancel_ = false;
+        utils_->OnCurrencyCtrValidateRange(box_, Wide(lower), box_->Text(), u"From", u"To",
+                                           cancel_);
+        EXPECT_EQ(cancel_, result == "refused") << lower;
+        EXPECT_EQ(ToUtf8(box_->Text()), cancel_ ? "" : upper);
+    }
+    ASSERT_EQ(desktop_.StockMessages().size(), 3);
+    const auto& message = desktop_.StockMessages().front();
+    EXPECT_EQ(message.title + message.text,
+              u"Front Desk\"To\" amount cannot be less then \"From\" amount.");
+    EXPECT_EQ(message.icon, StockIcon::Critical);
+}
+
+struct BrokenControl : TextField {
+    using TextField::Locked, TextField::Text;
+    std::u16string Text() const override { throw std::runtime_error("broken"); }
+    bool Locked() const override { throw std::runtime_error("broken"); }
+};
+
+TEST_F(Currency, FaultsAreLoggedWithTheirMember) {
+    box_ = std::make_shared<BrokenControl>();
+    for (const bool isSigned : {false, true}) {
+        for (const char what : {'5', 'F', 'L'}) Do(what, isSigned);
+    }
+    utils_->OnCurrencyCtrChange(nullptr);
+    utils_->OnNegCurrencyCtrChange(nullptr);
+    utils_->OnCurrencyCtrValidateRange(box_, u"1e300", u"1", u"From", u"To", cancel_);
+    const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
+    std::istringstream rows(
+        "CurrencyCtrKeyPress Inv  CurrencyCtrChange Obj  CurrencyCtrGotFocus Inv  "
+        "CurrencyCtrValidate Inv  NegCurrencyCtrKeyPress Inv  NegCurrencyCtrChange Obj  "
+        "NegCurrencyCtrValidate Inv  CurrencyCtrValidateRange Over");
+    for (std::string member, fault; rows >> member >> fault;) {
+        const std::string line = "\tError in HalvekUtils/Utils/On" + member + "  " + fault;
+        EXPECT_NE(log.find(line), log.npos) << line;
+    }
+}
+
+}  // namespace
+}  // namespace halvek

@@ -1,0 +1,149 @@
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/qt/CurrencyField.h>
+#include <halvekutils/qt/CurrencyLineEdit.h>
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace halvek {
+namespace {
+
+/// A host's form: an amount, a range whose upper field is signed, and "Post".
+struct CurrencyFieldTest : FormTest {
+    CurrencyFieldTest() {
+        auto* rows = new QVBoxLayout(&form_);
+        const std::initializer_list<QWidget*> parts = {&plain_, &amount_, from_, to_, &post_};
+        for (QWidget* const part : parts) rows->addWidget(part);
+        MakeCurrencyField(&amount_);
+        CheckCurrencyRange(from_, to_, u"From", u"To");
+        post_.setDefault(true);
+        QObject::connect(&post_, &QPushButton::clicked, [&] { posted_ += amount_.text() + ';'; });
+        form_.show();
+        Activate();
+    }
+    void Activate() {
+        form_.activateWindow();
+        EXPECT_TRUE(Soon([&] { return form_.isActiveWindow(); }));
+    }
+    void Type(QLineEdit& line, const char* keys) {
+        line.setFocus();
+        for (; *keys != 0; ++keys) QTest::keyClick(form_.windowHandle(), *keys);
+    }
+
+    QDialog form_;
+    QLineEdit plain_, amount_;
+    QLineEdit* from_ = new QLineEdit;
+    QLineEdit* to_ = new CurrencyLineEdit(AmountSign::Signed);
+    QPushButton post_{QStringLiteral("&Post")};
+    QString posted_;
+};
+
+TEST_F(CurrencyFieldTest, WhatTheHostHasSetStaysUntilItIsEnteredAndLeft) {
+    for (const QString set : {"$1,234,567", "1,234,567", "123456700"}) {
+        for (const bool isLocked : {false, true}) {
+            amount_.setReadOnly(isLocked);
+            amount_.setText(set);
+            Type(amount_, "x");
+            EXPECT_EQ(amount_.selectedText(),
+                      isLocked ? set : QString(set).remove('$').remove(','));
+            plain_.setFocus();
+            EXPECT_EQ(amount_.text(), isLocked ? set : "$1,234,567.00");
+        }
+    }
+}
+
+TEST_F(CurrencyFieldTest, EveryWayInIsJudgedByWhatWouldResult) {
+    const auto put = [&](QLineEdit& line, const QString& text, int way) {
+        QApplication::clipboard()->setText(text);
+        const QMimeData* const data = QApplication::clipboard()->mimeData();
+        QInputMethodEvent commit;
+        commit.setCommitString(text);
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+        QDropEvent drop({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+        if (way == 0) PressKey(form_, Qt::CTRL | Qt::Key_V);
+        if (way == 1) line.paste();
+        if (way == 2) QCoreApplication::sendEvent(&line, &commit);
+        if (way == 3) QCoreApplication::sendEvent(&line, &enter);
+        if (way == 3) QCoreApplication::sendEvent(&line, &drop);
+    };
+    const QString taken("$1,234.50>1234.50; 12\n>12;(5.00)>-5.00;$(1,000)>-1000;-$5>-5;.5>.5");
+    const QString refused(
+        "1.234,50;12.345.6;1,23;1,2345;0,123;1,234,;1 "
+        "234;--5;5-;(-5);$$5;1e3;12345678;.123;\uFF15");
+    int changes = 0;
+    QObject::connect(to_, &QLineEdit::textChanged, &form_, [&] { ++changes; });
+    for (int way = 0; way < 4; ++way) {
+        for (const QString& row : (taken + ';' + refused).split(';')) {
+            to_->clear();
+            to_->setFocus();
+            changes = 0;
+            put(*to_, row.section('>', 0, 0), way);
+            EXPECT_EQ(to_->text(), row.section('>', 1, 1)) << row.toStdString() << " by " << way;
+            EXPECT_EQ(changes, row.contains('>') ? 1 : 0) << "the host sees nothing in between";
+        }
+    }
+    Type(amount_, "25");
+    put(amount_, "(5.00)", 1);
+    put(amount_, QString(10'000'000, '9'), 0);
+    put(amount_, ".", 0);
+    EXPECT_EQ(amount_.text(), "25.");
+    amount_.selectAll();
+    put(amount_, "$1,234.50", 0);
+    PressKey(form_, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(amount_.text(), "25.");
+}
+
+TEST_F(CurrencyFieldTest, ButtonsAndOtherFieldsButNoOtherWindowSeeTheAmountAsLeft) {
+    Type(amount_, "25\r31");
+    PressKey(form_, Qt::ALT | Qt::Key_P);
+    EXPECT_TRUE(Soon([&] { return posted_.count(';') == 2; }));
+    post_.setFocusPolicy(Qt::NoFocus);
+    Type(amount_, "47");
+    Click(form_, post_);
+    EXPECT_EQ(posted_, "$25.00;$31.00;$47.00;");
+    Type(amount_, "52");
+    auto other = OpenHostWindow(QRect(0, 0, 50, 50));
+    Activate();
+    EXPECT_EQ(amount_.text(), "52");
+    other = OpenHostWindow(QRect(0, 0, 50, 50));
+    plain_.setFocus();
+    Activate();
+    EXPECT_EQ(amount_.text(), "$52.00");
+}
+
+TEST_F(CurrencyFieldTest, ARefusedFieldKeepsTheFocusUnlessItIsGone) {
+    using Act = std::function<void()>;
+    const Act stay = [] {}, move = [&] { plain_.setFocus(); }, hide = [&] { to_->hide(); };
+    const Act tab = [&] { PressKey(form_, Qt::Key_Backtab); },
+              enter = [&] { PressKey(form_, Qt::Key_Enter); };
+    const Act post = [&] { Click(form_, post_); }, click = [&] { Click(form_, *from_); };
+    const Act disable = [&] { to_->setEnabled(false); }, destroy = [&] { delete to_; };
+    const std::pair<Act, Act> ways[] = {{tab, stay},    {enter, stay}, {post, stay},
+                                        {click, stay},  {move, hide},  {move, disable},
+                                        {move, destroy}};
+    for (const auto& [leave, happens] : ways) {
+        from_->setText("50");
+        to_->setEnabled(true);
+        to_->show();
+        Type(*to_, "20");
+        const QPointer<QLineEdit> to = to_;
+        const User user([act = happens](QDialog& box) {
+            act();
+            PressKey(box, Qt::Key_Return);
+        });
+        leave();
+        EXPECT_TRUE(user.HasActed());
+        Activate();
+        const bool isThere = to != nullptr && to->isVisible() && to->isEnabled();
+        EXPECT_EQ(form_.focusWidget(), isThere ? to.data() : &plain_);
+        EXPECT_EQ((isThere ? to->text() : QString()) + posted_, "");
+    }
+}
+
+}  // namespace
+}  // namespace halvek
