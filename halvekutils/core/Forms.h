@@ -2,9 +2,9 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/core/DebugConsole.h>
-#include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/dialogs/Calculator.h>
 #include <halvekutils/dialogs/Calendar.h>
+#include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/selection/SelectGrid.h>
 
