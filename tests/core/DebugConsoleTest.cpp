@@ -46,9 +46,10 @@ TEST_F(DebugConsoleTest, MoreThan30000CharactersAreClearedByTheNextLine) {
 /// A log whose writing is itself a matter for the debug console.
 struct TalkingMachine : TestMachine {
     using TestMachine::TestMachine;
-    void Append(const std::filesystem::path& file, std::string_view bytes) override {
+    bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
+                     std::uintmax_t length) override {
         Services::Current().ShowInDebug(u"writing");
-        TestMachine::Append(file, bytes);
+        return TestMachine::AppendBelow(file, bytes, length);
     }
 };
 

@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -36,8 +35,7 @@ class PrivateScheduler {
 
   private:
     static pid_t Start(std::vector<std::string> arguments) {
-        const auto script = std::filesystem::path(__FILE__).replace_filename("scheduler.sh");
-        arguments.insert(arguments.begin(), {"bash", script});
+        arguments.insert(arguments.begin(), {"bash", HALVEK_SCHEDULER});
         std::vector<char*> words;
         words.reserve(arguments.size() + 1);
         for (std::string& argument : arguments) words.push_back(argument.data());
