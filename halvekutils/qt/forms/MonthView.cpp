@@ -1,6 +1,8 @@
+#include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/MonthView.h>
+#include <halvekutils/text/ControlHelpers.h>
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
@@ -43,7 +45,8 @@ constexpr DayKey kKeys[] = {
 constexpr Qt::KeyboardModifiers kCommands =
     Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-const FontSpec kFont = {u"Tahoma", 7};
+constexpr char16_t kFont[] = u"Tahoma";
+constexpr float kFontSize = 7;  // points
 
 // What QCalendarWidget calls its parts.
 constexpr char kPreviousMonth[] = "qt_calendar_prevmonth";
@@ -82,7 +85,7 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
       days_(findChild<QAbstractItemView*>(QLatin1String("qt_calendar_calendarview"))),
       yearEdit_(findChild<QSpinBox*>(QLatin1String("qt_calendar_yearedit"))) {
     setObjectName(QLatin1String("MonthView1"));
-    setFont(ToQFont(kFont));
+    SetFontProperties(FontOf(this), kFont, kFontSize);
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);
     setVerticalHeaderFormat(NoVerticalHeader);
