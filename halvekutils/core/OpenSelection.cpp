@@ -46,11 +46,8 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request,
         grid->Prepare();
         ShowModal(grid);
     };
-    const auto refresh = [&] {
-        if (FormToRefresh != nullptr && FormToRefresh->Exists()) FormToRefresh->Refresh();
-    };
     Guarded(OnFault::Quiet, kSelectionFault, LogOf(utils), show);
-    Guarded(OnFault::Quiet, kSelectionFault, LogOf(utils), refresh);
+    Refresh(utils, kSelectionFault, FormToRefresh);
     return grid == nullptr ? std::u16string() : grid->ReturnValue();
 }
 

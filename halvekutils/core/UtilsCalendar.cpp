@@ -29,7 +29,7 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         if (form != nullptr && form->Exists()) form->Refresh();
     };
     std::u16string day = Guarded(OnFault::Beep, kFault, LogOf(utils), std::u16string(), show);
-    Guarded(OnFault::Quiet, kFault, LogOf(utils), refresh);
+    Refresh(utils, kFault, formToRefresh);
     return day;
 }
 

@@ -15,9 +15,7 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
         palette = std::make_shared<ColorPalette>(State().colorArray, anchor, Services::Current());
         Platform::Installed().Show(palette);
     });
-    Guarded(OnFault::Beep, kPaletteFault, LogOf(utils), [&] {
-        if (formToRefresh != nullptr && formToRefresh->Exists()) formToRefresh->Refresh();
-    });
+    Refresh(utils, kPaletteFault, formToRefresh);
     return palette == nullptr ? std::u16string() : palette->ReturnValue();
 }
 

@@ -55,4 +55,10 @@ std::u16string Utils::ShowSelectionGridAndCalculateCoordinates(
     });
 }
 
+void Refresh(Utils& utils, const char16_t* faultPrefix, const std::shared_ptr<OwnerForm>& form) {
+    Guarded(OnFault::Quiet, faultPrefix, LogOf(utils), [&] {
+        if (form != nullptr && form->Exists()) form->Refresh();
+    });
+}
+
 }  // namespace halvek

@@ -105,14 +105,4 @@ void DebugTextView::ShowText() {
     moveCursor(QTextCursor::End);
 }
 
-bool DebugTextView::Find(const QString& text, QTextDocument::FindFlags direction) {
-    if (text.isEmpty()) return false;
-    if (find(text, direction)) return true;
-    const QTextCursor before = textCursor();
-    moveCursor(direction & QTextDocument::FindBackward ? QTextCursor::End : QTextCursor::Start);
-    if (find(text, direction)) return true;
-    setTextCursor(before);
-    return false;
-}
-
 }  // namespace halvek

@@ -36,10 +36,6 @@ class DebugTextView : public QPlainTextEdit {
     /// The console has changed.
     void Refresh();
 
-    /// Selects the next place of a text, letter case ignored, going on at the other end; false when
-    /// there is none.
-    bool Find(const QString& text, QTextDocument::FindFlags direction = {});
-
   private:
     bool IsCurrent() const;
     void ShowText();

@@ -2,8 +2,8 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/FindBar.h>
 #include <halvekutils/qt/forms/HelpBrowser.h>
-#include <halvekutils/qt/forms/HelpFindBar.h>
 #include <halvekutils/qt/forms/HelpViewer.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 
@@ -60,7 +60,9 @@ void TakeOut(QWindow& lower, QWindow* window) {
 }  // namespace
 
 HelpViewer::HelpViewer()
-    : browser_(new HelpBrowser), trvContents_(new QTreeWidget), find_(new HelpFindBar(*browser_)) {
+    : browser_(new HelpBrowser),
+      trvContents_(new QTreeWidget),
+      find_(new FindBar(*browser_, tr("Find in this page"))) {
     notice_ = MakeNotice();
     setObjectName(QLatin1String("HelpViewer"));
     setAttribute(Qt::WA_QuitOnClose, false);

@@ -19,8 +19,8 @@ class QTreeWidgetItem;
 
 namespace halvek {
 
+class FindBar;
 class HelpBrowser;
-class HelpFindBar;
 
 /// The window that shows compiled help: its contents at the left, a page at the right.
 ///
@@ -68,7 +68,7 @@ class HelpViewer : public QWidget {
     std::shared_ptr<CompiledHelp> help_;
     HelpBrowser* browser_;
     QTreeWidget* trvContents_;
-    HelpFindBar* find_;
+    FindBar* find_;
     QWidget* notice_ = nullptr;
     QLabel* lblOutside_ = nullptr;
     QAction* home_ = nullptr;

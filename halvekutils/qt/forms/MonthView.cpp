@@ -1,6 +1,5 @@
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/MonthView.h>
 #include <halvekutils/text/ControlHelpers.h>
 

@@ -1,6 +1,6 @@
-#include <halvekutils/qt/forms/DebugFindBar.h>
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/FindBar.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/frmDebug.h>
 
@@ -40,7 +40,7 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
     : console_(std::move(console)),
       hostWindow_(QApplication::activeWindow()),
       txtDebug_(new DebugTextView(*console_, this)),
-      findBar_(new DebugFindBar(*txtDebug_, this)),
+      findBar_(new FindBar(*txtDebug_, tr("Find"), this)),
       chkNoLog_(MakeBox("chkNoLog", tr("STOP logging"), &DebugConsole::StopLogging)),
       chkToFile_(MakeBox("chkToFile", tr("All goes to file"), &DebugConsole::SendAllToFile)),
       Check1_(MakeBox("Check1", tr("Keep on top"), &DebugConsole::KeepOnTop)) {
@@ -115,8 +115,8 @@ void frmDebug::BuildShortcuts() {
     };
     add(Qt::Key_F7, [this] { console_->Clear(); });
     add(QKeySequence::Find, [this] { findBar_->Open(); });
-    add(Qt::Key_F3, [this] { findBar_->FindNext(); });
-    add(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->FindPrevious(); });
+    add(Qt::Key_F3, [this] { findBar_->Find(false); });
+    add(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->Find(true); });
 }
 
 void frmDebug::ShowInBackground() {

@@ -13,8 +13,8 @@ class QPushButton;
 
 namespace halvek {
 
-class DebugFindBar;
 class DebugTextView;
+class FindBar;
 
 /// The window of the debug console: shows its rules and forwards its events.
 ///
@@ -55,7 +55,7 @@ class frmDebug : public QWidget {
     std::shared_ptr<DebugConsole> console_;
     QPointer<QWidget> hostWindow_;
     DebugTextView* txtDebug_;
-    DebugFindBar* findBar_;
+    FindBar* findBar_;
     QCheckBox* chkNoLog_;
     QCheckBox* chkToFile_;
     QCheckBox* Check1_;

@@ -1,12 +1,13 @@
 #include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/HelpFindBar.h>
+#include <halvekutils/qt/forms/FindBar.h>
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTextCursor>
-#include <QTextEdit>
 #include <QToolButton>
+
+#include <utility>
 
 namespace halvek {
 
@@ -24,21 +25,21 @@ QToolButton* MakeButton(const char* name, const QString& caption, const QString&
     button->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
     button->setFocusPolicy(Qt::StrongFocus);
     QObject::connect(button, &QToolButton::clicked, button,
-                     [press] { GuardEvent(u"HelpFindBar.Click", press); });
+                     [press] { GuardEvent(u"FindBar.Click", press); });
     return button;
 }
 
 }  // namespace
 
-HelpFindBar::HelpFindBar(QTextEdit& text, QWidget* parent)
-    : QFrame(parent), text_(text), txtFind_(new QLineEdit), lblOutcome_(new QLabel) {
-    setObjectName(QLatin1String("HelpFindBar"));
+FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
+    : QFrame(parent), text_(std::move(text)), txtFind_(new QLineEdit), lblFind_(new QLabel) {
+    setObjectName(QLatin1String("FindBar"));
     txtFind_->setObjectName(QLatin1String("txtFind"));
-    txtFind_->setAccessibleName(tr("Find in this page"));
-    txtFind_->setPlaceholderText(tr("Find in this page"));
+    txtFind_->setAccessibleName(prompt);
+    txtFind_->setPlaceholderText(prompt);
     txtFind_->setMaxLength(kLongestWord);
     txtFind_->setClearButtonEnabled(true);
-    lblOutcome_->setObjectName(QLatin1String("lblOutcome"));
+    lblFind_->setObjectName(QLatin1String("lblFind"));
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(4, 4, 4, 4);
     row->addWidget(txtFind_, 1);
@@ -46,36 +47,36 @@ HelpFindBar::HelpFindBar(QTextEdit& text, QWidget* parent)
                               [this] { Find(true); }));
     row->addWidget(
         MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { Find(false); }));
-    row->addWidget(lblOutcome_);
+    row->addWidget(lblFind_);
     row->addStretch(1);
     row->addWidget(
         MakeButton("cmdFindClose", tr("Close"), tr("Close (Escape)"), [this] { Close(); }));
     connect(txtFind_, &QLineEdit::textEdited, this,
-            [this] { GuardEvent(u"HelpFindBar.txtFind_Change", [this] { FindTyped(); }); });
+            [this] { GuardEvent(u"FindBar.txtFind_Change", [this] { FindTyped(); }); });
     connect(txtFind_, &QLineEdit::returnPressed, this,
-            [this] { GuardEvent(u"HelpFindBar.txtFind_Enter", [this] { Find(false); }); });
+            [this] { GuardEvent(u"FindBar.txtFind_Enter", [this] { Find(false); }); });
     hide();
 }
 
-HelpFindBar::~HelpFindBar() = default;
+FindBar::~FindBar() = default;
 
-void HelpFindBar::Open() {
+void FindBar::Open() {
     ShowOutcome(true);
     show();
     txtFind_->setFocus(Qt::ShortcutFocusReason);
     txtFind_->selectAll();
 }
 
-void HelpFindBar::Close() {
+void FindBar::Close() {
     hide();
-    text_.setFocus(Qt::OtherFocusReason);
+    text_.widget->setFocus(Qt::OtherFocusReason);
 }
 
 /// While the word grows the place that was found stays where it is.
-void HelpFindBar::FindTyped() {
-    QTextCursor cursor = text_.textCursor();
+void FindBar::FindTyped() {
+    QTextCursor cursor = text_.cursor();
     cursor.setPosition(cursor.selectionStart());
-    text_.setTextCursor(cursor);
+    text_.setCursor(cursor);
     if (txtFind_->text().isEmpty()) {
         ShowOutcome(true);
     } else {
@@ -83,27 +84,36 @@ void HelpFindBar::FindTyped() {
     }
 }
 
-void HelpFindBar::Find(bool backwards) {
-    const QString word = txtFind_->text();
-    if (word.isEmpty()) {
+void FindBar::Find(bool backwards) {
+    if (txtFind_->text().isEmpty()) {
         Open();
         return;
     }
-    const QTextDocument::FindFlags flags =
-        backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    const QTextCursor before = text_.textCursor();
-    bool found = text_.find(word, flags);
-    if (!found) {
-        text_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
-        found = text_.find(word, flags);
-    }
-    if (!found) text_.setTextCursor(before);
+    const QTextCursor before = text_.cursor();
+    QTextCursor otherEnd = before;
+    otherEnd.movePosition(backwards ? QTextCursor::End : QTextCursor::Start);
+    const bool found = FindFrom(before, backwards) || FindFrom(otherEnd, backwards);
+    if (!found) text_.setCursor(before);
     ShowOutcome(found);
 }
 
-void HelpFindBar::ShowOutcome(bool found) {
-    lblOutcome_->setText(found ? QString() : tr("Not found"));
-    txtFind_->setAccessibleDescription(lblOutcome_->text());
+bool FindBar::FindFrom(const QTextCursor& cursor, bool backwards) {
+    text_.setCursor(cursor);
+    const auto direction = backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    return text_.find(txtFind_->text(), direction);
+}
+
+void FindBar::ShowOutcome(bool found) {
+    lblFind_->setText(found ? QString() : tr("Not found"));
+    txtFind_->setAccessibleDescription(lblFind_->text());
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Close();
+    } else {
+        QFrame::keyPressEvent(event);
+    }
 }
 
 }  // namespace halvek
