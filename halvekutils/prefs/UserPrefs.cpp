@@ -5,6 +5,7 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <tuple>
@@ -149,12 +150,15 @@ UserPrefs::~UserPrefs() = default;
 
 bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
     Table::ForEachRow([&](const auto& row) { Reset(*this, row); });
-    const Pieces fields(StrAllSettings, kFieldSeparator);
-    auto field = fields.begin();
+    std::array<TextIn, std::tuple_size_v<decltype(Table::kRows)>> fields;
+    std::size_t count = 0;
+    for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
+        if (count == fields.size()) break;
+        fields[count++] = field;
+    }
+    std::size_t at = 0;
     Table::ForEachRow([&](const auto& row) {
-        if (field == fields.end()) return;
-        Read(*this, row, *field);
-        ++field;
+        if (at < count) Read(*this, row, fields[at++]);
     });
     return false;
 }

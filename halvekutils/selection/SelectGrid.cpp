@@ -1,11 +1,12 @@
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/selection/SelectGrid.h>
 #include <halvekutils/text/CharacterFilter.h>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace halvek {
@@ -35,6 +36,11 @@ void Append(std::u16string& codes, std::u16string_view code) {
     codes += code;
 }
 
+bool IsSame(std::u16string_view left, std::u16string_view right) {
+    return left.size() == right.size() &&
+           std::memcmp(left.data(), right.data(), left.size() * sizeof(char16_t)) == 0;
+}
+
 /// The codes of a text, joined anew, all but one.
 std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
@@ -45,14 +51,17 @@ std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftO
     // Codes that stay as they are, one behind the other, are copied together.
     std::size_t runStart = 0;
     std::size_t start = 0;
-    for (const std::u16string_view piece : Pieces(text, u',')) {
-        const std::u16string_view code = Trimmed(piece);
-        if (code.size() != piece.size() || code.empty() || code == leftOut) {
+    CharacterScan commas(text, u',');
+    while (start <= text.size()) {
+        const std::size_t end = std::min(commas.Next(), text.size());
+        const std::u16string_view piece(text.data() + start, end - start);
+        const bool isTrimmed = !piece.empty() && piece.front() != u' ' && piece.back() != u' ';
+        if (!isTrimmed || IsSame(piece, leftOut)) {
             if (start > runStart) append(text.substr(runStart, start - 1 - runStart));
-            if (code != leftOut) append(code);
-            runStart = start + piece.size() + 1;
+            if (const auto code = Trimmed(piece); code != leftOut) append(code);
+            runStart = end + 1;
         }
-        start += piece.size() + 1;
+        start = end + 1;
     }
     if (start > runStart) append(text.substr(runStart));
     return codes;
