@@ -1,5 +1,7 @@
 #include "Rows.h"
 
+#include <halvekutils/qt/QtText.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -31,8 +33,7 @@ Case ReadAndWrite(double) {
         if (!text->empty()) *text += kSeparator;
         *text += field;
     }
-    const auto peerText = std::make_shared<QString>(
-        QString::fromUtf16(text->data(), static_cast<qsizetype>(text->size())));
+    const auto peerText = std::make_shared<QString>(ToQString(*text));
     return {.floor =
                 [fields] {
                     const std::vector<std::u16string> copy = *fields;

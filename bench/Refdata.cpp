@@ -1,5 +1,7 @@
 #include "Rows.h"
 
+#include <halvekutils/qt/QtText.h>
+
 #include <QHash>
 #include <QString>
 
@@ -22,10 +24,6 @@ std::u16string Digits(std::size_t number) {
         digits.insert(digits.begin(), static_cast<char16_t>(u'0' + number / place % 10));
     }
     return digits;
-}
-
-QString AsQString(const std::u16string& text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// The texts of one code table: description, key, report and sort list.
@@ -76,7 +74,7 @@ Case BuildCodes(double scale) {
     const auto codes = std::make_shared<std::vector<CodeTexts>>(
         MakeCodes(static_cast<std::size_t>(100'000 * scale)));
     const auto data = std::make_shared<std::u16string>(CodesData(*codes));
-    const auto peerData = std::make_shared<QString>(AsQString(*data));
+    const auto peerData = std::make_shared<QString>(ToQString(*data));
     return {.floor =
                 [codes] {
                     const std::vector<CodeTexts> copy = *codes;
@@ -132,9 +130,9 @@ Case FindCodes(std::size_t count) {
     }
     Session().BuildCodesCollection(data);
     const auto collection = Session().GetCodesCollection();
-    const auto peer = std::make_shared<QHash<QString, PeerCode>>(PeerCodes(AsQString(data)));
+    const auto peer = std::make_shared<QHash<QString, PeerCode>>(PeerCodes(ToQString(data)));
     const auto peerKeys = std::make_shared<std::vector<QString>>();
-    for (const std::u16string& key : lookUps->keys) peerKeys->push_back(AsQString(key));
+    for (const std::u16string& key : lookUps->keys) peerKeys->push_back(ToQString(key));
     return {.floor =
                 [lookUps, floorItems] {
                     for (std::size_t i = 0; i < lookUps->keys.size(); ++i) {
@@ -168,9 +166,9 @@ Case BuildRightsAndLookUp(double scale) {
     const auto lookUps = std::make_shared<LookUps>(MakeLookUps(keys));
     const auto stored = std::make_shared<std::vector<std::u16string>>(std::move(keys));
     const auto text = std::make_shared<std::u16string>(std::move(data));
-    const auto peerText = std::make_shared<QString>(AsQString(*text));
+    const auto peerText = std::make_shared<QString>(ToQString(*text));
     const auto peerKeys = std::make_shared<std::vector<QString>>();
-    for (const std::u16string& key : lookUps->keys) peerKeys->push_back(AsQString(key));
+    for (const std::u16string& key : lookUps->keys) peerKeys->push_back(ToQString(key));
     return {.floor =
                 [stored, lookUps] {
                     const std::vector<std::u16string> copy = *stored;

@@ -1,6 +1,7 @@
 #include "Rows.h"
 
 #include <halvekutils/platform/Services.h>
+#include <halvekutils/qt/QtText.h>
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <QString>
@@ -97,8 +98,7 @@ Case Toggle(double scale) {
     const std::shared_ptr<SelectGrid> grid = Open(list, chosen);
     const auto text = std::make_shared<std::u16string>(chosen);
     const auto buffer = std::make_shared<std::u16string>(chosen);
-    const auto peerChosen = std::make_shared<QString>(
-        QString::fromUtf16(chosen.data(), static_cast<qsizetype>(chosen.size())));
+    const auto peerChosen = std::make_shared<QString>(ToQString(chosen));
     const CellPlace cell = SelectGrid::PlaceOf(static_cast<std::int32_t>(entries / 2) + 2);
     return {.floor =
                 [text, buffer] {

@@ -1,5 +1,6 @@
 #include "Rows.h"
 
+#include <halvekutils/qt/QtText.h>
 #include <halvekutils/text/CharacterFilter.h>
 #include <halvekutils/text/DelimitedText.h>
 
@@ -36,10 +37,6 @@ std::u16string FieldsText(std::size_t characters, std::size_t length,
     return text;
 }
 
-QString AsQString(const std::u16string& text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// Reads every byte once, eight at a time.
 std::uint64_t OnePass(std::u16string_view text) {
     const char* const bytes = reinterpret_cast<const char*>(text.data());
@@ -55,8 +52,8 @@ std::uint64_t OnePass(std::u16string_view text) {
 
 Case Count(std::u16string separator, double bytes) {
     const auto text = std::make_shared<std::u16string>(FieldsText(Characters(bytes), 8, separator));
-    const auto peerText = std::make_shared<QString>(AsQString(*text));
-    const QString peerSeparator = AsQString(separator);
+    const auto peerText = std::make_shared<QString>(ToQString(*text));
+    const QString peerSeparator = ToQString(separator);
     return {.floor =
                 [text] {
                     const std::uint64_t sum = OnePass(*text);
@@ -78,7 +75,7 @@ Case Count(std::u16string separator, double bytes) {
 
 Case SplitAll(std::size_t length, double bytes) {
     const auto text = std::make_shared<std::u16string>(FieldsText(Characters(bytes), length, u"|"));
-    const auto peerText = std::make_shared<QString>(AsQString(*text));
+    const auto peerText = std::make_shared<QString>(ToQString(*text));
     return {.floor =
                 [text, length] {
                     const std::u16string_view view = *text;
@@ -150,7 +147,7 @@ bool IsUnwantedForPeer(QChar character) {
 Case Filter(bool clean, double scale) {
     const auto text =
         std::make_shared<std::u16string>(TypedText(Characters(16 * kMiB * scale), clean));
-    const auto peerText = std::make_shared<QString>(AsQString(*text));
+    const auto peerText = std::make_shared<QString>(ToQString(*text));
     return {.floor =
                 [text] {
                     const std::u16string copy = *text;

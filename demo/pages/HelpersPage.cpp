@@ -85,7 +85,7 @@ CallBox* MakeFont(Desk& desk, QLabel& sample) {
 
 QString SearchBy(Utils& library, std::int16_t key) {
     try {
-        return Shown(library.IsLookupKey(key)) + ", search by " +
+        return Shown(library.IsLookupKey(key)) + ", " +
                Shown(library.ConvertLookupKeyToSearchBy(key));
     } catch (const RuntimeError& fault) {
         return ToQString(fault.Description());
@@ -346,8 +346,8 @@ void HelpersPage::PlayCalls(Tour& tour) {
         {find_, {"dr. baker", false, true}, "-1"},
         {find_, {"baker", true, false}, "1"},
         {font_, {"Tahoma", "0"}, "false, 9 points"},
-        {lookup_, {113}, R"(true, search by "1")"},
-        {lookup_, {65}, R"(false, search by "")"},
+        {lookup_, {113}, R"(true, "1")"},
+        {lookup_, {65}, R"(false, "")"},
         {sleep_, {-1}, "over"},
         {sleep_, {20}, "over"},
     };
