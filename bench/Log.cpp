@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Rows.h"
 
 #include <halvekutils/base/Utf8.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CallLog.h"
 
 #include <utility>

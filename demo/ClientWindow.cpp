@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ClientWindow.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Desk.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ErrorLogFile.h"
 
 #include <halvekutils/base/CodePage.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ReminderWindow.h"
 
 #include "widgets/ColorButton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SampleData.h"
 
 #include <halvekutils/base/CodePage.h>

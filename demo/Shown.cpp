@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Shown.h"
 
 #include <halvekutils/qt/QtText.h>

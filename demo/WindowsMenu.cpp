@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "WindowsMenu.h"
 
 #include "ClientWindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Desk.h"
 #include "MainWindow.h"
 #include "SampleData.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
 #include "tests/FakeServices.h"
 

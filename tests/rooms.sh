@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks that every room of the library includes only what it may touch, and that the library
 # without windows links nothing beyond the C and C++ run-time.
 # Usage: rooms.sh SOURCE-FOLDER LIBRARY

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Plays the demo's tour without a display and checks what it left.
 # Usage: tour.sh DEMO FOLDER
 set -euo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/CalculatorPage.h"
 
 #include "pages/CalculatorPlay.h"

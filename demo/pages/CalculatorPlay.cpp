@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/CalculatorPlay.h"
 
 #include "Shown.h"

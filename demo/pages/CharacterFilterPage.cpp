@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/CharacterFilterPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/CodesModel.h"
 
 #include <halvekutils/qt/QtText.h>

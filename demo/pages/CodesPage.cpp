@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/CodesPage.h"
 
 #include "Shown.h"

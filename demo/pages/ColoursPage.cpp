@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/ColoursPage.h"
 
 #include "Shown.h"

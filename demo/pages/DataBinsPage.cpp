@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/DataBinsPage.h"
 
 #include "Shown.h"

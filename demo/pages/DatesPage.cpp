@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/DatesPage.h"
 
 #include "tour/Tour.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/DebugPage.h"
 
 #include "Shown.h"

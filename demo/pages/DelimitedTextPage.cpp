@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/DelimitedTextPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/ErrorLogPage.h"
 
 #include "Shown.h"

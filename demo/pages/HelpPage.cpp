@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/HelpPage.h"
 
 #include "tour/Tour.h"

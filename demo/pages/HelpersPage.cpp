@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/HelpersPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/MessageBoxPage.h"
 
 #include "pages/MessageBoxPlay.h"

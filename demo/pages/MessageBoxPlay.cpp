@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/MessageBoxPlay.h"
 
 #include "Shown.h"

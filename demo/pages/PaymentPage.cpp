@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/PaymentPage.h"
 
 #include "Shown.h"

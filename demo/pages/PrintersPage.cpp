@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/PrintersPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/RightsPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/SelectionPage.h"
 
 #include "pages/SelectionPlay.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/SelectionPlay.h"
 
 #include "pages/SelectionPage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/SessionPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/SettingsFields.h"
 
 #include "widgets/ColorButton.h"

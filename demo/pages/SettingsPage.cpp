@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pages/SettingsPage.h"
 
 #include "Shown.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tour/TourSteps.h"
 
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tour/Watchdog.h"
 
 #include <cstdio>

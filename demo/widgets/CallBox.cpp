@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/CallBox.h"
 
 #include "widgets/Fields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/ColorStrip.h"
 
 #include "widgets/ColorButton.h"

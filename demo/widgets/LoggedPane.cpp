@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/LoggedPane.h"
 
 #include <QFontDatabase>

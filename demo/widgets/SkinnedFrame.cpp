@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/SkinnedFrame.h"
 
 #include "widgets/ColorButton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/Fetchable.h>
 
 namespace halvek {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/KeyIndex.h>
 #include <halvekutils/base/RuntimeError.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/Utils.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/core/DataBins.h>
 
 #include <memory>

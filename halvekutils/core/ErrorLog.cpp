@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/DateText.h>

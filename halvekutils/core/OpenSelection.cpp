@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/core/OpenSelection.h>
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/UtilsPrivate.h>

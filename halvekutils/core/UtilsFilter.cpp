@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/text/CharacterFilter.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/core/ComponentServices.h>
 #include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/UtilsPrivate.h>

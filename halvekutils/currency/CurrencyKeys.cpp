@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/currency/BareText.h>
 #include <halvekutils/currency/CurrencyKeys.h>
 

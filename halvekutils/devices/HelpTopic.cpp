@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/devices/HelpTopic.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/dialogs/Calculator.h>
 

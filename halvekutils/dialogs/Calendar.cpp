@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/text/ServerDates.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/dialogs/ColorPaletteLayout.h>
 #include <halvekutils/platform/Twips.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/MessageBoxButtons.h>
 
 #include <algorithm>

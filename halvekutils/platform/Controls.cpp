@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/platform/Controls.h>
 
 namespace halvek {

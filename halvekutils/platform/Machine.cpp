@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/platform/Machine.h>
 
 #include <thread>

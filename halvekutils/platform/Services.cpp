@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/platform/Services.h>
 

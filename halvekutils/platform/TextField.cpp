@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/platform/TextField.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyFilter.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/Existing.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/Metrics.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/Existing.h>
 #include <halvekutils/qt/forms/HeadingBorder.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/refdata/CodesCollection.h>

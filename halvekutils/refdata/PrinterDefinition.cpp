@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/refdata/PrinterDefinition.h>
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/refdata/SecurityItem.h>
 
 namespace halvek {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/selection/SelectGrid.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 #include <halvekutils/selection/SelectionList.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/system/LocalMachine.h>

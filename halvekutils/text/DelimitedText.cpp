@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>

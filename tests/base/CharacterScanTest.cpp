@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterScan.h>
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/Utf8.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/NumericText.h>

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs the library into an empty folder and builds and runs a host's project against it, and
 # the program that the README shows.
 # Usage: build.sh SOURCE-FOLDER BUILD-FOLDER COMPILER

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Works out amounts in the demo client by real keys and clicks under a window manager.
 # Usage: calculator.sh DEMO
 set -u

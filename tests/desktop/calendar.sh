@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Chooses days from the calendar in the demo client by real keys and clicks under a window manager.
 # Usage: calendar.sh DEMO
 set -u

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Types amounts into the demo client's currency fields by real keys under a window manager.
 # Usage: currency.sh DEMO
 set -u

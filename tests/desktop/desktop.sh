@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by the desktop tests: a private display with a window manager, a client on it, and real
 # keys and clicks. What was started ends with the test.
 set -uo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs the form tests on a real display, where a window manager frames, places and activates.
 # Usage: forms.sh TESTS
 set -u

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Holds keys down and asks a window without a close button to close, in the demo client under a
 # window manager.
 # Usage: helpers.sh DEMO

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Answers the message boxes of the demo client by real keys and clicks under a window manager.
 # Usage: message_box.sh DEMO
 set -u

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Chooses colours in the demo client by real keys and clicks, and types on while lines come into
 # the debug console. Usage: palette.sh DEMO
 set -u

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Chooses codes in the demo client by real keys and clicks under a window manager.
 # Usage: selection.sh DEMO
 set -u

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # A print scheduler of a test's own, for root and for an ordinary user: it listens on FOLDER/socket
 # only, keeps all of its files in FOLDER and asks nobody for a password.
 # Usage: scheduler.sh start FOLDER          becomes the scheduler; it ends with the caller

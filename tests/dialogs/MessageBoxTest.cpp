@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/FakeServices.h"
 
 #include <halvekutils/dialogs/MessageBox.h>

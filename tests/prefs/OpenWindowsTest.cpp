@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
 #include <halvekutils/core/Utils.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/prefs/SystemPrefs.h>
 
 #include <gtest/gtest.h>

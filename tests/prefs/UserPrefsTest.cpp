@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
 #include <halvekutils/base/BoolIn.h>

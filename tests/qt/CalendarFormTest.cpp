@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/qt/FormTest.h"
 
 #include <halvekutils/qt/QtControls.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/HelpFile.h"
 #include "tests/qt/FormTest.h"
 

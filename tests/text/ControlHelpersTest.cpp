@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 

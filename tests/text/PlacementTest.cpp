@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/scripted/ScriptedPlatform.h>
 #include <halvekutils/text/Placement.h>
 

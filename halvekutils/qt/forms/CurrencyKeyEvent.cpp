@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/CurrencyKeyEvent.h>
 
 #include <QKeyEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DialogShow.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/HeadingBorder.h>
 

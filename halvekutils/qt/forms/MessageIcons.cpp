@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/MessageIcons.h>
 
 #include <QAccessibleWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/MonthView.h>

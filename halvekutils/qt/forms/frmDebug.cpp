@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/FindBar.h>
