@@ -4,6 +4,7 @@
 #include <halvekutils/base/RuntimeError.h>
 
 #include <algorithm>
+#include <bit>
 
 namespace halvek {
 
@@ -37,13 +38,21 @@ std::size_t KeyIndex::Find(std::u16string_view key) const noexcept {
     return number == 0 ? kNone : number - 1;
 }
 
+void KeyIndex::Reserve(std::size_t items, std::size_t characters) {
+    keys_.reserve(items);
+    text_.reserve(characters);
+    if (2 * items > slots_.size()) ResizeSlots(std::bit_ceil(2 * items));
+}
+
 void KeyIndex::AddWithoutKey() {
     keys_.push_back({0, kNoKey, 0});
 }
 
 bool KeyIndex::Add(std::u16string_view key) {
     if (key.size() >= kNoKey) throw RuntimeError(Fault::InvalidArgument);
-    if (2 * (used_ + 1) > slots_.size()) GrowSlots();
+    if (2 * (used_ + 1) > slots_.size()) {
+        ResizeSlots(std::max(2 * slots_.size(), kFirstSlots));
+    }
     const std::uint32_t hash = HashOf(key);
     std::uint32_t& slot = slots_[SlotOf(key, hash)];
     if (slot != 0) return false;
@@ -72,8 +81,8 @@ void KeyIndex::Remove(std::size_t number) noexcept {
     FillSlots();
 }
 
-void KeyIndex::GrowSlots() {
-    slots_ = std::vector<std::uint32_t>(std::max(2 * slots_.size(), kFirstSlots));
+void KeyIndex::ResizeSlots(std::size_t size) {
+    slots_ = std::vector<std::uint32_t>(size);
     FillSlots();
 }
 

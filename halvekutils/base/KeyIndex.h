@@ -22,6 +22,9 @@ class HALVEK_EXPORT KeyIndex {
     /// The number of the item under a key; kNone when there is none.
     std::size_t Find(std::u16string_view key) const noexcept;
 
+    /// Makes room for items whose keys have so many characters together.
+    void Reserve(std::size_t items, std::size_t characters);
+
     /// Gives the next item no key.
     void AddWithoutKey();
     /// Gives the next item a key; false, and nothing is added, when the key is taken.
@@ -40,7 +43,7 @@ class HALVEK_EXPORT KeyIndex {
 
     std::u16string_view TextOf(const Key& key) const noexcept;
     std::size_t SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept;
-    void GrowSlots();
+    void ResizeSlots(std::size_t size);
     void FillSlots() noexcept;
 
     std::vector<Key> keys_;

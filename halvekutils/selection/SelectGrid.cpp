@@ -7,7 +7,6 @@
 #include <halvekutils/text/CharacterFilter.h>
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace halvek {
@@ -37,39 +36,48 @@ void Append(std::u16string& codes, std::u16string_view code) {
     codes += code;
 }
 
-bool IsSame(std::u16string_view left, std::u16string_view right) {
-    return left.size() == right.size() &&
-           std::memcmp(left.data(), right.data(), left.size() * sizeof(char16_t)) == 0;
-}
-
 /// The codes of a text, joined anew, all but one.
 std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
     codes.reserve(text.size());
-    const auto append = [&](std::u16string_view part) {
-        if (!part.empty()) Append(codes, part);
-    };
-    // Codes that stay as they are, one behind the other, are copied together.
-    std::size_t runStart = 0;
-    std::size_t start = 0;
-    CharacterScan commas(text, u',');
-    while (start <= text.size()) {
-        const std::size_t end = std::min(commas.Next(), text.size());
-        const std::u16string_view piece(text.data() + start, end - start);
-        const bool isTrimmed = !piece.empty() && piece.front() != u' ' && piece.back() != u' ';
-        if (!isTrimmed || IsSame(piece, leftOut)) {
-            if (start > runStart) append(text.substr(runStart, start - 1 - runStart));
-            if (const auto code = Trimmed(piece); code != leftOut) append(code);
-            runStart = end + 1;
-        }
-        start = end + 1;
-    }
-    if (start > runStart) append(text.substr(runStart));
+    ForEachCode(text, [&](std::u16string_view code) {
+        if (!code.empty() && code != leftOut) Append(codes, code);
+        return true;
+    });
     return codes;
 }
 
-bool StartsFolded(std::u16string_view text, std::u16string_view start) {
-    return EqualFolded(text.substr(0, start.size()), start);
+/// True when joining the codes of a text anew would give the same text.
+bool IsJoined(std::u16string_view text) {
+    return !text.starts_with(u',') && !text.ends_with(u',') &&
+           FindPair(text, u',', u',') == kNone && CountOf(text, u' ') == 0;
+}
+
+/// Where one of the codes of a text starts; kNone when it is not one of them.
+std::size_t FindCode(std::u16string_view text, std::u16string_view code, std::size_t from) {
+    const auto startsCode = [&](std::size_t at) { return at == 0 || text[at - 1] == u','; };
+    std::size_t end = from;
+    while ((end = FindPair(text, code.back(), u',', end)) != kNone) {
+        ++end;
+        if (!text.substr(from, end - from).ends_with(code)) continue;
+        if (startsCode(end - code.size())) return end - code.size();
+    }
+    const bool isLast = text.substr(from).ends_with(code) && startsCode(text.size() - code.size());
+    return isLast ? text.size() - code.size() : kNone;
+}
+
+/// Takes a code out of a text of codes, and joins the others anew.
+void RemoveCode(std::u16string& text, std::u16string_view code) {
+    const bool canStayJoined = !code.empty() && code.find(u',') == kNone && IsJoined(text);
+    const std::size_t at = canStayJoined ? FindCode(text, code, 0) : kNone;
+    const std::size_t behind = at + code.size() + 1;
+    if (at == kNone || (behind < text.size() && FindCode(text, code, behind) != kNone)) {
+        text = JoinedWithout(text, code);
+    } else if (behind < text.size()) {
+        text.erase(at, behind - at);
+    } else {
+        text.erase(at - std::min<std::size_t>(at, 1));  // with the comma before it
+    }
 }
 
 std::u16string ToolTipOf(std::u16string_view text) {
@@ -228,7 +236,7 @@ void SelectGrid::Toggle(std::int32_t entry) {
         } else if (on) {
             AddToChoice(Trimmed(list_.Code(entry)));
         } else {
-            SetChoice(JoinedWithout(box_.text, Trimmed(list_.Code(entry))));
+            RemoveFromChoice(Trimmed(list_.Code(entry)));
         }
         if (entry != SelectionList::kAllCodes) marks_[mark] = on;
         return true;
@@ -261,9 +269,19 @@ void SelectGrid::AddToChoice(std::u16string_view code) {
     CloseChoice();
 }
 
+void SelectGrid::RemoveFromChoice(std::u16string_view code) {
+    const bool wasEmpty = box_.text.empty();
+    RemoveCode(box_.text, code);
+    TakeBoxAsChoice(box_.text.empty() && !wasEmpty);
+}
+
 void SelectGrid::SetChoice(std::u16string codes) {
     const bool emptied = codes.empty() && !box_.text.empty();
     box_.text = std::move(codes);
+    TakeBoxAsChoice(emptied);
+}
+
+void SelectGrid::TakeBoxAsChoice(bool emptied) {
     boxIsChoice_ = true;
     choice_ = {};
     if (emptied) ClearMarks();

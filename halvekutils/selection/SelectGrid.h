@@ -203,7 +203,9 @@ class HALVEK_EXPORT SelectGrid {
     void Toggle(std::int32_t entry);
     void SelectAll(bool on);
     void AddToChoice(std::u16string_view code);
+    void RemoveFromChoice(std::u16string_view code);
     void SetChoice(std::u16string codes);
+    void TakeBoxAsChoice(bool emptied);
     void CloseChoice();
     void ClearMarks();
 
