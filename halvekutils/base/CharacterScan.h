@@ -108,20 +108,4 @@ inline std::size_t CountOfPair(std::u16string_view text, char16_t first, char16_
     return count;
 }
 
-/// The first position from `from` on where two characters stand side by side; npos when there is
-/// none.
-inline std::size_t FindPair(std::u16string_view text, char16_t first, char16_t second,
-                            std::size_t from = 0) noexcept {
-    std::size_t at = from;
-    for (; at + kBlockLength < text.size(); at += kBlockLength) {
-        const char16_t* const block = text.data() + at;
-        const std::uint32_t mask = MaskOf(block, first) & MaskOf(block + 1, second);
-        if (mask != 0) return at + static_cast<std::size_t>(std::countr_zero(mask));
-    }
-    for (; at + 1 < text.size(); ++at) {
-        if (text[at] == first && text[at + 1] == second) return at;
-    }
-    return std::u16string_view::npos;
-}
-
 }  // namespace halvek

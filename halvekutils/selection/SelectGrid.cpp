@@ -7,6 +7,7 @@
 #include <halvekutils/text/CharacterFilter.h>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace halvek {
@@ -47,36 +48,45 @@ std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftO
     return codes;
 }
 
-/// True when joining the codes of a text anew would give the same text.
-bool IsJoined(std::u16string_view text) {
-    return !text.starts_with(u',') && !text.ends_with(u',') &&
-           FindPair(text, u',', u',') == kNone && CountOf(text, u' ') == 0;
+/// True when two texts are the same; quick for texts as short as codes.
+bool IsSame(std::u16string_view left, std::u16string_view right) {
+    constexpr std::size_t kWord = 4;
+    if (left.size() != right.size()) return false;
+    if (left.size() < kWord) return left == right;
+    // The ends first: they overlap where the middle is short.
+    const std::size_t end = left.size() - kWord;
+    return std::memcmp(left.data(), right.data(), kWord * sizeof(char16_t)) == 0 &&
+           std::memcmp(left.data() + end, right.data() + end, kWord * sizeof(char16_t)) == 0 &&
+           (left.size() <= 2 * kWord || left == right);
 }
 
-/// Where one of the codes of a text starts; kNone when it is not one of them.
-std::size_t FindCode(std::u16string_view text, std::u16string_view code, std::size_t from) {
-    const auto startsCode = [&](std::size_t at) { return at == 0 || text[at - 1] == u','; };
-    std::size_t end = from;
-    while ((end = FindPair(text, code.back(), u',', end)) != kNone) {
-        ++end;
-        if (!text.substr(from, end - from).ends_with(code)) continue;
-        if (startsCode(end - code.size())) return end - code.size();
+struct CodePlace {
+    std::size_t start = kNone;
+    bool twice = false;
+};
+
+/// Where a code stands among codes that are joined without blanks.
+CodePlace PlaceOfCode(std::u16string_view codes, std::u16string_view code) {
+    CodePlace place;
+    CharacterScan commas(codes, u',');
+    for (std::size_t start = 0; start <= codes.size();) {
+        const std::size_t end = std::min(commas.Next(), codes.size());
+        if (IsSame({codes.data() + start, end - start}, code)) {
+            place.twice = place.start != kNone;
+            if (place.twice) break;
+            place.start = start;
+        }
+        start = end + 1;
     }
-    const bool isLast = text.substr(from).ends_with(code) && startsCode(text.size() - code.size());
-    return isLast ? text.size() - code.size() : kNone;
+    return place;
 }
 
-/// Takes a code out of a text of codes, and joins the others anew.
-void RemoveCode(std::u16string& text, std::u16string_view code) {
-    const bool canStayJoined = !code.empty() && code.find(u',') == kNone && IsJoined(text);
-    const std::size_t at = canStayJoined ? FindCode(text, code, 0) : kNone;
-    const std::size_t behind = at + code.size() + 1;
-    if (at == kNone || (behind < text.size() && FindCode(text, code, behind) != kNone)) {
-        text = JoinedWithout(text, code);
-    } else if (behind < text.size()) {
-        text.erase(at, behind - at);
+/// Takes a code that stands there once out of joined codes, with one of the commas beside it.
+void Erase(std::u16string& codes, std::size_t start, std::size_t length) {
+    if (start + length < codes.size()) {
+        codes.erase(start, length + 1);
     } else {
-        text.erase(at - std::min<std::size_t>(at, 1));  // with the comma before it
+        codes.erase(start - std::min<std::size_t>(start, 1));
     }
 }
 
@@ -257,7 +267,10 @@ void SelectGrid::SelectAll(bool on) {
         std::size_t length = 0;
         forEach([&](std::u16string_view code) { length += code.size() + 1; });
         codes.reserve(length);
-        forEach([&](std::u16string_view code) { Append(codes, code); });
+        forEach([&](std::u16string_view code) {
+            Append(codes, code);
+            hasComma_ = hasComma_ || code.find(u',') != kNone;
+        });
     }
     marks_.assign(marks_.size(), on);
     SetChoice(std::move(codes));
@@ -266,13 +279,16 @@ void SelectGrid::SelectAll(bool on) {
 void SelectGrid::AddToChoice(std::u16string_view code) {
     if (!boxIsChoice_) SetChoice(JoinedWithout(box_.text, {}));
     Append(box_.text, code);
+    hasComma_ = hasComma_ || code.find(u',') != kNone;
     CloseChoice();
 }
 
 void SelectGrid::RemoveFromChoice(std::u16string_view code) {
-    const bool wasEmpty = box_.text.empty();
-    RemoveCode(box_.text, code);
-    TakeBoxAsChoice(box_.text.empty() && !wasEmpty);
+    const bool isJoined = boxIsChoice_ && !hasComma_;
+    const CodePlace place = isJoined ? PlaceOfCode(box_.text, code) : CodePlace();
+    if (place.start == kNone || place.twice) return SetChoice(JoinedWithout(box_.text, code));
+    Erase(box_.text, place.start, code.size());
+    TakeBoxAsChoice(box_.text.empty());
 }
 
 void SelectGrid::SetChoice(std::u16string codes) {
