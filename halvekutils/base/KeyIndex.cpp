@@ -4,12 +4,17 @@
 #include <halvekutils/base/RuntimeError.h>
 
 #include <algorithm>
+#include <bit>
 
 namespace halvek {
 
 namespace {
 
-constexpr std::size_t kFirstSlots = 16;
+/// How many slots hold so many items with one in eight left free.
+std::size_t SlotsFor(std::size_t items) {
+    constexpr std::size_t kFewest = 16;
+    return std::bit_ceil(std::max(items + items / 7 + 1, kFewest));
+}
 
 std::uint32_t HashOf(std::u16string_view key) {
     return static_cast<std::uint32_t>(HashFolded(key));
@@ -24,17 +29,23 @@ std::u16string_view KeyIndex::TextOf(const Key& key) const noexcept {
 std::size_t KeyIndex::SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept {
     const std::size_t last = slots_.size() - 1;
     std::size_t slot = hash & last;
-    for (; slots_[slot] != 0; slot = (slot + 1) & last) {
-        const Key& taken = keys_[slots_[slot] - 1];
-        if (taken.hash == hash && EqualFolded(TextOf(taken), key)) break;
+    for (; slots_[slot].number != 0; slot = (slot + 1) & last) {
+        const Slot& taken = slots_[slot];
+        if (taken.hash == hash && EqualFolded(TextOf(keys_[taken.number - 1]), key)) break;
     }
     return slot;
 }
 
 std::size_t KeyIndex::Find(std::u16string_view key) const noexcept {
     if (slots_.empty()) return kNone;
-    const std::uint32_t number = slots_[SlotOf(key, HashOf(key))];
+    const std::uint32_t number = slots_[SlotOf(key, HashOf(key))].number;
     return number == 0 ? kNone : number - 1;
+}
+
+void KeyIndex::Reserve(std::size_t items, std::size_t characters) {
+    keys_.reserve(items);
+    text_.reserve(characters);
+    if (const std::size_t slots = SlotsFor(items); slots > slots_.size()) ResizeSlots(slots);
 }
 
 void KeyIndex::AddWithoutKey() {
@@ -43,10 +54,10 @@ void KeyIndex::AddWithoutKey() {
 
 bool KeyIndex::Add(std::u16string_view key) {
     if (key.size() >= kNoKey) throw RuntimeError(Fault::InvalidArgument);
-    if (2 * (used_ + 1) > slots_.size()) GrowSlots();
+    if (const std::size_t slots = SlotsFor(used_ + 1); slots > slots_.size()) ResizeSlots(slots);
     const std::uint32_t hash = HashOf(key);
-    std::uint32_t& slot = slots_[SlotOf(key, hash)];
-    if (slot != 0) return false;
+    Slot& slot = slots_[SlotOf(key, hash)];
+    if (slot.number != 0) return false;
     keys_.push_back({text_.size(), static_cast<std::uint32_t>(key.size()), hash});
     try {
         text_.append(key);
@@ -54,7 +65,7 @@ bool KeyIndex::Add(std::u16string_view key) {
         keys_.pop_back();
         throw;
     }
-    slot = static_cast<std::uint32_t>(keys_.size());
+    slot = {static_cast<std::uint32_t>(keys_.size()), hash};
     ++used_;
     return true;
 }
@@ -72,19 +83,19 @@ void KeyIndex::Remove(std::size_t number) noexcept {
     FillSlots();
 }
 
-void KeyIndex::GrowSlots() {
-    slots_ = std::vector<std::uint32_t>(std::max(2 * slots_.size(), kFirstSlots));
+void KeyIndex::ResizeSlots(std::size_t size) {
+    slots_ = std::vector<Slot>(size);
     FillSlots();
 }
 
 void KeyIndex::FillSlots() noexcept {
-    std::ranges::fill(slots_, 0);
+    std::ranges::fill(slots_, Slot());
     const std::size_t last = slots_.size() - 1;
     for (std::size_t i = 0; i < keys_.size(); ++i) {
         if (keys_[i].length == kNoKey) continue;
         std::size_t slot = keys_[i].hash & last;
-        while (slots_[slot] != 0) slot = (slot + 1) & last;
-        slots_[slot] = static_cast<std::uint32_t>(i + 1);
+        while (slots_[slot].number != 0) slot = (slot + 1) & last;
+        slots_[slot] = {static_cast<std::uint32_t>(i + 1), keys_[i].hash};
     }
 }
 

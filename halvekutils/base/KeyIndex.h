@@ -22,6 +22,9 @@ class HALVEK_EXPORT KeyIndex {
     /// The number of the item under a key; kNone when there is none.
     std::size_t Find(std::u16string_view key) const noexcept;
 
+    /// Makes room for items whose keys have so many characters together.
+    void Reserve(std::size_t items, std::size_t characters);
+
     /// Gives the next item no key.
     void AddWithoutKey();
     /// Gives the next item a key; false, and nothing is added, when the key is taken.
@@ -38,15 +41,20 @@ class HALVEK_EXPORT KeyIndex {
     };
     static constexpr std::uint32_t kNoKey = 0xFFFFFFFF;
 
+    struct Slot {
+        std::uint32_t number = 0;  ///< of the item, plus 1; 0 for a free slot
+        std::uint32_t hash = 0;    ///< spares most looks at another key
+    };
+
     std::u16string_view TextOf(const Key& key) const noexcept;
     std::size_t SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept;
-    void GrowSlots();
+    void ResizeSlots(std::size_t size);
     void FillSlots() noexcept;
 
     std::vector<Key> keys_;
     std::u16string text_;
-    std::vector<std::uint32_t> slots_;  ///< number + 1; 0 for a free slot. At most half are taken
-    std::size_t used_ = 0;              ///< how many items have a key
+    std::vector<Slot> slots_;  ///< a power of two of them, at most 7 of 8 taken
+    std::size_t used_ = 0;     ///< how many items have a key
 };
 
 }  // namespace halvek

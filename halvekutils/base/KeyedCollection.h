@@ -24,6 +24,12 @@ class KeyedCollection {
 
     std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
+    /// Makes room for items whose keys have so many characters together.
+    void Reserve(std::size_t items, std::size_t characters) {
+        items_.reserve(items);
+        keys_.Reserve(items, characters);
+    }
+
     /// Appends an item without a key.
     void Add(Object item) {
         MakeRoom();

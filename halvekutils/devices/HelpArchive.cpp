@@ -235,9 +235,7 @@ std::string HelpArchive::Read(TextIn path) {
 
 std::u16string HelpArchive::FirstEndingIn(TextIn ending) const {
     for (const std::u16string& path : order_) {
-        if (path.size() < ending.size()) continue;
-        const std::u16string_view end(path.data() + path.size() - ending.size(), ending.size());
-        if (EqualFolded(end, ending)) return path;
+        if (EndsFolded(path, ending)) return path;
     }
     return {};
 }

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <tuple>
 
 namespace halvek {
@@ -27,11 +28,15 @@ using SwitchMember = bool UserPrefs::*;
 
 struct Text {
     TextMember member;
-    const char16_t* reset = u"";
+    std::u16string_view reset = {};
 };
 
 void Reset(UserPrefs& prefs, const Text& row) {
-    prefs.*row.member = row.reset;
+    if (row.reset.empty()) {
+        (prefs.*row.member).clear();  // quicker than to assign an empty text
+    } else {
+        prefs.*row.member = row.reset;
+    }
 }
 void Read(UserPrefs& prefs, const Text& row, TextIn field) {
     prefs.*row.member = field;
@@ -46,7 +51,7 @@ struct BarredText {
 };
 
 void Reset(UserPrefs& prefs, const BarredText& row) {
-    prefs.*row.member = u"";
+    (prefs.*row.member).clear();
 }
 void Read(UserPrefs& prefs, const BarredText& row, TextIn field) {
     prefs.*row.member = field.starts_with(kPieceMark) ? SplitStr(field, u"|", 2) : field.Str();

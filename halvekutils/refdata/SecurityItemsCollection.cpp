@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace halvek {
 
@@ -70,18 +74,26 @@ Enumerator<const KeyedCollection<SecurityItem>> SecurityItemsCollection::begin()
 void SecurityItemsCollection::AddItems(TextIn securityData) {
     fullAccess = securityData == kFullAccessData;
     if (fullAccess) return;
+    MakeRoomFor(securityData);
     for (const TextIn piece : Pieces(securityData, kItemSeparator)) {
-        if (piece.empty()) continue;
-        const std::shared_ptr<SecurityItem> item = store_.Make();
-        item->Init(piece.substr(0, piece.size() - 1), piece.back());
-        Add(item);
+        if (!piece.empty()) Add(piece.substr(0, piece.size() - 1), piece.back());
     }
 }
 
-void SecurityItemsCollection::Add(const std::shared_ptr<SecurityItem>& item) {
-    const auto prefix = [&] { return u"AddSecurity Item error: " + item->itemKey_ + u' '; };
+void SecurityItemsCollection::MakeRoomFor(TextIn securityData) {
+    const std::size_t separators = CountOf(securityData, kItemSeparator);
+    const std::size_t characters = securityData.size() - separators;
+    // Pieces can be empty, but every item has its digit.
+    const std::size_t most = std::min(separators + 1, characters);
+    items_.Reserve(most, characters);
+}
+
+void SecurityItemsCollection::Add(TextIn key, char16_t rightsDigit) {
+    std::shared_ptr<SecurityItem> item = store_.Make();
+    item->Init(key, rightsDigit);
+    const auto prefix = [&] { return u"AddSecurity Item error: " + key.Str() + u' '; };
     const auto log = [&](TextIn line) { services_.LogError(line); };
-    Guarded(OnFault::Quiet, prefix, log, [&] { items_.Add(item, item->itemKey_); });
+    Guarded(OnFault::Quiet, prefix, log, [&] { items_.Add(std::move(item), key); });
 }
 
 void SecurityItemsCollection::ReportMissing(TextIn key) {

@@ -64,7 +64,8 @@ class HALVEK_EXPORT SecurityItemsCollection
 
   private:
     explicit SecurityItemsCollection(Services& services);
-    void Add(const std::shared_ptr<SecurityItem>& item);
+    void MakeRoomFor(TextIn securityData);
+    void Add(TextIn key, char16_t rightsDigit);
     void ReportMissing(TextIn key);
 
     Services& services_;

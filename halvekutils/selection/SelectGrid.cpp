@@ -37,39 +37,57 @@ void Append(std::u16string& codes, std::u16string_view code) {
     codes += code;
 }
 
-bool IsSame(std::u16string_view left, std::u16string_view right) {
-    return left.size() == right.size() &&
-           std::memcmp(left.data(), right.data(), left.size() * sizeof(char16_t)) == 0;
-}
-
 /// The codes of a text, joined anew, all but one.
 std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
     codes.reserve(text.size());
-    const auto append = [&](std::u16string_view part) {
-        if (!part.empty()) Append(codes, part);
-    };
-    // Codes that stay as they are, one behind the other, are copied together.
-    std::size_t runStart = 0;
-    std::size_t start = 0;
-    CharacterScan commas(text, u',');
-    while (start <= text.size()) {
-        const std::size_t end = std::min(commas.Next(), text.size());
-        const std::u16string_view piece(text.data() + start, end - start);
-        const bool isTrimmed = !piece.empty() && piece.front() != u' ' && piece.back() != u' ';
-        if (!isTrimmed || IsSame(piece, leftOut)) {
-            if (start > runStart) append(text.substr(runStart, start - 1 - runStart));
-            if (const auto code = Trimmed(piece); code != leftOut) append(code);
-            runStart = end + 1;
-        }
-        start = end + 1;
-    }
-    if (start > runStart) append(text.substr(runStart));
+    ForEachCode(text, [&](std::u16string_view code) {
+        if (!code.empty() && code != leftOut) Append(codes, code);
+        return true;
+    });
     return codes;
 }
 
-bool StartsFolded(std::u16string_view text, std::u16string_view start) {
-    return EqualFolded(text.substr(0, start.size()), start);
+/// True when two texts are the same; quick for texts as short as codes.
+bool IsSame(std::u16string_view left, std::u16string_view right) {
+    constexpr std::size_t kWord = 4;
+    if (left.size() != right.size()) return false;
+    if (left.size() < kWord) return left == right;
+    // The ends first: they overlap where the middle is short.
+    const std::size_t end = left.size() - kWord;
+    return std::memcmp(left.data(), right.data(), kWord * sizeof(char16_t)) == 0 &&
+           std::memcmp(left.data() + end, right.data() + end, kWord * sizeof(char16_t)) == 0 &&
+           (left.size() <= 2 * kWord || left == right);
+}
+
+struct CodePlace {
+    std::size_t start = kNone;
+    bool twice = false;
+};
+
+/// Where a code stands among codes that are joined without blanks.
+CodePlace PlaceOfCode(std::u16string_view codes, std::u16string_view code) {
+    CodePlace place;
+    CharacterScan commas(codes, u',');
+    for (std::size_t start = 0; start <= codes.size();) {
+        const std::size_t end = std::min(commas.Next(), codes.size());
+        if (IsSame({codes.data() + start, end - start}, code)) {
+            place.twice = place.start != kNone;
+            if (place.twice) break;
+            place.start = start;
+        }
+        start = end + 1;
+    }
+    return place;
+}
+
+/// Takes a code that stands there once out of joined codes, with one of the commas beside it.
+void Erase(std::u16string& codes, std::size_t start, std::size_t length) {
+    if (start + length < codes.size()) {
+        codes.erase(start, length + 1);
+    } else {
+        codes.erase(start - std::min<std::size_t>(start, 1));
+    }
 }
 
 std::u16string ToolTipOf(std::u16string_view text) {
@@ -228,7 +246,7 @@ void SelectGrid::Toggle(std::int32_t entry) {
         } else if (on) {
             AddToChoice(Trimmed(list_.Code(entry)));
         } else {
-            SetChoice(JoinedWithout(box_.text, Trimmed(list_.Code(entry))));
+            RemoveFromChoice(Trimmed(list_.Code(entry)));
         }
         if (entry != SelectionList::kAllCodes) marks_[mark] = on;
         return true;
@@ -249,7 +267,10 @@ void SelectGrid::SelectAll(bool on) {
         std::size_t length = 0;
         forEach([&](std::u16string_view code) { length += code.size() + 1; });
         codes.reserve(length);
-        forEach([&](std::u16string_view code) { Append(codes, code); });
+        forEach([&](std::u16string_view code) {
+            Append(codes, code);
+            hasComma_ = hasComma_ || code.find(u',') != kNone;
+        });
     }
     marks_.assign(marks_.size(), on);
     SetChoice(std::move(codes));
@@ -258,12 +279,25 @@ void SelectGrid::SelectAll(bool on) {
 void SelectGrid::AddToChoice(std::u16string_view code) {
     if (!boxIsChoice_) SetChoice(JoinedWithout(box_.text, {}));
     Append(box_.text, code);
+    hasComma_ = hasComma_ || code.find(u',') != kNone;
     CloseChoice();
+}
+
+void SelectGrid::RemoveFromChoice(std::u16string_view code) {
+    const bool isJoined = boxIsChoice_ && !hasComma_;
+    const CodePlace place = isJoined ? PlaceOfCode(box_.text, code) : CodePlace();
+    if (place.start == kNone || place.twice) return SetChoice(JoinedWithout(box_.text, code));
+    Erase(box_.text, place.start, code.size());
+    TakeBoxAsChoice(box_.text.empty());
 }
 
 void SelectGrid::SetChoice(std::u16string codes) {
     const bool emptied = codes.empty() && !box_.text.empty();
     box_.text = std::move(codes);
+    TakeBoxAsChoice(emptied);
+}
+
+void SelectGrid::TakeBoxAsChoice(bool emptied) {
     boxIsChoice_ = true;
     choice_ = {};
     if (emptied) ClearMarks();

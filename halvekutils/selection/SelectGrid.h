@@ -203,7 +203,9 @@ class HALVEK_EXPORT SelectGrid {
     void Toggle(std::int32_t entry);
     void SelectAll(bool on);
     void AddToChoice(std::u16string_view code);
+    void RemoveFromChoice(std::u16string_view code);
     void SetChoice(std::u16string codes);
+    void TakeBoxAsChoice(bool emptied);
     void CloseChoice();
     void ClearMarks();
 
@@ -241,6 +243,7 @@ class HALVEK_EXPORT SelectGrid {
     std::uint32_t boxVersion_ = 0;
     std::u16string choice_;    ///< the pending result, while the box holds another text
     bool boxIsChoice_ = true;  ///< the box holds the pending result itself
+    bool hasComma_ = false;    ///< a code with a comma in it was chosen
     std::int32_t current_ = 0;
     std::u16string searched_;
     bool changed_ = false;

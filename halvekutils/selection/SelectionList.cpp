@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Prefetch.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <functional>
 #include <limits>
@@ -116,18 +118,29 @@ void SelectionList::MeasureCode(std::size_t length) {
 void SelectionList::IndexCodes() const {
     entryBits_ = std::bit_ceil(static_cast<std::uint32_t>(lastShown_) + 1) - 1;
     // A short text with many codes can only repeat a few of them.
-    ResizeIndex(std::bit_ceil(std::min(codes_, values_.size() / 8) * 4 / 3 + 2));
-    for (std::int32_t entry = 1; entry <= lastShown_; ++entry) AddToIndex(entry);
+    ResizeIndex(std::bit_ceil(std::min(codes_, values_.size() / 8) * 8 / 7 + 2));
+    // Slots lie anywhere in the index: each is asked for a while before its turn.
+    std::array<IndexedCode, 32> waiting;
+    std::size_t count = 0;
+    const auto addWaiting = [&] {
+        for (std::size_t i = 0; i < count; ++i) AddToIndex(waiting[i]);
+        count = 0;
+    };
+    for (std::int32_t entry = 1; entry <= lastShown_; ++entry) {
+        const std::u16string_view code = TrimmedCode(entry);
+        if (code.empty()) continue;
+        waiting[count] = {code, HashOf(code), entry};
+        Prefetch(&slots_[waiting[count].hash & (slots_.size() - 1)]);
+        if (++count == waiting.size()) addWaiting();
+    }
+    addWaiting();
 }
 
-void SelectionList::AddToIndex(std::int32_t entry) const {
-    const std::u16string_view code = TrimmedCode(entry);
-    if (code.empty()) return;
-    const std::size_t hash = HashOf(code);
-    std::uint32_t& slot = slots_[SlotOf(code, hash)];
+void SelectionList::AddToIndex(const IndexedCode& code) const {
+    std::uint32_t& slot = slots_[SlotOf(code.text, code.hash)];
     if (slot != 0) return;  // the first entry of a code stands for it
-    slot = static_cast<std::uint32_t>(entry) | TagOf(hash);
-    if (++indexed_ * 4 > slots_.size() * 3) ResizeIndex(slots_.size() * 2);
+    slot = static_cast<std::uint32_t>(code.entry) | TagOf(code.hash);
+    if (++indexed_ * 8 > slots_.size() * 7) ResizeIndex(slots_.size() * 2);
 }
 
 void SelectionList::ResizeIndex(std::size_t size) const {

@@ -52,12 +52,18 @@ class HALVEK_EXPORT SelectionList {
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }
 
   private:
+    struct IndexedCode {
+        std::u16string_view text;
+        std::size_t hash = 0;
+        std::int32_t entry = 0;
+    };
+
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
     void ReadEntries(bool doNotIncludeDeleted);
     void MeasureCode(std::size_t length);
     void IndexCodes() const;
-    void AddToIndex(std::int32_t entry) const;
+    void AddToIndex(const IndexedCode& code) const;
     void ResizeIndex(std::size_t size) const;
     std::uint32_t TagOf(std::size_t hash) const;
     std::int32_t EntryIn(std::uint32_t slot) const;

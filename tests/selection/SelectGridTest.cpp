@@ -161,6 +161,29 @@ TEST_F(SelectGridTest, TogglesTidyTheBoxAndSkipBlankCells) {
     EXPECT_EQ(grid.ReturnValue(), u"x,C");
 }
 
+TEST_F(SelectGridTest, TakingACodeOutLeavesAllOthersAsTheyWere) {
+    const std::vector<std::u16string> codes = {u"A",       u"AB",       u"ABC",       u"ABCD",
+                                               u"ABCE",    u"BBCD",     u"ABCDEFG",   u"ABCDEFH",
+                                               u"ABCDXFG", u"ABCDEFGH", u"ABCDXEFGH", u"ABCDYEFGH"};
+    std::u16string list = u"H:";
+    for (const auto& code : codes) list += code + u"\tx\t0:";
+    for (std::size_t left = 0; left < codes.size(); ++left) {
+        std::u16string all, others;
+        for (std::size_t i = 0; i < codes.size(); ++i) {
+            all += (all.empty() ? u"" : u",") + codes[i];
+            if (i != left) others += (others.empty() ? u"" : u",") + codes[i];
+        }
+        SelectGrid& grid = Open(list, all);
+        Click(static_cast<std::int32_t>(left) + 2);
+        EXPECT_EQ(grid.Box().text, others);
+    }
+    SelectGrid& grid = Open(u"H:A, B\tx\t0:B\tx\t0:A\tx\t0:");  // a code with a comma in it
+    for (const int entry : {2, 3, 4}) Click(entry);
+    EXPECT_EQ(grid.Box().text, u"A, B,B,A");
+    Click(4);
+    EXPECT_EQ(grid.Box().text, u"B,B");
+}
+
 TEST_F(SelectGridTest, ThePseudoEntryTakesAllCodesOrNone) {
     SelectGrid& grid =
         Open(u"H:A\tx\t0:::B\ty\t1: *** ALL CODES *** \tz\t0: \tblank\t0:A\tx\t0:", u"B");

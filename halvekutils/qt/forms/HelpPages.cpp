@@ -25,10 +25,8 @@ constexpr const char16_t* kPictureEndings[] = {u".png",  u".gif", u".jpg",
 
 template <std::size_t n>
 bool EndsInOneOf(std::u16string_view path, const char16_t* const (&endings)[n]) {
-    return std::ranges::any_of(endings, [path](std::u16string_view ending) {
-        return path.size() >= ending.size() &&
-               EqualFolded(path.substr(path.size() - ending.size()), ending);
-    });
+    return std::ranges::any_of(
+        endings, [path](std::u16string_view ending) { return EndsFolded(path, ending); });
 }
 
 QString Text(const char* text) {

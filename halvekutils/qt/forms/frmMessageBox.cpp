@@ -64,10 +64,11 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
     SetCloseBox();
     const Size inner = box_->Layout().inner;
     setFixedSize(TwipsToPixels(inner.width), TwipsToPixels(inner.height));
+    const QPalette desktop = palette();
+    ApplyColors(desktop);  // before the parts, which take their palettes when they are made
     BuildText();
-    BuildButtons();
-    BuildScrollButtons();
-    ApplyColors();
+    BuildButtons(ButtonPalette(desktop));
+    BuildScrollButtons(ButtonPalette(desktop));
 
     auto* const icon = new MessageIcon(this);
     icon->setObjectName(QLatin1String("Image1"));
@@ -114,7 +115,7 @@ void frmMessageBox::BuildText() {
     setAccessibleDescription(ToQString(box_->Prompt()).left(kDescriptionLength));
 }
 
-void frmMessageBox::BuildButtons() {
+void frmMessageBox::BuildButtons(const QPalette& colors) {
     frButtons_->setVisible(ButtonCount(box_->Buttons()) > 0);
     for (int i = 0; i < 3; ++i) {
         const auto& place = box_->Layout().buttons[static_cast<std::size_t>(i)];
@@ -123,6 +124,7 @@ void frmMessageBox::BuildButtons() {
         button->setObjectName(QStringLiteral("arrCmd_%1").arg(i));
         button->setAccessibleName(button->text().remove(QLatin1Char('&')));
         button->setAutoDefault(false);
+        button->setPalette(colors);
         button->setGeometry(ToQRect(*place));
         button->installEventFilter(this);
         connect(button, &QPushButton::clicked, this, [this, i] {
@@ -132,7 +134,7 @@ void frmMessageBox::BuildButtons() {
     }
 }
 
-void frmMessageBox::BuildScrollButtons() {
+void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
     constexpr Qt::ArrowType kArrows[] = {Qt::DownArrow, Qt::UpArrow};
     const QString names[] = {tr("Later lines"), tr("Earlier lines")};
     for (int i = 0; i < 2; ++i) {
@@ -142,6 +144,7 @@ void frmMessageBox::BuildScrollButtons() {
         button->setToolTip(names[i]);
         button->setArrowType(kArrows[i]);
         button->setAutoRepeat(true);
+        button->setPalette(colors);
         button->setFocusPolicy(Qt::NoFocus);
         button->setGeometry(ToQRect(box_->Layout().scrollButtons[static_cast<std::size_t>(i)]));
         button->setVisible(box_->Layout().canScroll);
@@ -152,9 +155,8 @@ void frmMessageBox::BuildScrollButtons() {
     }
 }
 
-void frmMessageBox::ApplyColors() {
+void frmMessageBox::ApplyColors(const QPalette& desktop) {
     const MessageBoxColors colors = box_->Colors();
-    const QPalette desktop = palette();
     const QColor background = ToQColor(colors.background, desktop);
     const QColor text =
         colors.text ? ToQColor(*colors.text, desktop) : desktop.color(QPalette::ButtonText);
@@ -162,17 +164,17 @@ void frmMessageBox::ApplyColors() {
     for (const auto role : {QPalette::Window, QPalette::Base}) scheme.setColor(role, background);
     for (const auto role : {QPalette::WindowText, QPalette::Text}) scheme.setColor(role, text);
     setPalette(scheme);
+}
 
+QPalette frmMessageBox::ButtonPalette(const QPalette& desktop) const {
     QPalette buttons = desktop;
-    if (colors.buttonFace && !IsSchemeColor(*colors.buttonFace)) {
-        buttons.setColor(QPalette::Button, ToQColor(*colors.buttonFace, desktop));
+    const auto face = box_->Colors().buttonFace;
+    if (face && !IsSchemeColor(*face)) {
+        buttons.setColor(QPalette::Button, ToQColor(*face, desktop));
         buttons.setColor(QPalette::ButtonText, Qt::black);
         buttons.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
     }
-    for (QPushButton* const button : arrCmd_) {
-        if (button != nullptr) button->setPalette(buttons);
-    }
-    for (QToolButton* const button : cmdUpDn_) button->setPalette(buttons);
+    return buttons;
 }
 
 void frmMessageBox::SetCloseBox() {

@@ -47,9 +47,10 @@ class frmMessageBox : public QDialog {
 
   private:
     void BuildText();
-    void BuildButtons();
-    void BuildScrollButtons();
-    void ApplyColors();
+    void BuildButtons(const QPalette& colors);
+    void BuildScrollButtons(const QPalette& colors);
+    void ApplyColors(const QPalette& desktop);
+    QPalette ButtonPalette(const QPalette& desktop) const;
     void SetCloseBox();
     void StartCountdown();
     QPoint PlaceOf(const QWidget* owner) const;
