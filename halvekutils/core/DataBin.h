@@ -19,7 +19,7 @@ class HALVEK_EXPORT DataBin {
     /// The text that is parked.
     void BinData(TextIn value) { data_ = value; }
     std::u16string BinData() const { return data_; }
-    /// The key given to Utils::AddBin. Setting it leaves the key under which the bin is found.
+    /// The key given to Utils::AddBin.
     void BinKey(TextIn value) { key_ = value; }
     std::u16string BinKey() const { return key_; }
     /// A free name, empty at first; never read by the library.

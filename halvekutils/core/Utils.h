@@ -362,7 +362,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert);
 
     /// The text with every character but those of the codes 32 to 126 shown as its code, as in
-    /// "<9>". A line break follows each "<13>".
+    /// "<9>". A line break follows each "<13>". A character that Windows-1252 lacks becomes "?".
     std::u16string RemoveUnprintableChars(TextIn Str) const;
 
     /// The server's date and time as text: mm/dd/yyyy, with hh:mm:ss AM or PM unless it is
@@ -391,7 +391,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     bool SetFontProperties(const std::shared_ptr<ControlFont>& ob, TextIn fontName = u"Tahoma",
                            float fontSize = 7.0F);
 
-    /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
+    /// Cuts a text at its first delimiter. Without one, both outputs keep what they held. A fault
+    /// is beeped and logged with "Error in SplitLeftRight :" and the text.
     ///
     ///     utils->SplitLeftRight(u"key=value", u"=", left, right);  // left: key, right: value
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
@@ -495,6 +496,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Meant for a delimiter of one character, which closes a field and need not close the last. A
     /// longer one ends a field too, but only its first character is skipped: the rest begins the
     /// next field. The empty text gives one empty field.
+    /// @return true; false, with the array untouched, only when memory runs out
     ///
     ///     utils->StrToArr(u"A|B|", u"|", fields)  // fields: "", A, B
     bool StrToArr(TextIn Str, TextIn DEL, StringArray& Arr) const;
@@ -510,7 +512,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// and 1.
     /// @return true when the pieces hold the whole text. False with the array untouched when an
     ///     argument is empty, the length is below 1, or the text fits into one piece and can be
-    ///     used as it is; false with the pieces so far when a piece holds no delimiter.
+    ///     used as it is; false with the pieces so far when a piece holds no delimiter. A fault is
+    ///     beeped, logged with "ERR in HalvekUtils.ChunkStrToArr   " and false.
+    ///
+    ///     utils->ChunkStrToArr(u"AB|CD|EF|", pieces, 4, u"|");  // AB|, CD|, EF|
     bool ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength, TextIn DEL) const;
 
     /// Builds the current codes collection anew from the server's codes data.
