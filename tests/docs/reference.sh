@@ -6,8 +6,7 @@ set -euo pipefail
 rooms=$1/halvekutils
 pages=$1/docs/pages
 xml=$2/docs/xml
-status=0
-complain() { echo "$*" >&2; status=1; }
+complain() { echo "$*" >&2; exit 1; }
 
 cmake --build "$2" --target docs
 
@@ -26,11 +25,10 @@ awk '/<memberdef/ { public = /prot="public"/ } /<name>/ { name = $0 } /<para>/ {
 # What log lines begin with stands on the page of the log
 while IFS= read -r line; do
     grep -qF -- "$line" "$pages/error-log.md" || complain "not explained: $line"
-done < <(grep -rhoE '(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |\(\*this, )u"[^"\\]+' \
-    --include='*.cpp' --include='*Private.h' "$rooms" | sed 's/^[^"]*"//')
+done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \
+    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |OpenHelp\(\*this, |prefix = .*return )u"([^"\\]+).*/\2/p')
 
 # Links and pictures of the pages
 for link in $(grep -hoE '\]\([a-z./-]+\.(md|png)' "$pages"/*.md | tr -d ']('); do
     [ -f "$pages/$link" ] || complain "no $link"
 done
-exit $status
