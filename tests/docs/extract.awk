@@ -1,13 +1,17 @@
 # SPDX-License-Identifier: MIT
 # The samples of the pages as tests of a Host; those of testing.md are tests as they stand.
-FNR == 1 { whole = FILENAME ~ /testing\.md$/ }
+FNR == 1 {
+    page = FILENAME
+    gsub(/.*\/|\.md$|-/, "", page)
+    wrapped = page != "testing"
+}
 /^```/ {
-    if (inside && !whole) body = body "}\n"
+    if (inside && wrapped) body = body "}\n"
     inside = 0
 }
 /^```cpp$/ {
     inside = 1
-    if (!whole) body = body "TEST_F(Host, Sample" ++count ") {\n"
+    if (wrapped) body = body "TEST_F(Host, " page ++count ") {\n"
     $0 = sprintf("#line %d \"%s\"", FNR + 1, FILENAME)
 }
 inside && /^#include/ {
