@@ -11,7 +11,7 @@ FNR == 1 {
 }
 /^```cpp$/ {
     inside = 1
-    if (wrapped) body = body "TEST_F(Host, " page ++count ") {\n"
+    if (wrapped) body = body "TEST_F(Host, " page "_" ++count ") {\n"
     $0 = sprintf("#line %d \"%s\"", FNR + 1, FILENAME)
 }
 inside && /^#include/ {
