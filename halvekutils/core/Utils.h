@@ -44,8 +44,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     Utils(const Utils&) = delete;
     Utils& operator=(const Utils&) = delete;
 
-    /// The object that InitUtils was last called on; null before the first call. It lives until
-    /// the process ends.
+    /// The object that InitUtils was last called on; null before the first call. The library holds
+    /// it until InitUtils is called on another, so the last one lives until the process ends.
     static std::shared_ptr<Utils> CurrentUtils();
 
     // The members stand in the order of their interface slots; of a property the setter is named
