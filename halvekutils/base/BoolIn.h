@@ -9,10 +9,12 @@ namespace halvek {
 /// would turn into true without a word, does not compile.
 class BoolIn {
   public:
+    /// The argument, from a bool only.
     template <class T>
     requires std::is_same_v<T, bool>
     constexpr BoolIn(T value) noexcept : value_(value) {}
 
+    /// The value that was given.
     constexpr operator bool() const noexcept { return value_; }
 
   private:

@@ -16,12 +16,16 @@ namespace halvek {
 template <class T>
 class ByRef {
   public:
+    /// From a variable: Set writes it.
     ByRef(T& variable) : variable_(&variable), value_(variable) {}
+    /// From a value: Set writes nothing that the caller sees.
     ByRef(T&& value) : value_(std::move(value)) {}
     ByRef(const T& value) : value_(value) {}
 
+    /// What was given, or what Set wrote last.
     const T& Get() const { return value_; }
 
+    /// Writes a value, to the variable too when there is one.
     void Set(T value) {
         value_ = std::move(value);
         if (variable_ != nullptr) *variable_ = value_;

@@ -19,8 +19,11 @@ namespace halvek {
 template <std::size_t kCharacters>
 class CharacterScan {
   public:
+    /// What Next gives when there is no further position.
     static constexpr std::size_t kNone = std::u16string_view::npos;
 
+    /// @param text  the text to be scanned; it outlives the scan
+    /// @param characters  the characters that are looked for
     template <class... Characters>
     explicit CharacterScan(std::u16string_view text, Characters... characters) noexcept
         : text_(text), characters_{characters...} {}
@@ -72,6 +75,7 @@ class CharacterScan {
     std::size_t next_ = 0;    ///< where the block after it starts
 };
 
+/// The number of characters follows from the arguments.
 template <class... Characters>
 CharacterScan(std::u16string_view, Characters...) -> CharacterScan<sizeof...(Characters)>;
 

@@ -11,15 +11,19 @@ namespace halvek {
 /// one that this library uses.
 using Color = std::int32_t;
 
+/// The colour of these parts.
 constexpr Color Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return red | green << 8 | blue << 16;
 }
+/// The red of a colour, 0 to 255.
 constexpr std::uint8_t RedOf(Color color) {
     return static_cast<std::uint8_t>(color & 0xFF);
 }
+/// The green of a colour, 0 to 255.
 constexpr std::uint8_t GreenOf(Color color) {
     return static_cast<std::uint8_t>(color >> 8 & 0xFF);
 }
+/// The blue of a colour, 0 to 255.
 constexpr std::uint8_t BlueOf(Color color) {
     return static_cast<std::uint8_t>(color >> 16 & 0xFF);
 }
@@ -34,8 +38,9 @@ constexpr bool IsDark(Color color) {
     return 299 * RedOf(color) + 587 * GreenOf(color) + 114 * BlueOf(color) < 128'000;
 }
 
-inline constexpr Color kBlack = Rgb(0, 0, 0);
-inline constexpr Color kWhite = Rgb(255, 255, 255);
+inline constexpr Color kBlack = Rgb(0, 0, 0);        ///< black, 0
+inline constexpr Color kWhite = Rgb(255, 255, 255);  ///< white, 16777215
+/// The face of the desktop's own buttons.
 inline constexpr Color kButtonFace = static_cast<Color>(0x8000000F);
 
 }  // namespace halvek

@@ -22,19 +22,20 @@ constexpr DateTime MidnightOf(int year, unsigned month, unsigned day) {
 }
 }  // namespace detail
 
-/// The range of dates: 1/1/100 00:00:00 to 12/31/9999 23:59:59.
+/// The first date and time there is, 1/1/100 00:00:00.
 inline constexpr DateTime kFirstDateTime = detail::MidnightOf(100, 1, 1);
+/// The last date and time there is, 12/31/9999 23:59:59.
 inline constexpr DateTime kLastDateTime =
     detail::MidnightOf(9999, 12, 31) + std::chrono::days(1) - std::chrono::seconds(1);
 
-/// A date and time taken apart; the hour counts from 0 to 23.
+/// A date and time taken apart.
 struct DateParts {
-    int year = 0;
-    unsigned month = 0;
-    unsigned day = 0;
-    int hour = 0;
-    int minute = 0;
-    int second = 0;
+    int year = 0;        ///< 100 to 9999
+    unsigned month = 0;  ///< 1 to 12
+    unsigned day = 0;    ///< 1 to 31
+    int hour = 0;        ///< 0 to 23
+    int minute = 0;      ///< 0 to 59
+    int second = 0;      ///< 0 to 59
 };
 
 /// Puts a date and time together. Throws InvalidArgument for one that does not exist, such as

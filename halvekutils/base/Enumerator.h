@@ -15,20 +15,27 @@ namespace halvek {
 template <class Collection>
 class Enumerator {
   public:
+    /// What a loop variable holds.
     using value_type =
         std::remove_cvref_t<decltype(std::declval<Collection&>().Item(std::int32_t{1}))>;
+    /// As standard iterators have it.
     using difference_type = std::ptrdiff_t;
 
     Enumerator() = default;
+    /// Starts at the first item.
     explicit Enumerator(std::shared_ptr<Collection> collection)
         : collection_(std::move(collection)) {}
 
+    /// The item at this place.
     value_type operator*() const { return collection_->Item(position_); }
+    /// Goes on to the next item.
     Enumerator& operator++() {
         ++position_;
         return *this;
     }
+    /// The same, without a result.
     void operator++(int) { ++position_; }
+    /// True behind the last item that the collection has at this moment.
     friend bool operator==(const Enumerator& at, std::default_sentinel_t) {
         return at.position_ > at.collection_->Count();
     }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+/// @file
+
 /// Marks what the shared libraries offer to a host; everything else stays hidden.
 #define HALVEK_EXPORT [[gnu::visibility("default")]]

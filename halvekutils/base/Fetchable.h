@@ -13,6 +13,7 @@ class HALVEK_EXPORT Fetchable {
   public:
     virtual ~Fetchable();
 
+    /// How many items the collection holds.
     virtual std::int32_t Count() const = 0;
 
     /// Fetches the item under a key as Item(key) does, with all that this brings about; throws what

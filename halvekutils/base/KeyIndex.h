@@ -17,6 +17,7 @@ namespace halvek {
 /// the empty key. Keys stand one behind the other in one text, beside a hash table of the numbers.
 class HALVEK_EXPORT KeyIndex {
   public:
+    /// What Find gives for a key that no item has.
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
     /// The number of the item under a key; kNone when there is none.

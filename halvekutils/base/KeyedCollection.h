@@ -20,8 +20,10 @@ namespace halvek {
 template <class T>
 class KeyedCollection {
   public:
+    /// What the collection holds.
     using Object = std::shared_ptr<T>;
 
+    /// How many items there are.
     std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
     /// Makes room for items whose keys have so many characters together.

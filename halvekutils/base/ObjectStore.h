@@ -12,6 +12,7 @@ namespace halvek {
 template <class T>
 class ObjectStore {
   public:
+    /// A new object, made by its default constructor.
     std::shared_ptr<T> Make() {
         if (used_ == kChunk) {
             chunk_ = std::make_shared<Chunk>();

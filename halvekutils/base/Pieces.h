@@ -14,15 +14,21 @@ namespace halvek {
 ///     for (const TextIn piece : Pieces(u"A|B||", u'|')) ...  // A, B, empty, empty
 class Pieces {
   public:
+    /// Steps from piece to piece.
     class Iterator {
       public:
+        /// A piece.
         using value_type = TextIn;
+        /// As standard iterators have it.
         using difference_type = std::ptrdiff_t;
 
+        /// Stands at the first piece.
         Iterator(TextIn text, char16_t separator)
             : text_(text), separators_(text, separator), end_(separators_.Next()) {}
 
+        /// The piece at this place.
         TextIn operator*() const { return text_.substr(start_, end_ - start_); }
+        /// Goes on to the next piece.
         Iterator& operator++() {
             if (end_ == TextIn::npos) {
                 ended_ = true;
@@ -32,7 +38,9 @@ class Pieces {
             }
             return *this;
         }
+        /// The same, without a result.
         void operator++(int) { ++*this; }
+        /// True behind the last piece.
         friend bool operator==(const Iterator& at, std::default_sentinel_t) { return at.ended_; }
 
       private:
@@ -43,9 +51,13 @@ class Pieces {
         bool ended_ = false;
     };
 
+    /// @param text  the text to be cut; it outlives the pieces
+    /// @param separator  the character between two pieces
     Pieces(TextIn text, char16_t separator) : text_(text), separator_(separator) {}
 
+    /// The first piece; there is always one.
     Iterator begin() const { return {text_, separator_}; }
+    /// Behind the last piece.
     std::default_sentinel_t end() const { return {}; }
 
   private:

@@ -14,19 +14,19 @@ namespace halvek {
 
 /// The numbers of the run-time faults that this library raises.
 enum class Fault : std::int32_t {
-    InvalidArgument = 5,
-    Overflow = 6,
-    OutOfMemory = 7,
-    SubscriptOutOfRange = 9,
-    TypeMismatch = 13,
-    FileNotFound = 53,
-    DeviceError = 57,
-    FileAlreadyExists = 58,
-    DiskFull = 61,
-    PermissionDenied = 70,
-    PathNotFound = 76,
-    ObjectNotSet = 91,
-    DuplicateKey = 457,
+    InvalidArgument = 5,      ///< "Invalid argument": a value or key that is not taken
+    Overflow = 6,             ///< "Overflow": a number or date that is out of range
+    OutOfMemory = 7,          ///< "Out of memory"
+    SubscriptOutOfRange = 9,  ///< "Subscript out of range": no such position or element
+    TypeMismatch = 13,        ///< "Type mismatch": a text that is no number or amount
+    FileNotFound = 53,        ///< "File not found"
+    DeviceError = 57,         ///< "Device error": damaged data, a printer or screen that fails
+    FileAlreadyExists = 58,   ///< "File already exists"
+    DiskFull = 61,            ///< "Disk full", a quota that is used up as well
+    PermissionDenied = 70,    ///< "Permission denied"
+    PathNotFound = 76,        ///< "Path not found": the folder is missing
+    ObjectNotSet = 91,        ///< "Object not set": a control that is gone, no session, no desktop
+    DuplicateKey = 457,       ///< "Key already in the collection"
 };
 
 /// A run-time fault: the only type that this library throws of its own.
@@ -38,10 +38,13 @@ class HALVEK_EXPORT RuntimeError : public std::runtime_error {
     /// A fault whose description goes on with ": " and what it was about, a file or a key.
     RuntimeError(Fault fault, TextIn about);
 
+    /// Copies share the description.
     RuntimeError(const RuntimeError&) noexcept;
+    /// Copies share the description.
     RuntimeError& operator=(const RuntimeError&) noexcept;
     ~RuntimeError() override;
 
+    /// Which fault it is.
     Fault Code() const noexcept { return fault_; }
 
     /// The fault's number, as log lines show it.

@@ -25,17 +25,23 @@ class HALVEK_EXPORT StringArray {
     /// The given texts as elements `lower` and up.
     StringArray(std::int32_t lower, std::vector<std::u16string> elements);
 
+    /// False for a new array, which has neither bounds nor elements.
     bool IsAllocated() const noexcept { return allocated_; }
+    /// The index of the first element. Throws SubscriptOutOfRange when unallocated.
     std::int32_t LBound() const;
+    /// The index of the last element. Throws SubscriptOutOfRange when unallocated.
     std::int32_t UBound() const;
 
+    /// The element at an index. Throws SubscriptOutOfRange.
     std::u16string& operator[](std::int32_t index) { return elements_[Offset(index)]; }
     const std::u16string& operator[](std::int32_t index) const { return elements_[Offset(index)]; }
 
     /// Adds an element behind the last. Throws SubscriptOutOfRange when unallocated.
     void Append(std::u16string element);
 
+    /// The first element, for loops; an unallocated array has none.
     auto begin() const noexcept { return elements_.begin(); }
+    /// Behind the last element.
     auto end() const noexcept { return elements_.end(); }
 
     friend bool operator==(const StringArray&, const StringArray&) = default;

@@ -19,9 +19,12 @@ class HALVEK_EXPORT StringTable {
     /// Throws SubscriptOutOfRange for a negative number of rows or columns.
     StringTable(std::int32_t rows, std::int32_t columns);
 
+    /// The number of rows.
     std::int32_t Rows() const noexcept { return rows_; }
+    /// The number of columns.
     std::int32_t Columns() const noexcept;
 
+    /// The text of a cell. Throws SubscriptOutOfRange.
     std::u16string& At(std::int32_t row, std::int32_t column) {
         return cells_[Offset(row, column)];
     }

@@ -24,15 +24,20 @@ concept Utf16Text = requires(const T& text) {
 class TextIn : public std::u16string_view {
   public:
     constexpr TextIn() noexcept = default;
+    /// From a view.
     constexpr TextIn(std::u16string_view text) noexcept : std::u16string_view(text) {}
+    /// From a literal; null counts as the empty text.
     constexpr TextIn(const char16_t* text) noexcept
         : std::u16string_view(text == nullptr ? u"" : text) {}
+    /// From a string.
     TextIn(const std::u16string& text) noexcept : std::u16string_view(text) {}
+    /// From a text of another library, a QString above all.
     template <Utf16Text T>
     TextIn(const T& text) noexcept
         : std::u16string_view(reinterpret_cast<const char16_t*>(text.utf16()),
                               static_cast<std::size_t>(text.size())) {}
 
+    /// A copy that outlives the caller's text.
     std::u16string Str() const { return std::u16string(*this); }
 };
 

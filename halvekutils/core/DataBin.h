@@ -16,12 +16,16 @@ class HALVEK_EXPORT DataBin {
   public:
     ~DataBin();
 
+    /// The text that is parked.
     void BinData(TextIn value) { data_ = value; }
     std::u16string BinData() const { return data_; }
+    /// The key given to Utils::AddBin.
     void BinKey(TextIn value) { key_ = value; }
     std::u16string BinKey() const { return key_; }
+    /// A free name, empty at first; never read by the library.
     void BinName(TextIn value) { name_ = value; }
     std::u16string BinName() const { return name_; }
+    /// The type word given to Utils::AddBin; never read by the library.
     void BinType(TextIn value) { type_ = value; }
     std::u16string BinType() const { return type_; }
 

@@ -45,8 +45,11 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     /// Changes whenever the text is not just longer than it was.
     std::uint64_t Replacements() const { return replacements_; }
 
+    /// Whether new lines are dropped.
     bool LoggingStopped() const { return loggingStopped_; }
+    /// Whether every new line goes to the error log as well.
     bool AllGoesToFile() const { return allGoesToFile_; }
+    /// Whether the window stays above all others.
     bool KeptOnTop() const { return keptOnTop_; }
 
     /// Called after every change.
@@ -60,7 +63,7 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     void SendAllToFile(bool send);
     /// Check1: the window stays above all others.
     void KeepOnTop(bool keep);
-    /// cmdClear and F7.
+    /// cmdClear and F7: empties the text.
     void Clear();
     /// Command1: appends the text to DEBUG.log in the component's own folder, in Windows-1252. A
     /// failure is told to nobody.

@@ -13,7 +13,11 @@
 
 namespace halvek {
 
-enum class Modality { Modal, Modeless };
+/// How a message box stands on the screen.
+enum class Modality {
+    Modal,     ///< the call waits for the answer
+    Modeless,  ///< the call returns at once
+};
 
 /// Shows the windows of dialogs: one call for each dialog, given its rules.
 ///
@@ -24,14 +28,18 @@ class HALVEK_EXPORT Forms {
   public:
     virtual ~Forms();
 
+    /// Shows a message box.
     virtual void Show(const std::shared_ptr<MessageBox>& box, Modality modality) = 0;
-    /// Modal.
+    /// Shows a calculator, modally.
     virtual void Show(const std::shared_ptr<Calculator>& calculator) = 0;
+    /// Shows a calendar, modally.
     virtual void Show(const std::shared_ptr<Calendar>& calendar) = 0;
+    /// Shows a colour palette, modally.
     virtual void Show(const std::shared_ptr<ColorPalette>& palette) = 0;
-    /// Modeless, without taking the focus; called for every line, nothing happens when it is shown.
+    /// Shows the debug console, modelessly and without taking the focus. Called for every line;
+    /// does nothing while it is shown.
     virtual void Show(const std::shared_ptr<DebugConsole>& console) = 0;
-    /// Modal.
+    /// Shows a selection dialog, modally.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;
 
   protected:

@@ -38,6 +38,7 @@ class HALVEK_EXPORT Platform : public Desktop, public Forms {
 ///     UseMachine use(machine);
 class HALVEK_EXPORT UseMachine {
   public:
+    /// Installs a machine, which outlives this object.
     explicit UseMachine(Machine& machine);
     ~UseMachine();
     UseMachine(const UseMachine&) = delete;

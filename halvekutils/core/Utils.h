@@ -28,8 +28,8 @@ namespace halvek {
 ///
 /// Create one at start-up, call InitUtils on it, then InitPrefs and InitOtherSettings as the
 /// practice's settings arrive. Session values and reference collections are shared by all Utils
-/// objects of the process; bins and application data folders belong to the object. Use it on the
-/// user-interface thread only.
+/// objects of the process; bins, open windows, preferences, the server's clock and the application
+/// data folders belong to the object. Use it on the user-interface thread only.
 ///
 /// Unless its description says otherwise a member never throws: it writes what went wrong to the
 /// error log and returns an empty text, false or 0.
@@ -38,13 +38,14 @@ namespace halvek {
 ///     utils->InitUtils(u"FrontDesk.log", u"Front Desk", u"clinic", false, u"2.4.1");
 class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
   public:
+    /// A new object. It shares the session of those that exist already.
     static std::shared_ptr<Utils> Create();
     ~Utils();
     Utils(const Utils&) = delete;
     Utils& operator=(const Utils&) = delete;
 
-    /// The object that InitUtils was last called on; null before the first call. It lives until
-    /// the process ends.
+    /// The object that InitUtils was last called on; null before the first call. The library holds
+    /// it until InitUtils is called on another, so the last one lives until the process ends.
     static std::shared_ptr<Utils> CurrentUtils();
 
     // The members stand in the order of their interface slots; of a property the setter is named
@@ -75,6 +76,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// none were stored.
     std::shared_ptr<UserPrefs> GetCurrentUserPrefs() const;
 
+    /// The delimiter between a code and its description that was given to InitOtherSettings; stored
+    /// for the host.
     std::u16string CodeDelimiter() const;
 
     /// The column-width factor given to InitOtherSettings, narrowed to single precision.
@@ -85,12 +88,15 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     void InitOtherSettings(Color HighlightBackColor, Color HighlightForeColor, TextIn CodeDelimiter,
                            double ColumnAdjustValue, std::int32_t ScrollBarWidth);
 
+    /// The width of a scroll bar in twips that was given to InitOtherSettings; stored for the host.
     std::int32_t ScrollBarWidth() const;
 
     /// Undoes HighlightHeading.
     ///
     /// The control shows the background of its container; a label loses its border, whoever gave
-    /// it. Other kinds of control are left as they are.
+    /// it. Other kinds of control are left as they are. No control, or one that is gone, is beeped
+    /// and logged with "Error in Utils.UnhighlightHeading ".
+    /// @param EditCtr  AsHeading(&label)
     /// @param UseBlack  black text; false for the text colour of forms, which is the one to use
     ///     where forms are dark
     void UnhighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool UseBlack = true);
@@ -98,7 +104,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Parks a text under a key, or replaces the text and type of the bin with exactly this key.
     ///
     /// A key that differs from an existing one in letter case only is refused: the refusal beeps
-    /// and is logged, and the bins stay as they were.
+    /// and is logged with "Error in Utils.AddBin ", and the bins stay as they were.
+    ///
+    ///     utils->AddBin(u"LastPatient", u"4711", u"account");
+    ///     utils->GetBinData(u"LastPatient")  // 4711
     void AddBin(TextIn BinKey, TextIn BinData, TextIn BinType);
 
     /// Drops all bins of this object.
@@ -117,6 +126,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// The text of the bin with exactly this key, letter case included; empty when there is none.
     std::u16string GetBinData(TextIn BinKey) const;
 
+    /// True when there is a bin with exactly this key, letter case included.
     bool BinExists(TextIn BinKey) const;
 
     /// Removes the bin with exactly this key; does nothing when there is none.
@@ -128,7 +138,11 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// sum of 8 to read, 4 to add, 2 to modify and 1 to delete; any other last character grants
     /// nothing. Of two items with one key, letter case ignored, the first is kept and the second
     /// logged. Exactly "***" is full access: every look-up then grants all rights, in collections
-    /// that the host kept too, until the next build with other data begins.
+    /// that the host kept too, until the next build with other data begins. A fault is beeped and
+    /// logged with "BuildSecurityCollection "; the items read so far stay.
+    ///
+    ///     utils->BuildSecurityCollection(u"PATIENTSF\u00E6REPORTS8");
+    ///     utils->GetSecurityItemsCollection()->Item(u"Reports")->AllowRead();  // true
     void BuildSecurityCollection(TextIn SecurityData);
 
     /// The positions, in twips on the screen, with which a pop-up opens beside a button or cell.
@@ -139,9 +153,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param posTopDown  the target's bottom, below which the pop-up opens
     /// @param Edge  PopupEdge::Left for the calendar and the palette, Right for selection lists
     ///
-    /// All three are -1, not given, without a target, or when it is gone, which is logged. A screen
-    /// left of or above the main one has negative positions, which count as not given too; the
-    /// members that take the target themselves serve every screen.
+    /// All three are -1, not given, without a target, or when it is gone, which is beeped and
+    /// logged with "Error in Utils.CalculateCellCoordinates ". A screen left of or above the main
+    /// one has negative positions, which count as not given too; the members that take the target
+    /// themselves serve every screen.
     void CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
                                   float& posTopUp, float& posTopDown,
                                   PopupEdge Edge = PopupEdge::Left);
@@ -157,7 +172,11 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// and one that the collection has already ends the build. The special mode chooses where the
     /// workstation's printers come from: "printerlistold" for its printer list, 100 at most,
     /// "printerlistnew" for its connections; without either word the list stands in when the
-    /// connections fail. A printing system that does not answer costs about a second.
+    /// connections fail. A printing system that does not answer costs about a second. Bad entries
+    /// are skipped and logged; any other fault is logged with "BuildPrintersCollection ".
+    ///
+    ///     utils->ClearPrintersCollection();
+    ///     utils->BuildPrintersCollection(u"S:0:Spool queue:LPT1\t7:0:Label printer:COM2");
     void BuildPrintersCollection(TextIn SerialPrintersList);
 
     /// A copy of the colours given to InitPrefs, with the bounds they had. Throws
@@ -166,7 +185,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Learns how far the server's clock is ahead of the workstation's; each object keeps its own.
     ///
-    /// @param TimeFromServer  date and time, or a time of today; any other text changes nothing
+    /// @param TimeFromServer  date and time as ParseDateTime reads them, or a time of today; any
+    ///     other text changes nothing
     ///
     /// Throws Overflow, and keeps what it knew, when the clocks are more than 68 years apart.
     void InitServerTime(TextIn TimeFromServer);
@@ -191,6 +211,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     void HighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool bDemoBlue = false,
                           std::int16_t iBorderStyle = 1);
 
+    /// The background of the host's forms that was given to InitPrefs; message boxes in mbSkinColor
+    /// have it.
     Color FormSkinColor() const;
 
     /// The current printers collection; null when none was built.
@@ -212,11 +234,14 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
                                                                       bool ExcludeWindows = false,
                                                                       bool ExcludeSerial = false);
 
+    /// The background of fields that must be filled in, as given to InitPrefs; stored for the host.
     Color RequiredFieldBackColor() const;
 
-    /// True while the key is down, at the left or the right; false without a desktop.
+    /// True while a Shift key is down, at the left or the right; false without a desktop.
     bool ShiftPressed() const;
+    /// True while an Alt key is down; false without a desktop.
     bool AltPressed() const;
+    /// True while a Ctrl key is down; false without a desktop.
     bool CtrlPressed() const;
 
     /// Takes the close button off a window of the host's.
@@ -229,16 +254,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     utils->KillCloseButton(static_cast<std::int32_t>(window.winId()));
     void KillCloseButton(std::int32_t hwnd);
 
+    /// The stamp of the host's program that was given to InitUtils; stored for the host.
     std::u16string ExeFileStamp() const;
 
-    /// Waits without handling any event; not at all for 0 and below.
+    /// Waits for some milliseconds without handling any event; not at all for 0 and below. Windows
+    /// are not redrawn meanwhile.
     void Sleep(std::int32_t MilliSeconds);
 
     /// Shows a message box and waits for its answer.
     ///
     /// @param Prompt  plain text; CR LF starts a new line
+    /// @param Buttons  the button set
+    /// @param Icon  the picture
     /// @param Title  empty for the application's name
     /// @param BackgroundColor, fontSize  written back when out of range, see their enumerations
+    /// @param FontBold  a bold font
     /// @param CloseAfterNSec  seconds after which the box closes itself; below 1 it stays
     /// @return the button pressed; kClosedByCountdown (99) after the countdown. The close box gives
     ///     mbCancel when there is such a button, mbYes for mbYesHelp and else mbOK; the sets that
@@ -261,6 +291,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// is.
     ///
     /// A fault is logged with " | Function: FindInCombo | Error: #" and its number.
+    /// @param cboComboBox  AsComboBox(&box)
+    /// @param strStringToFind  the text
     /// @param blnPartialMatch  finds entries that contain the text; the empty text is contained in
     ///     every entry but the empty one
     /// @param blnMatchCase  false finds texts that differ in letter case, too
@@ -283,6 +315,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// A character that Windows-1252 lacks counts as a question mark and becomes one. In debug mode
     /// the debug console gets both texts; throws ObjectNotSet when something was found before
     /// InitUtils.
+    /// @param strIN  the text to be cleaned; the empty text gives an empty strOUT and false
     /// @param strOUT  the result; it may be the variable that strIN was read from
     /// @param strReplaceWith  stands for each character that is removed; may be empty
     /// @param bShowMessage  tells the user when something was found
@@ -304,9 +337,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// @param Items  parted by ":", which may also close the last one; the empty text empties the
     ///     box
+    /// @param cboComboBox  AsComboBox(&box)
     /// @param bMaxLength  makes the box and its drop-down as wide as the longest entry needs,
-    /// within
-    ///     the screen; they are never made narrower
+    ///     within the screen; they are never made narrower
     /// @return true when the box was filled; a fault is logged with "Error in Utils.FillCombo "
     ///
     ///     utils->FillCombo(u"Dr. Adams:Dr. Baker:Dr. Clark", AsComboBox(&providers), true);
@@ -320,6 +353,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// A date with slashes as digits, month before day and year, or such digits as a date.
     ///
     /// Days that do not exist are not noticed. Without two slashes a text loses the slashes it has.
+    /// @param strDate  the date; month, day and year in this order
     /// @param bConvert  true from digits: empty for what is no number, a month above 12 and a year
     ///     of three digits. No year is the current one, one of two digits is 1930 to 2029.
     ///
@@ -328,7 +362,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert);
 
     /// The text with every character but those of the codes 32 to 126 shown as its code, as in
-    /// "<9>". A line break follows each "<13>".
+    /// "<9>". A line break follows each "<13>". A character that Windows-1252 lacks becomes "?".
     std::u16string RemoveUnprintableChars(TextIn Str) const;
 
     /// The server's date and time as text: mm/dd/yyyy, with hh:mm:ss AM or PM unless it is
@@ -350,13 +384,17 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// steps of 0.1 points more, 10 points at most. A font that does not get there either keeps the
     /// size as it was asked for.
     /// @param ob  FontOf(&widget)
-    /// @param fontSize  points, above 0 and up to 2160; any other is a fault, and nothing is
-    /// changed
+    /// @param fontName  the face; one that is not installed is replaced by the desktop's closest
+    /// @param fontSize  points, above 0 and up to 2160; any other is a fault, which is beeped and
+    ///     logged with "Error in Utils.SetFontProperties ", and nothing is changed
     /// @return true when the font reports the size or more
     bool SetFontProperties(const std::shared_ptr<ControlFont>& ob, TextIn fontName = u"Tahoma",
                            float fontSize = 7.0F);
 
-    /// Cuts a text at its first delimiter. Without one, both outputs keep what they held.
+    /// Cuts a text at its first delimiter. Without one, both outputs keep what they held. A fault
+    /// is beeped and logged with "Error in SplitLeftRight :" and the text.
+    ///
+    ///     utils->SplitLeftRight(u"key=value", u"=", left, right);  // left: key, right: value
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                         std::u16string& strRight);
 
@@ -415,10 +453,13 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     if (!amount.empty()) field.setText(ToQString(amount));
     std::u16string Calculate(TextIn InitValue = {});
 
+    /// The application's name that was given to InitUtils.
     std::u16string AppName() const;
+    /// The application's type that was given to InitUtils; stored for the host.
     std::u16string AppType() const;
 
-    /// True in debug mode.
+    /// True in debug mode, which InitUtils switches on: the debug console shows lines, and some
+    /// faults are told in messages.
     bool DBG() const;
 
     /// Starts the session and makes this object the current one.
@@ -427,14 +468,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     without a folder lies in the library's own folder; empty stands for "Error.Log".
     /// @param AppName  the title of the library's message boxes
     /// @param AppType, ExeFileStamp  stored for the host
+    /// @param DebugMode  allows the debug console and tells some faults in messages
     void InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
                    TextIn ExeFileStamp);
 
     /// Stores the palette's colours (decimal texts) and the colours of forms.
+    ///
+    /// Message boxes in mbSkinColor have FormSkinColor and FormTextColor; FormTopColor and
+    /// RequiredFieldBackColor are stored for the host. A palette leaves the last two colours of the
+    /// list out, see ShowColor.
     void InitPrefs(const StringArray& ColorArray, Color FormSkinColor, Color FormTextColor,
                    Color FormTopColor, Color RequiredFieldBackColor);
 
+    /// The text colour of the host's forms that was given to InitPrefs.
     Color FormTextColor() const;
+    /// The colour of a form's top that was given to InitPrefs; stored for the host.
     Color FormTopColor() const;
 
     /// Field number `intNum`, from 1, of a text; empty when there is no such field. A delimiter may
@@ -448,6 +496,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Meant for a delimiter of one character, which closes a field and need not close the last. A
     /// longer one ends a field too, but only its first character is skipped: the rest begins the
     /// next field. The empty text gives one empty field.
+    /// @return true; false, with the array untouched, only when memory runs out
     ///
     ///     utils->StrToArr(u"A|B|", u"|", fields)  // fields: "", A, B
     bool StrToArr(TextIn Str, TextIn DEL, StringArray& Arr) const;
@@ -463,14 +512,21 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// and 1.
     /// @return true when the pieces hold the whole text. False with the array untouched when an
     ///     argument is empty, the length is below 1, or the text fits into one piece and can be
-    ///     used as it is; false with the pieces so far when a piece holds no delimiter.
+    ///     used as it is; false with the pieces so far when a piece holds no delimiter. A fault is
+    ///     beeped, logged with "ERR in HalvekUtils.ChunkStrToArr   " and false.
+    ///
+    ///     utils->ChunkStrToArr(u"AB|CD|EF|", pieces, 4, u"|");  // AB|, CD|, EF|
     bool ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength, TextIn DEL) const;
 
     /// Builds the current codes collection anew from the server's codes data.
     ///
     /// Records are parted by "|", fields by the character of code 230; CodeDefinition::Init gives
     /// the fields. Of two records with one key, letter case ignored, the first is kept and the
-    /// second logged. A collection that the host still holds stays as it is.
+    /// second logged. A collection that the host still holds stays as it is. A fault is logged with
+    /// "BuildCodesCollection "; the records read so far stay.
+    ///
+    ///     utils->BuildCodesCollection(u"Insurance\u00E6INS\u00E61\u00E61\u00E6List\u00E6Name");
+    ///     utils->GetCodesCollection()->Item(u"ins")->CodeDescription();  // Insurance
     void BuildCodesCollection(TextIn CodesData);
 
     /// The entities that the user may see, as the server sent them; stored for the host.
@@ -487,6 +543,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// beside the host's windows and dialogs; a later call uses the same window.
     ///
     /// @param hwnd  accepted and not used
+    /// @param ContextID  the topic's number in the file
     /// @param HelpFileLocation  the help file, folders parted by "/" or "\"; empty for the path
     ///     given to InitHelp
     /// @return false when there is no such file, which a message tells the user. True otherwise: a
@@ -509,6 +566,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// A full selection is emptied first. "." in an empty box makes "0.", a second one jumps behind
     /// the first. A digit for which there is no room moves the caret to the end.
+    /// @param ctr  the text box
     /// @param KeyAscii  the key's character code; set to 0 when the box must not insert it, after a
     ///     fault too
     ///
@@ -528,6 +586,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// Without a point, a number of nine characters ends in cents, and one of any other length
     /// above seven is cut to seven. A text that is no number stays as it is and is logged.
+    /// @param ctr  the text box
     /// @param Cancel  false for an empty box, which stays empty; otherwise not written
     void OnCurrencyCtrValidate(const std::shared_ptr<TextControl>& ctr, bool& Cancel);
 
@@ -552,8 +611,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// When it is, a message says so, the field is emptied and Cancel becomes true. An amount that
     /// is 0 or no number turns the check off.
+    /// @param ctr  the upper field
     /// @param strMin, strMax  the amounts as their fields show them
     /// @param lblMin, lblMax  what the message calls the two fields
+    /// @param Cancel  true when the check fails; otherwise not written
     ///
     ///     utils->OnCurrencyCtrValidateRange(to, from->Text(), to->Text(), u"From", u"To", cancel);
     void OnCurrencyCtrValidateRange(const std::shared_ptr<TextControl>& ctr, TextIn strMin,
@@ -599,9 +660,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// ShowSelectionGrid, beside a button or cell: right edges aligned, below it when the screen
     /// has room, else above.
     ///
-    /// @param CmdButtonOrCell  a cell's target knows its grid, so there is no argument for the
-    /// grid.
-    ///     Without a target, or when it is gone, which is logged, the dialog is centred.
+    /// All other arguments are those of ShowSelectionGrid. A cell's target knows its grid, so there
+    /// is no argument for the grid. Without a target, or when it is gone, which is logged, the
+    /// dialog is centred.
     ///
     ///     auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
     ///         u"Providers", server.providers(), row.codes(), Beside(&view, index));
@@ -621,8 +682,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Lets the user choose codes from a list of the server's.
     ///
-    /// A fault is logged with "ShowSelectionGridForm error ". Codes in SelectedValues that the list
-    /// lacks are told one by one before the dialog opens.
+    /// Codes in SelectedValues that the list lacks are told one by one before the dialog opens.
     /// @param ListName  plain text, the dialog's caption
     /// @param AllValues  entries parted by ":", a header first; the fields of an entry, parted by
     ///     TAB, are its code, its description and, as the last, "1" when it is deleted
@@ -632,8 +692,11 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     negative for not given, which centres it. It always lies wholly on the screen.
     /// @param FormToRefresh  repainted when the dialog ends; null for none
     /// @param TypedCharacter  typed already, goes into the box of codes; the variable is cleared
+    /// @param DoNotIncludeDeleted  leaves deleted entries out; else they show in red
     /// @return the chosen codes, parted by ","; SelectedValues as they were after Cancel, Escape
-    ///     and the close box, or when AllValues is empty; "CANCEL" after OK without a change
+    ///     and the close box, or when AllValues is empty, which a message tells; "CANCEL" after OK
+    ///     without a change. A fault is logged with "ShowSelectionGridForm error " and gives what
+    ///     was ticked until then: nothing when it came before the dialog was made.
     ///
     ///     auto chosen = utils->ShowSelectionGrid(u"Providers", server.providers(), u"A1,B2");
     ///     if (chosen != u"CANCEL") visit.setProviders(chosen);

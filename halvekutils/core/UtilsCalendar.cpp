@@ -26,9 +26,6 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         Platform::Installed().Show(calendar);
         return calendar->ReturnValue().Str();
     };
-    const auto refresh = [form = formToRefresh] {
-        if (form != nullptr && form->Exists()) form->Refresh();
-    };
     std::u16string day = Guarded(OnFault::Beep, kFault, LogOf(utils), std::u16string(), show);
     Refresh(utils, kFault, formToRefresh);
     return day;

@@ -24,16 +24,17 @@ class HALVEK_EXPORT Calculator {
   public:
     /// The buttons behind the digits, which are the buttons 0 to 9.
     enum Button : int {
-        kChangeSign = 10,
-        kPoint,
-        kDivide,
-        kMultiply,
-        kMinus,
-        kPlus,
-        kEquals,
-        kClear,
-        kReturn
+        kChangeSign = 10,  ///< "+ -"
+        kPoint,            ///< "."
+        kDivide,           ///< "/"
+        kMultiply,         ///< "*"
+        kMinus,            ///< "-"
+        kPlus,             ///< "+"
+        kEquals,           ///< "="
+        kClear,            ///< "CLR"
+        kReturn            ///< "RET"
     };
+    /// How many buttons there are.
     static constexpr int kButtonCount = 19;
     /// Stands for the box of the display where a button's number says who has the focus.
     static constexpr int kBox = -1;
@@ -48,6 +49,7 @@ class HALVEK_EXPORT Calculator {
 
     // What the window shows
 
+    /// The text in the box.
     const std::u16string& Display() const { return display_; }
     /// The left operand as text.
     const std::u16string& Accumulator() const { return accumulator_; }
@@ -60,6 +62,7 @@ class HALVEK_EXPORT Calculator {
     /// The caption of button 0 to 18.
     static std::u16string_view Caption(int index);
 
+    /// False once the calculator has ended.
     bool IsOpen() const { return open_; }
 
     /// Called after every change that the window shows, before every message that is raised, and
@@ -95,6 +98,7 @@ class HALVEK_EXPORT Calculator {
 
     /// Takes a number or an amount over from the clipboard as if its digits were pressed, or in the
     /// place of what is selected in the box; beeps when it is none or does not fit.
+    /// @param text  what the clipboard holds
     /// @param start, selected  the selected characters, counted from 0
     void Paste(TextIn text, std::size_t start = 0, std::size_t selected = 0);
     /// The number shown, for the clipboard; empty with a beep when none is shown.

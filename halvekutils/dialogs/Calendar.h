@@ -15,10 +15,10 @@ namespace halvek {
 
 /// What a calendar is asked to show.
 struct CalendarRequest {
-    std::u16string dateToShow = {};
+    std::u16string dateToShow = {};   ///< the date that it opens on, see ParseDateTime
     std::u16string defaultDate = {};  ///< shown in its stead when that is no date; empty for today
     bool needsConversions = false;    ///< the date to show may be digits, see DateOfDigits
-    PopupAnchor anchor = {};
+    PopupAnchor anchor = {};          ///< where it is asked to open
 };
 
 /// The rules of the calendar, without a window: which day it opens on, how its keys move from day
@@ -28,10 +28,12 @@ struct CalendarRequest {
 /// its events.
 class HALVEK_EXPORT Calendar {
   public:
+    /// A day of the calendar.
     using Day = std::chrono::local_days;
 
-    /// The days that can be chosen: 1/1/1753 to 12/31/9999.
+    /// The first day that can be chosen, 1/1/1753.
     static constexpr Day kFirstDay = Day(std::chrono::year(1753) / 1 / 1);
+    /// The last day that can be chosen, 12/31/9999.
     static constexpr Day kLastDay = Day(std::chrono::year(9999) / 12 / 31);
 
     /// `machine` tells what day it is.
@@ -45,9 +47,13 @@ class HALVEK_EXPORT Calendar {
 
     // What the window shows
 
+    /// The machine's day when the calendar was made.
     Day Today() const { return today_; }
+    /// The day that Enter chooses.
     Day MarkedDay() const { return marked_; }
+    /// Where the calendar is asked to open.
     const PopupAnchor& Anchor() const { return anchor_; }
+    /// False once the calendar has ended.
     bool IsOpen() const { return open_; }
 
     // What the user does
@@ -58,21 +64,23 @@ class HALVEK_EXPORT Calendar {
     /// Goes to another month, to the marked day of the month or else the last.
     void ShowMonth(int year, unsigned month);
 
+    /// The keys that the calendar knows.
     enum class Key {
-        Enter,   ///< chooses the marked day
-        Escape,  ///< ends without a choice
-        Left,    ///< arrows move by a day or a week
-        Right,
-        Up,
-        Down,
-        PageUp,  ///< the pages move by a month, with Ctrl by a year
-        PageDown,
-        CtrlPageUp,
-        CtrlPageDown,
-        Home,  ///< the first and the last day of the month
-        End,
-        Today,
+        Enter,         ///< chooses the marked day
+        Escape,        ///< ends without a choice
+        Left,          ///< the day before
+        Right,         ///< the day after
+        Up,            ///< a week earlier
+        Down,          ///< a week later
+        PageUp,        ///< a month earlier
+        PageDown,      ///< a month later
+        CtrlPageUp,    ///< a year earlier
+        CtrlPageDown,  ///< a year later
+        Home,          ///< the first day of the month
+        End,           ///< the last day of the month
+        Today,         ///< the machine's day
     };
+    /// A key pressed in the calendar.
     void KeyDown(Key key);
 
     /// Chooses a day. One that cannot be chosen does nothing.

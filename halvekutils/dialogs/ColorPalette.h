@@ -20,7 +20,7 @@ inline constexpr char16_t kPaletteFault[] = u"Error in Utils.ShowColor ";
 
 /// A colour that a palette shows.
 struct PaletteCell {
-    Color color = 0;
+    Color color = 0;         ///< as the list has it
     std::int32_t index = 0;  ///< of its entry in the colour list
 
     friend bool operator==(const PaletteCell&, const PaletteCell&) = default;
@@ -30,7 +30,9 @@ struct PaletteCell {
 /// and what it returns. A window draws it and forwards its events.
 class HALVEK_EXPORT ColorPalette {
   public:
+    /// The title bar's text.
     static constexpr char16_t kCaption[] = u"Color Palette";
+    /// How many cells a row has.
     static constexpr int kColumns = 6;
 
     /// Shows entry 1 of the list, then, of entry 2 to the last but two, all above -1; the others
@@ -46,8 +48,11 @@ class HALVEK_EXPORT ColorPalette {
 
     // What the window shows. Cells are numbered from 1, in rows of six.
 
+    /// All cells in their order; cell 1 is the element 0.
     const std::vector<PaletteCell>& Cells() const { return cells_; }
+    /// How many cells there are, at least 1.
     int CellCount() const { return static_cast<int>(cells_.size()); }
+    /// How many rows there are, the last one perhaps in part.
     int RowCount() const { return (CellCount() + kColumns - 1) / kColumns; }
 
     /// The cell that the keys have moved to.
@@ -56,7 +61,9 @@ class HALVEK_EXPORT ColorPalette {
     /// What a tool tip and a screen reader say of a cell: "Color 7: 255".
     std::u16string CellName(int cell) const;
 
+    /// Where the palette is asked to open.
     const PopupAnchor& Anchor() const { return anchor_; }
+    /// False once the palette has ended.
     bool IsOpen() const { return open_; }
 
     /// Called after every change that the window shows, and once when the palette ends.
@@ -68,20 +75,21 @@ class HALVEK_EXPORT ColorPalette {
     /// there is not.
     void Click(int cell);
 
+    /// The keys that the palette knows.
     enum class Key {
-        Enter,  ///< Enter and Space choose the current cell
-        Space,
-        Escape,
-        Left,
-        Right,
-        Up,
-        Down,
-        PageUp,
-        PageDown,
-        Home,
-        End,
-        Next,  ///< Tab and Shift+Tab: around the whole palette
-        Previous,
+        Enter,     ///< chooses the current cell
+        Space,     ///< chooses the current cell
+        Escape,    ///< ends without a choice
+        Left,      ///< the cell before, in its row and in the row above
+        Right,     ///< the cell after, in its row and in the row below
+        Up,        ///< the row above
+        Down,      ///< the row below
+        PageUp,    ///< as many rows up as are in view
+        PageDown,  ///< as many rows down as are in view
+        Home,      ///< the first cell
+        End,       ///< the last cell
+        Next,      ///< Tab: the cell after, and from the last one to the first
+        Previous,  ///< Shift+Tab: the cell before, and from the first one to the last
     };
     /// A key pressed while `rowsOnPage` rows are in view.
     void KeyDown(Key key, int rowsOnPage = 1);

@@ -10,11 +10,11 @@ namespace halvek {
 
 /// The sizes and places of a palette's parts, in twips.
 struct ColorPaletteLayout {
-    Size form;           ///< with the window's frame
-    Size inner;          ///< without it
-    Rect frame;          ///< Frame2, in the form
-    int rowsOnPage = 1;  ///< the rows of cells that are in view
-    bool scrolls = false;
+    Size form;             ///< with the window's frame
+    Size inner;            ///< without it
+    Rect frame;            ///< Frame2, in the form
+    int rowsOnPage = 1;    ///< the rows of cells that are in view
+    bool scrolls = false;  ///< whether there are more rows than are in view
 };
 
 /// Lays a palette of so many rows out on a screen, for a window frame that adds `frame` to its

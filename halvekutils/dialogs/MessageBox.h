@@ -21,26 +21,28 @@ namespace halvek {
 
 /// What a message box is asked to show.
 struct MessageBoxRequest {
-    std::u16string prompt;
-    ButtonsChoice buttons = mbOkOnly;
-    IconChoice icon = mbNoIcon;
-    std::u16string title;
-    ColorChoice background = mbWhite;
-    FontSizeChoice fontSize = mb9;
-    bool fontBold = false;
-    std::int32_t closeAfterNSec = 0;
-    std::shared_ptr<OwnerForm> owner = nullptr;
+    std::u16string prompt;             ///< plain text; CR LF starts a new line
+    ButtonsChoice buttons = mbOkOnly;  ///< the button set
+    IconChoice icon = mbNoIcon;        ///< the picture
+    std::u16string title;              ///< empty for the application's name
+    ColorChoice background = mbWhite;  ///< the colours
+    FontSizeChoice fontSize = mb9;     ///< the font
+    bool fontBold = false;             ///< a bold font
+    std::int32_t closeAfterNSec = 0;   ///< seconds of the countdown; below 1 there is none
+    std::shared_ptr<OwnerForm> owner = nullptr;  ///< centred on and refreshed; null for none
 };
 
 /// The colours of a message box; one that is absent is the desktop's own.
 struct MessageBoxColors {
-    Color background;  ///< of the form, both frames and the text
-    std::optional<Color> text;
-    std::optional<Color> buttonFace;
+    Color background;                 ///< of the form, both frames and the text's background
+    std::optional<Color> text;        ///< of the prompt
+    std::optional<Color> buttonFace;  ///< of the buttons
 };
 
-/// The value that replaces an out-of-range choice; any other comes back as it is.
+/// The font that a choice stands for: mb9 for 0 and for what lies above the list, any other value
+/// as it is.
 HALVEK_EXPORT FontSizeChoice NormalizedFontSize(FontSizeChoice fontSize);
+/// The background that a choice stands for: mbWhite for what lies outside the list.
 HALVEK_EXPORT ColorChoice NormalizedBackground(ColorChoice background);
 
 /// The rules of one message box, without a window: what it shows, what its keys and buttons do and
@@ -55,6 +57,7 @@ class HALVEK_EXPORT MessageBox {
 
     // What the window shows
 
+    /// The text of the box.
     TextIn Prompt() const { return request_.prompt; }
     /// The title bar's text, with the countdown while one has run.
     TextIn Caption() const { return caption_; }
@@ -62,15 +65,22 @@ class HALVEK_EXPORT MessageBox {
     std::u16string_view ButtonCaption(int index) const;
     /// The picture's number from 1, or 0 for none.
     int Picture() const;
+    /// The button set; mbOkOnly for an unknown value.
     ButtonsChoice Buttons() const { return set_->choice; }
+    /// The font of the text.
     const FontSpec& Font() const { return font_; }
+    /// The colours of the box.
     MessageBoxColors Colors() const;
+    /// The sizes and places of its parts.
     const MessageBoxLayout& Layout() const { return layout_; }
+    /// Whether the title bar has a close box.
     bool HasCloseBox() const { return set_->hasCloseBox; }
-    /// The screen position that centres the box on its owner; absent without one.
+    /// A position on the screen in twips.
     struct Position {
-        std::int32_t left, top;
+        std::int32_t left;  ///< of the left edge
+        std::int32_t top;   ///< of the top edge
     };
+    /// The screen position that centres the box on its owner; absent without one.
     std::optional<Position> CentredOnOwner() const;
     /// How far the text is scrolled: 0 at its start, down to minus the layout's scroll range.
     std::int32_t ScrollOffset() const { return scrollOffset_; }
@@ -80,7 +90,9 @@ class HALVEK_EXPORT MessageBox {
     /// The box stands on the screen and its show has returned: the owner is refreshed.
     void ShownModeless();
 
+    /// False once the box has ended.
     bool IsOpen() const { return open_; }
+    /// Whether the box is going to close itself.
     bool CountdownRunning() const { return countdownRunning_; }
 
     /// Called after every change that the window shows, and once when the box ends.
@@ -91,8 +103,19 @@ class HALVEK_EXPORT MessageBox {
     /// Presses button 0, 1 or 2. A hidden button cannot be pressed.
     void Press(int index);
 
-    enum class KeyAction { None, Handled, Copy };
-    enum KeyModifier : unsigned { kNoModifier = 0, kShift = 1, kControl = 2, kAlt = 4 };
+    /// What a window does about a key.
+    enum class KeyAction {
+        None,     ///< the key goes on to the button
+        Handled,  ///< the key is done with
+        Copy,     ///< CopyText goes to the clipboard
+    };
+    /// The keys held down with another, which add up.
+    enum KeyModifier : unsigned {
+        kNoModifier = 0,  ///< none
+        kShift = 1,       ///< Shift
+        kControl = 2,     ///< Ctrl
+        kAlt = 4,         ///< Alt, or the key with the desktop's mark
+    };
 
     /// A key pressed while a button has the focus. Key codes of letters are those of their
     /// capitals, Escape is 27. Returns Copy when the text of the box is to go to the clipboard.

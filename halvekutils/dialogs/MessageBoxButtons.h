@@ -11,10 +11,10 @@ namespace halvek {
 
 /// What a button set shows and how it can be left without a button.
 struct MessageBoxButtonSet {
-    ButtonsChoice choice;
+    ButtonsChoice choice;                   ///< the set that this row is about
     std::array<MbMsgBoxResult, 3> results;  ///< of the buttons from the left; kNotAnswered: hidden
-    bool hasCloseBox;
-    bool escapeCloses;                ///< whether Escape on a button acts as the close box
+    bool hasCloseBox;                       ///< whether the title bar has a close box
+    bool escapeCloses;                      ///< whether Escape on a button acts as the close box
     std::u16string_view closeResult;  ///< the result text of the close box, "" for the default
 };
 

@@ -29,10 +29,10 @@ struct MessageBoxLayout {
 
 /// What a message box's layout is made of besides the text meter.
 struct MessageBoxContent {
-    TextIn prompt;
-    FontSpec font;
-    ButtonsChoice buttons = mbOkOnly;
-    bool hasIcon = false;
+    TextIn prompt;                     ///< the text
+    FontSpec font;                     ///< its font
+    ButtonsChoice buttons = mbOkOnly;  ///< the button set
+    bool hasIcon = false;              ///< whether there is a picture
 };
 
 /// Lays a message box out on a screen, for a window frame that adds `frame` to its inner size.

@@ -20,9 +20,13 @@ class HALVEK_EXPORT OwnerForm {
   public:
     virtual ~OwnerForm();
 
+    /// The left edge.
     virtual std::int32_t Left() const = 0;
+    /// The top edge.
     virtual std::int32_t Top() const = 0;
+    /// The width.
     virtual std::int32_t Width() const = 0;
+    /// The height.
     virtual std::int32_t Height() const = 0;
 
     /// False once the window is gone; its other members then throw ObjectNotSet.
@@ -61,13 +65,18 @@ class HALVEK_EXPORT PopupTarget {
 };
 
 /// What a heading is: highlighting knows these three kinds of control.
-enum class HeadingKind { Other, Label, OptionButton, CheckBox };
+enum class HeadingKind {
+    Other,         ///< left as it is
+    Label,         ///< a label, which may get a border
+    OptionButton,  ///< a radio button
+    CheckBox,      ///< a check box
+};
 
 /// How a heading is drawn.
 struct HeadingLook {
     std::optional<Color> back;  ///< nothing: the container's background shows through
-    Color fore = kBlack;
-    bool border = false;  ///< a thin line around a label; other kinds have none of their own
+    Color fore = kBlack;        ///< of the text
+    bool border = false;        ///< a thin line around a label; other kinds have none of their own
 
     friend bool operator==(const HeadingLook&, const HeadingLook&) = default;
 };
@@ -79,7 +88,9 @@ class HALVEK_EXPORT HeadingControl {
   public:
     virtual ~HeadingControl();
 
+    /// Which kind of control it is.
     virtual HeadingKind Kind() const = 0;
+    /// Draws the control in a look, until the next one.
     virtual void Show(const HeadingLook& look) = 0;
 
   protected:
@@ -94,6 +105,7 @@ class HALVEK_EXPORT ControlFont {
   public:
     virtual ~ControlFont();
 
+    /// Sets the face.
     virtual void Name(TextIn face) = 0;
 
     /// The size in points: what is asked for, and what the font really has, which may differ.
@@ -112,8 +124,11 @@ class HALVEK_EXPORT GridFont {
   public:
     virtual ~GridFont();
 
+    /// Sets the size in points.
     virtual void SetSize(std::int16_t points) = 0;
+    /// Makes the font bold or not.
     virtual void SetBold(bool bold) = 0;
+    /// Makes the font italic or not.
     virtual void SetItalic(bool italic) = 0;
 
   protected:
@@ -128,7 +143,9 @@ class HALVEK_EXPORT ComboBox {
   public:
     virtual ~ComboBox();
 
+    /// How many entries there are.
     virtual std::int32_t ListCount() const = 0;
+    /// The text of an entry, 0 to ListCount() - 1.
     virtual std::u16string List(std::int32_t index) const = 0;
 
     /// Chooses an entry.
@@ -155,7 +172,7 @@ class HALVEK_EXPORT TextControl {
   public:
     virtual ~TextControl();
 
-    /// Setting the text puts the caret in front of it and ends the selection.
+    /// The whole text. Setting it puts the caret in front of it and ends the selection.
     virtual void Text(TextIn value) = 0;
     virtual std::u16string Text() const = 0;
 

@@ -15,9 +15,9 @@ namespace halvek {
 
 /// A font as the dialogs' rules choose it.
 struct FontSpec {
-    std::u16string face;  ///< empty for the desktop's own interface face
-    std::int32_t points = 9;
-    bool bold = false;
+    std::u16string face;      ///< empty for the desktop's own interface face
+    std::int32_t points = 9;  ///< the size
+    bool bold = false;        ///< a bold font
 
     friend bool operator==(const FontSpec&, const FontSpec&) = default;
 };
@@ -44,13 +44,16 @@ class HALVEK_EXPORT TextMeter {
 };
 
 /// The icon of a stock message.
-enum class StockIcon { None, Critical };
+enum class StockIcon {
+    None,      ///< no icon
+    Critical,  ///< the desktop's icon of an error
+};
 
 /// Which of the modifier keys are down.
 struct HeldKeys {
-    bool shift = false;
-    bool alt = false;
-    bool ctrl = false;
+    bool shift = false;  ///< Shift
+    bool alt = false;    ///< Alt
+    bool ctrl = false;   ///< Ctrl
 };
 
 /// What the library asks of the desktop besides its own dialogs.

@@ -10,7 +10,11 @@
 
 namespace halvek {
 
-enum class OnFault { Quiet, Beep };
+/// Whether a fault is heard as well.
+enum class OnFault {
+    Quiet,  ///< it is only logged
+    Beep,   ///< it is beeped and logged
+};
 
 /// Runs `body`; when it throws, beeps if asked to and passes `prefix` followed by the fault's
 /// description to `log`.

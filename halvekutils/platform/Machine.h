@@ -34,11 +34,13 @@ class HALVEK_EXPORT Machine {
     /// first append to a file in it, and no other folder ever is.
     virtual std::filesystem::path OwnFolder() = 0;
 
+    /// What there is to know of a file before a line is written.
     struct FileState {
-        bool exists = false;
-        bool writable = false;
+        bool exists = false;        ///< it is there, as a file or anything else
+        bool writable = false;      ///< its owner may write
         std::uintmax_t length = 0;  ///< in bytes
     };
+    /// The state of a file; a missing one is no fault.
     virtual FileState StateOf(const std::filesystem::path& file) = 0;
 
     /// Adds write permission for the owner, no more.

@@ -10,15 +10,15 @@ namespace halvek {
 
 /// A printer as the workstation's network connections name it.
 struct PrinterConnection {
-    std::u16string port;
-    std::u16string name;
+    std::u16string port;  ///< where it prints to
+    std::u16string name;  ///< as the user knows it
 };
 
 /// A printer as the workstation's own printer list names it.
 struct InstalledPrinter {
-    std::u16string deviceName;
-    std::u16string port;
-    std::u16string driverName;
+    std::u16string deviceName;  ///< as the user knows it
+    std::u16string port;        ///< where it prints to
+    std::u16string driverName;  ///< make and model, where they are known
 };
 
 /// Where one build of the printers collection learns of the workstation's printers.

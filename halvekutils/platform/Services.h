@@ -27,10 +27,15 @@ class HALVEK_EXPORT Services {
     /// Adds one line to the debug console; dropped outside debug mode.
     virtual void ShowInDebug(TextIn text) = 0;
 
+    /// Whether the session runs in debug mode.
     virtual bool DebugMode() const = 0;
+    /// The application's name, the title of the library's messages.
     virtual std::u16string AppName() const = 0;
+    /// The session's diagnostic words.
     virtual std::u16string SpecialMode() const = 0;
+    /// The background of the host's forms.
     virtual Color FormSkinColor() const = 0;
+    /// The text colour of the host's forms.
     virtual Color FormTextColor() const = 0;
 
   protected:

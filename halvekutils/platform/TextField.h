@@ -14,6 +14,7 @@ namespace halvek {
 class HALVEK_EXPORT TextField : public TextControl {
   public:
     TextField();
+    /// A field that shows a text, with the caret and selection given.
     explicit TextField(TextIn text, std::int32_t selStart = 0, std::int32_t selLength = 0);
     ~TextField() override;
     TextField(const TextField&) = default;
@@ -28,6 +29,7 @@ class HALVEK_EXPORT TextField : public TextControl {
     void SelLength(std::int32_t value) override;
     std::int32_t SelLength() const override { return selLength_; }
 
+    /// Whether the user may not edit the text.
     void Locked(bool value) { locked_ = value; }
     bool Locked() const override { return locked_; }
 

@@ -6,6 +6,7 @@
 
 namespace halvek {
 
+/// How many twips an inch has.
 inline constexpr std::int32_t kTwipsPerInch = 1440;
 
 /// The longest length that the library works with, 17 kilometres: sums of a few stay in range.

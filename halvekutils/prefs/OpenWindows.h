@@ -15,12 +15,18 @@ namespace halvek {
 /// The host's open windows, each by a type of the host's choice and its handle.
 ///
 /// Indexes count from 1. Utils::OpenWindows hands out the one registry of its object.
+///
+///     const auto windows = utils->OpenWindows();
+///     windows->AddItem(u"Patient", static_cast<std::int32_t>(window.winId()));
+///     windows->GetItem(1)[0];  // Patient
 class HALVEK_EXPORT OpenWindows {
   public:
+    /// A registry without windows.
     /// @param services  the session whose log is used; outlives the registry
     static std::shared_ptr<OpenWindows> CreateEmpty(Services& services);
     ~OpenWindows();
 
+    /// Forgets all windows.
     void ClearAll();
 
     /// The same as GetAll: every window, whatever its type.
@@ -34,6 +40,7 @@ class HALVEK_EXPORT OpenWindows {
     /// exist, with a beep when it is too large.
     StringArray GetItem(std::int32_t Index) const;
 
+    /// How many windows there are.
     std::int32_t Count() const;
 
     /// Removes a window; those behind it move up by one.

@@ -13,8 +13,10 @@ namespace halvek {
 
 /// The practice's settings, shared by the host and the library: Utils keeps the host's own object.
 ///
-/// Plain storage: each property returns what it was last given, empty, 0 or false at first. Nothing
-/// in the library reads them.
+/// Plain storage: each property returns what it was last given, empty, 0 or false at first. The
+/// library reads only the LookupKey and LookupKey1, in Utils::IsLookupKey and
+/// Utils::ConvertLookupKeyToSearchBy; its currency fields have digits of their own, and its colours
+/// and code delimiter come from Utils::InitOtherSettings.
 class HALVEK_EXPORT SystemPrefs {
   public:
     SystemPrefs();
@@ -24,6 +26,7 @@ class HALVEK_EXPORT SystemPrefs {
     void CloseDialogAfterSave(BoolIn value) { closeDialogAfterSave_ = value; }
     bool CloseDialogAfterSave() const { return closeDialogAfterSave_; }
 
+    /// The background of windows.
     void DefaultWindowsBackColor(Color value) { defaultWindowsBackColor_ = value; }
     Color DefaultWindowsBackColor() const { return defaultWindowsBackColor_; }
 
@@ -35,9 +38,10 @@ class HALVEK_EXPORT SystemPrefs {
     void CurrencyNumDecimal(std::int16_t value) { currencyNumDecimal_ = value; }
     std::int16_t CurrencyNumDecimal() const { return currencyNumDecimal_; }
 
-    /// Colours of a highlighted field.
+    /// The text colour of a highlighted field.
     void HighlightForeColor(Color value) { highlightForeColor_ = value; }
     Color HighlightForeColor() const { return highlightForeColor_; }
+    /// The background of a highlighted field.
     void HighlightBackColor(Color value) { highlightBackColor_ = value; }
     Color HighlightBackColor() const { return highlightBackColor_; }
 
@@ -49,23 +53,27 @@ class HALVEK_EXPORT SystemPrefs {
     void CodeDelimeter(TextIn value) { codeDelimeter_ = value; }
     std::u16string CodeDelimeter() const { return codeDelimeter_; }
 
-    /// Codes of the two keys that open a look-up and of the one that opens that of patients.
+    /// The code of the key that opens a look-up.
     void LookupKey(std::int32_t value) { lookupKey_ = value; }
     std::int32_t LookupKey() const { return lookupKey_; }
+    /// The code of the second key that opens a look-up.
     void LookupKey1(std::int32_t value) { lookupKey1_ = value; }
     std::int32_t LookupKey1() const { return lookupKey1_; }
+    /// The code of the key that opens the look-up of patients.
     void PatientLookupKey(std::int32_t value) { patientLookupKey_ = value; }
     std::int32_t PatientLookupKey() const { return patientLookupKey_; }
 
-    /// The height of a horizontal and the width of a vertical scroll bar, in the host's unit.
+    /// The height of a horizontal scroll bar, in the host's unit.
     void ScrollBarHeight(std::int32_t value) { scrollBarHeight_ = value; }
     std::int32_t ScrollBarHeight() const { return scrollBarHeight_; }
+    /// The width of a vertical scroll bar, in the host's unit.
     void ScrollBarWidth(std::int32_t value) { scrollBarWidth_ = value; }
     std::int32_t ScrollBarWidth() const { return scrollBarWidth_; }
 
-    /// Colours of a disabled field.
+    /// The text colour of a disabled field.
     void DisabledTextForeColor(Color value) { disabledTextForeColor_ = value; }
     Color DisabledTextForeColor() const { return disabledTextForeColor_; }
+    /// The background of a disabled field.
     void DisabledTextBackColor(Color value) { disabledTextBackColor_ = value; }
     Color DisabledTextBackColor() const { return disabledTextBackColor_; }
 

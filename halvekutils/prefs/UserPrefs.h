@@ -27,40 +27,56 @@ class HALVEK_EXPORT UserPrefs {
     UserPrefs();
     ~UserPrefs();
 
+    /// Whether the host offers its advanced settings. PopulateSettings keeps it where the text has
+    /// no field for it.
     void ShowAdvancedSettings(BoolIn value) { showAdvancedSettings_ = value; }
     bool ShowAdvancedSettings() const { return showAdvancedSettings_; }
+    /// Whether the host loads all codes when the user signs in.
     void LoadCodesOnLogin(BoolIn value) { loadCodesOnLogin_ = value; }
     bool LoadCodesOnLogin() const { return loadCodesOnLogin_; }
 
-    /// "Y" after PopulateSettings when the settings do not say.
+    /// Whether the connection to the server is kept, "Y" or "N"; "Y" after PopulateSettings when
+    /// the text does not say.
     void PersistentConnection(TextIn value) { persistentConnection_ = value; }
     std::u16string PersistentConnection() const { return persistentConnection_; }
 
+    /// Whether the host keeps its tables in a file.
     void UseFileForTables(BoolIn value) { useFileForTables_ = value; }
     bool UseFileForTables() const { return useFileForTables_; }
+    /// Whether the list of reports shows all.
     void UseViewAllForReportsList(BoolIn value) { useViewAllForReportsList_ = value; }
     bool UseViewAllForReportsList() const { return useViewAllForReportsList_; }
+    /// Whether the host keeps tables of codes; "2" and "0" in the settings text.
     void UseTables(BoolIn value) { useTables_ = value; }
     bool UseTables() const { return useTables_; }
+    /// Whether the host keeps the AI screen's filter.
     void AIKeepFilter(BoolIn value) { aiKeepFilter_ = value; }
     bool AIKeepFilter() const { return aiKeepFilter_; }
+    /// The AI screen's filter, in the host's own form.
     void AIFilterData(TextIn value) { aiFilterData_ = value; }
     std::u16string AIFilterData() const { return aiFilterData_; }
+    /// How many days the AI screen shows.
     void AINumDaysToShow(std::int32_t value) { aiNumDaysToShow_ = value; }
     std::int32_t AINumDaysToShow() const { return aiNumDaysToShow_; }
 
-    /// Not part of the settings text, and kept by PopulateSettings.
+    /// The printer that the user printed on last. Not part of the settings text, and kept by
+    /// PopulateSettings.
     void LastPrinterUsed(TextIn value) { lastPrinterUsed_ = value; }
     std::u16string LastPrinterUsed() const { return lastPrinterUsed_; }
 
+    /// Whether forms have a menu of windows; true after PopulateSettings unless the text says no.
     void FormWindowsMenu(BoolIn value) { formWindowsMenu_ = value; }
     bool FormWindowsMenu() const { return formWindowsMenu_; }
+    /// The text colour of forms; white when not set.
     void FormTextColor(Color value) { formTextColor_ = value; }
     Color FormTextColor() { return OrDefault(formTextColor_, kDefaultFormText); }
+    /// The background of forms; 9664091, a grey blue, when not set.
     void FormSkinColor(Color value) { formSkinColor_ = value; }
     Color FormSkinColor() { return OrDefault(formSkinColor_, kDefaultFormSkin); }
+    /// The colour of a form's top; 9664091, a grey blue, when not set.
     void FormTopColor(Color value) { formTopColor_ = value; }
     Color FormTopColor() { return OrDefault(formTopColor_, kDefaultFormTop); }
+    /// The text colour of fields; black when not set.
     void FieldTextColor(Color value) { fieldTextColor_ = value; }
     Color FieldTextColor() { return OrDefault(fieldTextColor_, kDefaultFieldText); }
 
@@ -75,34 +91,49 @@ class HALVEK_EXPORT UserPrefs {
     /// The settings text: 31 fields, colours as they are stored, so -1 for one that is not set.
     std::u16string GetSettingsString() const;
 
+    /// The background of fields that must be filled in; 16765560, an orange, when not set.
     void RequiredFieldBackColor(Color value) { requiredFieldBackColor_ = value; }
     Color RequiredFieldBackColor() {
         return OrDefault(requiredFieldBackColor_, kDefaultRequiredFieldBack);
     }
+    /// The text of the posting screen.
     void PostingFormData(TextIn value) { postingFormData_ = value; }
     std::u16string PostingFormData() const { return postingFormData_; }
+    /// The text of the schedule screen.
     void ScheduleFormData(TextIn value) { scheduleFormData_ = value; }
     std::u16string ScheduleFormData() const { return scheduleFormData_; }
+    /// The text of the reports screen.
     void ReportsFormData(TextIn value) { reportsFormData_ = value; }
     std::u16string ReportsFormData() const { return reportsFormData_; }
+    /// The text of the insurance screen.
     void InsuranceFormData(TextIn value) { insuranceFormData_ = value; }
     std::u16string InsuranceFormData() const { return insuranceFormData_; }
+    /// The text of the demographics screen.
     void DemoFormData(TextIn value) { demoFormData_ = value; }
     std::u16string DemoFormData() const { return demoFormData_; }
+    /// The text of the AI screen. In a settings text it may stand between two "|", which are taken
+    /// off.
     void AIFormData(TextIn value) { aiFormData_ = value; }
     std::u16string AIFormData() const { return aiFormData_; }
+    /// The text of the viewer.
     void ViewerFormData(TextIn value) { viewerFormData_ = value; }
     std::u16string ViewerFormData() const { return viewerFormData_; }
+    /// The text of the work list.
     void WorklistFormData(TextIn value) { worklistFormData_ = value; }
     std::u16string WorklistFormData() const { return worklistFormData_; }
+    /// The text of the screen that imports images.
     void ImportImagesData(TextIn value) { importImagesData_ = value; }
     std::u16string ImportImagesData() const { return importImagesData_; }
+    /// The text of the EMR preferences.
     void EMRPrefsData(TextIn value) { emrPrefsData_ = value; }
     std::u16string EMRPrefsData() const { return emrPrefsData_; }
+    /// The text of the image screen.
     void ImageData(TextIn value) { imageData_ = value; }
     std::u16string ImageData() const { return imageData_; }
+    /// The type of document that is scanned.
     void ScanningDocType(TextIn value) { scanningDocType_ = value; }
     std::u16string ScanningDocType() const { return scanningDocType_; }
+    /// The folder of images.
     void SolvaneImagesFolder(TextIn value) { solvaneImagesFolder_ = value; }
     std::u16string SolvaneImagesFolder() const { return solvaneImagesFolder_; }
 

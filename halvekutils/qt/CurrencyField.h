@@ -24,6 +24,7 @@ class Utils;
 ///
 /// The field replaces the line edit's validator and input mask, and widens a maximum length that
 /// leaves no room for an amount. It may be made before or after the line edit is shown, and anew.
+/// @param line  the line edit; null does nothing
 /// @param utils  whose handlers serve the field; null for the current Utils object
 ///
 ///     MakeCurrencyField(&amount);

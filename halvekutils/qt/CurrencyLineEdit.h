@@ -13,7 +13,9 @@ class HALVEK_EXPORT CurrencyLineEdit : public QLineEdit {
     Q_OBJECT
 
   public:
+    /// A field for amounts that are not negative.
     explicit CurrencyLineEdit(QWidget* parent = nullptr);
+    /// A field whose amounts may be negative or not, as `sign` says.
     explicit CurrencyLineEdit(AmountSign sign, QWidget* parent = nullptr);
     ~CurrencyLineEdit() override;
 };

@@ -11,7 +11,9 @@
 
 namespace halvek {
 
-/// One code table that the client knows. Made by Utils::BuildCodesCollection only.
+/// One code table that the client knows: what it is called, how it is looked up, sorted and
+/// printed. Made by Utils::BuildCodesCollection only; the getters are empty or false where the
+/// record was too short.
 class HALVEK_EXPORT CodeDefinition {
   public:
     ~CodeDefinition();
@@ -24,14 +26,21 @@ class HALVEK_EXPORT CodeDefinition {
     /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
     void Init(TextIn codeData);
 
+    /// True for a table of the system's own.
     bool IsSystemCode() const { return isSystemCode_; }
+    /// True when each entity keeps its own entries.
     bool IsEntitySpecific() const { return isEntitySpecific_; }
+    /// The report that prints the table; may be empty.
     std::u16string ReportName() const { return TextOf(reportName_); }
+    /// True when menus offer the table.
     bool IncludedInMenu() const { return includedInMenu_; }
     /// One sort order, or two parted by the character of code 230.
     std::u16string SortByList() const { return TextOf(sortByList_); }
+    /// True when there is a list to choose the table's codes from.
     bool CodeHasLookup() const { return codeHasLookup_; }
+    /// The title for people.
     std::u16string CodeDescription() const { return TextOf(codeDescription_); }
+    /// The key under which a collection holds the definition; empty for one without a key.
     std::u16string CodeKey() const { return TextOf(codeKey_); }
 
   private:

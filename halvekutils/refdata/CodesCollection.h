@@ -24,6 +24,7 @@ namespace halvek {
 class HALVEK_EXPORT CodesCollection : public Fetchable,
                                       public std::enable_shared_from_this<CodesCollection> {
   public:
+    /// A collection without definitions.
     static std::shared_ptr<CodesCollection> CreateEmpty();
     ~CodesCollection() override;
 
@@ -33,10 +34,13 @@ class HALVEK_EXPORT CodesCollection : public Fetchable,
     /// The definition under a key, letter case ignored. Throws InvalidArgument for an unknown key.
     std::shared_ptr<CodeDefinition> Item(TextIn key) const;
 
+    /// How many definitions there are.
     std::int32_t Count() const override;
     void Fetch(TextIn key) override;
 
+    /// The first definition, for loops.
     Enumerator<const CodesCollection> begin() const;
+    /// Behind the last definition.
     std::default_sentinel_t end() const { return {}; }
 
     /// Adds the definitions of a codes data text. The first of two equal keys wins; the second is

@@ -10,13 +10,13 @@ namespace halvek {
 
 /// What the printers collection is told of a printer; PrinterDefinition documents the fields.
 struct PrinterFields {
-    bool isSerial = false;
-    std::u16string printerID;
-    std::u16string printerType;
-    std::u16string printerDescription;
-    std::u16string printerPort;
-    std::u16string printerDeviceName;
-    std::u16string printerDriverName;
+    bool isSerial = false;              ///< see IsSerial
+    std::u16string printerID;           ///< see PrinterID
+    std::u16string printerType;         ///< see PrinterType
+    std::u16string printerDescription;  ///< see PrinterDescription
+    std::u16string printerPort;         ///< see PrinterPort
+    std::u16string printerDeviceName;   ///< see PrinterDeviceName
+    std::u16string printerDriverName;   ///< see PrinterDriverName
 };
 
 /// An output device that a user may pick. Made by PrintersCollection only.

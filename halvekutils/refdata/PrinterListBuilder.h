@@ -15,6 +15,11 @@ namespace halvek {
 /// numbered by one counter that starts at 0.
 class PrinterListBuilder {
   public:
+    /// @param printers  the collection that is added to
+    /// @param source  where the workstation's printers are asked for
+    /// @param services  the session whose log and special mode are used
+    ///
+    /// All three outlive the builder.
     PrinterListBuilder(PrintersCollection& printers, PrinterSource& source, Services& services);
 
     /// Adds the entries of the server's list. They are parted by tabs, their four fields by ":":

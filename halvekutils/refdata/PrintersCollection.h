@@ -16,10 +16,10 @@ namespace halvek {
 
 /// The kinds of printers that a filtered collection leaves out.
 struct PrinterFilter {
-    bool excludeSpool = true;
-    bool excludeFile = false;
-    bool excludeWindows = false;
-    bool excludeSerial = false;
+    bool excludeSpool = true;     ///< the entry with the identifier "S"
+    bool excludeFile = false;     ///< those that print to a file
+    bool excludeWindows = false;  ///< the workstation's
+    bool excludeSerial = false;   ///< the server's, the spool and the files excepted
 };
 
 /// The printers that a user may pick, the server's first, then the workstation's; read-only to the
@@ -33,6 +33,7 @@ struct PrinterFilter {
 class HALVEK_EXPORT PrintersCollection : public Fetchable,
                                          public std::enable_shared_from_this<PrintersCollection> {
   public:
+    /// A collection without printers.
     static std::shared_ptr<PrintersCollection> CreateEmpty();
     ~PrintersCollection() override;
 
@@ -42,10 +43,13 @@ class HALVEK_EXPORT PrintersCollection : public Fetchable,
     /// The printer under a key, letter case ignored. Throws InvalidArgument for an unknown key.
     std::shared_ptr<PrinterDefinition> Item(TextIn key) const;
 
+    /// How many printers there are.
     std::int32_t Count() const override;
     void Fetch(TextIn key) override;
 
+    /// The first printer, for loops.
     Enumerator<const PrintersCollection> begin() const;
+    /// Behind the last printer.
     std::default_sentinel_t end() const { return {}; }
 
     /// Adds a printer under the key of a number: 7 stands for "7KEY". Throws DuplicateKey.

@@ -20,9 +20,13 @@ class HALVEK_EXPORT SecurityItem {
     /// Always empty: the server sends no groups.
     std::u16string GroupName() const { return {}; }
 
+    /// True when the user may add.
     bool AllowAdd() const { return (rights_ & kAdd) != 0; }
+    /// True when the user may delete.
     bool AllowDelete() const { return (rights_ & kDelete) != 0; }
+    /// True when the user may change what is there.
     bool AllowModify() const { return (rights_ & kModify) != 0; }
+    /// True when the user may see it.
     bool AllowRead() const { return (rights_ & kRead) != 0; }
 
     /// The item's key. Setting it leaves the key under which a collection holds the item.

@@ -27,6 +27,7 @@ class HALVEK_EXPORT SecurityItemsCollection
     : public Fetchable,
       public std::enable_shared_from_this<SecurityItemsCollection> {
   public:
+    /// A collection without items.
     /// @param services  the session whose log and switches look-ups use; outlives the collection
     static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
     ~SecurityItemsCollection() override;
@@ -48,11 +49,13 @@ class HALVEK_EXPORT SecurityItemsCollection
     /// a beep, in debug mode or when the special mode contains "check security".
     std::shared_ptr<SecurityItem> Item(TextIn key);
 
+    /// How many items there are, those that look-ups have added included.
     std::int32_t Count() const override;
     void Fetch(TextIn key) override;
 
     /// Steps through the items as they are: a loop looks nothing up and so grants nothing.
     Enumerator<const KeyedCollection<SecurityItem>> begin() const;
+    /// Behind the last item.
     std::default_sentinel_t end() const { return {}; }
 
     /// Adds the items of a security data text. Exactly "***" has none and switches full access on;

@@ -27,21 +27,27 @@ namespace halvek {
 ///     EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
 class HALVEK_EXPORT ScriptedPlatform : public Platform {
   public:
+    /// A message of the desktop's own that was shown.
     struct StockMessage {
-        std::u16string text;
-        StockIcon icon;
-        std::u16string title;
+        std::u16string text;   ///< what it said
+        StockIcon icon;        ///< its icon
+        std::u16string title;  ///< its title
     };
     /// One call of a help member: by context number or else by topic.
     struct ShownHelp {
-        std::filesystem::path file;
-        std::optional<std::int32_t> contextId;
-        std::u16string topic;
+        std::filesystem::path file;             ///< the help file
+        std::optional<std::int32_t> contextId;  ///< nothing for a call by topic
+        std::u16string topic;                   ///< as the host wrote it
     };
+    /// Plays the user on a message box.
     using MessageBoxAnswer = std::function<void(MessageBox&)>;
+    /// Plays the user on a calculator.
     using CalculatorAnswer = std::function<void(Calculator&)>;
+    /// Plays the user on a calendar.
     using CalendarAnswer = std::function<void(Calendar&)>;
+    /// Plays the user on a colour palette.
     using ColorPaletteAnswer = std::function<void(ColorPalette&)>;
+    /// Plays the user on a selection dialog.
     using SelectionAnswer = std::function<void(SelectGrid&)>;
 
     ScriptedPlatform();
@@ -66,11 +72,16 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     /// The debug console with its text; null until something has shown it.
     const std::shared_ptr<DebugConsole>& Console() const { return console_; }
 
+    /// How often the system beep sounded.
     int Beeps() const { return beeps_; }
+    /// The desktop's own messages that were shown, the oldest first; nobody has to close them.
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
+    /// The calls of the help members, the oldest first.
     const std::vector<ShownHelp>& HelpShown() const { return helpShown_; }
 
+    /// The size of the screen in twips; 20490 by 11520 at first, 1366 by 768 pixels.
     void SetScreenSize(Size size) { screen_ = size; }
+    /// What a window frame adds, in twips; 0 by 450 at first.
     void SetFrameSize(Size size) { frame_ = size; }
     /// Whether the debug console may be shown; it may at first.
     void AllowModelessWindows(bool allow) { allowsModeless_ = allow; }

@@ -19,27 +19,31 @@ namespace halvek {
 
 /// What a selection dialog is asked to show.
 struct SelectionRequest {
-    std::u16string listName;
+    std::u16string listName;             ///< plain text, the caption
     std::u16string allValues;            ///< the server's list, see SelectionList
     std::u16string selectedValues;       ///< the codes chosen so far, parted by ","
     std::u16string typedCharacter = {};  ///< what the user typed before the dialog opened
-    bool doNotIncludeDeleted = false;
-    PopupAnchor anchor = {};
+    bool doNotIncludeDeleted = false;    ///< leaves deleted entries out
+    PopupAnchor anchor = {};             ///< where it is asked to open
 };
 
 /// A message that the dialog raises while it is open.
 struct SelectionMessage {
-    enum class Icon { None, Information };
+    /// Its picture.
+    enum class Icon {
+        None,         ///< no picture
+        Information,  ///< an "i"
+    };
 
-    std::u16string text;
-    Icon icon = Icon::None;
-    std::u16string title;  ///< empty for the application's name
+    std::u16string text;     ///< what it says
+    Icon icon = Icon::None;  ///< its picture
+    std::u16string title;    ///< empty for the application's name
 };
 
 /// The box of typed codes as the rules want it. Positions count characters from 0.
 struct TypedCodesBox {
-    std::u16string text;
-    std::int32_t caret = 0;
+    std::u16string text;        ///< what it holds
+    std::int32_t caret = 0;     ///< how many characters stand before the caret
     std::int32_t selected = 0;  ///< how many characters behind the caret are selected
     bool enabled = true;        ///< what stands in a disabled box was not typed by the user
 };
@@ -47,33 +51,45 @@ struct TypedCodesBox {
 /// The description of the entry that stands for all codes.
 inline constexpr std::u16string_view kAllCodesName = u" *** ALL CODES *** ";
 
-/// The fonts of the check and code rows and of the description rows.
+/// The font of the check and code rows.
 inline FontSpec CodeFont() {
     return {u"tahoma", 8};
 }
+/// The font of the description rows.
 inline FontSpec DescriptionFont() {
     return {u"tahoma", 7};
 }
 
 /// One cell of the grid, as it is drawn.
 struct SelectCell {
-    enum class Kind { Header, Check, Code, Description, Plain };
-    enum class Alignment { Left = 0, Centre = 1 };
+    /// What a cell is.
+    enum class Kind {
+        Header,       ///< row 0: the list's name and the choice
+        Check,        ///< the tick of an entry
+        Code,         ///< the code of an entry
+        Description,  ///< the description of an entry
+        Plain,        ///< nothing
+    };
+    /// Where the text stands in the cell.
+    enum class Alignment {
+        Left = 0,    ///< at the left edge
+        Centre = 1,  ///< in the middle
+    };
 
-    Kind kind = Kind::Plain;
-    std::u16string text;     ///< plain text; a header's may be as long as the whole choice
-    bool checked = false;    ///< of a Check cell
-    std::u16string toolTip;  ///< empty for none
-    std::optional<Color> background;
-    std::optional<Color> textColor;
-    Alignment alignment = Alignment::Left;
-    FontSpec font;
+    Kind kind = Kind::Plain;          ///< what the cell is
+    std::u16string text;              ///< plain text; a header's may be as long as the whole choice
+    bool checked = false;             ///< of a Check cell
+    std::u16string toolTip;           ///< empty for none
+    std::optional<Color> background;  ///< nothing for the desktop's own
+    std::optional<Color> textColor;   ///< nothing for the desktop's own
+    Alignment alignment = Alignment::Left;  ///< where the text stands
+    FontSpec font;                          ///< of the text
 };
 
 /// A cell of the grid: row 0 is the header, columns run from 1 to 10.
 struct CellPlace {
-    std::int32_t row = 0;
-    std::int32_t column = 0;
+    std::int32_t row = 0;     ///< 0 for the header
+    std::int32_t column = 0;  ///< 1 to 10
 
     friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
@@ -110,14 +126,18 @@ class HALVEK_EXPORT SelectGrid {
     std::u16string HeaderText() const;
     /// The number of rows below the header, three for each band of ten entries.
     std::int32_t RowCount() const { return list_.RowCount(); }
+    /// The number of columns, 10.
     static constexpr std::int32_t ColumnCount() { return SelectionList::kColumns; }
     /// The cell at row 0 to RowCount(), column 1 to 10; a plain one for any other place.
     SelectCell Cell(std::int32_t row, std::int32_t column) const;
     /// Code, description, ticked or not and deleted or not in words; empty for a blank cell.
     std::u16string AccessibleText(std::int32_t row, std::int32_t column) const;
+    /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return list_.LongestCodeLength(); }
+    /// Where the dialog is asked to open.
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
+    /// The box of typed codes.
     const TypedCodesBox& Box() const { return box_; }
     /// Grows whenever the rules, not the user, change the box: the window then mirrors it.
     std::uint32_t BoxVersion() const { return boxVersion_; }
@@ -138,17 +158,32 @@ class HALVEK_EXPORT SelectGrid {
     /// A cell is clicked: row 0 accepts the choice as it is, any other toggles its entry and makes
     /// it current. A blank cell does nothing.
     void ClickCell(std::int32_t row, std::int32_t column);
+    /// Accepts the choice as it is, without a look at what was typed.
     void ClickHeader();
 
-    enum class Key { Enter, Space, PageUp, PageDown, End, Home, Left, Up, Right, Down };
+    /// The keys that the grid knows.
+    enum class Key {
+        Enter,     ///< OK
+        Space,     ///< ticks the current entry or takes its tick off
+        PageUp,    ///< as many bands up as are in view
+        PageDown,  ///< as many bands down as are in view
+        End,       ///< the last entry
+        Home,      ///< the first entry, that of all codes
+        Left,      ///< the entry before
+        Up,        ///< the band above
+        Right,     ///< the entry after
+        Down,      ///< the band below
+    };
 
     /// A key pressed in the grid. Moves go from one entry with a code to another; left and right
     /// cross the bands.
+    /// @param key  the key
     /// @param bandsOnPage  how many bands the grid shows at a time
     void KeyDown(Key key, std::int32_t bandsOnPage = 1);
 
     /// A character typed in the grid without Ctrl or Alt: moves to the next entry whose code or
     /// description begins with what was typed, letter case ignored, and does nothing else.
+    /// @param letter  the character
     /// @param continues  it follows closely on the last one and is added to it
     void TypeLetter(char16_t letter, bool continues);
 
@@ -157,6 +192,7 @@ class HALVEK_EXPORT SelectGrid {
     /// The user has changed the text. Emptying it clears every tick.
     void EditBox(TextIn text, std::int32_t caret, std::int32_t selected = 0);
 
+    /// How the box of typed codes got the focus.
     enum class BoxFocus {
         Entered,   ///< by the mouse, a key or a shortcut
         Restored,  ///< the window became active again, or put the focus back after a refusal
@@ -184,14 +220,16 @@ class HALVEK_EXPORT SelectGrid {
     /// The modal loop ended with the dialog still open.
     void Abandon() { Cancel(); }
 
+    /// False once the dialog has ended.
     bool IsOpen() const { return open_; }
     /// True when the user accepted without a change.
     bool Cancelled() const { return cancelled_; }
     /// "CANCEL" when Cancelled(), else the chosen codes, parted by ",".
     std::u16string ReturnValue() const;
 
-    /// The position that the dialog was asked for, in whole twips; -1 when none was given.
+    /// The right edge that the dialog was asked for, in whole twips; -1 when none was given.
     std::int32_t OriginalLeft() const { return request_.anchor.left.value_or(-1); }
+    /// The bottom edge that it was asked for above its target, likewise.
     std::int32_t OriginalTop() const { return request_.anchor.topUp.value_or(-1); }
 
   private:

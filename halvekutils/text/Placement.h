@@ -19,7 +19,7 @@ enum class PopupEdge : std::int32_t {
 
 /// Where a pop-up is asked to open, in twips on the screen. What is absent is not given.
 struct PopupAnchor {
-    PopupEdge edge = PopupEdge::Left;
+    PopupEdge edge = PopupEdge::Left;           ///< which edge of the pop-up `left` is for
     std::optional<std::int32_t> left;           ///< where that edge of the pop-up lies
     std::optional<std::int32_t> topUp;          ///< the target's top: the pop-up may end here
     std::optional<std::int32_t> topDown;        ///< the target's bottom: the pop-up may start here

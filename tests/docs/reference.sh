@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Writes the reference, which any warning of doxygen's fails, and looks for what doxygen does not.
+# Usage: reference.sh SOURCE-FOLDER BUILD-FOLDER
+set -euo pipefail
+rooms=$1/halvekutils
+pages=$1/docs/pages
+xml=$2/docs/xml
+complain() { echo "$*" >&2; exit 1; }
+
+cmake --build "$2" --target docs
+
+# Members of Utils, by the lines that declare them
+members=$(sed -nE '/^  private:/q; s/^    [A-Za-z:][^(=]* ([A-Za-z_]+)\(.*/\1/p' "$rooms/core/Utils.h")
+[ "$(wc -w <<<"$members")" -gt 100 ]
+for member in $members; do
+    grep -q "<name>$member</name>" "$xml/classhalvek_1_1Utils.xml" || complain "no entry: $member"
+done
+
+# Values of public enumerations
+awk '/<memberdef/ { public = /prot="public"/ } /<name>/ { name = $0 } /<para>/ { told = 1 }
+     /<enumvalue/ { told = 0 } /<\/enumvalue>/ && public && !told { print name; found = 1 }
+     END { exit found }' "$xml"/*.xml >&2 || complain "values without a description"
+
+# What log lines begin with stands on the page of the log
+while IFS= read -r line; do
+    grep -qF -- "$line" "$pages/error-log.md" || complain "not explained: $line"
+done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \
+    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |OpenHelp\(\*this, |prefix = .*return )u"([^"\\]+).*/\2/p')
+
+# Links and pictures of the pages
+for link in $(grep -hoE '\]\([a-z./-]+\.(md|png)' "$pages"/*.md | tr -d ']('); do
+    [ -f "$pages/$link" ] || complain "no $link"
+done
