@@ -29,10 +29,11 @@ constexpr char16_t FoldCase(char16_t character) {
 /// True when the texts differ in letter case at the most.
 HALVEK_EXPORT bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
 
-/// True when a text begins, or ends, with another, letter case ignored.
+/// True when a text begins with another, letter case ignored.
 inline bool StartsFolded(std::u16string_view text, std::u16string_view start) noexcept {
     return EqualFolded(text.substr(0, start.size()), start);
 }
+/// True when a text ends with another, letter case ignored.
 inline bool EndsFolded(std::u16string_view text, std::u16string_view end) noexcept {
     return text.size() >= end.size() && EqualFolded(text.substr(text.size() - end.size()), end);
 }
