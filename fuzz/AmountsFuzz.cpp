@@ -46,6 +46,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider input(data, size);
     CheckRange(input.ConsumeIntegral<std::int32_t>(), input.ConsumeIntegral<std::int32_t>());
     const AmountSign sign = input.ConsumeBool() ? AmountSign::Signed : AmountSign::Unsigned;
-    CheckPasting(RestAsText(input), sign);
+    CheckPasting(RestAsText(input, u"0159.,$-() "), sign);
     return 0;
 }

@@ -9,7 +9,8 @@
 using namespace halvek;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::u16string text = FuzzText(data, size);
+    FuzzedDataProvider input(data, size);
+    const std::u16string text = RestAsText(input, u"|ææAaÉé1");
     const auto codes = CodesCollection::CreateEmpty();
     FakeServices services;
     codes->AddRecords(text, services);

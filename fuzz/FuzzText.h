@@ -23,12 +23,25 @@ inline std::u16string FuzzText(const std::uint8_t* data, std::size_t size) {
 
 /// A text of some length from an input that holds more than one.
 inline std::u16string FuzzText(FuzzedDataProvider& input, std::size_t most) {
-    return FromCodePage(input.ConsumeRandomLengthString(most));
+    const auto length = input.ConsumeIntegralInRange<std::size_t>(0, most);
+    return FromCodePage(input.ConsumeBytesAsString(length));
 }
 
 /// What is left of an input.
 inline std::u16string RestAsText(FuzzedDataProvider& input) {
     return FromCodePage(input.ConsumeRemainingBytesAsString());
+}
+
+/// A text of a few characters only: separators are frequent in it, and pieces often equal.
+inline std::u16string Narrowed(std::u16string text, std::u16string_view characters) {
+    for (char16_t& character : text) character = characters[character % characters.size()];
+    return text;
+}
+
+/// What is left of an input, narrowed in every other one.
+inline std::u16string RestAsText(FuzzedDataProvider& input, std::u16string_view characters) {
+    const bool isAny = input.ConsumeBool();
+    return isAny ? RestAsText(input) : Narrowed(RestAsText(input), characters);
 }
 
 // What the library does at speed, done plainly, to compare with.

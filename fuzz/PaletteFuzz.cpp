@@ -12,7 +12,8 @@ using namespace halvek;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider input(data, size);
-    const StringArray colors(input.ConsumeIntegralInRange(0, 1), Cut(FuzzText(input, 200), u'|'));
+    const StringArray colors(input.ConsumeIntegralInRange(0, 1),
+                             Cut(Narrowed(FuzzText(input, 100), u"||-0159. e"), u'|'));
     FakeServices services;
     std::vector<PaletteCell> cells;
     for (std::int32_t i = 1; i <= colors.UBound() - (i == 1 ? 0 : 2); ++i) {

@@ -28,7 +28,7 @@ std::size_t ValueOf(char16_t digit) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider input(data, size);
     const std::u16string asked = FuzzText(input, 16);
-    const std::u16string text = RestAsText(input);
+    const std::u16string text = RestAsText(input, u"æææPpÉé8fFGz*");
     FakeServices services;
     const auto former = SecurityItemsCollection::CreateEmpty(services);
     former->AddItems(u"***");

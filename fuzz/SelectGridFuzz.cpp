@@ -14,10 +14,10 @@ class Play {
   public:
     explicit Play(FuzzedDataProvider& input) : input_(input) {
         Services::Install(&session_);
-        SelectionRequest request{u"L", FuzzText(input, 200), FuzzText(input, 30),
-                                 FuzzText(input, 3)};
-        // A code with a comma in it cannot be told from two in the box.
-        std::replace(request.allValues.begin(), request.allValues.end(), u',', u';');
+        // A code with a comma in it could not be told from two in the box.
+        const SelectionRequest request{u"L", Narrowed(FuzzText(input, 150), u"::::\t\tABc d'1"),
+                                       Narrowed(FuzzText(input, 20), u"ABc,,1 'x"),
+                                       Narrowed(FuzzText(input, 2), u"ABc,")};
         const SelectionList list(request.allValues, false);
         for (std::int32_t i = 1; i <= list.LastShown(); ++i) {
             model_.codes.push_back(Trimmed(std::u16string(list.Code(i))));

@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider input(data, size);
     const bool doNotIncludeDeleted = input.ConsumeBool();
     const std::u16string sought = FuzzText(input, 8);
-    const std::u16string text = RestAsText(input);
+    const std::u16string text = RestAsText(input, u":\tAb 1");
     const SelectionList list(text, doNotIncludeDeleted);
     const auto entries = EntriesOf(text, doNotIncludeDeleted);
     const auto count = static_cast<std::int32_t>(entries.size());

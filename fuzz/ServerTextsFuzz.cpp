@@ -86,6 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const std::u16string text = RestAsText(input);
     CheckPrinters(text, filter);
+    CheckPrinters(Narrowed(text, u"\t:::SFILE7"), filter);
     CheckReminder(text);
+    CheckReminder(Narrowed(text, u"æçæ£pP-1x"));
     return 0;
 }

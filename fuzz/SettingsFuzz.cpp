@@ -80,14 +80,16 @@ void CheckProperties(FuzzedDataProvider& input) {
     UserPrefs prefs;
     std::vector<std::u16string> values;
     for (const Property& row : kTexts) {
-        std::u16string& value = values.emplace_back(FuzzText(input, 40));
+        std::u16string& value = values.emplace_back(FuzzText(input, 6));
         std::replace(value.begin(), value.end(), kSeparator, u's');
         if (row.field == 0 && value.starts_with(u'|')) value[0] = u'!';
         (prefs.*row.set)(value);
     }
+    const std::u16string settings = prefs.GetSettingsString();
     UserPrefs copy;
-    copy.PopulateSettings(prefs.GetSettingsString());
+    copy.PopulateSettings(settings);
     for (std::size_t i = 0; i < values.size(); ++i) {
+        Require(Cut(settings, kSeparator)[kTexts[i].field] == values[i], "a property has a field");
         Require((copy.*kTexts[i].get)() == values[i], "a property comes back");
     }
 }
@@ -95,8 +97,11 @@ void CheckProperties(FuzzedDataProvider& input) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    CheckText(FuzzText(data, size));
     FuzzedDataProvider input(data, size);
     CheckProperties(input);
+    std::u16string text;  // as many fields as the server sends, and more
+    for (std::size_t i = 0; i <= kFields; ++i) text += FuzzText(input, 8) + kSeparator;
+    CheckText(text);
+    CheckText(RestAsText(input, u"ßß|Ttrue12-"));
     return 0;
 }
