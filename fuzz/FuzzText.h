@@ -1,19 +1,67 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/CodePage.h>
+
+#include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace halvek {
 
 /// The fuzzer's bytes as the server would send them.
 inline std::u16string FuzzText(const std::uint8_t* data, std::size_t size) {
     return FromCodePage({reinterpret_cast<const char*>(data), size});
+}
+
+/// A text of some length from an input that holds more than one.
+inline std::u16string FuzzText(FuzzedDataProvider& input, std::size_t most) {
+    const auto length = input.ConsumeIntegralInRange<std::size_t>(0, most);
+    return FromCodePage(input.ConsumeBytesAsString(length));
+}
+
+/// What is left of an input.
+inline std::u16string RestAsText(FuzzedDataProvider& input) {
+    return FromCodePage(input.ConsumeRemainingBytesAsString());
+}
+
+/// A text of a few characters only: separators are frequent in it, and pieces often equal.
+inline std::u16string Narrowed(std::u16string text, std::u16string_view characters) {
+    for (char16_t& character : text) character = characters[character % characters.size()];
+    return text;
+}
+
+/// What is left of an input, narrowed in every other one.
+inline std::u16string RestAsText(FuzzedDataProvider& input, std::u16string_view characters) {
+    const bool isAny = input.ConsumeBool();
+    return isAny ? RestAsText(input) : Narrowed(RestAsText(input), characters);
+}
+
+// What the library does at speed, done plainly, to compare with.
+
+inline std::u16string Folded(std::u16string text) {
+    for (char16_t& character : text) character = FoldCase(character);
+    return text;
+}
+
+/// The pieces between separators: one more than there are separators.
+inline std::vector<std::u16string> Cut(std::u16string_view text, char16_t separator) {
+    std::vector<std::u16string> pieces(1);
+    for (const char16_t character : text) {
+        if (character == separator) {
+            pieces.emplace_back();
+        } else {
+            pieces.back() += character;
+        }
+    }
+    return pieces;
 }
 
 /// Ends the run, as a crash does, when something that must hold does not.

@@ -4,6 +4,7 @@
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/devices/HelpContents.h>
 #include <halvekutils/devices/HelpText.h>
+#include <halvekutils/devices/HelpTopic.h>
 #include <halvekutils/devices/LzxDecoder.h>
 
 #include <string_view>
@@ -17,6 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(entry.depth <= depth, "no entry skips a level");
         depth = entry.depth + 1;
     }
+    const std::u16string path = ParseHelpTopic(FuzzText(data, size)).path;
+    Require(path.empty() || path.starts_with(u'/'), "a path starts at the root");
+    Require((path + u'/').find(u"/../") == path.npos, "nothing lies above the root");
+    Require(ParseHelpTopic(path).path == path, "a path stays as it was read");
     try {
         LzxDecoder decoder(0x10000);
         for (int frame = 0; frame < 2; ++frame) {

@@ -56,6 +56,15 @@ bool HoldsPoint(std::u16string_view text) {
     return text.find(u'.') != text.npos;
 }
 
+/// A number in exponent form stands alone: a character behind it would change it beyond reason.
+bool HasExponent(std::u16string_view text) {
+    return text.find_first_of(u"eE") != text.npos;
+}
+
+bool HasRoom(std::u16string_view display) {
+    return display.size() < Calculator::kMaxLength && !HasExponent(display);
+}
+
 bool IsOperator(char16_t character) {
     return kOperators.find(character) != kOperators.npos;
 }
@@ -84,7 +93,7 @@ TextIn WithoutLineEnds(TextIn text) {
 std::u16string Keystrokes(TextIn text) {
     const auto number = ToNumber(text);
     if (!number) return {};
-    if (text.find_first_of(u"eE") != text.npos) return NumberText(*number);
+    if (HasExponent(text)) return NumberText(*number);
     std::u16string keys(*number < 0 ? u"-" : u"");
     std::ranges::copy_if(text, std::back_inserter(keys),
                          [](char16_t each) { return IsDigit(each) || each == u'.'; });
@@ -135,13 +144,13 @@ void Calculator::StartNumber() {
 
 void Calculator::AddDigit(char16_t digit) {
     StartNumber();
-    if (display_.size() >= kMaxLength) return desktop_.Beep();
+    if (!HasRoom(display_)) return desktop_.Beep();
     display_ += digit;
 }
 
 void Calculator::AddPoint() {
     StartNumber();
-    if (display_.size() >= kMaxLength || HoldsPoint(display_)) return desktop_.Beep();
+    if (!HasRoom(display_) || HoldsPoint(display_)) return desktop_.Beep();
     display_ += u'.';
 }
 
@@ -249,7 +258,9 @@ void Calculator::Paste(TextIn text, std::size_t start, std::size_t selected) {
     const std::u16string keys = Keystrokes(WithoutLineEnds(text));
     std::u16string whole = numberDone_ && selected == 0 ? std::u16string() : display_;
     whole.replace(selected == 0 ? whole.size() : std::min(start, whole.size()), selected, keys);
-    if (keys.empty() || whole.size() > kMaxLength || !IsNumeric(whole)) return desktop_.Beep();
+    const bool isBroken =
+        whole.size() > kMaxLength || !IsNumeric(whole) || (HasExponent(whole) && whole != keys);
+    if (keys.empty() || isBroken) return desktop_.Beep();
     display_ = std::move(whole);
     numberDone_ = false;
     NotifyChanged();

@@ -75,6 +75,7 @@ auto LogOf(Services& services) {
 PrinterListBuilder::PrinterListBuilder(PrintersCollection& printers, PrinterSource& source,
                                        Services& services)
     : printers_(printers), source_(source), services_(services) {}
+PrinterListBuilder::~PrinterListBuilder() = default;
 
 void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList) {
     std::int32_t position = 0;

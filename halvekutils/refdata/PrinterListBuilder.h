@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/platform/Services.h>
@@ -13,7 +14,7 @@ namespace halvek {
 
 /// One build of the printers collection: the server's list, then the workstation's printers, all
 /// numbered by one counter that starts at 0.
-class PrinterListBuilder {
+class HALVEK_EXPORT PrinterListBuilder {
   public:
     /// @param printers  the collection that is added to
     /// @param source  where the workstation's printers are asked for
@@ -21,6 +22,9 @@ class PrinterListBuilder {
     ///
     /// All three outlive the builder.
     PrinterListBuilder(PrintersCollection& printers, PrinterSource& source, Services& services);
+    ~PrinterListBuilder();
+    PrinterListBuilder(const PrinterListBuilder&) = delete;
+    PrinterListBuilder& operator=(const PrinterListBuilder&) = delete;
 
     /// Adds the entries of the server's list. They are parted by tabs, their four fields by ":":
     /// identifier, an ignored one, description, port. An entry with another number of fields beeps,

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/FuzzText.h"
+#include "tests/FakeServices.h"
+
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/dialogs/Calculator.h>
+#include <halvekutils/scripted/ScriptedPlatform.h>
+
+#include <cmath>
+
+using namespace halvek;
+
+namespace {
+
+/// Cents as the calculator shows them: "12.5", "-0.05", "3".
+std::u16string ShownCents(std::int64_t cents) {
+    const std::int64_t size = std::abs(cents);
+    std::u16string text = (cents < 0 ? u"-" : u"") + IntegerText(size / 100);
+    if (size % 100 != 0) text += u'.' + IntegerText(100 + size % 100).substr(1);
+    if (size % 100 != 0 && size % 10 == 0) text.pop_back();
+    return text;
+}
+
+void PressAmount(Calculator& calculator, std::int64_t cents) {
+    for (const char16_t key : ShownCents(cents)) {
+        calculator.Press(key == u'.' ? Calculator::kPoint : key - u'0');
+    }
+}
+
+/// Amounts added, subtracted and, at first, multiplied: to the cent what whole numbers give.
+void CheckChain(FuzzedDataProvider& input, Calculator& calculator) {
+    const auto amount = [&] { return input.ConsumeIntegralInRange<std::int64_t>(0, 99'999'999); };
+    std::int64_t total = amount();  // in hundredths of a cent from here on
+    PressAmount(calculator, total);
+    total *= 100;
+    bool multiplies = input.ConsumeBool();
+    while (input.remaining_bytes() > 0) {
+        // Doubles part from decimals where a difference ends in half a cent.
+        if (total % 100 != 0 && total % 50 == 0) return;
+        const bool minus = input.ConsumeBool();
+        calculator.Press(multiplies ? Calculator::kMultiply
+                         : minus    ? Calculator::kMinus
+                                    : Calculator::kPlus);
+        const std::int64_t operand = multiplies ? amount() % 10'000 : amount();
+        PressAmount(calculator, operand);
+        total = multiplies ? total / 100 * operand : total + (minus ? -100 : 100) * operand;
+        multiplies = false;
+        if (std::abs(total) > 10'000'000'000'000) break;
+    }
+    calculator.Press(Calculator::kEquals);
+    const std::int64_t cents = (total + (total < 0 ? -50 : 50)) / 100;
+    Require(calculator.Display() == ShownCents(cents), "a chain gives its sum to the cent");
+}
+
+bool IsLegal(const std::u16string& text) {
+    return text.empty() || text == u"." || text == u"ERROR" || IsNumeric(text);
+}
+
+void PlayKeys(FuzzedDataProvider& input, Calculator& calculator) {
+    while (input.remaining_bytes() > 0 && calculator.IsOpen()) {
+        switch (input.ConsumeIntegralInRange(0, 7)) {
+            case 0:
+                calculator.HookedKeyDown(input.ConsumeIntegralInRange(0, 130));
+                break;
+            case 1:
+                calculator.KeyPress(input.ConsumeIntegral<std::uint8_t>());
+                break;
+            case 2:
+                calculator.KeyDown(input.ConsumeIntegralInRange(0, 60));
+                break;
+            case 3:
+                calculator.Paste(FuzzText(input, 12), input.ConsumeIntegralInRange(0u, 20u),
+                                 input.ConsumeIntegralInRange(0u, 20u));
+                break;
+            case 4:
+                Require(calculator.Copy().empty() || IsNumeric(calculator.Copy()), "a number");
+                break;
+            case 5: {
+                const double before = std::abs(Val(calculator.Display()));
+                calculator.Press(input.ConsumeIntegralInRange(0, 9));
+                Require(std::abs(Val(calculator.Display())) <= 10 * before + 9, "one more digit");
+                break;
+            }
+            default:
+                calculator.Press(input.ConsumeIntegralInRange(-1, 17));
+        }
+        Require(IsLegal(calculator.Display()), "the display shows a number or ERROR");
+        Require(IsLegal(calculator.Accumulator()), "the left operand is a number or ERROR");
+    }
+    const std::u16string shown = calculator.Display();
+    const bool ended = !calculator.IsOpen();
+    calculator.Press(Calculator::kReturn);
+    Require(ended || calculator.Result() == shown, "RET returns what is shown");
+}
+
+/// What is typed into the box itself, as the window lets it in.
+void TypeIntoBox(FuzzedDataProvider& input, Calculator& calculator) {
+    while (input.remaining_bytes() > 0) {
+        calculator.FocusOn(Calculator::kBox);
+        const std::u16string before = calculator.Display();
+        const char16_t key = u"0123456789.\b+-*/=x"[input.ConsumeIntegralInRange(0, 17)];
+        if (!calculator.KeyPress(key)) continue;
+        const bool isDigit = key >= u'0' && key <= u'9';
+        Require(isDigit || key == u'\b' || (key == u'.' && before.find(u'.') == before.npos),
+                "only what makes a number goes into the box");
+        if (key != u'\b') calculator.EditDisplay(before + key);
+        if (key == u'\b')
+            calculator.EditDisplay(before.substr(0, std::max(before.size(), std::size_t{1}) - 1));
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    FakeServices session;
+    ScriptedPlatform desktop;
+    const auto kind = input.ConsumeIntegralInRange(0, 3);
+    Calculator calculator(kind == 0 ? std::u16string() : FuzzText(input, 16), session, desktop);
+    Require(IsLegal(calculator.Display()), "it starts with a number or nothing");
+    if (kind == 0) CheckChain(input, calculator);
+    if (kind == 1) TypeIntoBox(input, calculator);
+    if (kind > 1) PlayKeys(input, calculator);
+    Require(desktop.StockMessages().empty(), "every operator is known");
+    return 0;
+}

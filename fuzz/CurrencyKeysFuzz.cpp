@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/CurrencyLeaving.h"
+
+#include <halvekutils/currency/CurrencyKeys.h>
+
+using namespace halvek;
+
+namespace {
+
+/// Presses a key as a text box does: what passes takes the place of the selection.
+void Press(TextField& box, char16_t letter, AmountSign sign) {
+    auto key = static_cast<std::int16_t>(letter);
+    PressCurrencyKey(box, key, sign);
+    if (key == 0) return;
+    auto start = static_cast<std::size_t>(box.SelStart());
+    auto length = static_cast<std::size_t>(box.SelLength());
+    const bool isBackspace = letter == u'\b';
+    if (isBackspace && length == 0 && start > 0) --start, length = 1;
+    std::u16string text = box.Text().replace(start, length, isBackspace ? 0 : 1, letter);
+    box.Text(text);
+    box.SelStart(static_cast<std::int32_t>(start + (isBackspace ? 0 : 1)));
+    CutDecimals(box, sign);
+}
+
+/// Digits and a point typed one behind the other: what has no room is not taken.
+void CheckTyping(FuzzedDataProvider& input) {
+    TextField box;
+    std::u16string whole, fraction;
+    bool hasPoint = false;
+    while (input.remaining_bytes() > 0) {
+        const char16_t key = u"0123456789."[input.ConsumeIntegralInRange(0, 10)];
+        if (key == u'.' && hasPoint) continue;  // it would move the caret
+        Press(box, key, AmountSign::Unsigned);
+        if (key == u'.') {
+            if (whole.empty()) whole = u"0";
+            hasPoint = true;
+        } else if (!hasPoint && whole.size() < 7) {
+            whole += key;
+        } else if (hasPoint && fraction.size() < 2) {
+            fraction += key;
+        }
+        Require(box.Text() == whole + (hasPoint ? u"." : u"") + fraction, "as typed");
+    }
+    CheckLeaving(box, AmountSign::Unsigned);
+}
+
+void CheckEditing(FuzzedDataProvider& input, AmountSign sign) {
+    TextField box;
+    while (input.remaining_bytes() > 0) {
+        const auto place = input.ConsumeIntegralInRange(0, 12);
+        switch (input.ConsumeIntegralInRange(0, 5)) {
+            case 0:
+                box.SelStart(place);
+                box.SelLength(input.ConsumeIntegralInRange(0, 12));
+                break;
+            case 1:
+                if (const auto pasted = TypedAmount(FuzzText(input, 14), sign)) box.Text(*pasted);
+                break;
+            case 2:
+                CheckLeaving(box, sign);
+                EnterCurrencyField(box);
+                break;
+            default:
+                Press(box, u"0123456789.-+\b,$"[input.ConsumeIntegralInRange(0, 15)], sign);
+        }
+        const bool known = box.Text().find_first_not_of(u"0123456789.-$,") == std::u16string::npos;
+        Require(known, "nothing but amounts comes into a field");
+    }
+    CheckLeaving(box, sign);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    const AmountSign sign = input.ConsumeBool() ? AmountSign::Signed : AmountSign::Unsigned;
+    if (input.ConsumeBool()) {
+        CheckTyping(input);
+    } else {
+        CheckEditing(input, sign);
+    }
+    return 0;
+}

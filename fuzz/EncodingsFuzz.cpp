@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/FuzzText.h"
+
+#include <halvekutils/base/Utf8.h>
+
+#include <cstring>
+
+using namespace halvek;
+
+namespace {
+
+bool IsHigh(char16_t unit) {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+bool IsLow(char16_t unit) {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+/// The text with U+FFFD for each surrogate that stands alone.
+std::u16string WellFormed(std::u16string text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = IsHigh(text[i]) && i + 1 < text.size() && IsLow(text[i + 1]);
+        if (isPair) {
+            ++i;
+        } else if (IsHigh(text[i]) || IsLow(text[i])) {
+            text[i] = 0xFFFD;
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    Require(ToCodePage(FromCodePage(bytes)) == bytes, "every byte of the code page comes back");
+
+    const std::u16string decoded = FromUtf8(bytes);
+    Require(WellFormed(decoded) == decoded, "no half of a pair is read");
+    Require(FromUtf8(ToUtf8(decoded)) == decoded, "what was read is written and read again");
+    if (decoded.find(u'\xFFFD') == decoded.npos) {
+        Require(ToUtf8(decoded) == bytes, "one text has one form in bytes");
+    }
+
+    std::u16string text(size / 2, u'\0');
+    if (!text.empty()) std::memcpy(text.data(), data, 2 * text.size());
+    Require(FromUtf8(ToUtf8(text)) == WellFormed(text), "every text comes back");
+    for (const char16_t unit : text) {
+        const char16_t kept = CharacterOf(CodeOf(unit));
+        Require(kept == unit || kept == u'?', "what the code page lacks is a question mark");
+    }
+    return 0;
+}

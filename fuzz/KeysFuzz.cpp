@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/FuzzText.h"
+#include "tests/FaultOf.h"
+
+#include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/core/DataBins.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <utility>
+
+using namespace halvek;
+
+namespace {
+
+/// Items added and removed by key and by position, beside a list that is searched from its start.
+void CheckCollection(FuzzedDataProvider& input) {
+    using Item = std::pair<std::optional<std::u16string>, std::shared_ptr<int>>;
+    KeyedCollection<int> collection;
+    std::vector<Item> list;
+    const auto at = [&](const std::u16string& key) {
+        return std::find_if(list.begin(), list.end(), [&](const Item& item) {
+            return item.first && *item.first == Folded(key);
+        });
+    };
+    while (input.remaining_bytes() > 0) {
+        const auto item = std::make_shared<int>(0);
+        const std::u16string key = FuzzText(input, 9);
+        const auto position = input.ConsumeIntegralInRange(0, 9);
+        const bool isThere = at(key) != list.end();
+        switch (input.ConsumeIntegralInRange(0, 5)) {
+            case 0:
+                collection.Add(item);
+                list.emplace_back(std::nullopt, item);
+                break;
+            case 1:
+                if (isThere) collection.Remove(key);
+                if (isThere) list.erase(at(key));
+                break;
+            case 2:
+                if (position < 1 || position > collection.Count()) break;
+                collection.Remove(position);
+                list.erase(list.begin() + position - 1);
+                break;
+            default:
+                Require((FaultOf([&] { collection.Add(item, key); }) != 0) == isThere,
+                        "a key is taken once");
+                if (!isThere) list.emplace_back(Folded(key), item);
+        }
+        Require(collection.Count() == static_cast<std::int32_t>(list.size()), "as many items");
+        const auto found = at(key);
+        const auto* const looked = collection.Find(key);
+        Require((looked != nullptr) == (found != list.end()), "a key that is there is found");
+        Require(looked == nullptr || *looked == found->second, "a key finds its own item");
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            Require(collection.Item(static_cast<std::int32_t>(i) + 1) == list[i].second,
+                    "in order");
+        }
+    }
+    for (const auto& [key, item] : list) {
+        if (key) Require(collection.Item(*key) == item, "every key finds its own item");
+    }
+}
+
+void CheckBins(FuzzedDataProvider& input) {
+    DataBins bins;
+    std::map<std::u16string, std::pair<std::u16string, std::u16string>> parked;  // by folded keys
+    while (input.remaining_bytes() > 0) {
+        const std::u16string key = FuzzText(input, 6);
+        const std::u16string text = FuzzText(input, 6);
+        const auto found = parked.find(Folded(key));
+        const bool isOther = found != parked.end() && found->second.first != key;
+        if (input.ConsumeBool()) {
+            Require((FaultOf([&] { bins.Add(key, text, u""); }) != 0) == isOther, "other case");
+            if (!isOther) parked[Folded(key)] = {key, text};
+        } else {
+            bins.Remove(key);
+            if (found != parked.end() && !isOther) parked.erase(found);
+        }
+        for (const auto& [folded, bin] : parked) {
+            const DataBin* const kept = bins.Find(bin.first);
+            Require(kept != nullptr && kept->BinData() == bin.second, "a bin keeps its text");
+        }
+        if (!parked.contains(Folded(key)))
+            Require(bins.Find(key) == nullptr, "what is gone is gone");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    if (input.ConsumeBool()) {
+        CheckCollection(input);
+    } else {
+        CheckBins(input);
+    }
+    return 0;
+}

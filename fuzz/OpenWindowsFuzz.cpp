@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/FuzzText.h"
+#include "tests/FakeServices.h"
+
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/prefs/OpenWindows.h>
+
+#include <utility>
+
+using namespace halvek;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    FakeServices services;
+    const auto windows = OpenWindows::CreateEmpty(services);
+    std::vector<std::pair<std::u16string, std::u16string>> open = {{}};
+    while (input.remaining_bytes() > 0) {
+        const std::u16string type = FuzzText(input, 6);
+        const auto number = input.ConsumeIntegral<std::int32_t>();
+        const std::int32_t index = input.ConsumeIntegralInRange(-1, 6);
+        const auto last = static_cast<std::int32_t>(open.size()) - 1;
+        if (input.ConsumeBool()) {
+            windows->AddItem(type, number);
+            open.emplace_back(type, IntegerText(number));
+        } else {
+            const bool isThere = index >= 1 && index <= last;
+            Require(windows->RemoveItem(index) == isThere, "what is there is removed");
+            if (isThere) open.erase(open.begin() + index);
+        }
+        const StringTable all = windows->GetAll();
+        Require(all.Columns() == static_cast<std::int32_t>(open.size()), "as many windows");
+        for (std::int32_t i = 0; i < all.Columns(); ++i) {
+            const auto& [kept, handle] = open[static_cast<std::size_t>(i)];
+            Require(all.At(0, i) == kept && all.At(1, i) == handle, "each at its index");
+            Require(windows->GetItem(i)[1] == handle, "an index finds its window");
+        }
+    }
+    return 0;
+}
