@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <optional>
 #include <tuple>
+#include <utility>
 
 namespace halvek {
 
@@ -150,7 +151,9 @@ UserPrefs::UserPrefs() = default;
 UserPrefs::~UserPrefs() = default;
 
 bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
-    Table::ForEachRow([&](const auto& row) { Reset(*this, row); });
+    UserPrefs next;  // taken over whole, or not at all when memory runs out
+    next.showAdvancedSettings_ = showAdvancedSettings_;
+    Table::ForEachRow([&](const auto& row) { Reset(next, row); });
     std::array<TextIn, std::tuple_size_v<decltype(Table::kRows)>> fields;
     std::size_t count = 0;
     for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
@@ -159,8 +162,9 @@ bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
     }
     std::size_t at = 0;
     Table::ForEachRow([&](const auto& row) {
-        if (at < count) Read(*this, row, fields[at++]);
+        if (at < count) Read(next, row, fields[at++]);
     });
+    Table::ForEachRow([&](const auto& row) { std::swap(this->*row.member, next.*row.member); });
     return false;
 }
 
