@@ -50,9 +50,12 @@ class SmallDisk {
     /// False without the right to mount, as in most containers.
     bool Mount() const {
         const std::string user = std::to_string(::geteuid());
+        const std::string group = std::to_string(::getegid());
         if (::unshare(CLONE_NEWNS) != 0) {
             if (::unshare(CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
             WriteFile("/proc/self/uid_map", "0 " + user + " 1");
+            WriteFile("/proc/self/setgroups", "deny");
+            WriteFile("/proc/self/gid_map", "0 " + group + " 1");
         }
         return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                ::mount("tmpfs", folder_.c_str(), "tmpfs", 0, "size=2m") == 0;
