@@ -86,15 +86,23 @@ void DeleteOldErrorLogs(Machine& machine, const fs::path& folder, const fs::path
     }
 }
 
+void Rotate(const ComponentState& state, const fs::path& file) {
+    const fs::path folder = NativePath(state.logFolder);
+    DeleteOldErrorLogs(*state.machine, folder.empty() ? "/" : folder, file);
+    state.machine->Rename(file, ArchivePath(state));
+}
+
 void PrepareFile(const ComponentState& state, const fs::path& file) {
     Machine& machine = *state.machine;
     const Machine::FileState found = machine.StateOf(file);
     if (!found.exists) return;
     if (!found.writable) machine.MakeWritable(file);
     if (found.length < kRotationLength) return;
-    const fs::path folder = NativePath(state.logFolder);
-    DeleteOldErrorLogs(machine, folder.empty() ? "/" : folder, file);
-    machine.Rename(file, ArchivePath(state));
+    // Of several processes that find the log full one rotates it; the others must not take its
+    // archive for an old one, nor the new log for the full one.
+    machine.Alone(file, [&] {
+        if (machine.StateOf(file).length >= kRotationLength) Rotate(state, file);
+    });
 }
 
 /// "MM/DD/YY hh:mm:ss AM", the hour on the 12-hour clock.

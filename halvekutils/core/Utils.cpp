@@ -26,6 +26,7 @@ void Utils::InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool D
     std::u16string appName(AppName);
     std::u16string appType(AppType);
     std::u16string exeFileStamp(ExeFileStamp);
+    Services& services = ComponentServices();
     ComponentState& state = State();
     state.debugMode = DebugMode;
     state.appName = std::move(appName);
@@ -33,7 +34,7 @@ void Utils::InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool D
     state.errFileName = std::move(errFileName);
     state.exeFileStamp = std::move(exeFileStamp);
     const auto before = std::exchange(state.currentUtils, shared_from_this());
-    Services::Install(&ComponentServices());
+    Services::Install(&services);
 }
 
 void Utils::InitPrefs(const StringArray& ColorArray, Color FormSkinColor, Color FormTextColor,

@@ -17,7 +17,8 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
         Platform::Installed().Show(palette);
     });
     Refresh(utils, kPaletteFault, formToRefresh);
-    return palette == nullptr ? std::u16string() : palette->ReturnValue();
+    return Guarded(OnFault::Beep, kPaletteFault, LogOf(utils), std::u16string(),
+                   [&] { return palette == nullptr ? std::u16string() : palette->ReturnValue(); });
 }
 
 }  // namespace

@@ -169,9 +169,10 @@ void Calculator::Operate(char16_t op) {
     if (!open_) return;
     if (IsOperator(op)) Flash(ButtonOf(op));
     const std::u16string result = PendingResult();
-    display_ = RoundedText(result);
     const bool ends = op == u'=';
-    accumulator_ = ends ? std::u16string() : result;
+    std::u16string accumulator = ends ? std::u16string() : result;
+    display_ = RoundedText(result);
+    accumulator_ = std::move(accumulator);
     lastOperator_ = ends ? u'\0' : op;
     numberDone_ = true;
     NotifyChanged();

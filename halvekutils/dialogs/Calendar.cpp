@@ -101,8 +101,8 @@ void Calendar::KeyDown(Key key) {
 
 void Calendar::ClickDay(Day day) {
     if (!open_ || !CanBeChosen(day)) return;
-    marked_ = day;
     result_ = DateOnlyText(day);
+    marked_ = day;
     End();
 }
 

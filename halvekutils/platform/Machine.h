@@ -65,6 +65,10 @@ class HALVEK_EXPORT Machine {
     virtual bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
                              std::uintmax_t length) = 0;
 
+    /// Runs `action` unless another process is just now running one on the same file: false then,
+    /// and nothing is run. Never waits.
+    virtual bool Alone(const std::filesystem::path& file, const std::function<void()>& action);
+
   protected:
     Machine() = default;
     Machine(const Machine&) = default;

@@ -11,6 +11,7 @@
 #include <optional>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 namespace halvek {
 
@@ -155,7 +156,9 @@ UserPrefs::UserPrefs() = default;
 UserPrefs::~UserPrefs() = default;
 
 bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
-    Table::ForEachRow([&](const auto& row) { Reset(*this, row); });
+    UserPrefs next;  // taken over whole, or not at all when memory runs out
+    next.showAdvancedSettings_ = showAdvancedSettings_;
+    Table::ForEachRow([&](const auto& row) { Reset(next, row); });
     std::array<TextIn, std::tuple_size_v<decltype(Table::kRows)>> fields;
     std::size_t count = 0;
     for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
@@ -164,8 +167,9 @@ bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
     }
     std::size_t at = 0;
     Table::ForEachRow([&](const auto& row) {
-        if (at < count) Read(*this, row, fields[at++]);
+        if (at < count) Read(next, row, fields[at++]);
     });
+    Table::ForEachRow([&](const auto& row) { std::swap(this->*row.member, next.*row.member); });
     return false;
 }
 

@@ -33,8 +33,9 @@ void ForEachCode(std::u16string_view text, const Visit& visit) {
 }
 
 void Append(std::u16string& codes, std::u16string_view code) {
-    if (!codes.empty()) codes += u',';
-    codes += code;
+    const std::size_t comma = codes.empty() ? 0 : 1;
+    codes.reserve(codes.size() + comma + code.size());  // both or neither
+    codes.append(comma, u',').append(code);
 }
 
 /// The codes of a text, joined anew, all but one.
@@ -115,6 +116,10 @@ SelectGrid::~SelectGrid() = default;
 
 void SelectGrid::Prepare() {
     busy_ = true;
+    if (!request_.selectedValues.empty()) {
+        list_.PrepareFind();
+        box_.text.reserve(request_.selectedValues.size());
+    }
     ForEachCode(request_.selectedValues, [&](std::u16string_view code) {
         CheckEntry(code);
         return true;
@@ -240,7 +245,6 @@ void SelectGrid::Toggle(std::int32_t entry) {
     const auto toggle = [&] {
         const auto mark = static_cast<std::size_t>(entry);
         const bool on = !marks_[mark];
-        changed_ = true;
         if (entry == SelectionList::kAllCodes) {
             SelectAll(on);
         } else if (on) {
@@ -249,6 +253,7 @@ void SelectGrid::Toggle(std::int32_t entry) {
             RemoveFromChoice(Trimmed(list_.Code(entry)));
         }
         if (entry != SelectionList::kAllCodes) marks_[mark] = on;
+        changed_ = true;
         return true;
     };
     Logged(u"ItemChecked", false, toggle);
@@ -277,7 +282,11 @@ void SelectGrid::SelectAll(bool on) {
 }
 
 void SelectGrid::AddToChoice(std::u16string_view code) {
-    if (!boxIsChoice_) SetChoice(JoinedWithout(box_.text, {}));
+    if (!boxIsChoice_) {
+        std::u16string codes = JoinedWithout(box_.text, {});
+        codes.reserve(codes.size() + 1 + code.size());
+        SetChoice(std::move(codes));
+    }
     Append(box_.text, code);
     hasComma_ = hasComma_ || code.find(u',') != kNone;
     CloseChoice();
@@ -484,8 +493,10 @@ bool SelectGrid::RefuseForm(std::size_t start, std::size_t length) {
 }
 
 bool SelectGrid::MarkTypedCodes() {
-    ClearMarks();
+    // What may fail comes before the first mark goes.
+    list_.PrepareFind();
     choice_.reserve(box_.text.size());
+    ClearMarks();
     bool accepted = true;
     bool twice = false;
     ForEachCode(box_.text, [&](std::u16string_view code) {

@@ -115,7 +115,18 @@ void SelectionList::MeasureCode(std::size_t length) {
     if (length > 0) ++codes_;
 }
 
+void SelectionList::PrepareFind() const {
+    if (!slots_.empty()) return;
+    try {
+        IndexCodes();
+    } catch (...) {
+        slots_.clear();  // half an index would deny the codes that it lacks
+        throw;
+    }
+}
+
 void SelectionList::IndexCodes() const {
+    indexed_ = 0;
     entryBits_ = std::bit_ceil(static_cast<std::uint32_t>(lastShown_) + 1) - 1;
     // A short text with many codes can only repeat a few of them.
     ResizeIndex(std::bit_ceil(std::min(codes_, values_.size() / 8) * 8 / 7 + 2));
@@ -174,7 +185,7 @@ std::size_t SelectionList::SlotOf(std::u16string_view code, std::size_t hash) co
 
 std::int32_t SelectionList::Find(std::u16string_view code) const {
     if (code.empty()) return 0;
-    if (slots_.empty()) IndexCodes();
+    PrepareFind();
     return EntryIn(slots_[SlotOf(code, HashOf(code))]);
 }
 

@@ -47,6 +47,8 @@ class HALVEK_EXPORT SelectionList {
     /// The first entry that is shown and whose code, without the blanks around it, is exactly this
     /// one; 0 when there is none.
     std::int32_t Find(std::u16string_view code) const;
+    /// Makes what Find needs, so that it cannot fail afterwards.
+    void PrepareFind() const;
 
     /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }

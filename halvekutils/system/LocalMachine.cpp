@@ -5,6 +5,7 @@
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -90,12 +91,27 @@ void RequireRegular(const Descriptor& open, const fs::path& file) {
     }
 }
 
-/// Writes the bytes and closes the file.
+/// Takes the start of a line that found no room for its end out of the file again, unless another
+/// process has written behind it.
+void TakeBack(const Descriptor& open, std::size_t written) {
+    const off_t end = ::lseek(open.Number(), 0, SEEK_CUR);
+    struct stat status {};
+    if (::fstat(open.Number(), &status) != 0 || status.st_size != end) return;
+    // Where even this fails, the line stays torn.
+    [[maybe_unused]] const int ignored =
+        ::ftruncate(open.Number(), end - static_cast<off_t>(written));
+}
+
+/// Writes the bytes, all of them or none, and closes the file.
 void WriteAll(Descriptor& open, std::string_view bytes, const fs::path& file) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(open.Number(), bytes.data(), bytes.size());
-        if (written < 0) ThrowLastError(file);
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+    for (std::size_t done = 0; done < bytes.size();) {
+        const ssize_t written = ::write(open.Number(), bytes.data() + done, bytes.size() - done);
+        if (written < 0) {
+            const std::error_code error = LastError();
+            if (done > 0) TakeBack(open, done);
+            throw SystemFault(error, file);
+        }
+        done += static_cast<std::size_t>(written);
     }
     if (!open.Close()) ThrowLastError(file);
 }
@@ -198,6 +214,17 @@ bool LocalMachine::AppendBelow(const fs::path& file, std::string_view bytes,
                        static_cast<std::uintmax_t>(status.st_size) < length;
     if (ready) WriteAll(open, bytes, file);
     return ready;
+}
+
+bool LocalMachine::Alone(const fs::path& file, const std::function<void()>& action) {
+    const Descriptor open(::open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    // A file system without locks leaves the processes uncoordinated.
+    if (open.Number() >= 0 && ::flock(open.Number(), LOCK_EX | LOCK_NB) != 0 &&
+        errno == EWOULDBLOCK) {
+        return false;
+    }
+    action();
+    return true;
 }
 
 }  // namespace halvek

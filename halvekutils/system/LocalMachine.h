@@ -27,6 +27,7 @@ class HALVEK_EXPORT LocalMachine : public Machine {
     void Append(const std::filesystem::path& file, std::string_view bytes) override;
     bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
                      std::uintmax_t length) override;
+    bool Alone(const std::filesystem::path& file, const std::function<void()>& action) override;
 };
 
 }  // namespace halvek

@@ -7,17 +7,12 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <set>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -223,29 +218,6 @@ TEST_F(ErrorLog, RefusesANulInItsFileName) {
     utils_->LogError(u"lost");
     EXPECT_EQ(desktop_.Beeps(), 1);
     EXPECT_EQ(NamesIn(folder_.Path()), Names{});
-}
-
-TEST_F(ErrorLog, TwoProcessesNeverMixWithinALine) {
-    Start(folder_ / "a.log");
-    const auto message = [](std::size_t i, char filler) {
-        return std::string(1 + i % 300, filler);
-    };
-    const pid_t child = ::fork();
-    for (std::size_t i = 0; i < 2'000; ++i) {
-        utils_->LogError(FromCodePage(message(i, child == 0 ? 'c' : 'p')));
-    }
-    if (child == 0) ::_exit(desktop_.Beeps());
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    EXPECT_EQ(status + desktop_.Beeps(), 0);
-
-    std::istringstream log(ReadFile(folder_ / "a.log"));
-    std::map<char, std::size_t> written;
-    for (std::string line; std::getline(log, line);) {
-        const char filler = line.at(kStampAndUser.size());
-        ASSERT_EQ(line + '\n', Line(message(written[filler]++, filler)));
-    }
-    EXPECT_EQ(written, (std::map<char, std::size_t>{{'c', 2'000}, {'p', 2'000}}));
 }
 
 }  // namespace

@@ -15,12 +15,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <stop_token>
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 namespace halvek {
 namespace {
@@ -106,11 +109,11 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
     EXPECT_TRUE(LogEndsWithFallBack()) << Log();
 }
 
-/// Gives one answer to each of a number of connections on a socket.
+/// Gives one answer to each of a number of connections on a socket, and hangs up or just hangs.
 class Impostor {
   public:
-    Impostor(const std::string& socket, std::string_view answer)
-        : listener_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
+    Impostor(const std::string& socket, std::string_view answer, bool hangsUp)
+        : hangsUp_(hangsUp), listener_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         std::strncpy(address.sun_path, socket.c_str(), sizeof address.sun_path - 1);
@@ -123,21 +126,27 @@ class Impostor {
         ::shutdown(listener_, SHUT_RDWR);
         thread_.join();
         ::close(listener_);
+        for (const int caller : waiting_) ::close(caller);
     }
     Impostor(const Impostor&) = delete;
     Impostor& operator=(const Impostor&) = delete;
 
   private:
-    void Serve(std::string_view answer) const {
+    void Serve(std::string_view answer) {
         for (int caller = 0; (caller = ::accept(listener_, nullptr, nullptr)) >= 0;) {
             char request[4096];
             if (::recv(caller, request, sizeof request, 0) > 0) {
                 ::send(caller, answer.data(), answer.size(), MSG_NOSIGNAL);
             }
+            waiting_.push_back(caller);
+            if (!hangsUp_) continue;
             ::close(caller);
+            waiting_.pop_back();
         }
     }
 
+    bool hangsUp_;
+    std::vector<int> waiting_;
     int listener_;
     std::thread thread_;
 };
@@ -151,8 +160,9 @@ TEST_F(CupsPrintersTest, AnAnswerThatIsNoneCountsAsAFailure) {
         "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n\2\0\0\0\0\0\0\1\4B\0\x0Cprinter-n"sv,
         "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n\2\0\5\0\0\0\0\1\3"sv,
     };
-    for (const std::string_view answer : answers) {
-        const Impostor impostor(folder_ / "socket", answer);
+    for (std::size_t i = 0; i < 2 * std::size(answers); ++i) {
+        const std::string_view answer = answers[i / 2];
+        const Impostor impostor(folder_ / "socket", answer, i % 2 == 0);
         EXPECT_EQ(Build(folder_ / "socket"), "") << answer;
         EXPECT_TRUE(LogEndsWithFallBack()) << answer << Log();
         std::filesystem::remove(folder_ / "socket");

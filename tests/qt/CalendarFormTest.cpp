@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/qt/FormTest.h"
 
-#include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
 
 #include <gtest/gtest.h>
@@ -19,13 +18,12 @@ struct CalendarFormTest : FormTest {
     ~CalendarFormTest() override { QLocale::setDefault(QLocale::system()); }
 
     /// What the user's acts choose; a calendar that they leave open is closed.
-    QString Chosen(const User::Acts& acts, QWidget* owner = nullptr) {
+    QString Chosen(const User::Acts& acts) {
         const User user([&](QDialog& dialog) {
             acts(dialog);
             if (dialog.isVisible()) CloseRequest(dialog);
         });
-        const auto form = AsOwnerForm(owner);
-        return ToQString(utils_->ShowCalendar(-1, -1, -1, u"3/7/2004", u"", form));
+        return ToQString(utils_->ShowCalendar(-1, -1, -1, u"3/7/2004"));
     }
 };
 
@@ -63,11 +61,6 @@ TEST_F(CalendarFormTest, TheMarkedDayFollowsTheMonthAndYearAndIsToldInFull) {
         }
     };
     EXPECT_EQ(Chosen(act), "");
-}
-
-TEST_F(CalendarFormTest, EndsWithItsOwnerWhichIsNotRefreshedThen) {
-    auto window = OpenHostWindow({100, 100, 300, 200});
-    EXPECT_EQ(Chosen([&](QDialog&) { window.reset(); }, window.get()), "");
 }
 
 }  // namespace

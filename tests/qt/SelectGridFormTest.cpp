@@ -299,11 +299,6 @@ TEST_F(SelectGridFormTest, OpensBesideAButtonWhollyOnTheScreen) {
     }
 }
 
-TEST_F(SelectGridFormTest, EndsWithItsOwnersWindow) {
-    auto owner = OpenHostWindow(QRect(100, 100, 400, 300));
-    EXPECT_EQ(Chosen([&](const Seen&) { owner.reset(); }, kList, "A"), "A");
-}
-
 TEST(PopupTargets, AreTheVisiblePartOfAWidgetOrCellUntilItIsGone) {
     auto view = std::make_unique<QTableView>();
     QStandardItemModel model(200, 2);

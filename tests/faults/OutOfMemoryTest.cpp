@@ -1,0 +1,384 @@
+// SPDX-License-Identifier: MIT
+#include "tests/CleanState.h"
+#include "tests/FakeServices.h"
+#include "tests/HelpFile.h"
+#include "tests/faults/FailingAllocations.h"
+
+#include <halvekutils/base/KeyedCollection.h>
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/ObjectStore.h>
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/devices/CompiledHelp.h>
+#include <halvekutils/devices/HelpText.h>
+#include <halvekutils/platform/TextField.h>
+#include <halvekutils/prefs/OpenWindows.h>
+#include <halvekutils/prefs/ReminderDefinition.h>
+#include <halvekutils/prefs/UserPrefs.h>
+#include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/refdata/PrintersCollection.h>
+#include <halvekutils/selection/SelectGrid.h>
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <new>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace halvek {
+namespace {
+
+using Text = std::u16string;
+
+constexpr char16_t kWords[] = u"the first of them|the second one|and a last one";
+constexpr char16_t kCodes[] =
+    u"Insurance companiesæINSURANCEæ1æ1æReport oneæSort|Providers of careæPROVIDERSæ0æ1ææ|";
+constexpr char16_t kList[] = u"H:A000001\tAlpha\t0:B000002\tBeta\t0:C000003\tGamma\t0:";
+
+const HelpFile& TheHelp() {
+    static const HelpFile help;
+    return help;
+}
+
+/// A list whose index of codes grows while it is made.
+Text ListOfShortCodes() {
+    Text list = u"H";
+    for (char16_t code = u'a'; code < u'a' + 500; ++code) (list += u':') += code;
+    return list;
+}
+
+std::unique_ptr<SelectGrid> OpenGrid(TextIn typed) {
+    SelectionRequest request{u"Codes", kList, u"A000001"};
+    auto grid = std::make_unique<SelectGrid>(std::move(request), Services::Current(), nullptr);
+    grid->Prepare();
+    if (!typed.empty()) grid->EditBox(typed, 0);
+    return grid;
+}
+
+/// A session for one attempt, with all that stands before it.
+struct World : CleanState {
+    World() {
+        utils->InitUtils(FromUtf8(log.native()), u"Front Desk", u"", true, u"");
+        utils->SpecialMode(u"printerlistnew");
+        desktop_.SetPrinterConnections({{{u"ipp://one", u"Upstairs laser"}}});
+        utils->InitPrefs(StringArray(1, {u"16711680", u"255", u"0", u"0", u"0"}), 0, 0, 0, 0);
+        utils->BuildCodesCollection(u"An earlier oneæEARLIERæ1æ1ææ");
+        utils->BuildSecurityCollection(u"***");
+        full = utils->GetSecurityItemsCollection();
+        utils->BuildSecurityCollection(u"PATIENTS8");
+        utils->BuildPrintersCollection(u"S:0:Spool queue:LPT1\t7:0:Label printer:COM2");
+        utils->AddBin(u"Key", u"what stood before", u"a type before");
+        utils->ShowInDebug(u"the line before");
+        prefs.PopulateSettings(u"settings that stood beforeß|and another oneß7ß8");
+        reminder.PopulateReminder(u"an account", u"Balances dueæp-of this patientæa second line");
+        for (int i = 0; i < 64; ++i) keyed.Add(store.Make(), u"key number " + IntegerText(i));
+        windows = utils->OpenWindows();
+        grid = OpenGrid({});
+        typedGrid = OpenGrid(u"B000002,C000003");
+        calculator.Operate(u'+');
+        calculator.Press(1);
+        for (int i = 0; i < 2; ++i) {
+            desktop_.OnMessageBox([](MessageBox& box) { box.Press(0); });
+            desktop_.OnCalculator([](Calculator& keys) { keys.Press(Calculator::kReturn); });
+            desktop_.OnCalendar([](Calendar& days) { days.ClickDay(days.Today()); });
+            desktop_.OnColorPalette([](ColorPalette& palette) { palette.Click(1); });
+            desktop_.OnSelection([](SelectGrid& codes) {
+                codes.ClickCell(1, 3);
+                codes.ClickHeader();
+            });
+        }
+    }
+    void TestBody() override {}
+
+    using CleanState::desktop_;
+    using CleanState::machine_;
+    const std::filesystem::path log = folder_ / "host.log";
+    const std::shared_ptr<Utils> utils = Utils::Create();
+    Text result;  ///< of the call
+    StringArray lines, array{0, {u"before"}};
+    std::shared_ptr<PrintersCollection> printers;
+    std::shared_ptr<SecurityItemsCollection> full;  ///< of an earlier build, with full access
+    std::shared_ptr<OpenWindows> windows;
+    UserPrefs prefs;
+    ReminderDefinition reminder, newReminder;
+    KeyedCollection<Text> keyed;
+    ObjectStore<Text> store;
+    const std::shared_ptr<TextControl> field = std::make_shared<TextField>(u"$1,234,567.899");
+    FakeServices session;
+    Calculator calculator{u"123456789", session, desktop_};
+    std::unique_ptr<SelectGrid> grid, typedGrid;
+    SelectionList shortCodes{ListOfShortCodes(), false};
+    std::unique_ptr<CompiledHelp> help;
+};
+
+template <class Collection, class Show>
+Text Lines(const std::shared_ptr<Collection>& collection, const Show& show) {
+    Text lines;
+    if (collection == nullptr) return lines;
+    for (const auto& item : *collection) lines += std::invoke(show, *item) + u'\n';
+    return lines;
+}
+Text Lines(const StringArray& array) {
+    Text lines;
+    for (const Text& line : array) lines += line + u'\n';
+    return lines;
+}
+
+Text ShowRight(const SecurityItem& item) {
+    return item.ItemKey() + (item.AllowRead() ? u"=read" : u"");
+}
+Text Show(const SelectGrid& grid) {
+    Text shown = grid.HeaderText() + grid.Box().text;
+    for (std::int32_t i = 1; i <= 4; ++i) shown += grid.Cell(1, i).checked ? u'x' : u'-';
+    return shown + (grid.IsOpen() ? u"" : grid.ReturnValue());
+}
+Text ShowField(World& w) {
+    return w.field->Text() + u'/' + IntegerText(w.field->SelLength());
+}
+Text ShowResult(World& w) {
+    return w.result;
+}
+
+/// How the host learns of it: by fault 7, by a line in the error log, by either, or not at all.
+enum class Told { Raised, Logged, Either, Nobody };
+/// What the call leaves: all as it was, or lines of the finished state and no others.
+enum class Left { Before, Part };
+
+struct Row {
+    const char* name;
+    Told told;
+    Left left;
+    void (*act)(World& w);
+    Text (*show)(World& w) = ShowResult;  ///< all that the act is to change
+};
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
+}
+
+using enum Told;
+using enum Left;
+
+const Row kRows[] = {
+    {"BuildCodesCollection", Logged, Part, [](World& w) { w.utils->BuildCodesCollection(kCodes); },
+     [](World& w) { return Lines(w.utils->GetCodesCollection(), &CodeDefinition::CodeKey); }},
+    {"BuildSecurityCollection", Logged, Part,
+     [](World& w) { w.utils->BuildSecurityCollection(u"REPORTS AND LISTS8æBILLS4"); },
+     [](World& w) { return Lines(w.utils->GetSecurityItemsCollection(), ShowRight); }},
+    {"BuildSecurityCollectionAfterFullAccess", Either, Part,
+     [](World& w) {
+         w.utils->BuildSecurityCollection(u"***");
+         w.utils->BuildSecurityCollection(u"REPORTS AND LISTS8æBILLS4");
+         w.result = u"built";
+     },
+     [](World& w) { return w.result + ShowRight(*w.full->Item(u"/of an earlier collection")); }},
+    {"SecurityItem", Raised, Before,
+     [](World& w) { w.utils->GetSecurityItemsCollection()->Item(u"A MISSING ITEM"); },
+     [](World& w) { return Lines(w.utils->GetSecurityItemsCollection(), ShowRight); }},
+    {"BuildPrintersCollection", Logged, Part,
+     [](World& w) {
+         w.utils->ClearPrintersCollection();
+         w.utils->BuildPrintersCollection(u"9:0:Export to disk:FILE\t8:0:Another printer:COM2");
+     },
+     [](World& w) {
+         const auto printers = w.utils->GetPrintersCollection();
+         return Lines(printers, &PrinterDefinition::PrinterDescription);
+     }},
+    {"GetPrintersCollectionFiltered", Logged, Before,
+     [](World& w) { w.printers = w.utils->GetPrintersCollectionFiltered(); },
+     [](World& w) { return Lines(w.printers, &PrinterDefinition::PrinterDescription); }},
+    {"InitUtils", Raised, Before,
+     [](World& w) { w.utils->InitUtils(State().errFileName, kWords, kWords, true, kWords); },
+     [](World& w) { return w.utils->AppName() + w.utils->ExeFileStamp(); }},
+    {"InitPrefs", Raised, Before,
+     [](World& w) {
+         w.utils->InitPrefs(StringArray(1, {kWords, u"2"}), 5, 6, 7, 8);
+     },
+     [](World& w) { return Lines(State().colorArray) + IntegerText(w.utils->FormSkinColor()); }},
+    {"AddBin", Logged, Before, [](World& w) { w.utils->AddBin(u"A new bin", kWords, kWords); },
+     [](World& w) { return w.utils->GetBinData(u"A new bin"); }},
+    {"AddBinAgain", Logged, Before, [](World& w) { w.utils->AddBin(u"Key", kWords, kWords); },
+     [](World& w) { return w.utils->GetBinData(u"Key"); }},
+    {"GetBinData", Raised, Before, [](World& w) { w.result = w.utils->GetBinData(u"Key"); }},
+    {"PopulateSettings", Raised, Before,
+     [](World& w) { w.prefs.PopulateSettings(u"a long form textß|for another screenß1ß2"); },
+     [](World& w) { return w.prefs.GetSettingsString(); }},
+    {"SetCurrentUserPrefs", Raised, Before, [](World& w) { w.utils->SetCurrentUserPrefs(w.prefs); },
+     [](World& w) { return w.utils->GetCurrentUserPrefs()->GetSettingsString(); }},
+    {"OpenWindowsAddItem", Logged, Before,
+     [](World& w) { w.windows->AddItem(u"a patient's window", 1234567890); },
+     [](World& w) { return Lines(w.windows->GetItem(w.windows->Count())); }},
+    {"PopulateReminder", Nobody, Part,
+     [](World& w) { w.newReminder.PopulateReminder(u"an account", u"Balances dueæp-of this one"); },
+     [](World& w) {
+         const ReminderDefinition& reminder = w.newReminder;
+         return reminder.AcctNo() + u'\n' + Lines(reminder.Tabs()) + Lines(reminder.TabData(1));
+     }},
+    {"TabData", Nobody, Before, [](World& w) { w.lines = w.reminder.TabData(1); },
+     [](World& w) { return Lines(w.lines); }},
+    {"SplitStr", Nobody, Before, [](World& w) { w.result = w.utils->SplitStr(kWords, u"|", 2); }},
+    {"StrToArr", Nobody, Before, [](World& w) { w.utils->StrToArr(kWords, u"|", w.array); },
+     [](World& w) { return Lines(w.array); }},
+    {"ChunkStrToArr", Logged, Before,
+     [](World& w) { w.utils->ChunkStrToArr(kWords, w.array, 20, u"|"); },
+     [](World& w) { return Lines(w.array); }},
+    {"SplitLeftRight", Logged, Before,
+     [](World& w) { w.utils->SplitLeftRight(kWords, u"|", w.result, w.array[0]); },
+     [](World& w) { return w.result + w.array[0]; }},
+    {"RemoveUnwantedChars", Raised, Part,
+     [](World& w) { w.utils->RemoveUnwantedChars(kWords, w.result, u"-"); }},
+    {"RemoveUnprintableChars", Raised, Before,
+     [](World& w) { w.result = w.utils->RemoveUnprintableChars(u"tabs\tand\tmore"); }},
+    {"ConvertHDate", Logged, Before,
+     [](World& w) { w.result = w.utils->ConvertHDate(u"60000,43200"); }},
+    {"ConvertNumberToDate", Logged, Before,
+     [](World& w) { w.result = w.utils->ConvertNumberToDate(u"030724", true); }},
+    {"ShowMsgBox", Logged, Before,
+     [](World& w) {
+         const auto answer = w.utils->ShowMsgBox(kWords, mbYesNo, mbQuestion, kWords);
+         if (answer != kNotAnswered) w.result = u"yes";
+     }},
+    {"Calculate", Logged, Before, [](World& w) { w.result = w.utils->Calculate(u"1234567.25"); }},
+    {"CalculatorOperate", Raised, Before, [](World& w) { w.calculator.Operate(u'*'); },
+     [](World& w) { return w.calculator.Display() + w.calculator.LastOperator(); }},
+    {"ShowCalendar", Logged, Before,
+     [](World& w) { w.result = w.utils->ShowCalendar(-1, -1, -1, u"March 7, 2004"); }},
+    {"ShowColor", Logged, Before, [](World& w) { w.result = w.utils->ShowColor(-1, -1, -1); }},
+    {"ShowSelectionGrid", Logged, Before,
+     [](World& w) {
+         Text codes = w.utils->ShowSelectionGrid(u"Codes", kList, u"A000001");
+         // The click itself may fail, the host then gets its own selection or hears of no change.
+         if (codes != u"CANCEL" && codes != u"A000001") w.result = std::move(codes);
+     }},
+    {"SelectGridTick", Logged, Before, [](World& w) { w.grid->ClickCell(1, 3); },
+     [](World& w) { return Show(*w.grid); }},
+    {"SelectGridTickAll", Logged, Before, [](World& w) { w.grid->ClickCell(1, 1); },
+     [](World& w) { return Show(*w.grid); }},
+    {"SelectGridTypedCodes", Either, Before, [](World& w) { w.typedGrid->Accept(); },
+     [](World& w) { return Show(*w.typedGrid); }},
+    {"SelectionListFind", Raised, Before,
+     [](World& w) { w.result = IntegerText(w.shortCodes.Find(Text(1, u'a' + 499))); }},
+    {"OnCurrencyCtrGotFocus", Logged, Before,
+     [](World& w) { w.utils->OnCurrencyCtrGotFocus(w.field); }, ShowField},
+    {"OnCurrencyCtrChange", Logged, Before, [](World& w) { w.utils->OnCurrencyCtrChange(w.field); },
+     ShowField},
+    {"OnNegCurrencyCtrKeyPress", Logged, Before,
+     [](World& w) {
+         std::int16_t key = u'-';
+         w.utils->OnNegCurrencyCtrKeyPress(w.field, key);
+     },
+     ShowField},
+    {"OnCurrencyCtrValidate", Logged, Before,
+     [](World& w) {
+         bool cancel = false;
+         w.utils->OnCurrencyCtrValidate(w.field, cancel);
+     },
+     ShowField},
+    {"HelpOpens", Raised, Before,
+     [](World& w) { w.result = CompiledHelp(TheHelp().Path()).Title(); }},
+    {"HelpReads", Raised, Before,
+     [](World& w) {
+         if (w.help == nullptr) w.help = std::make_unique<CompiledHelp>(TheHelp().Path());
+         w.result = HelpTextOf(w.help->Read(u"/first.htm"));
+     }},
+    {"ShowInDebug", Logged, Before, [](World& w) { w.utils->ShowInDebug(kWords); },
+     [](World& w) { return w.desktop_.Console()->Text(); }},
+    {"SaveToFile", Nobody, Before, [](World& w) { w.desktop_.Console()->SaveToFile(); },
+     [](World& w) { return FromUtf8(ReadFile(w.machine_.ownFolder / "DEBUG.log")); }},
+    {"LogError", Nobody, Before, [](World& w) { w.utils->LogError(kWords); },
+     [](World& w) { return FromUtf8(ReadFile(w.log)); }},
+    {"KeyedCollection", Raised, Before,
+     [](World& w) { w.keyed.Add(w.store.Make(), u"a key that is new"); },
+     [](World& w) {
+         return IntegerText(w.keyed.Count()) + (w.keyed.Find(u"a key that is new") ? u"!" : u"");
+     }},
+};
+
+/// True when each line of the first text is one of the second's, in its order.
+bool IsPartOf(const Text& part, const Text& whole) {
+    std::size_t at = 0;
+    for (std::size_t start = 0; start < part.size();) {
+        const Text line = part.substr(start, part.find(u'\n', start) - start);
+        at = whole.find(line, at);
+        if (at == Text::npos) return false;
+        at += line.size();
+        start += line.size() + 1;
+    }
+    return true;
+}
+
+struct OutOfMemory : ::testing::TestWithParam<Row> {
+    void SetUp() override {
+        World w;
+        const Text before = row_.show(w);
+        row_.act(w);
+        finished_ = row_.show(w);
+        ASSERT_NE(before, finished_);
+    }
+
+    struct Attempt {
+        bool failed = false;  ///< an allocation has
+        bool raised = false;
+    };
+    Attempt ActWithout(int n, Memory memory, World& w) const {
+        const FailingAllocations failing(n, memory);
+        bool raised = false;
+        try {
+            row_.act(w);
+        } catch (const std::bad_alloc&) {
+            raised = true;
+        } catch (const RuntimeError& fault) {
+            raised = fault.Number() == 7;
+        }
+        return {FailingAllocations::HaveFailed(), raised};
+    }
+
+    /// Tries the call without its n-th allocation; false when it has no more than n.
+    bool Try(int n, Memory memory) const {
+        World w;
+        const Text before = row_.show(w);
+        const auto [failed, raised] = ActWithout(n, memory, w);
+        const std::string log = ReadFile(w.log);
+        const Text after = row_.show(w);
+        EXPECT_TRUE(log == "(missing)" || log.ends_with("\r\n")) << log;
+        if (raised || after != finished_) {
+            const bool kept = row_.left == Part ? IsPartOf(after, finished_) : after == before;
+            EXPECT_TRUE(kept) << ToUtf8(after) << "\ninstead of\n" << ToUtf8(before);
+            EXPECT_TRUE(row_.told == Either || raised == (row_.told == Raised));
+            // Without any memory the line cannot be written either.
+            const bool logged = log.find("Out of memory") != log.npos;
+            EXPECT_TRUE(memory == Memory::Exhausted || (raised || logged) == (row_.told != Nobody));
+        }
+        if (!failed) return false;
+        row_.act(w);
+        EXPECT_EQ(ToUtf8(row_.show(w)), ToUtf8(finished_)) << "a later call";
+        return true;
+    }
+
+    const Row& row_ = GetParam();
+    Text finished_;
+};
+
+TEST_P(OutOfMemory, KeepsWhatStoodBeforeAndTells) {
+    int points = 0;
+    for (const Memory memory : {Memory::MissingOnce, Memory::Exhausted}) {
+        for (int n = 0; Try(n, memory); ++n, ++points) {
+            ASSERT_FALSE(HasFailure()) << "without allocation " << n;
+        }
+    }
+    EXPECT_GT(points, 0);
+    RecordProperty("points", points);
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, OutOfMemory, ::testing::ValuesIn(kRows),
+                         [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace halvek
