@@ -52,10 +52,11 @@ std::uint32_t MaskOfOthers(const char16_t* block) noexcept {
     static_assert(kFirst > 0 && kLast < 0x7F);
 #ifdef __SSE2__
     const auto* const halves = reinterpret_cast<const __m128i*>(block);
-    // As bytes, where anything beyond Latin-1 becomes 0 or 255; from 128 on they are negative.
+    // As bytes, where anything beyond Latin-1 becomes 0 or 255.
     const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(halves), _mm_loadu_si128(halves + 1));
-    __m128i others = _mm_or_si128(_mm_cmplt_epi8(bytes, _mm_set1_epi8(kFirst)),
-                                  _mm_cmpgt_epi8(bytes, _mm_set1_epi8(kLast)));
+    // Moved so that the range starts at the least signed byte: all else lies above its end.
+    const __m128i moved = _mm_sub_epi8(bytes, _mm_set1_epi8(static_cast<char>(kFirst + 128)));
+    __m128i others = _mm_cmpgt_epi8(moved, _mm_set1_epi8(kLast - kFirst - 128));
     ((others = _mm_or_si128(others, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(kExcept)))), ...);
     return static_cast<std::uint32_t>(_mm_movemask_epi8(others));
 #else
