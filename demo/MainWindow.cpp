@@ -82,8 +82,10 @@ void MainWindow::MakeMenus() {
 
 void MainWindow::AddPage(Page* page, QMenu& menu) {
     const int index = static_cast<int>(pages_.size());
-    QAction* action = menu.addAction(page->TitleWithMnemonic(), this,
-                                     [this, index] { list_.setCurrentRow(index); });
+    QAction* action = menu.addAction(page->TitleWithMnemonic(), this, [this, index] {
+        list_.setCurrentRow(index);
+        list_.setFocus();  // Tab goes on to the page
+    });
     if (index < kMostShortcuts) action->setShortcut(QString("Ctrl+%1").arg(index + 1));
     auto* item = new QListWidgetItem(page->Title(), &list_);
     item->setSizeHint({0, list_.fontMetrics().height() + kItemPadding});

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Desk.h"
+#include "FocusRecord.h"
+#include "Looks.h"
 #include "MainWindow.h"
 #include "SampleData.h"
 #include "tour/Tour.h"
@@ -16,6 +18,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <functional>
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -35,12 +39,28 @@ const QCommandLineOption& RecordOption() {
     return option;
 }
 
+const QCommandLineOption& FocusOption() {
+    static const QCommandLineOption option(
+        "focus", "Append which control the keyboard acts on to <file>, one line for each change.",
+        "file");
+    return option;
+}
+
+const QCommandLineOption& PaletteOption() {
+    static const QCommandLineOption option(
+        "palette", "Use the <colours> " + LooksNames().join(" or ") + ", not the desktop's own.",
+        "colours");
+    return option;
+}
+
 void Describe(QCommandLineParser& options) {
     options.setApplicationDescription("A front-desk client that shows every HalvekUtils service.");
     options.addHelpOption();
     options.addVersionOption();
     options.addOption(TourOption());
     options.addOption(RecordOption());
+    options.addOption(FocusOption());
+    options.addOption(PaletteOption());
 }
 
 /// A tour, the help and the version need no display.
@@ -72,23 +92,28 @@ int PlayTour(MainWindow& window, Desk& desk, const QString& folder) {
     return code;
 }
 
-void Record(CallLog& calls, QFile& file) {
+/// Appends the lines it is given to a file.
+std::function<void(const QString&)> AppendTo(QFile& file) {
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {
         throw std::runtime_error(("cannot write to " + file.fileName()).toStdString());
     }
-    calls.Listen([&file](const QString& line) {
+    return [&file](const QString& line) {
         file.write(line.toUtf8() + '\n');
         file.flush();
-    });
+    };
 }
 
 int Run(const QCommandLineParser& options) {
+    if (options.isSet(PaletteOption())) UseLooks(options.value(PaletteOption()));
     const QString logFolder = LogFolder(options);
     QDir().mkpath(logFolder);
     QFile record(options.value(RecordOption()));
+    QFile focusFile(options.value(FocusOption()));
     Desk desk(SampleData(SampleData::Folder()), logFolder);
-    if (options.isSet(RecordOption())) Record(desk.Calls(), record);
+    if (options.isSet(RecordOption())) desk.Calls().Listen(AppendTo(record));
     MainWindow window(desk);
+    std::optional<FocusRecord> focus;
+    if (options.isSet(FocusOption())) focus.emplace(AppendTo(focusFile));
     window.show();
     if (options.isSet(TourOption())) return PlayTour(window, desk, logFolder);
     return QCoreApplication::exec();

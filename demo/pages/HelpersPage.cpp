@@ -26,6 +26,8 @@ namespace {
 constexpr int kReadKeysEvery = 40;  // milliseconds
 constexpr int kGridCodes = 9;
 constexpr int kGridHeight = 96;
+constexpr int kGroupSpacing = 12;
+constexpr int kComboWidth = 220;
 constexpr int kManyItems = 100'000;
 constexpr char kProviders[] = "Dr. Adams:Dr. Baker:Dr. Clark:Nurse Yilmaz";
 
@@ -148,6 +150,7 @@ HelpersPage::HelpersPage(Desk& desk)
     columns->addWidget(MakeCalls(), 3, 0, 1, 2);
     columns->setColumnStretch(0, 1);
     columns->setColumnStretch(1, 1);
+    columns->setSpacing(kGroupSpacing);
     Body().addLayout(columns);
     Body().addStretch();
     readKeys_.setInterval(kReadKeysEvery);
@@ -209,10 +212,16 @@ QWidget* HelpersPage::MakeGrid() {
 
 QWidget* HelpersPage::MakeCombo() {
     combo_.setAccessibleName("Provider");
+    combo_.setMinimumWidth(kComboWidth);
     auto* box = new QWidget;
     auto* rows = new QVBoxLayout(box);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->addWidget(&combo_, 0, Qt::AlignLeft);
+    rows->setSpacing(kGroupSpacing);
+    auto* line = new QHBoxLayout;
+    line->addWidget(new QLabel("A combo box"));
+    line->addWidget(&combo_);
+    line->addStretch();
+    rows->addLayout(line);
     rows->addWidget(fill_);
     rows->addWidget(find_);
     return box;
@@ -231,10 +240,12 @@ QWidget* HelpersPage::MakeCalls() {
     auto* calls = new QWidget;
     auto* row = new QHBoxLayout(calls);
     row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kGroupSpacing);
     row->addWidget(lookup_);
     row->addWidget(sleep_);
     row->addWidget(
-        MakeButton("Open a window with&out close button", [this] { OpenWithoutCloseButton(); }));
+        MakeButton("Open a window with&out close button", [this] { OpenWithoutCloseButton(); }), 0,
+        Qt::AlignBottom);
     return calls;
 }
 

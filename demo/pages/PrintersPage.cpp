@@ -38,7 +38,7 @@ struct Switch {
 // In the order of GetPrintersCollectionFiltered's arguments, with their defaults.
 constexpr Switch kSwitchTexts[] = {
     {"without the s&pool", true},
-    {"without &files", false},
+    {"without fil&es", false},
     {"without &workstation printers", false},
     {"without seria&l printers", false},
 };

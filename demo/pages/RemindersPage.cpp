@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
 
@@ -42,15 +43,15 @@ RemindersPage::RemindersPage(Desk& desk)
     for (const Reminder& each : desk_.Data().Reminders()) {
         account_.addItem(each.account, each.data);
     }
-    auto* opener = new QWidget;
-    auto* row = new QHBoxLayout(opener);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* label = new QLabel("&Account");
+    label->setBuddy(&account_);
+    account_.setAccessibleName("Account");
+    auto* row = new QHBoxLayout;
     row->addWidget(&account_);
     row->addWidget(MakeButton("&Open account", [this] { Open(); }));
     row->addStretch();
     auto* form = new QFormLayout;
-    AddRow(*form, "&Account", opener);
-    account_.setAccessibleName("Account");
+    form->addRow(label, row);
     AddRow(*form, "Reminder text", data_);
     AddRow(*form, "Tabs", titles_);
     AddRow(*form, "HasData", hasData_);

@@ -47,7 +47,7 @@ RightsPage::RightsPage(Desk& desk)
       desk_(desk),
       table_(MakeTable("Rights", kColumns)),
       found_(MakeReadOnlyLine()),
-      fullAccess_(MakeButton("&Full access", [this] { Build(fullAccess_->isChecked()); })) {
+      fullAccess_(MakeButton("Full &access", [this] { Build(fullAccess_->isChecked()); })) {
     fullAccess_->setCheckable(true);
     Body().addLayout(MakeLookUp());
     Body().addWidget(table_, 1);

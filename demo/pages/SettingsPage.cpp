@@ -81,7 +81,7 @@ QLayout* SettingsPage::MakeEditor() {
     auto* column = new QVBoxLayout;
     column->addWidget(area, 1);
     column->addLayout(RowOf({MakeButton("Set &current", [this] { SetCurrent(); }),
-                             MakeButton("Get c&urrent", [this] { GetCurrent(); })}));
+                             MakeButton("Get curr&ent", [this] { GetCurrent(); })}));
     return column;
 }
 
@@ -114,7 +114,7 @@ QLayout* SettingsPage::MakeSystem() {
         row->addWidget(each.control);
     }
     row->addStretch();
-    row->addWidget(MakeButton("&Store", [this] { StoreSystem(); }));
+    row->addWidget(MakeButton("St&ore", [this] { StoreSystem(); }));
     return row;
 }
 

@@ -30,12 +30,13 @@ give_up() {
     exit 1
 }
 
-# Waits until a command succeeds. Usage: wait_until WHAT COMMAND...
+# Waits until a command succeeds. Patience is counted in tries, not in seconds: a busy machine makes
+# few of them. Usage: wait_until WHAT COMMAND...
 wait_until() {
-    local what=$1 deadline=$((SECONDS + 30))
+    local what=$1 tries=1000
     shift
     until "$@" >/dev/null 2>&1; do
-        [ "$SECONDS" -lt "$deadline" ] || give_up "$what"
+        ((tries-- > 0)) || give_up "$what"
         sleep 0.02
     done
 }
@@ -46,17 +47,24 @@ start() {
     started+=($!)
 }
 
-# A display of 1366 by 768 pixels at 96 dots per inch, with openbox.
+# A display at 96 dots per inch with a window manager, on which Qt's pixels are so many as the scale
+# says. Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
 start_desktop() {
+    local manager=${1:-openbox} screen=${2:-1366x768} scale=${3:-1}
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
-    unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_FONT_DPI
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -nolisten tcp -noreset \
+    export QT_SCALE_FACTOR=$scale
+    unset WAYLAND_DISPLAY QT_FONT_DPI
+    Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -fbdir "$work" \
+        -nolisten tcp -noreset \
         3>"$work/display" >"$work/Xvfb.log" 2>&1 &
     started+=($!)
     wait_until "the display starts" grep -q . "$work/display"
     DISPLAY=:$(cat "$work/display")
     export DISPLAY
-    start openbox --sm-disable
+    case $manager in
+    openbox) start openbox --sm-disable ;;
+    icewm) start icewm ;;
+    esac
     wait_until "the window manager starts" wmctrl -m
 }
 
@@ -114,10 +122,10 @@ request_close() {
 }
 
 # Starts the demo client, which keeps a record of what the library returned. Usage: start_client
-# DEMO; sets $record and $main.
+# DEMO [OPTIONS...]; sets $record and $main.
 start_client() {
     record=$work/record.txt
-    start "$1" --record "$record"
+    start "$@" --record "$record"
     wait_until "the record is kept" test -e "$record"
     wait_for_window "Front Desk"
     main=$window

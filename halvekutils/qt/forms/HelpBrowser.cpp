@@ -35,9 +35,12 @@ QString ContextKey() {
 QPalette PaperPalette(QPalette palette) {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Link, QColor(0x00, 0x4A, 0xAD));
-    palette.setColor(QPalette::LinkVisited, QColor(0x5B, 0x2A, 0x86));
     return palette;
+}
+
+/// The text engine takes the colour of links from the desktop, whose may be dark.
+QString PaperStyle() {
+    return QStringLiteral("a:link { color: #004AAD }");
 }
 
 }  // namespace
@@ -47,6 +50,7 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);
+    document()->setDefaultStyleSheet(PaperStyle());
 }
 
 HelpBrowser::~HelpBrowser() = default;

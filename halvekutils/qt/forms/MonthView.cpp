@@ -5,7 +5,9 @@
 #include <halvekutils/text/ControlHelpers.h>
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -51,6 +53,7 @@ constexpr float kFontSize = 7;  // points
 // What QCalendarWidget calls its parts.
 constexpr char kPreviousMonth[] = "qt_calendar_prevmonth";
 constexpr char kNextMonth[] = "qt_calendar_nextmonth";
+constexpr char kMonthButton[] = "qt_calendar_monthbutton";
 
 constexpr int kDaysInWeek = 7;
 constexpr int kRows = 7;  // six weeks below the names of the days
@@ -92,6 +95,7 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     MakeDaysReadable();
     MakeArrow(kPreviousMonth, isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
     MakeArrow(kNextMonth, isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
+    WidenMonthButton();
     NameParts();
     days_->installEventFilter(this);
     yearEdit_->installEventFilter(this);
@@ -122,6 +126,16 @@ void MonthView::MakeArrow(const char* part, Qt::ArrowType arrow) {
     button->setPalette(colors);
 }
 
+// The mark of its menu stands in a corner of the button and would touch the month's name.
+void MonthView::WidenMonthButton() {
+    auto* const button = findChild<QToolButton*>(QLatin1String(kMonthButton));
+    int widest = 0;
+    for (const QAction* const month : button->menu()->actions()) {
+        widest = std::max(widest, button->fontMetrics().horizontalAdvance(month->text()));
+    }
+    button->setMinimumWidth(widest + 2 * button->fontMetrics().height());
+}
+
 void MonthView::NameParts() {
     setAccessibleName(tr("Calendar"));
     yearEdit_->setAccessibleName(tr("Year"));
@@ -131,7 +145,7 @@ void MonthView::NameParts() {
     } buttons[] = {
         {kPreviousMonth, tr("Previous month (Page Up)")},
         {kNextMonth, tr("Next month (Page Down)")},
-        {"qt_calendar_monthbutton", tr("Choose the month")},
+        {kMonthButton, tr("Choose the month")},
         {"qt_calendar_yearbutton", tr("Choose the year (Ctrl+Page Up, Ctrl+Page Down)")},
     };
     for (const auto& [part, name] : buttons) {

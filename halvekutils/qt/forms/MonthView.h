@@ -32,6 +32,7 @@ class MonthView : public QCalendarWidget {
   private:
     void MakeDaysReadable();
     void MakeArrow(const char* part, Qt::ArrowType arrow);
+    void WidenMonthButton();
     void NameParts();
     void KeyDown(const QKeyEvent& event);
     void PageChanged(int year, int month);
