@@ -73,14 +73,10 @@ SampleData::SampleData(const QString& folder)
       reminders_(ParseEntries<Reminder>(ReadText(folder, "reminders.txt"))) {}
 
 QString SampleData::Folder() {
-    const QDir installed(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");
-    return installed.exists() ? installed.canonicalPath() : HALVEK_DEMO_DATA_FOLDER;
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");
 }
 
-QString SampleData::HelpFile() {
-    const QString installed = Folder() + "/FrontDesk.chm";
-    return QFile::exists(installed) ? installed : HALVEK_DEMO_HELP_FILE;
-}
+QString SampleData::HelpFile() { return Folder() + "/FrontDesk.chm"; }
 
 Identity SampleData::StartIdentity() const {
     return {SessionValue("ErrFileName"), SessionValue("AppName"), SessionValue("AppType"),

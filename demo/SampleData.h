@@ -58,10 +58,10 @@ class SampleData {
     /// Throws std::runtime_error, naming the file, when one cannot be read.
     explicit SampleData(const QString& folder);
 
-    /// The data folder beside an installed program, or that of the source tree.
+    /// The data folder that lies beside the program, installed or in a build folder.
     static QString Folder();
 
-    /// The client's help file, beside the data of an installed program or built with the client.
+    /// The client's help file, in the same folder; it may be missing.
     static QString HelpFile();
 
     Identity StartIdentity() const;

@@ -127,6 +127,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setOrganizationName("HalvekUtils");
     QCoreApplication::setApplicationName("FrontDesk");
     QCoreApplication::setApplicationVersion(HALVEK_DEMO_VERSION);
+    QGuiApplication::setDesktopFileName("halvekutils-demo");
     const halvek::QtPlatform desktop;
     QCommandLineParser options;
     Describe(options);

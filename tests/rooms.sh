@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Checks that every room of the library includes only what it may touch, and that the library
-# without windows links nothing beyond the C and C++ run-time.
+# without windows links nothing beyond the C and C++ run-time, and that every source names its
+# licence.
 # Usage: rooms.sh SOURCE-FOLDER LIBRARY
 set -euo pipefail
 cd "$1"
@@ -47,5 +48,13 @@ demo=$(grep -rnE '#include <halvekutils/(qt/forms|core/(Component|Error|UtilsPri
 needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
     grep -vE '^(libc|libm|libstdc\+\+|libgcc_s|ld-linux.*|libasan|libubsan)\.so' || true)
 [ -z "$needed" ] || fail "the library without windows links $needed"
+
+# Every source and every script names its licence
+unmarked=$(find . \( -name build -o -name .git -o -name .cache -o -name install \) -prune -o \
+    -type f \( -name '*.cpp' -o -name '*.h' -o -name '*.sh' -o -name '*.cmake' -o -name '*.in' \
+    -o -name CMakeLists.txt -o -name '*.map' -o -name '*.awk' -o -name '*.svg' -o -name '*.desktop' \
+    -o -name '*.1' -o -path './scripts/*' -o -perm -u+x \) -print0 |
+    xargs -0 grep -L 'SPDX-License-Identifier: MIT' || true)
+[ -z "$unmarked" ] || fail "without a licence: $unmarked"
 
 [ "$failures" -eq 0 ]
