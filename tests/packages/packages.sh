@@ -68,6 +68,10 @@ mkdir -p "$root/var/lib/dpkg/"{info,updates,triggers}
 cp /var/lib/dpkg/status "$root/var/lib/dpkg"
 PATH=$PATH:/usr/sbin:/sbin fakeroot dpkg --root="$root" --force-script-chrootless --log=/dev/null \
     -i ./*.deb >install.log 2>&1 || { cat install.log; exit 1; }
+if readelf -d "$root/usr/bin/"* "$root/usr/$libraries/"*.so | grep -E 'R(UN)?PATH'; then
+    echo "a packaged file looks for libraries elsewhere"
+    exit 1
+fi
 
 awk '/^```cpp/ { inside = 1; next } /^```/ { inside = 0 } inside' "$source/README.md" >readme.cpp
 grep -q 'int main' readme.cpp
