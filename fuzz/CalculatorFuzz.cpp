@@ -27,29 +27,32 @@ void PressAmount(Calculator& calculator, std::int64_t cents) {
     }
 }
 
-/// Amounts added, subtracted and, at first, multiplied: to the cent what whole numbers give.
+/// Amounts multiplied by up to two others, then added and subtracted: to the cent what whole
+/// numbers give. Doubles part from decimals where a difference ends in half a cent.
 void CheckChain(FuzzedDataProvider& input, Calculator& calculator) {
-    const auto amount = [&] { return input.ConsumeIntegralInRange<std::int64_t>(0, 99'999'999); };
-    std::int64_t total = amount();  // in hundredths of a cent from here on
-    PressAmount(calculator, total);
-    total *= 100;
-    bool multiplies = input.ConsumeBool();
-    while (input.remaining_bytes() > 0) {
-        // Doubles part from decimals where a difference ends in half a cent.
-        if (total % 100 != 0 && total % 50 == 0) return;
-        const bool minus = input.ConsumeBool();
-        calculator.Press(multiplies ? Calculator::kMultiply
-                         : minus    ? Calculator::kMinus
-                                    : Calculator::kPlus);
-        const std::int64_t operand = multiplies ? amount() % 10'000 : amount();
+    constexpr std::int64_t kCent = 10'000;  // totals are in millionths
+    auto factors = input.ConsumeIntegralInRange(0, 2);
+    const auto first = input.ConsumeIntegralInRange<std::int64_t>(0, 9'999'999);
+    PressAmount(calculator, first);
+    for (std::int64_t total = first * kCent; std::abs(total) < kCent * 1'000'000'000;) {
+        const bool isHalf = std::abs(total) % kCent == kCent / 2;
+        if (input.remaining_bytes() == 0 || (factors == 0 && isHalf)) {
+            calculator.Press(Calculator::kEquals);
+            const std::int64_t cents = (total + (total < 0 ? -kCent : kCent) / 2) / kCent;
+            return Require(calculator.Display() == ShownCents(cents), "the sum to the cent");
+        }
+        const auto operand = input.ConsumeIntegralInRange<std::int64_t>(0, 999);
+        if (factors > 0) {
+            --factors;
+            calculator.Press(Calculator::kMultiply);
+            total = total * operand / 100;
+        } else {
+            const bool minus = input.ConsumeBool();
+            calculator.Press(minus ? Calculator::kMinus : Calculator::kPlus);
+            total += (minus ? -kCent : kCent) * operand;
+        }
         PressAmount(calculator, operand);
-        total = multiplies ? total / 100 * operand : total + (minus ? -100 : 100) * operand;
-        multiplies = false;
-        if (std::abs(total) > 10'000'000'000'000) break;
     }
-    calculator.Press(Calculator::kEquals);
-    const std::int64_t cents = (total + (total < 0 ? -50 : 50)) / 100;
-    Require(calculator.Display() == ShownCents(cents), "a chain gives its sum to the cent");
 }
 
 bool IsLegal(const std::u16string& text) {
@@ -69,7 +72,8 @@ void PlayKeys(FuzzedDataProvider& input, Calculator& calculator) {
                 calculator.KeyDown(input.ConsumeIntegralInRange(0, 60));
                 break;
             case 3:
-                calculator.Paste(FuzzText(input, 12), input.ConsumeIntegralInRange(0u, 20u),
+                calculator.Paste(Narrowed(FuzzText(input, 9), u"0123456789.eE+-$(,)"),
+                                 input.ConsumeIntegralInRange(0u, 20u),
                                  input.ConsumeIntegralInRange(0u, 20u));
                 break;
             case 4:

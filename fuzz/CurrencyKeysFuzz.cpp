@@ -65,6 +65,8 @@ void CheckEditing(FuzzedDataProvider& input, AmountSign sign) {
         }
         const bool known = box.Text().find_first_not_of(u"0123456789.-$,") == std::u16string::npos;
         Require(known, "nothing but amounts comes into a field");
+        const std::size_t minus = box.Text().rfind(u'-');
+        Require(minus == 0 || minus == std::u16string::npos, "a sign stands in front");
     }
     CheckLeaving(box, sign);
 }

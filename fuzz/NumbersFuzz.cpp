@@ -21,11 +21,18 @@ void CheckValue(const std::u16string& text) {
 void CheckNumber(const std::u16string& text) {
     const auto number = ToNumber(text);
     Require(IsNumeric(text) == number.has_value(), "both numeric tests agree");
+    const bool isPlain = text.find_first_not_of(u"0123456789.eE") == text.npos;
+    if (isPlain) {
+        const std::string bytes = ToCodePage(text);
+        char* end = nullptr;
+        const bool isFinite = std::isfinite(std::strtod(bytes.c_str(), &end));
+        const bool isWhole = !text.empty() && *end == '\0';
+        Require(number.has_value() == (isWhole && isFinite), "a number as a whole, or none");
+    }
     if (!number) return;
     const auto again = ToNumber(NumberText(*number));
     const bool close = again && std::abs(*again - *number) <= std::abs(*number) * 1e-14;
     Require(close || std::abs(*number) > 1.79e308, "a number's text reads back");
-    const bool isPlain = text.find_first_not_of(u"0123456789.eE") == text.npos;
     Require(!isPlain || Val(text) == *number, "both readers agree");
 }
 
@@ -47,6 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::u16string text = FuzzText(data, size);
     CheckValue(text);
     CheckNumber(text);
+    CheckNumber(Narrowed(text, u"0159.eE"));
     FuzzedDataProvider input(data, size);
     CheckRounding(
         input.ConsumeIntegralInRange<std::int64_t>(-9'999'999'999'999, 9'999'999'999'999));
