@@ -75,6 +75,13 @@ char16_t TypedBy(const QKeyEvent& key) {
     return isCommand || text.size() != 1 || !text[0].isPrint() ? u'\0' : text[0].unicode();
 }
 
+/// Whether a line edit would put the key's text in, as it does with Alt and a letter.
+bool WouldBeInserted(const QKeyEvent& key) {
+    const bool isCommand =
+        key.modifiers().testFlag(Qt::ControlModifier) && !key.modifiers().testFlag(Qt::AltModifier);
+    return !isCommand && !key.text().isEmpty() && key.text()[0].category() != QChar::Other_Control;
+}
+
 }  // namespace
 
 frmCalculator::frmCalculator(std::shared_ptr<Calculator> rules, const Desktop& desktop)
@@ -272,7 +279,7 @@ bool frmCalculator::TakeKey(const QKeyEvent& key) {
 
 bool frmCalculator::TypeKey(const QKeyEvent& key) {
     const char16_t typed = TypedBy(key);
-    if (typed == 0) return false;
+    if (typed == 0) return WouldBeInserted(key);
     if (!rules_->KeyPress(typed)) return true;
     if (!BoxIsFull()) return false;
     Beep();
