@@ -13,15 +13,15 @@ namespace halvek {
 
 /// The help file of the sources in the folder help, compiled with chmcmd of the package fp-utils:
 /// a first page in Windows-1252, a second one in UTF-8, made so long here that it does not fit into
-/// one compressed stretch, and a picture.
+/// one compressed stretch unless it is given fewer lines, and a picture.
 class HelpFile {
   public:
-    HelpFile() {
+    explicit HelpFile(int lines = 4000) {
         std::filesystem::copy(Source(""), folder_.Path(), std::filesystem::copy_options::recursive);
         std::string page =
             "<meta charset=\"utf-8\">gr\xC3\xBC\xC3\x9F"
             "e<img src=\"dot.gif\">";
-        for (int i = 0; i < 4000; ++i) page += "<p>line " + std::to_string(i * 7919) + "</p>";
+        for (int i = 0; i < lines; ++i) page += "<p>line " + std::to_string(i * 7919) + "</p>";
         WriteFile(folder_ / "sub/bills.htm", page + "<a name=late>Late</a>");
         const std::string compile = "cd " + folder_.Path().string() + "; chmcmd help.hhp >log 2>&1";
         if (std::system(compile.c_str()) == 0 && std::filesystem::exists(Path())) return;
