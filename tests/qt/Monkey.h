@@ -31,8 +31,7 @@ class Monkey {
         turns_.start(0);
     }
     ~Monkey() { current_ = nullptr; }
-    Monkey(const Monkey&) = delete;
-    Monkey& operator=(const Monkey&) = delete;
+    Q_DISABLE_COPY(Monkey)
 
     bool IsDone() const { return step_ >= steps_; }
     const QString& LastAct() const { return acts_[(step_ - 1) % kKept]; }
@@ -76,19 +75,23 @@ class Monkey {
         above.start(0);
         const QPointer<QWidget> front = Front();
         if (front == nullptr) return QDrag::cancel();
-        for (int i = Below(80); i >= 0 && front != nullptr && front == Front(); --i) {
-            if (!front->isActiveWindow()) return front->activateWindow();
+        for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
+            if (!front->isActiveWindow()) return Activate(*front);
             Act(*front);
         }
+    }
+
+    static void Activate(QWidget& window) {
+        const QWindow& handle = *window.windowHandle();
+        if (!handle.flags().testFlag(Qt::WindowDoesNotAcceptFocus)) window.activateWindow();
     }
 
     void Act(QWidget& window) {
         if (step_ > steps_ + kPatience) qFatal("a window stays open");
         const int dice = IsDone() ? 0 : Below(1000);
         if (dice < 4) return End(window);
-        if (dice < 30) return UseMouse(window);
-        if (dice < 40) return TurnWheel(window);
-        if (dice < 50) return Paste(window);
+        if (dice < 35) return UseMouse(window);
+        if (dice < 45) return Paste(window);
         static constexpr Qt::KeyboardModifier kModifiers[] = {
             Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier, Qt::KeypadModifier};
         static constexpr int kEditing[] = {
@@ -124,25 +127,26 @@ class Monkey {
         Press(window, Qt::CTRL | Qt::Key_V);
     }
 
-    /// Clicks, double clicks and drags, on a control or anywhere.
+    /// Clicks, double clicks, drags and turns of the wheel, on a control or anywhere.
     void UseMouse(QWidget& window) {
         const auto parts = window.findChildren<QWidget*>();
-        const QWidget& part = parts.isEmpty() || Below(3) == 0 ? window : *Any(parts);
-        if (!part.isVisible() || part.window() != &window) return;
-        const QPoint at =
-            &part == &window ? Place(window) : part.mapTo(&window, part.rect().center());
+        const QWidget* const part = parts.isEmpty() ? &window : Any(parts);
+        if (!part->isVisible() || part->window() != &window) return;
+        const QPoint centre = part->mapTo(&window, part->rect().center());
+        const QPoint at = Below(3) > 0 ? centre : Place(window);
         const QPoint to = Below(6) > 0 ? at : Place(window);
         const auto button = Below(12) > 0 ? Qt::LeftButton : Qt::RightButton;
-        const QWidget* const hit = window.childAt(at);
-        Note(window,
-             QStringLiteral("mouse %1 on %2, %3,%4 to %5,%6")
-                 .arg(button)
-                 .arg(hit == nullptr ? ""
-                                     : hit->objectName() + hit->parent()->metaObject()->className())
-                 .arg(at.x())
-                 .arg(at.y())
-                 .arg(to.x())
-                 .arg(to.y()));
+        QWidget* const hit = window.childAt(at);
+        if (hit == nullptr) return;
+        const char* const kind = hit->parent()->metaObject()->className();
+        Note(window, QStringLiteral("mouse on %1 in %2").arg(hit->objectName(), kind));
+        if (Below(3) == 0) {
+            const QPoint turn(0, 120 - 240 * Below(2));
+            QWheelEvent wheel(hit->mapFrom(&window, at), window.mapToGlobal(at), {}, turn, {},
+                              Below(9) > 0 ? Qt::NoModifier : Qt::ControlModifier, {}, false);
+            QCoreApplication::sendEvent(hit, &wheel);
+            return;
+        }
         const QPointer<QWindow> target = window.windowHandle();
         const auto send = [&](QEvent::Type type, QPoint place, Qt::MouseButtons held) {
             if (target == nullptr) return;
@@ -157,17 +161,6 @@ class Monkey {
             if (to != at) send(QEvent::MouseMove, to, button);
             send(QEvent::MouseButtonRelease, to, {});
         }
-    }
-
-    void TurnWheel(QWidget& window) {
-        const QPoint at = Place(window);
-        QWidget* const part = window.childAt(at);
-        if (part == nullptr) return;
-        Note(window, "wheel over " + part->objectName());
-        QWheelEvent wheel(part->mapFrom(&window, at), window.mapToGlobal(at), {},
-                          {0, 120 - 240 * Below(2)}, {},
-                          Below(9) > 0 ? Qt::NoModifier : Qt::ControlModifier, {}, false);
-        QCoreApplication::sendEvent(part, &wheel);
     }
 
     void End(QWidget& window) {
