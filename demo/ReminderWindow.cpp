@@ -64,6 +64,7 @@ QListWidgetItem* MakeLine(const QString& line, const ReminderWindow::Highlight& 
 ReminderWindow::ReminderWindow(const ReminderDefinition& reminder, const Highlight& highlight,
                                QWidget* parent)
     : QDialog(parent), highlight_(highlight) {
+    setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
     setWindowTitle("Reminders of account " + ToQString(reminder.AcctNo()));
     auto* column = new QVBoxLayout(this);
     if (reminder.HasPatientSpecificData()) {
