@@ -6,14 +6,11 @@ set -u
 source "$(dirname "$0")/desktop.sh"
 export LC_ALL=C  # weeks start on Monday
 look=$2-$3-$4
-pictures=100
+pictures=100  # so that their names sort
 
-# What the client noted since the mark.
-new_lines() {
-    tail -n +"$((answered + 1))" "$record"
-}
+# Whether the client has noted a text since the mark.
 is_noted() {
-    new_lines | grep -qF -- "$1"
+    grep -qF -- "$1" <(tail -n +"$((answered + 1))" "$record")
 }
 has_opened() {
     has_active_title "$1" && ! is_active "$main"
@@ -29,14 +26,11 @@ has_focus() {
 screen_sum() {
     cksum <"$work/Xvfb_screen0"
 }
-# The screen once it rests: what opened before has painted itself.
-rested_sum() {
-    local now
-    seen=""
-    until now=$(screen_sum) && [ "$now" = "$seen" ]; do
-        seen=$now
-        sleep 0.03
-    done
+# Whether the screen is as it was when last asked: what opened before has painted itself.
+is_resting() {
+    local before=$seen
+    seen=$(screen_sum)
+    [ "$seen" = "$before" ]
 }
 looks_changed() {
     [ "$(screen_sum)" != "$seen" ]
@@ -45,7 +39,6 @@ looks_changed() {
 # Presses keys and waits for what they do. Usage: step KEYS SIGN TEXT. The signs:
 #   >  a window opens, or comes back, whose title starts with the text
 #   =  the client notes a line with the text and is active again
-#   +  the client notes a line with the text
 #   @  a control of that place and name has the focus
 #   <  the client is active again
 #   ~  the screen changes
@@ -54,11 +47,12 @@ step() {
     local keys=$1 sign=$2 text=${3:-}
     answered=$(wc -l <"$record")
     focused=$(wc -l <"$focus")
-    [ "$sign" != "~" ] || rested_sum
+    seen=""
+    [ "$sign" != "~" ] || wait_until "the screen rests" is_resting
     keys ${keys//,/ }
     case $sign in
     '>') wait_until "$keys opens $text" has_opened "$text" ;;
-    '=' | '+') wait_until "$keys is noted: $text" is_noted "$text" ;;
+    '=') wait_until "$keys is noted: $text" is_noted "$text" ;;
     '@') wait_until "$keys leads to $text" has_focus "$text" ;;
     '~') wait_until "$keys changes the screen" looks_changed ;;
     esac
