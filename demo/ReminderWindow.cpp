@@ -74,6 +74,7 @@ ReminderWindow::ReminderWindow(const ReminderDefinition& reminder, const Highlig
     column->addWidget(&tabs_, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setObjectName("close");
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
     resize(kSize);

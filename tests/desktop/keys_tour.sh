@@ -43,6 +43,7 @@ looks_changed() {
 #   <  the client is active again
 #   ~  the screen changes
 #   .  nothing more
+# Keys that follow a menu wait until it has closed: the display may still send them to it.
 step() {
     local keys=$1 sign=$2 text=${3:-}
     answered=$(wc -l <"$record")
@@ -196,16 +197,16 @@ alt+a = IsAlpha("Smith") = true
 alt+c = IsUnwantedChar(124) = true
 alt+d = IsDateChar(47) = true
 alt+w = = true, strOUT "SmithJonessince 2004"
-alt+s,f,Tab,Tab,Tab,Tab @ Show message ; space,alt+w > Front Desk
+alt+s,f @ Services ; Tab,Tab,Tab,Tab @ Show message ; space,alt+w > Front Desk
 Return = RemoveUnwantedChars("Smith|Jones\tsince 2004", "", true, false, "") = true
 # Windows by the menu and by the page
 alt+s,w @ Services ; alt+p > Patient 1 ; alt+Tab <
 alt+r > Report 2 ; alt+Tab <
 alt+n ~ ; 1 > Patient 1 ; alt+Tab <
 alt+c > Schedule 3 ; alt+F4 = OpenWindows()->RemoveItem(3) = true
-alt+s,w,Tab,Tab,Tab,Tab @ Open windows ; Down,alt+g = OpenWindows()->GetItem(
+alt+s,w @ Services ; Tab,Tab,Tab,Tab @ Open windows ; Down,alt+g = OpenWindows()->GetItem(
 alt+b > Report 2 ; alt+F4 = OpenWindows()->RemoveItem(2) = true
-alt+s,w,Tab,Tab,Tab,Tab,Home,alt+l = OpenWindows()->RemoveItem(1) = true
+alt+s,w @ Services ; Tab,Tab,Tab,Tab,Home,alt+l = OpenWindows()->RemoveItem(1) = true
 # Reminders
 alt+s,i @ Services ; alt+a,Home,alt+o > Reminders of account 10117 ; Right ~ ; Tab ~ ; Escape <
 alt+a,Down,alt+o > Reminders of account 10204 ; Tab,Tab,space <
