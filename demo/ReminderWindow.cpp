@@ -64,6 +64,7 @@ QListWidgetItem* MakeLine(const QString& line, const ReminderWindow::Highlight& 
 ReminderWindow::ReminderWindow(const ReminderDefinition& reminder, const Highlight& highlight,
                                QWidget* parent)
     : QDialog(parent), highlight_(highlight) {
+    setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
     setWindowTitle("Reminders of account " + ToQString(reminder.AcctNo()));
     auto* column = new QVBoxLayout(this);
     if (reminder.HasPatientSpecificData()) {
@@ -73,6 +74,7 @@ ReminderWindow::ReminderWindow(const ReminderDefinition& reminder, const Highlig
     column->addWidget(&tabs_, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setObjectName("close");
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
     resize(kSize);

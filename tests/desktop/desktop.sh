@@ -63,7 +63,11 @@ start_desktop() {
     export DISPLAY
     case $manager in
     openbox) start openbox --sm-disable ;;
-    icewm) start icewm ;;
+    icewm)
+        mkdir "$work/.icewm"
+        echo ShowTaskBar=0 >"$work/.icewm/preferences"  # its clock would change the screen
+        start icewm
+        ;;
     esac
     wait_until "the window manager starts" wmctrl -m
 }

@@ -65,6 +65,17 @@ TEST_F(HelpViewerTest, FollowsLinksInsideTheFileOnly) {
     EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").text().endsWith("http://example.org/x"));
 }
 
+TEST_F(HelpViewerTest, ShowsLinksOnPaperOnADarkDesktopToo) {
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Link, Qt::white);
+    QApplication::setPalette(dark);
+    Open(100);
+    EXPECT_TRUE(Page().find(QStringLiteral("Bills")));
+    EXPECT_LT(Page().textCursor().charFormat().foreground().color().lightness(), 100);
+    QApplication::setPalette(light);
+}
+
 TEST_F(HelpViewerTest, ServesNothingButTheFile) {
     QImage(3, 3, QImage::Format_RGB32).save(QString::fromStdString(folder_ / "own.png"));
     const QString own = QString::fromStdString(folder_ / "own.png");

@@ -74,6 +74,12 @@ QColor Blended(const QColor& text, const QColor& base) {
                   mixed(text.blue(), base.blue()));
 }
 
+/// Arrows that are seen on the bar above the days.
+QPalette WithArrowsOnBar(QPalette colors) {
+    colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
+    return colors;
+}
+
 /// The key as it acts: where text runs from right to left, the days do too.
 int Mirrored(int key, bool rightToLeft) {
     if (!rightToLeft || (key != Qt::Key_Left && key != Qt::Key_Right)) return key;
@@ -121,9 +127,7 @@ void MonthView::MakeDaysReadable() {
 void MonthView::MakeArrow(const char* part, Qt::ArrowType arrow) {
     auto* const button = findChild<QToolButton*>(QLatin1String(part));
     button->setArrowType(arrow);
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
-    button->setPalette(colors);
+    button->setPalette(WithArrowsOnBar(palette()));
 }
 
 // The mark of its menu stands in a corner of the button and would touch the month's name.
@@ -134,6 +138,7 @@ void MonthView::WidenMonthButton() {
         widest = std::max(widest, button->fontMetrics().horizontalAdvance(month->text()));
     }
     button->setMinimumWidth(widest + 2 * button->fontMetrics().height());
+    button->setPalette(WithArrowsOnBar(palette()));
 }
 
 void MonthView::NameParts() {

@@ -18,6 +18,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace halvek {
@@ -44,6 +45,13 @@ unsigned ModifiersOf(const QKeyEvent& event) {
 
 bool IsEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// The colour of the focus, dark enough for a light button though the desktop may be dark.
+QColor OnLightFace(const QColor& highlight) {
+    constexpr int kMostLightness = 100;
+    return QColor::fromHsl(highlight.hslHue(), highlight.hslSaturation(),
+                           std::min(highlight.lightness(), kMostLightness));
 }
 
 QFrame* MakeFrame(QWidget* parent, const char* name, const Rect& place) {
@@ -173,6 +181,7 @@ QPalette frmMessageBox::ButtonPalette(const QPalette& desktop) const {
         buttons.setColor(QPalette::Button, ToQColor(*face, desktop));
         buttons.setColor(QPalette::ButtonText, Qt::black);
         buttons.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
+        buttons.setColor(QPalette::Highlight, OnLightFace(desktop.color(QPalette::Highlight)));
     }
     return buttons;
 }
