@@ -28,8 +28,9 @@ inline std::optional<std::int64_t> CentsOf(std::u16string_view text) {
     }
     fraction.resize(std::max(fraction.size(), std::size_t{3}), u'0');
     const std::u16string digits = whole + fraction.substr(0, 2);
-    if (fraction.find(u'.') != fraction.npos || digits.size() > 17) return std::nullopt;
-    std::int64_t cents = fraction[2] >= u'5' ? 1 : 0;
+    const std::size_t carry = fraction[2] >= u'5' ? 1 : 0;  // it may lead to one more digit
+    if (fraction.find(u'.') != fraction.npos || digits.size() + carry > 18) return std::nullopt;
+    auto cents = static_cast<std::int64_t>(carry);
     std::int64_t place = 1;
     for (std::size_t i = digits.size(); i-- > 0; place *= 10) cents += place * (digits[i] - u'0');
     return negative ? -cents : cents;
