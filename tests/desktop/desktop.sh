@@ -48,15 +48,15 @@ start() {
 }
 
 # A display at 96 dots per inch with a window manager, on which Qt's pixels are so many as the scale
-# says. Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
+# says. No key repeats when a slow machine lets it go late.
+# Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
 start_desktop() {
     local manager=${1:-openbox} screen=${2:-1366x768} scale=${3:-1}
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
     export QT_SCALE_FACTOR=$scale
     unset WAYLAND_DISPLAY QT_FONT_DPI
-    Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -fbdir "$work" \
-        -nolisten tcp -noreset \
-        3>"$work/display" >"$work/Xvfb.log" 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -fbdir "$work" -r \
+        -nolisten tcp -noreset 3>"$work/display" >"$work/Xvfb.log" 2>&1 &
     started+=($!)
     wait_until "the display starts" grep -q . "$work/display"
     DISPLAY=:$(cat "$work/display")
