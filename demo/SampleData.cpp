@@ -76,7 +76,9 @@ QString SampleData::Folder() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../share/halvekutils-demo");
 }
 
-QString SampleData::HelpFile() { return Folder() + "/FrontDesk.chm"; }
+QString SampleData::HelpFile() {
+    return Folder() + "/FrontDesk.chm";
+}
 
 Identity SampleData::StartIdentity() const {
     return {SessionValue("ErrFileName"), SessionValue("AppName"), SessionValue("AppType"),

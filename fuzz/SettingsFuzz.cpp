@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
+#include "tests/prefs/TextProperties.h"
 
 #include <halvekutils/prefs/UserPrefs.h>
 
@@ -12,29 +13,6 @@ namespace {
 constexpr char16_t kSeparator = 223;
 constexpr std::size_t kFields = 31;
 
-struct Property {
-    std::size_t field;
-    void (UserPrefs::*set)(TextIn);
-    std::u16string (UserPrefs::*get)() const;
-};
-
-constexpr Property kTexts[] = {
-    {0, &UserPrefs::AIFormData, &UserPrefs::AIFormData},
-    {1, &UserPrefs::DemoFormData, &UserPrefs::DemoFormData},
-    {2, &UserPrefs::ScheduleFormData, &UserPrefs::ScheduleFormData},
-    {3, &UserPrefs::PostingFormData, &UserPrefs::PostingFormData},
-    {4, &UserPrefs::ReportsFormData, &UserPrefs::ReportsFormData},
-    {13, &UserPrefs::AIFilterData, &UserPrefs::AIFilterData},
-    {19, &UserPrefs::PersistentConnection, &UserPrefs::PersistentConnection},
-    {21, &UserPrefs::InsuranceFormData, &UserPrefs::InsuranceFormData},
-    {24, &UserPrefs::ViewerFormData, &UserPrefs::ViewerFormData},
-    {25, &UserPrefs::WorklistFormData, &UserPrefs::WorklistFormData},
-    {26, &UserPrefs::ImportImagesData, &UserPrefs::ImportImagesData},
-    {27, &UserPrefs::EMRPrefsData, &UserPrefs::EMRPrefsData},
-    {28, &UserPrefs::ImageData, &UserPrefs::ImageData},
-    {29, &UserPrefs::ScanningDocType, &UserPrefs::ScanningDocType},
-    {30, &UserPrefs::SolvaneImagesFolder, &UserPrefs::SolvaneImagesFolder},
-};
 constexpr std::size_t kColorFields[] = {5, 6, 7, 8, 9};
 constexpr std::size_t kSwitchFields[] = {14, 16, 20, 22, 23};  // all off unless "true"
 
@@ -52,7 +30,7 @@ void CheckText(const std::u16string& text) {
     const auto sent = Cut(text, kSeparator);
     const auto kept = Cut(settings, kSeparator);
     Require(kept.size() == kFields, "there are always 31 fields");
-    for (const Property& row : kTexts) {
+    for (const auto& row : kTextProperties) {
         std::u16string wanted = row.field == 19 ? u"Y" : u"";
         if (row.field < sent.size()) wanted = sent[row.field];
         if (row.field == 0 && wanted.starts_with(u'|')) wanted = Cut(wanted, u'|')[1];
@@ -79,7 +57,7 @@ void CheckText(const std::u16string& text) {
 void CheckProperties(FuzzedDataProvider& input) {
     UserPrefs prefs;
     std::vector<std::u16string> values;
-    for (const Property& row : kTexts) {
+    for (const auto& row : kTextProperties) {
         std::u16string& value = values.emplace_back(FuzzText(input, 6));
         std::replace(value.begin(), value.end(), kSeparator, u's');
         if (row.field == 0 && value.starts_with(u'|')) value[0] = u'!';
@@ -89,8 +67,9 @@ void CheckProperties(FuzzedDataProvider& input) {
     UserPrefs copy;
     copy.PopulateSettings(settings);
     for (std::size_t i = 0; i < values.size(); ++i) {
-        Require(Cut(settings, kSeparator)[kTexts[i].field] == values[i], "a property has a field");
-        Require((copy.*kTexts[i].get)() == values[i], "a property comes back");
+        Require(Cut(settings, kSeparator)[kTextProperties[i].field] == values[i],
+                "a property has a field");
+        Require((copy.*kTextProperties[i].get)() == values[i], "a property comes back");
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
+#include "tests/prefs/TextProperties.h"
 
 #include <halvekutils/base/BoolIn.h>
 #include <halvekutils/base/NumericText.h>
@@ -32,30 +33,6 @@ constexpr std::u16string_view kWhole =
     u"aßbßcßdßeß1ß2ß3ß4ß5ßFalseß6ßR12ßfßTrueß2ßTrueßR17ßR18ßgßTrueßhßTrueßTrueßiß\0ßkßlßmßnßo"sv;
 
 static_assert(!std::is_convertible_v<int, BoolIn> && !std::is_convertible_v<char*, BoolIn>);
-
-template <class Get, class Set>
-struct Property {
-    std::size_t field;
-    Get get;
-    Set set;
-};
-
-const Property<std::u16string (UserPrefs::*)() const, void (UserPrefs::*)(TextIn)> kTexts[] = {
-    {0, &UserPrefs::AIFormData, &UserPrefs::AIFormData},
-    {1, &UserPrefs::DemoFormData, &UserPrefs::DemoFormData},
-    {2, &UserPrefs::ScheduleFormData, &UserPrefs::ScheduleFormData},
-    {3, &UserPrefs::PostingFormData, &UserPrefs::PostingFormData},
-    {4, &UserPrefs::ReportsFormData, &UserPrefs::ReportsFormData},
-    {13, &UserPrefs::AIFilterData, &UserPrefs::AIFilterData},
-    {19, &UserPrefs::PersistentConnection, &UserPrefs::PersistentConnection},
-    {21, &UserPrefs::InsuranceFormData, &UserPrefs::InsuranceFormData},
-    {24, &UserPrefs::ViewerFormData, &UserPrefs::ViewerFormData},
-    {25, &UserPrefs::WorklistFormData, &UserPrefs::WorklistFormData},
-    {26, &UserPrefs::ImportImagesData, &UserPrefs::ImportImagesData},
-    {27, &UserPrefs::EMRPrefsData, &UserPrefs::EMRPrefsData},
-    {28, &UserPrefs::ImageData, &UserPrefs::ImageData},
-    {29, &UserPrefs::ScanningDocType, &UserPrefs::ScanningDocType},
-    {30, &UserPrefs::SolvaneImagesFolder, &UserPrefs::SolvaneImagesFolder}};
 
 const Property<Color (UserPrefs::*)(), void (UserPrefs::*)(Color)> kColors[] = {
     {5, &UserPrefs::RequiredFieldBackColor, &UserPrefs::RequiredFieldBackColor},
@@ -95,7 +72,7 @@ TEST(UserPrefs, WritesEveryFieldOfTheSettingsText) {
 }
 
 TEST(UserPrefs, EachTextAndColourHasItsFieldForReadingAndWriting) {
-    for (const auto& [field, get, set] : kTexts) {
+    for (const auto& [field, get, set] : kTextProperties) {
         UserPrefs prefs = Populated(Only(field, u"read "));
         EXPECT_EQ((prefs.*get)(), u"read ") << field;
         (prefs.*set)(u"written");
