@@ -48,7 +48,8 @@ TEST(KeyedCollection, RefusesAKeyThatDiffersInLetterCaseOnly) {
     for (const auto& [same, first, second] : rows) {
         Numbers numbers;
         numbers.Add(Number(1), first);
-        EXPECT_EQ(FaultOf([&] { numbers.Add(Number(2), second); }), same ? 457 : 0)
+        EXPECT_EQ(FaultOf([&, &second = second] { numbers.Add(Number(2), second); }),
+                  same ? 457 : 0)
             << ToUtf8(second);
         EXPECT_EQ(*numbers.Item(first), 1);
         EXPECT_EQ(*numbers.Item(second), same ? 1 : 2);

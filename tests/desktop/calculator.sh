@@ -22,7 +22,7 @@ expect_amount() {
 
 start_desktop
 start_client "$1"
-keys alt+s u
+choose_page alt+s u
 
 # KEYS AMOUNT; RET has the focus, and Tab leads to the box.
 while read -r typed amount; do

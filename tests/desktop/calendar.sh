@@ -41,7 +41,7 @@ take_step() {
 
 start_desktop
 start_client "$1"
-keys alt+s a
+choose_page alt+s a
 
 # LEFT TOP of the client, so that its button lies at every edge of the screen; STEPS; DAY. The
 # month's name is at 6 of the height, the names of the days at 18, the button at 95.

@@ -15,7 +15,7 @@ expect() {
 
 start_desktop
 start_client "$1"
-keys alt+s y
+choose_page alt+s y
 
 # KEYS BEFORE AFTER; Alt and a, d, m and t enter the amount, the adjustment and the range.
 while read -r typed before after; do

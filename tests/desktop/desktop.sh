@@ -125,14 +125,31 @@ request_close() {
     wait_until "the window manager answers" bash -c "! xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
 }
 
-# Starts the demo client, which keeps a record of what the library returned. Usage: start_client
-# DEMO [OPTIONS...]; sets $record and $main.
+# Starts the demo client, which keeps a record of what the library returned and one of its focus.
+# Usage: start_client DEMO [OPTIONS...]; sets $record, $focus and $main.
 start_client() {
-    record=$work/record.txt
-    start "$@" --record "$record"
+    record=$work/record.txt focus=$work/focus.txt focused=0
+    start "$@" --record "$record" --focus "$focus"
     wait_until "the record is kept" test -e "$record"
     wait_for_window "Front Desk"
     main=$window
+}
+
+# Whether a control has got the focus since the mark.
+focus_moved() {
+    [ "$(wc -l <"$focus")" -gt "$focused" ]
+}
+has_focus() {
+    focus_moved && [[ "$(tail -n 1 "$focus")" == *"$1" ]]
+}
+
+# Shows a page by its menu. An open menu holds the keyboard, and the display may send the next keys
+# to it while it closes, where they are lost: so this waits until the page has come.
+# Usage: choose_page KEYS...
+choose_page() {
+    focused=$(wc -l <"$focus")
+    keys "$@"
+    wait_until "$* shows a page" has_focus Services
 }
 
 # Whether the record has grown beyond $answered lines.

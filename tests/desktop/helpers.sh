@@ -7,7 +7,7 @@ set -u
 source "$(dirname "$0")/desktop.sh"
 start_desktop
 start_client "$1"
-keys alt+s k
+choose_page alt+s k
 
 for key in Shift Ctrl Alt; do
     xdotool keydown "$key"

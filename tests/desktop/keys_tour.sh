@@ -15,13 +15,6 @@ is_noted() {
 has_opened() {
     has_active_title "$1" && ! is_active "$main"
 }
-# Whether a control has got the focus since the mark.
-focus_moved() {
-    [ "$(wc -l <"$focus")" -gt "$focused" ]
-}
-has_focus() {
-    focus_moved && [[ "$(tail -n 1 "$focus")" == *"$1" ]]
-}
 # The whole screen, as the display keeps it in memory.
 screen_sum() {
     cksum <"$work/Xvfb_screen0"
@@ -97,8 +90,7 @@ case $3 in
 1) start_desktop "$2" 1366x768 1 ;;
 2) start_desktop "$2" 2732x1536 2 ;;
 esac
-focus=$work/focus.txt focused=0
-start_client "$1" --palette "$4" --focus "$focus"
+start_client "$1" --palette "$4"
 wait_until "the list of pages has the focus" has_focus "Front Desk: Services"
 
 for page in Session Codes "Delimited text" "Data bins" "Error log" "Message box" "Selection list" \

@@ -15,7 +15,7 @@ expect_note() {
 start_desktop
 start_client "$1"
 answered=$(wc -l <"$record")
-keys alt+s o
+choose_page alt+s o
 
 # HOW ACTS RESULT; the acts are keys or the place of a click in pixels.
 while read -r how acts result; do
@@ -29,7 +29,8 @@ alt+b Down,Right,Return 11842808\t8
 alt+c 30x70 14869245\t7
 ROWS
 
-keys alt+s g alt+d
+choose_page alt+s g
+keys alt+d
 expect_note ', true, "2.4.1")' "debug mode"
 keys alt+l
 for line in a b; do

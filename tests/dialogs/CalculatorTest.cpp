@@ -81,7 +81,7 @@ void ExpectShown(const std::string& sequence) {
 }
 
 TEST(Calculator, ShowsWhatItsKeysGive) {
-    std::ifstream table(HALVEK_CALCULATOR_KEYS);
+    std::ifstream table(HALVEK_TEST_DATA "/dialogs/calculator_keys.txt");
     int sequences = 0;
     for (std::string line; std::getline(table, line);) {
         if (line.empty() || line[0] == '#') continue;

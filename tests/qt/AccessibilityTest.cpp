@@ -102,7 +102,7 @@ TEST_F(AccessibilityTest, EveryControlOfADialogIsCalledWhatItIsAndReachedByTab) 
          "frmMessageBox Dialog Front Desk; arrCmd_0 Button OK > arrCmd_0"},
     };
     for (const auto& [open, expected] : dialogs) {
-        const User user([&](QDialog& dialog) {
+        const User user([&, &expected = expected](QDialog& dialog) {
             EXPECT_EQ(Heard(dialog), expected);
             CloseRequest(dialog);
             if (dialog.isVisible())
