@@ -23,10 +23,12 @@ std::filesystem::path FileOf(Machine& machine) {
 
 }  // namespace
 
-// Making the console can fail as well: it is a part of what is guarded.
+// The console of the process
 
 void Session::ShowInDebug(TextIn text) noexcept {
-    Guarded(OnFault::Quiet, kFault, *this, [&] { DebugConsole::Current()->ShowInDebug(text); });
+    Guarded(OnFault::Quiet, kFault, *this, [&] {
+        DebugConsole::Current()->ShowInDebug(text);  // making the console can fail as well
+    });
 }
 
 void Session::ClearDebug() noexcept {

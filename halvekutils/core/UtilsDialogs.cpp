@@ -19,6 +19,8 @@
 
 namespace halvek {
 
+// A dialog is given Services::Current() and not TheSession(): it fails before the first InitUtils.
+
 namespace {
 
 constexpr float kNotGiven = -1;

@@ -20,7 +20,7 @@ std::shared_ptr<Utils> Utils::CurrentUtils() {
     return TheSession().currentUtils;
 }
 
-// Start-up. Every argument is copied before the state changes: it may be a view of that session.
+// Start-up. Every argument is copied before the session changes: it may be a view of it.
 
 void Utils::InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
                       TextIn ExeFileStamp) {
