@@ -40,8 +40,9 @@ PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTa
 }
 
 /// Repaints a host's form after a dialog; nothing for none and for one that is gone. A fault is
-/// logged with the prefix.
-void Refresh(Utils& utils, const char16_t* faultPrefix, const std::shared_ptr<OwnerForm>& form) {
+/// logged with the prefix. The form is a copy that the dialog's call held: the host may have let go
+/// of its own meanwhile.
+void Refresh(Utils& utils, const char16_t* faultPrefix, std::shared_ptr<OwnerForm>&& form) {
     Guarded(OnFault::Quiet, faultPrefix, utils, [&] {
         if (form != nullptr && form->Exists()) form->Refresh();
     });
@@ -101,7 +102,7 @@ constexpr char16_t kCalendarFault[] = u"Error in Utils.ShowCalendar ";
 /// `makeRequest` copies the caller's texts.
 template <class MakeRequest>
 std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
-                            const std::shared_ptr<OwnerForm>& formToRefresh) {
+                            std::shared_ptr<OwnerForm> formToRefresh) {
     const auto self = utils.shared_from_this();
     const auto show = [&] {
         Services::Current();  // throws before the first InitUtils
@@ -110,7 +111,7 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         return calendar->ReturnValue().Str();
     };
     std::u16string day = Guarded(OnFault::Beep, kCalendarFault, utils, std::u16string(), show);
-    Refresh(utils, kCalendarFault, formToRefresh);
+    Refresh(utils, kCalendarFault, std::move(formToRefresh));
     return day;
 }
 
@@ -150,7 +151,7 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
             std::make_shared<ColorPalette>(TheSession().colorArray, anchor, Services::Current());
         Platform::Installed().Show(palette);
     });
-    Refresh(utils, kPaletteFault, formToRefresh);
+    Refresh(utils, kPaletteFault, std::move(formToRefresh));
     return Guarded(OnFault::Beep, kPaletteFault, utils, std::u16string(),
                    [&] { return palette == nullptr ? std::u16string() : palette->ReturnValue(); });
 }
@@ -195,8 +196,8 @@ void ShowModal(const std::shared_ptr<SelectGrid>& grid) {
 /// Shows a selection dialog as asked and returns what the members that open one return. The typed
 /// character is taken from the caller's variable.
 std::u16string OpenSelection(Utils& utils, SelectionRequest request,
-                             ByRef<std::u16string> TypedCharacter,
-                             std::shared_ptr<OwnerForm> FormToRefresh) {
+                             ByRef<std::u16string> typedCharacter,
+                             std::shared_ptr<OwnerForm> formToRefresh) {
     const auto self = utils.shared_from_this();
     if (request.allValues.empty()) {
         utils.ShowMsgBox(u"Incomplete data received for Lookup Selection Grid.", mbOkOnly,
@@ -205,15 +206,15 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request,
     }
     std::shared_ptr<SelectGrid> grid;
     const auto show = [&] {
-        request.typedCharacter = TypedCharacter.Get();
+        request.typedCharacter = typedCharacter.Get();
         grid = std::make_shared<SelectGrid>(std::move(request), Services::Current(),
                                             MessagesOf(utils));
-        TypedCharacter.Set({});
+        typedCharacter.Set({});
         grid->Prepare();
         ShowModal(grid);
     };
     Guarded(OnFault::Quiet, kSelectionFault, utils, show);
-    Refresh(utils, kSelectionFault, FormToRefresh);
+    Refresh(utils, kSelectionFault, std::move(formToRefresh));
     return grid == nullptr ? std::u16string() : grid->ReturnValue();
 }
 
