@@ -2,7 +2,7 @@
 #include "Rows.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/Session.h>
 
 #include <QFile>
 
@@ -63,7 +63,7 @@ void AppendWithQt(const QString& file) {
 
 Case Append(const fs::path& parent) {
     const auto folder = std::make_shared<Folder>(parent);
-    State().logFolder.clear();  // the folder of the process's first log file
+    TheSession().logFolder.clear();  // the folder of the process's first log file
     const auto utils = Utils::Create();
     utils->InitUtils(FromUtf8(folder->File("ours.log").native()), u"Benchmarks", u"", false, u"");
     const std::u16string message = FromUtf8(kMessage);

@@ -2,7 +2,7 @@
 #include "fuzz/FuzzText.h"
 #include "tests/FakeServices.h"
 
-#include <halvekutils/refdata/CodesCollection.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
 
 #include <set>
 
@@ -11,9 +11,9 @@ using namespace halvek;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider input(data, size);
     const std::u16string text = RestAsText(input, u"|ææAaÉé1");
-    const auto codes = CodesCollection::CreateEmpty();
+    const auto codes = CollectionBuilder::Codes();
     FakeServices services;
-    codes->AddRecords(text, services);
+    CollectionBuilder::Add(*codes, text, services);
 
     std::set<std::u16string> keys;
     for (const auto& code : *codes) {

@@ -1,18 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
-#include "tests/FakeServices.h"
 
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/prefs/OpenWindows.h>
+#include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Utils.h>
+#include <halvekutils/system/LocalMachine.h>
 
 #include <utility>
 
 using namespace halvek;
 
+namespace {
+
+/// Takes every line of the log and keeps none.
+class SilentMachine : public LocalMachine {
+  public:
+    bool AppendBelow(const std::filesystem::path&, std::string_view, std::uintmax_t) override {
+        return true;
+    }
+};
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider input(data, size);
-    FakeServices services;
-    const auto windows = OpenWindows::CreateEmpty(services);
+    static SilentMachine machine;
+    static const UseMachine use(machine);
+    const auto utils = Utils::Create();
+    const auto windows = utils->OpenWindows();
     std::vector<std::pair<std::u16string, std::u16string>> open = {{}};
     while (input.remaining_bytes() > 0) {
         const std::u16string type = FuzzText(input, 6);

@@ -2,7 +2,7 @@
 #include "fuzz/FuzzText.h"
 #include "tests/FakeServices.h"
 
-#include <halvekutils/refdata/SecurityItemsCollection.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
 
 #include <map>
 
@@ -30,12 +30,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::u16string asked = FuzzText(input, 16);
     const std::u16string text = RestAsText(input, u"æææPpÉé8fFGz*");
     FakeServices services;
-    const auto former = SecurityItemsCollection::CreateEmpty(services);
-    former->AddItems(u"***");
+    const auto former = CollectionBuilder::SecurityItems(services);
+    CollectionBuilder::Add(*former, u"***");
     Require(RightsOf(*former->Item(asked)) == kEveryRight, "full access grants every right");
 
-    const auto items = SecurityItemsCollection::CreateEmpty(services);
-    items->AddItems(text);
+    const auto items = CollectionBuilder::SecurityItems(services);
+    CollectionBuilder::Add(*items, text);
     if (text == u"***") return 0;
 
     std::map<std::u16string, std::size_t> granted;

@@ -5,6 +5,7 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/prefs/ReminderDefinition.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
 
 using namespace halvek;
@@ -19,7 +20,7 @@ class NoPrinters : public PrinterSource {
 void CheckPrinters(const std::u16string& text, const PrinterFilter& filter) {
     FakeServices services;
     NoPrinters none;
-    const auto printers = PrintersCollection::CreateEmpty();
+    const auto printers = CollectionBuilder::Printers();
     PrinterListBuilder(*printers, none, services).AddSerialPrinters(text);
     std::int32_t added = 0;
     std::int32_t passed = 0;

@@ -4,11 +4,11 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/TestMachine.h"
 
-#include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Services.h>
-#include <halvekutils/refdata/SecurityItemsCollection.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 
 #include <gtest/gtest.h>
@@ -36,9 +36,9 @@ class CleanState : public ::testing::Test {
 
   private:
     static void Reset() {
-        State() = ComponentState();
+        TheSession() = Session();
         Services::Install(nullptr);
-        SecurityItemsCollection::EndFullAccess();
+        CollectionBuilder::EndFullAccess();
     }
 
     std::optional<UseMachine> use_;

@@ -30,6 +30,11 @@ wrong=$(grep -rE '#include <halvekutils/' halvekutils --include='*.h' --include=
         !($2 in floor) || !(to in floor) || ($2 != to && floor[to] >= floor[$2])')
 [ -z "$wrong" ] || fail "$wrong"
 
+# Inside core/ as well, whose files stand one upon another
+circle=$(grep -oE '#include <halvekutils/core/[A-Za-z]+' halvekutils/core/*.h halvekutils/core/*.cpp |
+    sed -E 's,^halvekutils/core/([A-Za-z]+)\..*/,\1 ,' | tsort 2>&1 >/dev/null || true)
+[ -z "$circle" ] || fail "core/ includes in a circle: $circle"
+
 # Foreign headers: names without a dot are the standard library's or Qt's; names with .h are the
 # system's and the devices', and in one place the processor's
 foreign() {
@@ -42,7 +47,7 @@ for found in "$(foreign 'Q[A-Za-z]' 'qt')" "$(foreign '[a-z0-9_/]+\.h>' 'system|
 done
 devices=$(grep -rnE '#include <(cups/|chm_)' halvekutils | grep -v '^halvekutils/devices/' || true)
 [ -z "$devices" ] || fail "$devices"
-demo=$(grep -rnE '#include <halvekutils/(qt/forms|core/(Component|Error|UtilsPrivate))' demo || true)
+demo=$(grep -rnE '#include <halvekutils/(qt/forms|core/(DataBins|Session|UtilsPrivate))' demo || true)
 [ -z "$demo" ] || fail "$demo"
 
 needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |

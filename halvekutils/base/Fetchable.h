@@ -1,29 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
-#include <cstdint>
+#include <concepts>
+#include <exception>
+#include <memory>
 
 namespace halvek {
 
-/// What a keyed collection offers to a test for a key: its size and a real fetch.
-class HALVEK_EXPORT Fetchable {
-  public:
-    virtual ~Fetchable();
-
-    /// How many items the collection holds.
-    virtual std::int32_t Count() const = 0;
-
-    /// Fetches the item under a key as Item(key) does, with all that this brings about; throws what
-    /// Item(key) throws.
-    virtual void Fetch(TextIn key) = 0;
-
-  protected:
-    Fetchable() = default;
-    Fetchable(const Fetchable&) = default;
-    Fetchable& operator=(const Fetchable&) = default;
+/// A keyed collection, the library's or a host's own: it knows how many items it holds, and fetches
+/// one by a key that is text.
+template <class Collection>
+concept Fetchable = requires(Collection& coll, TextIn key) {
+    { coll.Count() } -> std::integral;
+    coll.Item(key);
 };
+
+/// True when the collection is given, is not empty and its Item fetches something under the key,
+/// with all that a fetch brings about. An Item that throws has found nothing.
+template <Fetchable Collection>
+bool ExistsInColl(const std::shared_ptr<Collection>& coll, TextIn key) {
+    try {
+        if (coll == nullptr || coll->Count() < 1) return false;
+        static_cast<void>(coll->Item(key));
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
 
 }  // namespace halvek

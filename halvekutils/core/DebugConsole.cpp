@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/DateText.h>
-#include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/DebugConsole.h>
-#include <halvekutils/core/ErrorLog.h>
 #include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/platform/Guard.h>
 
 namespace halvek {
@@ -18,44 +17,53 @@ constexpr std::u16string_view kStopped = u"<<<<<LOG STOPPED>>>>>";
 constexpr std::u16string_view kStarted = u"<<<<<LOG STARTED>>>>>";
 constexpr char16_t kFault[] = u"Can not display Debug window";
 
-auto LogOf(ComponentState& state) {
-    return [&state](TextIn line) { WriteErrorLog(state, line); };
-}
-
 std::filesystem::path FileOf(Machine& machine) {
     return machine.OwnFolder() / "DEBUG.log";
 }
 
 }  // namespace
 
+// The console of the process
+
+void Session::ShowInDebug(TextIn text) noexcept {
+    Guarded(OnFault::Quiet, kFault, *this, [&] {
+        DebugConsole::Current()->ShowInDebug(text);  // making the console can fail as well
+    });
+}
+
+void Session::ClearDebug() noexcept {
+    Guarded(OnFault::Quiet, kFault, *this, [&] { DebugConsole::Current()->ClearDebug(); });
+}
+
 std::shared_ptr<DebugConsole> DebugConsole::Current() {
-    std::shared_ptr<DebugConsole>& console = State().debugConsole;
-    if (console == nullptr) console = std::make_shared<DebugConsole>(State());
+    Session& session = TheSession();
+    std::shared_ptr<DebugConsole>& console = session.debugConsole;
+    if (console == nullptr) console = std::make_shared<DebugConsole>(session);
     return console;
 }
 
-DebugConsole::DebugConsole(ComponentState& state) : state_(state) {}
+DebugConsole::DebugConsole(Session& session) : session_(session) {}
 DebugConsole::~DebugConsole() = default;
 
 bool DebugConsole::MayShow() const {
     const Desktop* const desktop = Desktop::Installed();
-    return state_.debugMode && desktop != nullptr && desktop->AllowsModelessWindows();
+    return session_.debugMode && desktop != nullptr && desktop->AllowsModelessWindows();
 }
 
 void DebugConsole::ShowInDebug(TextIn strText) noexcept {
-    Guarded(OnFault::Quiet, kFault, LogOf(state_), [&] {
+    Guarded(OnFault::Quiet, kFault, session_, [&] {
         if (!MayShow()) return;
         const std::u16string line(strText);
         Platform::Installed().Show(shared_from_this());
         if (loggingStopped_) return;
         if (text_.size() > kMostCharacters) Replace(kCleared);
-        if (state_.debugMode) AddLine(line);
+        if (session_.debugMode) AddLine(line);
         if (allGoesToFile_) SendToFile(line);
     });
 }
 
 void DebugConsole::ClearDebug() noexcept {
-    Guarded(OnFault::Quiet, kFault, LogOf(state_), [&] {
+    Guarded(OnFault::Quiet, kFault, session_, [&] {
         if (!MayShow()) return;
         Platform::Installed().Show(shared_from_this());
         Clear();
@@ -88,10 +96,10 @@ void DebugConsole::Clear() {
 
 void DebugConsole::SaveToFile() noexcept {
     const auto save = [&] {
-        const std::u16string stamp = DateTimeText(state_.machine->Now());
+        const std::u16string stamp = DateTimeText(session_.machine->Now());
         std::u16string saved(stamp);
         saved.append(kLineBreak).append(kLineBreak).append(text_).append(kLineBreak);
-        state_.machine->Append(FileOf(*state_.machine), ToCodePage(saved));
+        session_.machine->Append(FileOf(*session_.machine), ToCodePage(saved));
         return true;
     };
     Quietly(false, save);
@@ -99,7 +107,7 @@ void DebugConsole::SaveToFile() noexcept {
 
 void DebugConsole::KillLogFile() noexcept {
     Quietly(false, [&] {
-        state_.machine->Delete(FileOf(*state_.machine));
+        session_.machine->Delete(FileOf(*session_.machine));
         return true;
     });
 }
@@ -120,7 +128,7 @@ void DebugConsole::Replace(std::u16string_view text) {
 void DebugConsole::SendToFile(TextIn line) {
     if (sendingToFile_) return;
     sendingToFile_ = true;
-    WriteErrorLog(state_, line);
+    session_.LogError(line);
     sendingToFile_ = false;
 }
 

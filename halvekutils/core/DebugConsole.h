@@ -11,18 +11,18 @@
 
 namespace halvek {
 
-struct ComponentState;
+struct Session;
 
 /// The debug console without its window: its text, its switches and its file.
 ///
 /// There is one in a process, made for the first line. A window shows it and forwards its events.
 class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugConsole> {
   public:
-    /// The console of the process.
+    /// The console of the process. Throws when there is no memory for the first.
     static std::shared_ptr<DebugConsole> Current();
 
-    /// @param state  the session's values; it outlives the console
-    explicit DebugConsole(ComponentState& state);
+    /// @param session  whose debug mode, log and machine are used; it outlives the console
+    explicit DebugConsole(Session& session);
     ~DebugConsole();
     DebugConsole(const DebugConsole&) = delete;
     DebugConsole& operator=(const DebugConsole&) = delete;
@@ -78,7 +78,7 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     void SendToFile(TextIn line);
     void NotifyChanged() const;
 
-    ComponentState& state_;
+    Session& session_;
     std::u16string text_;
     std::uint64_t replacements_ = 0;
     bool loggingStopped_ = false;

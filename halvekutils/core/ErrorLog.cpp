@@ -4,10 +4,9 @@
 #include <halvekutils/base/DateText.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/ComponentState.h>
-#include <halvekutils/core/ErrorLog.h>
-#include <halvekutils/core/NativePath.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/NativePath.h>
 
 #include <cstdint>
 #include <cstdio>
@@ -26,36 +25,36 @@ constexpr std::uintmax_t kRotationLength = 1'048'576;
 constexpr int kLastVisit = 2000;
 constexpr char16_t kSeparators[] = u"\\/";
 
-void SettlePaths(ComponentState& state) {
-    if (state.errFileName.empty()) state.errFileName = u"Error.Log";
-    const std::size_t separator = state.errFileName.find_last_of(kSeparators);
+void SettlePaths(Session& session) {
+    if (session.errFileName.empty()) session.errFileName = u"Error.Log";
+    const std::size_t separator = session.errFileName.find_last_of(kSeparators);
     if (separator == std::u16string::npos) {
-        if (state.logFolder.empty()) {
-            state.logFolder = FromUtf8(state.machine->OwnFolder().native());
+        if (session.logFolder.empty()) {
+            session.logFolder = FromUtf8(session.machine->OwnFolder().native());
         }
-        state.errFileName = state.logFolder + u'/' + state.errFileName;
-    } else if (state.logFolder.empty()) {
-        state.logFolder = state.errFileName.substr(0, separator);
+        session.errFileName = session.logFolder + u'/' + session.errFileName;
+    } else if (session.logFolder.empty()) {
+        session.logFolder = session.errFileName.substr(0, separator);
     }
 }
 
 /// The log file; its path is made anew only when the name has changed.
-const fs::path& LogPath(ComponentState& state) {
-    SettlePaths(state);
-    if (state.logPathName != state.errFileName) {
-        state.logPath = NativePath(state.errFileName);
-        state.logPathName = state.errFileName;
+const fs::path& LogPath(Session& session) {
+    SettlePaths(session);
+    if (session.logPathName != session.errFileName) {
+        session.logPath = NativePath(session.errFileName);
+        session.logPathName = session.errFileName;
     }
-    return state.logPath;
+    return session.logPath;
 }
 
-fs::path ArchivePath(const ComponentState& state) {
-    const DateParts date = PartsOf(state.machine->Now());
-    const DateParts time = PartsOf(state.machine->Now());
+fs::path ArchivePath(const Session& session) {
+    const DateParts date = PartsOf(session.machine->Now());
+    const DateParts time = PartsOf(session.machine->Now());
     char name[64];
     std::snprintf(name, sizeof name, "/Error_%d_%u_%u_%d_%d_%d.log", date.year, date.month,
                   date.day, time.hour, time.minute, time.second);
-    return NativePath(state.logFolder).concat(name);
+    return NativePath(session.logFolder).concat(name);
 }
 
 bool IsArchiveName(const fs::path& file) {
@@ -86,14 +85,14 @@ void DeleteOldErrorLogs(Machine& machine, const fs::path& folder, const fs::path
     }
 }
 
-void Rotate(const ComponentState& state, const fs::path& file) {
-    const fs::path folder = NativePath(state.logFolder);
-    DeleteOldErrorLogs(*state.machine, folder.empty() ? "/" : folder, file);
-    state.machine->Rename(file, ArchivePath(state));
+void Rotate(const Session& session, const fs::path& file) {
+    const fs::path folder = NativePath(session.logFolder);
+    DeleteOldErrorLogs(*session.machine, folder.empty() ? "/" : folder, file);
+    session.machine->Rename(file, ArchivePath(session));
 }
 
-void PrepareFile(const ComponentState& state, const fs::path& file) {
-    Machine& machine = *state.machine;
+void PrepareFile(const Session& session, const fs::path& file) {
+    Machine& machine = *session.machine;
     const Machine::FileState found = machine.StateOf(file);
     if (!found.exists) return;
     if (!found.writable) machine.MakeWritable(file);
@@ -101,7 +100,7 @@ void PrepareFile(const ComponentState& state, const fs::path& file) {
     // Of several processes that find the log full one rotates it; the others must not take its
     // archive for an old one, nor the new log for the full one.
     machine.Alone(file, [&] {
-        if (machine.StateOf(file).length >= kRotationLength) Rotate(state, file);
+        if (machine.StateOf(file).length >= kRotationLength) Rotate(session, file);
     });
 }
 
@@ -118,33 +117,33 @@ std::string Stamp(DateTime now) {
            (parts.hour < 12 ? " AM" : " PM");
 }
 
-std::string LogLine(const ComponentState& state, TextIn message) {
-    return Stamp(state.machine->Now()) + '\t' + ToCodePage(state.loginUserName) + '\t' +
+std::string LogLine(const Session& session, TextIn message) {
+    return Stamp(session.machine->Now()) + '\t' + ToCodePage(session.loginUserName) + '\t' +
            ToCodePage(message) + "\r\n";
 }
 
-void ReportFailure(const ComponentState& state, const std::exception& caught) {
+void ReportFailure(const Session& session, const std::exception& caught) {
     Beep();
     Desktop* const desktop = Desktop::Installed();
-    if (!state.debugMode || desktop == nullptr) return;
+    if (!session.debugMode || desktop == nullptr) return;
     desktop->ShowStockMessage(
         u"ERROR in LocalRef.LogError\r\n" + AsRuntimeError(caught).Description(),
-        StockIcon::Critical, state.appName);
+        StockIcon::Critical, session.appName);
 }
 
 }  // namespace
 
-void WriteErrorLog(ComponentState& state, TextIn message) noexcept {
+void Session::LogError(TextIn message) noexcept {
     try {
         try {
-            if (state.loginUserName.empty()) state.loginUserName = state.machine->LoginName();
-            const fs::path& file = LogPath(state);
-            const std::string line = LogLine(state, message);
-            if (state.machine->AppendBelow(file, line, kRotationLength)) return;
-            PrepareFile(state, file);
-            state.machine->Append(file, line);
+            if (loginUserName.empty()) loginUserName = machine->LoginName();
+            const fs::path& file = LogPath(*this);
+            const std::string line = LogLine(*this, message);
+            if (machine->AppendBelow(file, line, kRotationLength)) return;
+            PrepareFile(*this, file);
+            machine->Append(file, line);
         } catch (const std::exception& caught) {
-            ReportFailure(state, caught);
+            ReportFailure(*this, caught);
         }
     } catch (const std::exception&) {
         // The report failed as well; the line is lost, the host goes on.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
-#include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/dialogs/Calculator.h>
 #include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/dialogs/ColorPalette.h>
@@ -12,6 +11,8 @@
 #include <memory>
 
 namespace halvek {
+
+class DebugConsole;
 
 /// How a message box stands on the screen.
 enum class Modality {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Session.h>
 
 #include <utility>
 
@@ -34,9 +34,9 @@ void Platform::Uninstall() noexcept {
     Desktop::Install(before_);
 }
 
-UseMachine::UseMachine(Machine& machine) : before_(std::exchange(State().machine, &machine)) {}
+UseMachine::UseMachine(Machine& machine) : before_(std::exchange(TheSession().machine, &machine)) {}
 UseMachine::~UseMachine() {
-    State().machine = before_;
+    TheSession().machine = before_;
 }
 
 }  // namespace halvek

@@ -18,6 +18,7 @@
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 #include <halvekutils/text/Placement.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -308,7 +309,15 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     bool IsAlpha(TextIn strText) const;
 
     /// True when the collection is given, is not empty and an item under the key can be fetched.
-    bool ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key) const;
+    ///
+    /// Any collection with a Count() and an Item(key) that throws for a missing key will do, the
+    /// host's own too. A key missing from the security collection is added by the fetch.
+    template <Fetchable Collection>
+    bool ExistsInColl(const std::shared_ptr<Collection>& coll, TextIn key) const {
+        return halvek::ExistsInColl(coll, key);
+    }
+    /// False: no collection is given.
+    bool ExistsInColl(std::nullptr_t, TextIn /*key*/) const { return false; }
 
     /// Replaces the characters that no stored text may hold, see IsUnwantedChar.
     ///

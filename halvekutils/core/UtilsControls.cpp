@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/core/ComponentState.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/text/ControlHelpers.h>
-
-#include <chrono>
 
 namespace halvek {
 
@@ -27,15 +26,15 @@ const SystemPrefs& Existing(const std::shared_ptr<SystemPrefs>& prefs) {
 // Headings
 
 void Utils::UnhighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool UseBlack) {
-    Guarded(OnFault::Beep, u"Error in Utils.UnhighlightHeading ", LogOf(*this), [&] {
-        halvek::UnhighlightHeading(EditCtr, UseBlack ? kBlack : State().formTextColor);
+    Guarded(OnFault::Beep, u"Error in Utils.UnhighlightHeading ", *this, [&] {
+        halvek::UnhighlightHeading(EditCtr, UseBlack ? kBlack : TheSession().formTextColor);
     });
 }
 
 void Utils::HighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool,
                              std::int16_t iBorderStyle) {
-    Guarded(OnFault::Beep, u"Error in Utils.HighlightHeading ", LogOf(*this), [&] {
-        const ComponentState& state = State();
+    Guarded(OnFault::Beep, u"Error in Utils.HighlightHeading ", *this, [&] {
+        const Session& state = TheSession();
         halvek::HighlightHeading(EditCtr, iBorderStyle, state.highlightBackColor,
                                  state.highlightForeColor);
     });
@@ -64,18 +63,12 @@ std::u16string Utils::ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const {
     return {};
 }
 
-// Windows and time
+// Windows
 
 void Utils::KillCloseButton(std::int32_t hwnd) {
-    Guarded(OnFault::Beep, u"Error in Utils.KillCloseButton ", LogOf(*this), [&] {
+    Guarded(OnFault::Beep, u"Error in Utils.KillCloseButton ", *this, [&] {
         if (Desktop* const desktop = Desktop::Installed()) desktop->RemoveCloseButton(hwnd);
     });
-}
-
-void Utils::Sleep(std::int32_t MilliSeconds) {
-    if (MilliSeconds <= 0) return;
-    Guarded(OnFault::Beep, u"Error in Utils.Sleep ", LogOf(*this),
-            [&] { State().machine->Sleep(std::chrono::milliseconds(MilliSeconds)); });
 }
 
 // Combo boxes
@@ -102,7 +95,7 @@ std::int32_t Utils::FindInCombo(const std::shared_ptr<ComboBox>& cboComboBox,
 }
 
 bool Utils::FillCombo(TextIn Items, const std::shared_ptr<ComboBox>& cboComboBox, bool bMaxLength) {
-    return Guarded(OnFault::Beep, u"Error in Utils.FillCombo ", LogOf(*this), false, [&] {
+    return Guarded(OnFault::Beep, u"Error in Utils.FillCombo ", *this, false, [&] {
         halvek::FillCombo(cboComboBox, Items, bMaxLength);
         return true;
     });
@@ -112,12 +105,12 @@ bool Utils::FillCombo(TextIn Items, const std::shared_ptr<ComboBox>& cboComboBox
 
 bool Utils::SetFontProperties(const std::shared_ptr<ControlFont>& ob, TextIn fontName,
                               float fontSize) {
-    return Guarded(OnFault::Beep, u"Error in Utils.SetFontProperties ", LogOf(*this), false,
+    return Guarded(OnFault::Beep, u"Error in Utils.SetFontProperties ", *this, false,
                    [&] { return halvek::SetFontProperties(ob, fontName, fontSize); });
 }
 
 void Utils::GridSetFontObject(const std::shared_ptr<GridFont>& GridFontObject, TextIn FontCode) {
-    Guarded(OnFault::Beep, u"Error in Utils.GridSetFontObject ", LogOf(*this),
+    Guarded(OnFault::Beep, u"Error in Utils.GridSetFontObject ", *this,
             [&] { halvek::GridSetFontObject(GridFontObject, FontCode); });
 }
 

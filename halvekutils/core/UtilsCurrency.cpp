@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/Platform.h>
-#include <halvekutils/core/UtilsPrivate.h>
+#include <halvekutils/core/Session.h>
+#include <halvekutils/core/Utils.h>
 #include <halvekutils/currency/AmountRange.h>
 #include <halvekutils/currency/CurrencyHandlers.h>
 #include <halvekutils/currency/CurrencyKeys.h>
@@ -20,7 +20,7 @@ void Handle(Utils& utils, const char16_t* member, const std::shared_ptr<TextCont
     const auto prefix = [member] {
         return std::u16string(u"Error in HalvekUtils/Utils/") + member + u"  ";
     };
-    Guarded(OnFault::Quiet, prefix, LogOf(utils), [&] {
+    Guarded(OnFault::Quiet, prefix, utils, [&] {
         if (control == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"control");
         body(*control);
     });
@@ -79,7 +79,8 @@ void Utils::OnCurrencyCtrValidateRange(const std::shared_ptr<TextControl>& ctr, 
     Handle(*this, u"OnCurrencyCtrValidateRange", ctr, [&](TextControl& control) {
         const auto complaint = RangeComplaint(strMin, strMax, lblMin, lblMax);
         if (!complaint) return;
-        Platform::Installed().ShowStockMessage(*complaint, StockIcon::Critical, State().appName);
+        Platform::Installed().ShowStockMessage(*complaint, StockIcon::Critical,
+                                               TheSession().appName);
         Cancel = true;
         control.Text(u"");
     });

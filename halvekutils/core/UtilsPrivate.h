@@ -21,17 +21,4 @@ struct Utils::Private {
     std::shared_ptr<SystemPrefs> systemPrefs;
 };
 
-/// The anchor of a pop-up beside a target. Nothing is given, which centres the pop-up, without a
-/// target, or when it is gone, which is logged.
-PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTarget>& target);
-
-/// Repaints a host's form after a dialog; nothing for none and for one that is gone. A fault is
-/// logged with the prefix.
-void Refresh(Utils& utils, const char16_t* faultPrefix, const std::shared_ptr<OwnerForm>& form);
-
-/// The log of an object, for the guard around its members.
-inline auto LogOf(Utils& utils) {
-    return [&utils](TextIn line) { utils.LogError(line); };
-}
-
 }  // namespace halvek

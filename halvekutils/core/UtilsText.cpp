@@ -1,9 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/core/UtilsPrivate.h>
+#include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Session.h>
+#include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/text/CharacterFilter.h>
 #include <halvekutils/text/DelimitedText.h>
+#include <halvekutils/text/ServerDates.h>
+
+#include <optional>
 
 namespace halvek {
+
+namespace {
+
+constexpr char16_t kIncorrectTime[] = u"Error: time is incorrect";
+
+}  // namespace
+
+// Delimited text
 
 std::u16string Utils::SplitStr(TextIn strSplit, TextIn delim, std::int16_t intNum) const {
     return halvek::SplitStr(strSplit, delim, intNum);
@@ -25,12 +39,58 @@ bool Utils::ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength
 void Utils::SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                            std::u16string& strRight) {
     const auto prefix = [&] { return u"Error in SplitLeftRight :" + strSplit.Str() + u", "; };
-    Guarded(OnFault::Beep, prefix, LogOf(*this),
+    Guarded(OnFault::Beep, prefix, *this,
             [&] { halvek::SplitLeftRight(strSplit, Delimiter, strLeft, strRight); });
 }
 
-bool Utils::ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key) const {
-    return halvek::ExistsInColl(coll, key);
+// Characters
+
+bool Utils::IsAlpha(TextIn strText) const {
+    return halvek::IsAlpha(strText);
+}
+
+bool Utils::RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith,
+                                bool bShowMessage, bool bDoNotRemoveUnwantedChars,
+                                TextIn strExceptions) {
+    const FilterReport report = halvek::RemoveUnwantedChars(
+        strIN, strOUT, strReplaceWith, bDoNotRemoveUnwantedChars, strExceptions);
+    if (bShowMessage && report.found) {
+        ShowMsgBox(report.message, mbOkOnly, mbExclamation, AppName());
+    }
+    return report.found;
+}
+
+bool Utils::IsUnwantedChar(std::int32_t locChar) const {
+    return halvek::IsUnwantedChar(locChar);
+}
+bool Utils::IsDateChar(std::int32_t locChar) const {
+    return halvek::IsDateChar(locChar);
+}
+
+std::u16string Utils::RemoveUnprintableChars(TextIn Str) const {
+    return halvek::RemoveUnprintableChars(Str);
+}
+
+// Dates of the server
+
+std::u16string Utils::ConvertNumberToDate(TextIn strDate, bool bConvert) {
+    return Guarded(
+        OnFault::Quiet, u"Error in Utils.ConvertNumberToDate ", *this, std::u16string(),
+        [&] { return halvek::ConvertNumberToDate(strDate, bConvert, *TheSession().machine); });
+}
+
+std::u16string Utils::ConvertHDate(TextIn HDate) {
+    std::u16string text;
+    Guarded(OnFault::Quiet, u"Error in Utils.ConvertHDate ", *this, [&] {
+        if (HDate.empty()) return;
+        const std::optional<DateTime> when = ReadServerDate(HDate, *TheSession().machine);
+        text = when ? DateTimeText(*when) : kIncorrectTime;
+        if (when || !DBG()) return;
+        const auto self = shared_from_this();
+        Platform::Installed().ShowStockMessage(u"Hey this time is not correct.....",
+                                               StockIcon::None, AppName());
+    });
+    return text;
 }
 
 }  // namespace halvek

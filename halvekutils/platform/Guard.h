@@ -16,15 +16,17 @@ enum class OnFault {
     Beep,   ///< it is beeped and logged
 };
 
-/// Runs `body`; when it throws, beeps if asked to and passes `prefix` followed by the fault's
-/// description to `log`.
+/// Runs `body`; when it throws, beeps if asked to and logs `prefix` followed by the fault's
+/// description.
 ///
-///     Guarded(OnFault::Beep, u"Error in Utils.AddBin ", log, [&] { ... });
+///     Guarded(OnFault::Beep, u"Error in Utils.AddBin ", services, [&] { ... });
 ///
+/// `log` is the session's Services, or anything else that has LogError, or a callable for a session
+/// that may not have begun.
 /// `prefix` is a text, or a callable that builds one once a fault has happened. A failure while the
 /// fault is reported, out of memory above all, is dropped: there is nowhere left to tell it.
 template <class Prefix, class Log, class Body>
-void Guarded(OnFault onFault, const Prefix& prefix, const Log& log, const Body& body) {
+void Guarded(OnFault onFault, const Prefix& prefix, Log&& log, const Body& body) {
     try {
         body();
     } catch (const std::exception& caught) {
@@ -36,7 +38,12 @@ void Guarded(OnFault onFault, const Prefix& prefix, const Log& log, const Body& 
             } else {
                 line = prefix;
             }
-            log(line + AsRuntimeError(caught).Description());
+            line += AsRuntimeError(caught).Description();
+            if constexpr (requires { log.LogError(line); }) {
+                log.LogError(line);
+            } else {
+                log(line);
+            }
         } catch (const std::exception&) {
             return;
         }
@@ -45,8 +52,7 @@ void Guarded(OnFault onFault, const Prefix& prefix, const Log& log, const Body& 
 
 /// The same for a body with a result; after a fault the result is `neutral`.
 template <class Prefix, class Log, class Result, class Body>
-Result Guarded(OnFault onFault, const Prefix& prefix, const Log& log, Result neutral,
-               const Body& body) {
+Result Guarded(OnFault onFault, const Prefix& prefix, Log&& log, Result neutral, const Body& body) {
     Guarded(onFault, prefix, log, [&] { neutral = body(); });
     return neutral;
 }

@@ -2,6 +2,7 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/Services.h>
 #include <halvekutils/prefs/OpenWindows.h>
 
 #include <utility>
@@ -18,10 +19,6 @@ constexpr std::int32_t kRows = 2;
 
 OpenWindows::OpenWindows(Services& services) : services_(services), windows_(kRows, 1) {}
 OpenWindows::~OpenWindows() = default;
-
-std::shared_ptr<OpenWindows> OpenWindows::CreateEmpty(Services& services) {
-    return std::shared_ptr<OpenWindows>(new OpenWindows(services));
-}
 
 void OpenWindows::ClearAll() {
     windows_.ResizeColumns(1);
@@ -51,8 +48,7 @@ std::int32_t OpenWindows::Count() const {
 }
 
 bool OpenWindows::RemoveItem(std::int32_t Index) {
-    const auto log = [&](TextIn line) { services_.LogError(line); };
-    return Guarded(OnFault::Quiet, u"OpenWindows: RemoveItem ", log, false, [&] {
+    return Guarded(OnFault::Quiet, u"OpenWindows: RemoveItem ", services_, false, [&] {
         const std::int32_t last = Count();
         if (last == 0) return false;
         if (Index < 1 || Index > last) throw RuntimeError(Fault::SubscriptOutOfRange);
@@ -67,8 +63,7 @@ bool OpenWindows::RemoveItem(std::int32_t Index) {
 }
 
 bool OpenWindows::AddItem(TextIn WinType, std::int32_t WinHandle) {
-    const auto log = [&](TextIn line) { services_.LogError(line); };
-    return Guarded(OnFault::Quiet, u"OpenWindows.AddItem ", log, false, [&] {
+    return Guarded(OnFault::Quiet, u"OpenWindows.AddItem ", services_, false, [&] {
         std::u16string type = WinType.Str();
         std::u16string handle = IntegerText(WinHandle);
         windows_.ResizeColumns(Count() + 2);

@@ -5,12 +5,13 @@
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/StringTable.h>
 #include <halvekutils/base/TextIn.h>
-#include <halvekutils/platform/Services.h>
 
 #include <cstdint>
 #include <memory>
 
 namespace halvek {
+
+class Services;
 
 /// The host's open windows, each by a type of the host's choice and its handle.
 ///
@@ -21,9 +22,6 @@ namespace halvek {
 ///     windows->GetItem(1)[0];  // Patient
 class HALVEK_EXPORT OpenWindows {
   public:
-    /// A registry without windows.
-    /// @param services  the session whose log is used; outlives the registry
-    static std::shared_ptr<OpenWindows> CreateEmpty(Services& services);
     ~OpenWindows();
 
     /// Forgets all windows.
@@ -52,6 +50,9 @@ class HALVEK_EXPORT OpenWindows {
     bool AddItem(TextIn WinType, std::int32_t WinHandle);
 
   private:
+    friend class Utils;
+
+    /// A registry without windows; `services`, whose log is used, outlives it.
     explicit OpenWindows(Services& services);
 
     Services& services_;

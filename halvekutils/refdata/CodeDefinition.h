@@ -2,7 +2,6 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstddef>
@@ -17,14 +16,6 @@ namespace halvek {
 class HALVEK_EXPORT CodeDefinition {
   public:
     ~CodeDefinition();
-
-    /// Sets the fields from one record of the codes data, without its "|".
-    ///
-    /// Fields are parted by the character of code 230: description, key, has-lookup flag, menu
-    /// flag, report name, sort list, then optionally the sort list's second half, the
-    /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
-    /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
-    void Init(TextIn codeData);
 
     /// True for a table of the system's own.
     bool IsSystemCode() const { return isSystemCode_; }
@@ -45,7 +36,6 @@ class HALVEK_EXPORT CodeDefinition {
 
   private:
     friend class CodesCollection;
-    friend class ObjectStore<CodeDefinition>;
 
     /// Where a field stands in the record.
     struct Field {
@@ -54,6 +44,14 @@ class HALVEK_EXPORT CodeDefinition {
     };
 
     CodeDefinition();
+
+    /// Sets the fields from one record of the codes data, without its "|".
+    ///
+    /// Fields are separated by the character of code 230: description, key, has-lookup flag, menu
+    /// flag, report name, sort list, then optionally the sort list's second half, the
+    /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
+    /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
+    void Init(TextIn codeData);
 
     std::u16string_view ViewOf(const Field& field) const {
         return std::u16string_view(record_).substr(field.start, field.length);

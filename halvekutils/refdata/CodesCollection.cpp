@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/CodesCollection.h>
 
 #include <string>
@@ -30,10 +31,6 @@ std::shared_ptr<CodeDefinition> CodesCollection::Item(TextIn key) const {
 
 std::int32_t CodesCollection::Count() const {
     return definitions_.Count();
-}
-
-void CodesCollection::Fetch(TextIn key) {
-    definitions_.Item(key);
 }
 
 Enumerator<const CodesCollection> CodesCollection::begin() const {

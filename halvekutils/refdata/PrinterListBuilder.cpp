@@ -4,6 +4,7 @@
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
 
 #include <algorithm>
@@ -66,10 +67,6 @@ bool HasWord(std::u16string_view specialMode, std::u16string_view lowerCaseWord)
                        lowerCaseWord.end(), same) != specialMode.end();
 }
 
-auto LogOf(Services& services) {
-    return [&services](TextIn line) { services.LogError(line); };
-}
-
 }  // namespace
 
 PrinterListBuilder::PrinterListBuilder(PrintersCollection& printers, PrinterSource& source,
@@ -116,7 +113,7 @@ bool PrinterListBuilder::AddConnections() {
         }
         return true;
     };
-    return Guarded(OnFault::Quiet, u"AddWindowsPrintersWSH ", LogOf(services_), false, add);
+    return Guarded(OnFault::Quiet, u"AddWindowsPrintersWSH ", services_, false, add);
 }
 
 void PrinterListBuilder::AddInstalledPrinters() {
@@ -134,11 +131,11 @@ void PrinterListBuilder::AddInstalledPrinters() {
             AddNext(std::move(printer));
         }
     };
-    Guarded(OnFault::Quiet, u"AddWindowsPrintersOldWay ", LogOf(services_), add);
+    Guarded(OnFault::Quiet, u"AddWindowsPrintersOldWay ", services_, add);
 }
 
 void PrinterListBuilder::AddNext(PrinterFields fields) {
-    printers_.Add(std::move(fields), ++counter_);
+    CollectionBuilder::Add(printers_, std::move(fields), ++counter_);
 }
 
 }  // namespace halvek

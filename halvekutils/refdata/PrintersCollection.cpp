@@ -37,10 +37,6 @@ std::int32_t PrintersCollection::Count() const {
     return printers_.Count();
 }
 
-void PrintersCollection::Fetch(TextIn key) {
-    printers_.Item(key);
-}
-
 Enumerator<const PrintersCollection> PrintersCollection::begin() const {
     return Enumerator<const PrintersCollection>(shared_from_this());
 }

@@ -3,7 +3,6 @@
 
 #include <halvekutils/base/Enumerator.h>
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/refdata/PrinterDefinition.h>
@@ -30,12 +29,9 @@ struct PrinterFilter {
 ///
 ///     const auto printers = utils->GetPrintersCollectionFiltered();  // held for the whole loop
 ///     for (const auto& printer : *printers) list.add(printer->PrinterDescription());
-class HALVEK_EXPORT PrintersCollection : public Fetchable,
-                                         public std::enable_shared_from_this<PrintersCollection> {
+class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<PrintersCollection> {
   public:
-    /// A collection without printers.
-    static std::shared_ptr<PrintersCollection> CreateEmpty();
-    ~PrintersCollection() override;
+    ~PrintersCollection();
 
     /// The printer at a position from 1. Throws SubscriptOutOfRange.
     std::shared_ptr<PrinterDefinition> Item(std::int32_t position) const;
@@ -44,23 +40,23 @@ class HALVEK_EXPORT PrintersCollection : public Fetchable,
     std::shared_ptr<PrinterDefinition> Item(TextIn key) const;
 
     /// How many printers there are.
-    std::int32_t Count() const override;
-    void Fetch(TextIn key) override;
+    std::int32_t Count() const;
 
     /// The first printer, for loops.
     Enumerator<const PrintersCollection> begin() const;
     /// Behind the last printer.
     std::default_sentinel_t end() const { return {}; }
 
-    /// Adds a printer under the key of a number: 7 stands for "7KEY". Throws DuplicateKey.
-    void Add(PrinterFields fields, std::int32_t number);
-
     /// Copies of the printers that pass the filter, in their order. The spool, the entry with the
     /// identifier "S", is no serial printer to the filter, even where its type says so.
     std::shared_ptr<PrintersCollection> Filtered(const PrinterFilter& filter) const;
 
   private:
+    friend struct CollectionBuilder;
+
     PrintersCollection();
+    static std::shared_ptr<PrintersCollection> CreateEmpty();
+    void Add(PrinterFields fields, std::int32_t number);
 
     KeyedCollection<PrinterDefinition> printers_;
 };

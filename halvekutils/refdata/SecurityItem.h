@@ -2,7 +2,6 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
@@ -38,7 +37,6 @@ class HALVEK_EXPORT SecurityItem {
 
   private:
     friend class SecurityItemsCollection;
-    friend class ObjectStore<SecurityItem>;
 
     enum Right : std::uint8_t { kDelete = 1, kModify = 2, kAdd = 4, kRead = 8 };
 

@@ -4,6 +4,7 @@
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 
 #include <algorithm>
@@ -61,10 +62,6 @@ std::int32_t SecurityItemsCollection::Count() const {
     return items_.Count();
 }
 
-void SecurityItemsCollection::Fetch(TextIn key) {
-    Item(key);
-}
-
 Enumerator<const KeyedCollection<SecurityItem>> SecurityItemsCollection::begin() const {
     // Holds this collection, but steps through its store: Item would grant rights.
     return Enumerator(
@@ -92,8 +89,7 @@ void SecurityItemsCollection::Add(TextIn key, char16_t rightsDigit) {
     std::shared_ptr<SecurityItem> item = store_.Make();
     item->Init(key, rightsDigit);
     const auto prefix = [&] { return u"AddSecurity Item error: " + key.Str() + u' '; };
-    const auto log = [&](TextIn line) { services_.LogError(line); };
-    Guarded(OnFault::Quiet, prefix, log, [&] { items_.Add(std::move(item), key); });
+    Guarded(OnFault::Quiet, prefix, services_, [&] { items_.Add(std::move(item), key); });
 }
 
 void SecurityItemsCollection::ReportMissing(TextIn key) {

@@ -3,11 +3,9 @@
 
 #include <halvekutils/base/Enumerator.h>
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/TextIn.h>
-#include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/SecurityItem.h>
 
 #include <cstdint>
@@ -15,6 +13,8 @@
 #include <memory>
 
 namespace halvek {
+
+class Services;
 
 /// The signed-in user's rights, as the server described them; read-only to the host.
 ///
@@ -24,17 +24,9 @@ namespace halvek {
 ///
 ///     saveButton.setEnabled(utils->GetSecurityItemsCollection()->Item(u"PATIENTS")->AllowModify());
 class HALVEK_EXPORT SecurityItemsCollection
-    : public Fetchable,
-      public std::enable_shared_from_this<SecurityItemsCollection> {
+    : public std::enable_shared_from_this<SecurityItemsCollection> {
   public:
-    /// A collection without items.
-    /// @param services  the session whose log and switches look-ups use; outlives the collection
-    static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
-    ~SecurityItemsCollection() override;
-
-    /// Switches full access off for all collections of the process; what was granted to an item
-    /// before stays.
-    static void EndFullAccess() noexcept;
+    ~SecurityItemsCollection();
 
     /// The item at a position from 1.
     ///
@@ -50,29 +42,27 @@ class HALVEK_EXPORT SecurityItemsCollection
     std::shared_ptr<SecurityItem> Item(TextIn key);
 
     /// How many items there are, those that look-ups have added included.
-    std::int32_t Count() const override;
-    void Fetch(TextIn key) override;
+    std::int32_t Count() const;
 
     /// Steps through the items as they are: a loop looks nothing up and so grants nothing.
     Enumerator<const KeyedCollection<SecurityItem>> begin() const;
     /// Behind the last item.
     std::default_sentinel_t end() const { return {}; }
 
-    /// Adds the items of a security data text. Exactly "***" has none and switches full access on;
-    /// any other text switches it off.
-    ///
-    /// Items are parted by the character of code 230; the last character of each is its rights
-    /// digit. The first of two equal keys wins; the second is logged.
-    void AddItems(TextIn securityData);
-
   private:
+    friend struct CollectionBuilder;
+    struct StoredItem : SecurityItem {};
+
     explicit SecurityItemsCollection(Services& services);
+    static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
+    static void EndFullAccess() noexcept;
+    void AddItems(TextIn securityData);
     void MakeRoomFor(TextIn securityData);
     void Add(TextIn key, char16_t rightsDigit);
     void ReportMissing(TextIn key);
 
     Services& services_;
-    ObjectStore<SecurityItem> store_;
+    ObjectStore<StoredItem> store_;
     KeyedCollection<SecurityItem> items_;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/Platform.h>
 
 #include <cstdint>

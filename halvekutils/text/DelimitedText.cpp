@@ -158,12 +158,4 @@ void SplitLeftRight(TextIn strSplit, TextIn delimiter, std::u16string& strLeft,
     strRight = std::move(right);
 }
 
-bool ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key) {
-    return Quietly(false, [&] {
-        if (coll == nullptr || coll->Count() < 1) return false;
-        coll->Fetch(key);
-        return true;
-    });
-}
-
 }  // namespace halvek

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace halvek {
@@ -21,6 +19,5 @@ HALVEK_EXPORT bool ChunkStrToArr(TextIn str, StringArray& arr, std::int32_t chun
                                  TextIn del);
 HALVEK_EXPORT void SplitLeftRight(TextIn strSplit, TextIn delimiter, std::u16string& strLeft,
                                   std::u16string& strRight);
-HALVEK_EXPORT bool ExistsInColl(const std::shared_ptr<Fetchable>& coll, TextIn key);
 
 }  // namespace halvek

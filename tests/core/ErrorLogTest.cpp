@@ -71,7 +71,7 @@ TEST_F(ErrorLog, WritesEveryByteOfTheCodePageAndMessagesOfAnyLength) {
     utils_->LogError(FromCodePage(bytes));
     EXPECT_TRUE(ReadFile(folder_ / "a.log") == Line(bytes));
 
-    State().loginUserName.clear();
+    TheSession().loginUserName.clear();
     Start(folder_ / "b.log");
     for (const char16_t* name : {u"", u"Jos\u00E9 \u0141", u"asked no more"}) {
         machine_.loginName = name;
@@ -92,7 +92,7 @@ TEST_F(ErrorLog, FindsItsFileByTheNameThatTheHostGave) {
         {base + "/logs\\m\u00E9xed.log", folder_ / "logs/m\u00E9xed.log"},
     };
     for (const auto& [name, file] : rows) {
-        State().logFolder.clear();
+        TheSession().logFolder.clear();
         Start(name);
         EXPECT_FALSE(fs::exists(file));
         utils_->LogError(u"1");

@@ -20,7 +20,7 @@ class UtilsTest : public CleanState {
     std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
-TEST_F(UtilsTest, EveryObjectReadsTheOneComponentState) {
+TEST_F(UtilsTest, EveryObjectReadsTheOneSession) {
     utils_->InitUtils(u"a.log", u"Front Desk ", u"clinic ", true, u"2.4.1 ");
     utils_->InitPrefs(StringArray(1, 16), 0x010203, 0x040506, -1, 0x0A0B0C);
     utils_->InitOtherSettings(1, 2, u"-", 1.1, 255);
@@ -75,17 +75,18 @@ TEST_F(UtilsTest, OnlyTheCurrentUtilsOutlivesItsHost) {
 TEST_F(UtilsTest, ArgumentsMayBeViewsOfTheStateThatTheyReplace) {
     const std::u16string name(100, u'n'), type(200, u't');
     utils_->InitUtils(name, name, type, false, u"stamp");
-    ComponentState& state = State();
-    utils_->InitUtils(state.exeFileStamp, state.appType, state.appName, false, state.appName);
+    Session& session = TheSession();
+    utils_->InitUtils(session.exeFileStamp, session.appType, session.appName, false,
+                      session.appName);
     EXPECT_EQ(utils_->AppName(), type);
     EXPECT_EQ(utils_->AppType() + utils_->ExeFileStamp(), name + name);
-    EXPECT_EQ(state.errFileName, u"stamp");
+    EXPECT_EQ(session.errFileName, u"stamp");
 
     utils_->SpecialMode(type);
-    utils_->SpecialMode(TextIn(std::u16string_view(state.specialMode).substr(1)));
+    utils_->SpecialMode(TextIn(std::u16string_view(session.specialMode).substr(1)));
     EXPECT_EQ(utils_->SpecialMode(), type.substr(1));
     utils_->InitPrefs(StringArray(0, {name, type}), 0, 0, 0, 0);
-    utils_->InitPrefs(state.colorArray, 0, 0, 0, 0);
+    utils_->InitPrefs(session.colorArray, 0, 0, 0, 0);
     EXPECT_EQ(utils_->ColorArray()[1], type);
 }
 

@@ -199,7 +199,7 @@ TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
     fs::create_directory(folder_ / "logs");
     for (const auto& [name, file] : rows) {
         const bool own = name != file;
-        State().logFolder.clear();
+        TheSession().logFolder.clear();
         Start(name);
         EXPECT_EQ(BeepsAt("1"), 0);
         fs::remove_all(file.parent_path());

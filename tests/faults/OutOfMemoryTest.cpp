@@ -195,13 +195,15 @@ const Row kRows[] = {
      [](World& w) { w.printers = w.utils->GetPrintersCollectionFiltered(); },
      [](World& w) { return Lines(w.printers, &PrinterDefinition::PrinterDescription); }},
     {"InitUtils", Raised, Before,
-     [](World& w) { w.utils->InitUtils(State().errFileName, kWords, kWords, true, kWords); },
+     [](World& w) { w.utils->InitUtils(TheSession().errFileName, kWords, kWords, true, kWords); },
      [](World& w) { return w.utils->AppName() + w.utils->ExeFileStamp(); }},
     {"InitPrefs", Raised, Before,
      [](World& w) {
          w.utils->InitPrefs(StringArray(1, {kWords, u"2"}), 5, 6, 7, 8);
      },
-     [](World& w) { return Lines(State().colorArray) + IntegerText(w.utils->FormSkinColor()); }},
+     [](World& w) {
+         return Lines(TheSession().colorArray) + IntegerText(w.utils->FormSkinColor());
+     }},
     {"AddBin", Logged, Before, [](World& w) { w.utils->AddBin(u"A new bin", kWords, kWords); },
      [](World& w) { return w.utils->GetBinData(u"A new bin"); }},
     {"AddBinAgain", Logged, Before, [](World& w) { w.utils->AddBin(u"Key", kWords, kWords); },
@@ -289,6 +291,22 @@ const Row kRows[] = {
          w.result = HelpTextOf(w.help->Read(u"/first.htm"));
      }},
     {"ShowInDebug", Logged, Before, [](World& w) { w.utils->ShowInDebug(kWords); },
+     [](World& w) { return w.desktop_.Console()->Text(); }},
+    {"FirstShowInDebug", Logged, Before,
+     [](World& w) {
+         TheSession().debugConsole = nullptr;
+         w.utils->ShowInDebug(kWords);
+     },
+     [](World& w) {
+         // Nothing but the line counts: the new console may have been shown without it.
+         const Text& text = w.desktop_.Console()->Text();
+         return text.starts_with(kWords) ? text : Text();
+     }},
+    {"FirstClearDebug", Logged, Before,
+     [](World& w) {
+         TheSession().debugConsole = nullptr;
+         w.utils->ClearDebug();
+     },
      [](World& w) { return w.desktop_.Console()->Text(); }},
     {"SaveToFile", Nobody, Before, [](World& w) { w.desktop_.Console()->SaveToFile(); },
      [](World& w) { return FromUtf8(ReadFile(w.machine_.ownFolder / "DEBUG.log")); }},

@@ -93,6 +93,16 @@ read -ra windows < <(pkg-config --cflags --libs halvekutils-qt)
 ./core
 ./host
 
+# What only the library does, no host's compiler takes.
+doors=$source/tests/consumer/doors.cpp
+look() { "$compiler" -std=c++20 -fsyntax-only "$@" "$doors" "${core[@]}"; }
+look
+look -DHALVEK_DOORS -fno-access-control -I"$source"
+look -DHALVEK_DOORS >doors.log 2>&1 || true
+for line in $(awk '/^#ifdef/ { inside = 1; next } /^#endif/ { inside = 0 } inside { print NR }' "$doors"); do
+    grep -q "doors.cpp:$line:" doors.log || { echo "open to hosts: $(sed -n "${line}p" "$doors")"; exit 1; }
+done
+
 # It reads its data below this root: here the session has another version.
 sed -i 's/^ExeFileStamp=.*/ExeFileStamp=packaged/' "$root/usr/share/halvekutils-demo/session.txt"
 bash "$source/tests/tour.sh" "$root/usr/bin/halvekutils-demo" "$work/tour"

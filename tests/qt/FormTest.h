@@ -5,8 +5,8 @@
 #include "tests/TestMachine.h"
 #include "tests/qt/User.h"
 
-#include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/Platform.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/qt/QtPlatform.h>
@@ -61,7 +61,7 @@ class FormTest : public ::testing::Test {
 
   private:
     static void Reset() {
-        State() = ComponentState();
+        TheSession() = Session();
         Services::Install(nullptr);
     }
 

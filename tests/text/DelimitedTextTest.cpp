@@ -7,9 +7,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -176,6 +180,33 @@ TEST_F(ExistsInCollTest, FetchesUnderTheCollectionsOwnKeyRule) {
     EXPECT_TRUE(ExistsInColl(utils->GetCodesCollection(), u"ins"));
     EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS "));
     EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u""));
+    utils->ClearCodesCollection();
+    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS"));
+}
+
+/// A collection of a host's own, which keys distinguish by letter case.
+struct Visits {
+    std::size_t Count() const { return numbers.size(); }
+    int Item(std::u16string_view key) {
+        ++fetches;
+        return numbers.at(std::u16string(key));
+    }
+
+    std::map<std::u16string, int> numbers;
+    int fetches = 0;
+};
+static_assert(Fetchable<Visits> && !Fetchable<const Visits> && !Fetchable<std::u16string>);
+
+TEST_F(ExistsInCollTest, FetchesFromACollectionOfTheHostsOwn) {
+    const auto utils = Utils::Create();
+    const auto visits = std::make_shared<Visits>();
+    EXPECT_FALSE(utils->ExistsInColl(visits, u"v1"));
+    EXPECT_EQ(visits->fetches, 0) << "an empty one is not asked";
+    visits->numbers[u"v1"] = 1;
+    EXPECT_TRUE(utils->ExistsInColl(visits, u"v1"));
+    EXPECT_FALSE(utils->ExistsInColl(visits, u"V1"));
+    EXPECT_EQ(visits->fetches, 2);
+    EXPECT_FALSE(utils->ExistsInColl(std::shared_ptr<Visits>(), u"v1"));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/NativePath.h>
+#include <halvekutils/platform/NativePath.h>
 
 #include <algorithm>
 #include <string>

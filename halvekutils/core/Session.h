@@ -2,8 +2,10 @@
 #pragma once
 
 #include <halvekutils/base/Color.h>
+#include <halvekutils/base/Export.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/platform/Machine.h>
+#include <halvekutils/platform/Services.h>
 
 #include <cstdint>
 #include <filesystem>
@@ -18,12 +20,13 @@ class PrintersCollection;
 class SecurityItemsCollection;
 class Utils;
 
-/// The values that all Utils objects and dialogs of the process share.
+/// The session: the values that all Utils objects and dialogs of the process share, and the error
+/// log and debug console that they write to. Lower rooms see it as Services.
 ///
-/// Empty, 0 or false until the start-up members of Utils fill them. Used on the host's
+/// Values are empty, 0 or false until the start-up members of Utils fill them. Used on the host's
 /// user-interface thread only, and never destroyed, so that a host's own late destructors can
-/// still log.
-struct HALVEK_EXPORT ComponentState {
+/// still log. No host meets this header.
+struct HALVEK_EXPORT Session final : public Services {
     bool debugMode = false;
     std::u16string appName;
     std::u16string appType;
@@ -54,13 +57,32 @@ struct HALVEK_EXPORT ComponentState {
     std::shared_ptr<PrintersCollection> printers;
     Machine* machine = nullptr;  ///< never null: the local machine unless another is installed
 
-    ComponentState();
-    ~ComponentState();
-    ComponentState(ComponentState&&) noexcept;
-    ComponentState& operator=(ComponentState&&) noexcept;
+    Session();
+    ~Session() override;
+    Session(Session&&) noexcept;
+    Session& operator=(Session&&) noexcept;
+
+    /// Appends one line to the error log, rotating the log first when it has reached one mebibyte.
+    ///
+    /// The line is the local date and time, the login name and the message, separated by tabs and
+    /// ended by CR LF, in the bytes of Windows-1252. A failure beeps, shows a message in debug mode
+    /// and loses this line only.
+    void LogError(TextIn message) noexcept override;
+
+    /// Adds a line to the debug console, which is made for the first one. What goes wrong is
+    /// logged.
+    void ShowInDebug(TextIn text) noexcept override;
+    /// Empties the debug console.
+    void ClearDebug() noexcept;
+
+    bool DebugMode() const override { return debugMode; }
+    std::u16string AppName() const override { return appName; }
+    std::u16string SpecialMode() const override { return specialMode; }
+    Color FormSkinColor() const override { return formSkinColor; }
+    Color FormTextColor() const override { return formTextColor; }
 };
 
-/// The one component state of the process.
-HALVEK_EXPORT ComponentState& State();
+/// The one session of the process. It is Services::Current() from the first InitUtils on.
+HALVEK_EXPORT Session& TheSession();
 
 }  // namespace halvek

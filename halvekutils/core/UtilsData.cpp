@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/core/Session.h>
+#include <halvekutils/core/UtilsPrivate.h>
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Guard.h>
+#include <halvekutils/refdata/CollectionBuilder.h>
+#include <halvekutils/refdata/PrinterListBuilder.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace halvek {
+
+namespace {
+
+/// Stands in where no desktop is installed or the installed one knows no printers.
+class NoPrinters : public PrinterSource {
+  public:
+    std::vector<PrinterConnection> Connections() override {
+        throw RuntimeError(Fault::ObjectNotSet, u"printer source");
+    }
+    std::vector<InstalledPrinter> Installed() override { return {}; }
+};
+
+std::unique_ptr<PrinterSource> ThePrinters() {
+    Desktop* const desktop = Desktop::Installed();
+    auto printers = desktop == nullptr ? nullptr : desktop->Printers();
+    return printers == nullptr ? std::make_unique<NoPrinters>() : std::move(printers);
+}
+
+std::shared_ptr<UserPrefs> CopyOf(const UserPrefs& prefs) {
+    auto copy = std::make_shared<UserPrefs>();
+    copy->PopulateSettings(prefs.GetSettingsString());
+    return copy;
+}
+
+}  // namespace
+
+// Codes
+
+void Utils::BuildCodesCollection(TextIn CodesData) {
+    Guarded(OnFault::Quiet, u"BuildCodesCollection ", *this, [&] {
+        // The old collection goes first: a build that fails leaves a part, never the old one.
+        TheSession().codes = nullptr;
+        const auto codes = CollectionBuilder::Codes();
+        TheSession().codes = codes;
+        CollectionBuilder::Add(*codes, CodesData, TheSession());
+    });
+}
+
+std::shared_ptr<CodesCollection> Utils::GetCodesCollection() const {
+    return TheSession().codes;
+}
+void Utils::ClearCodesCollection() {
+    TheSession().codes = nullptr;
+}
+
+// Security items
+
+void Utils::BuildSecurityCollection(TextIn SecurityData) {
+    // Before anything can fail: no fault may leave the full access of an earlier build on.
+    CollectionBuilder::EndFullAccess();
+    Guarded(OnFault::Beep, u"BuildSecurityCollection ", *this, [&] {
+        TheSession().securityItems = nullptr;
+        const auto items = CollectionBuilder::SecurityItems(TheSession());
+        TheSession().securityItems = items;
+        CollectionBuilder::Add(*items, SecurityData);
+    });
+}
+
+std::shared_ptr<SecurityItemsCollection> Utils::GetSecurityItemsCollection() const {
+    return TheSession().securityItems;
+}
+void Utils::ClearSecurityCollection() {
+    TheSession().securityItems = nullptr;
+}
+
+// Printers
+
+void Utils::BuildPrintersCollection(TextIn SerialPrintersList) {
+    Guarded(OnFault::Quiet, u"BuildPrintersCollection ", *this, [&] {
+        if (TheSession().printers == nullptr) TheSession().printers = CollectionBuilder::Printers();
+        const auto printers = TheSession().printers;
+        const auto source = ThePrinters();
+        PrinterListBuilder builder(*printers, *source, TheSession());
+        builder.AddSerialPrinters(SerialPrintersList);
+        builder.AddWorkstationPrinters();
+    });
+}
+
+std::shared_ptr<PrintersCollection> Utils::GetPrintersCollection() const {
+    return TheSession().printers;
+}
+void Utils::ClearPrintersCollection() {
+    TheSession().printers = nullptr;
+}
+
+std::shared_ptr<PrintersCollection> Utils::GetPrintersCollectionFiltered(bool ExcludeSpool,
+                                                                         bool ExcludeFile,
+                                                                         bool ExcludeWindows,
+                                                                         bool ExcludeSerial) {
+    const auto filter = [&]() -> std::shared_ptr<PrintersCollection> {
+        const auto printers = TheSession().printers;
+        if (printers == nullptr) return nullptr;
+        return printers->Filtered({ExcludeSpool, ExcludeFile, ExcludeWindows, ExcludeSerial});
+    };
+    return Guarded(OnFault::Quiet, u"GetPrintersCollectionFiltered ", *this,
+                   std::shared_ptr<PrintersCollection>(), filter);
+}
+
+// Preferences and open windows
+
+std::shared_ptr<halvek::OpenWindows> Utils::OpenWindows() {
+    if (d_->openWindows == nullptr) {
+        d_->openWindows.reset(new halvek::OpenWindows(TheSession()));
+    }
+    return d_->openWindows;
+}
+
+void Utils::SetCurrentUserPrefs(const UserPrefs& CurrentUserPrefs) {
+    d_->userPrefs = CopyOf(CurrentUserPrefs);
+}
+
+void Utils::SetCurrentSystemPrefs(std::shared_ptr<SystemPrefs> CurrentSystemPrefs) {
+    d_->systemPrefs = std::move(CurrentSystemPrefs);
+}
+
+std::shared_ptr<SystemPrefs> Utils::GetCurrentSystemPrefs() {
+    if (d_->systemPrefs == nullptr) d_->systemPrefs = std::make_shared<SystemPrefs>();
+    return d_->systemPrefs;
+}
+
+std::shared_ptr<UserPrefs> Utils::GetCurrentUserPrefs() const {
+    return d_->userPrefs == nullptr ? std::make_shared<UserPrefs>() : CopyOf(*d_->userPrefs);
+}
+
+// Bins
+
+void Utils::AddBin(TextIn BinKey, TextIn BinData, TextIn BinType) {
+    Guarded(OnFault::Beep, u"Error in Utils.AddBin ", *this,
+            [&] { d_->bins.Add(BinKey, BinData, BinType); });
+}
+
+std::u16string Utils::GetBinData(TextIn BinKey) const {
+    const DataBin* const bin = d_->bins.Find(BinKey);
+    return bin == nullptr ? std::u16string() : bin->BinData();
+}
+
+bool Utils::BinExists(TextIn BinKey) const {
+    return d_->bins.Find(BinKey) != nullptr;
+}
+void Utils::RemoveBin(TextIn BinKey) {
+    d_->bins.Remove(BinKey);
+}
+void Utils::ClearAllBins() {
+    d_->bins.Clear();
+}
+
+}  // namespace halvek
