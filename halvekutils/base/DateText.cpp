@@ -86,14 +86,6 @@ constexpr char16_t kNumber = u'9';
 constexpr char16_t kWord = u'A';
 constexpr char16_t kEnd = 0;
 
-constexpr bool IsDigit(char16_t character) {
-    return character >= u'0' && character <= u'9';
-}
-constexpr bool IsLetter(char16_t character) {
-    const char16_t folded = FoldCase(character);
-    return folded >= u'a' && folded <= u'z';
-}
-
 /// What a character starts: a number, a word, or the mark that it is; kEnd for any other.
 constexpr char16_t KindOf(char16_t character) {
     if (IsDigit(character)) return kNumber;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/base/RuntimeError.h>
@@ -14,12 +15,6 @@
 namespace halvek {
 
 namespace {
-
-template <class Control>
-Control& Existing(const std::shared_ptr<Control>& control, TextIn what) {
-    if (control == nullptr) throw RuntimeError(Fault::ObjectNotSet, what);
-    return *control;
-}
 
 // Nothing on a screen is larger, and a text engine may choke on what is.
 constexpr float kLargestFont = 2160;

@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/CurrencyKeyEvent.h>
 #include <halvekutils/qt/forms/CurrencyValidator.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/LineEditCopy.h>
 
 #include <QApplication>
@@ -181,7 +182,7 @@ bool CurrencyFilter::PressKey(QLineEdit& line, const QKeyEvent& event) {
         Insert(line, QApplication::clipboard()->text());
         return true;
     }
-    const char16_t letter = TypedBy(event);
+    const char16_t letter = AmountCharacterOf(event);
     return letter != 0 && Type(line, letter);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
@@ -41,8 +42,6 @@ constexpr GridKey kKeys[] = {
 };
 
 constexpr std::size_t kLongestToolTip = 2000;
-constexpr Qt::KeyboardModifiers kCommands =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
 Qt::ScrollBarPolicy Bar(bool shown) {
     return shown ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
@@ -172,12 +171,12 @@ void SelectGridView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool SelectGridView::TypeLetter(const QKeyEvent& event) {
-    const QString text = event.text();
-    if ((event.modifiers() & kCommands) || text.size() != 1 || !text[0].isPrint()) return false;
+    const char16_t letter = TypedBy(event);
+    if (letter == 0) return false;
     const int interval = QGuiApplication::styleHints()->keyboardInputInterval();
     const bool continues = sinceLetter_.isValid() && sinceLetter_.elapsed() < interval;
     sinceLetter_.start();
-    rules_.TypeLetter(text[0].unicode(), continues);
+    rules_.TypeLetter(letter, continues);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 
 #include <QKeyEvent>
@@ -88,7 +89,7 @@ void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnter(*event)) {
         GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { rules_.Accept(); });
         return;
     }
