@@ -2,6 +2,7 @@
 #include <halvekutils/core/ComponentServices.h>
 #include <halvekutils/core/ComponentState.h>
 #include <halvekutils/core/UtilsPrivate.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/SystemFault.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/devices/HelpArchive.h>
 #include <halvekutils/devices/HelpText.h>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/text/Placement.h>
 
 #include <algorithm>

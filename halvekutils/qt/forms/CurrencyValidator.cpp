@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyValidator.h>
 
