@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <functional>
 
 namespace halvek {
 
@@ -16,11 +17,17 @@ std::size_t SlotsFor(std::size_t items) {
     return std::bit_ceil(std::max(items + items / 7 + 1, kFewest));
 }
 
-std::uint32_t HashOf(std::u16string_view key) {
-    return static_cast<std::uint32_t>(HashFolded(key));
+}  // namespace
+
+std::uint32_t KeyIndex::HashOf(std::u16string_view key) const noexcept {
+    const bool isExact = keyCase_ == KeyCase::Exact;
+    return static_cast<std::uint32_t>(isExact ? std::hash<std::u16string_view>()(key)
+                                              : HashFolded(key));
 }
 
-}  // namespace
+bool KeyIndex::AreEqual(std::u16string_view left, std::u16string_view right) const noexcept {
+    return keyCase_ == KeyCase::Exact ? left == right : EqualFolded(left, right);
+}
 
 std::u16string_view KeyIndex::TextOf(const Key& key) const noexcept {
     return std::u16string_view(text_).substr(key.start, key.length);
@@ -31,7 +38,7 @@ std::size_t KeyIndex::SlotOf(std::u16string_view key, std::uint32_t hash) const 
     std::size_t slot = hash & last;
     for (; slots_[slot].number != 0; slot = (slot + 1) & last) {
         const Slot& taken = slots_[slot];
-        if (taken.hash == hash && EqualFolded(TextOf(keys_[taken.number - 1]), key)) break;
+        if (taken.hash == hash && AreEqual(TextOf(keys_[taken.number - 1]), key)) break;
     }
     return slot;
 }

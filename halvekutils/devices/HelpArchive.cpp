@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/SystemFault.h>
 #include <halvekutils/base/Utf8.h>
@@ -151,20 +152,21 @@ void HelpArchive::ReadEntries(std::string_view entries) {
         const auto length = rest.Number();
         Check(path && section && start && length && *section <= 1, kBadDirectory);
         Check(objects_.size() < kMostObjects, u"the file holds too many objects");
-        const std::u16string name = HelpNameOf(*path);
-        if (objects_.try_emplace(name, Object{*section == 1, *start, *length}).second) {
-            order_.push_back(name);
-        }
+        if (paths_.Add(HelpNameOf(*path))) objects_.push_back({*section == 1, *start, *length});
     }
 }
 
-const HelpArchive::Object* HelpArchive::Find(std::string_view internalPath) const {
-    const auto found = objects_.find(FromUtf8(internalPath));
-    return found == objects_.end() ? nullptr : &found->second;
+const HelpArchive::Object* HelpArchive::Find(TextIn path) const {
+    const std::size_t number = paths_.Find(path);
+    return number == KeyIndex::kNone ? nullptr : &objects_[number];
+}
+
+const HelpArchive::Object* HelpArchive::FindInternal(std::string_view path) const {
+    return Find(FromUtf8(path));
 }
 
 std::string HelpArchive::ReadInternal(std::string_view internalPath) {
-    const Object* const object = Find(internalPath);
+    const Object* const object = FindInternal(internalPath);
     Check(object != nullptr && !object->compressed && object->length <= kLargestObject,
           kBadCompression);
     Check(LiesIn(object->start, object->length, size_ - dataStart_), kCutOff);
@@ -172,7 +174,7 @@ std::string HelpArchive::ReadInternal(std::string_view internalPath) {
 }
 
 void HelpArchive::ReadCompression() {
-    if (Find(kContent) == nullptr) return;
+    if (FindInternal(kContent) == nullptr) return;
     ReadControlData();
     ReadFrames();
 }
@@ -195,7 +197,7 @@ void HelpArchive::ReadControlData() {
 }
 
 void HelpArchive::ReadFrames() {
-    const Object& content = *Find(kContent);
+    const Object& content = *FindInternal(kContent);
     Check(!content.compressed && LiesIn(content.start, content.length, size_ - dataStart_),
           kCutOff);
     const std::string table = ReadInternal(kResetTable);
@@ -223,11 +225,11 @@ void HelpArchive::ReadFrames() {
 }
 
 std::string HelpArchive::Read(TextIn path) {
-    const auto found = objects_.find(path.Str());
-    if (found == objects_.end()) {
+    const Object* const found = Find(path);
+    if (found == nullptr) {
         throw RuntimeError(Fault::FileNotFound, FromUtf8(file_.native()) + u"::" + path.Str());
     }
-    const auto& [compressed, start, length] = found->second;
+    const auto& [compressed, start, length] = *found;
     Check(length <= kLargestObject, u"an object is too large");
     if (compressed) return Decompressed(start, length);
     Check(LiesIn(start, length, size_ - dataStart_), kCutOff);
@@ -235,8 +237,9 @@ std::string HelpArchive::Read(TextIn path) {
 }
 
 std::u16string HelpArchive::FirstEndingIn(TextIn ending) const {
-    for (const std::u16string& path : order_) {
-        if (EndsFolded(path, ending)) return path;
+    for (std::size_t number = 0; number < paths_.Count(); ++number) {
+        const std::u16string_view path = paths_.KeyOf(number);
+        if (EndsFolded(path, ending)) return std::u16string(path);
     }
     return {};
 }
