@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Export.h>
 #include <halvekutils/platform/Services.h>
 
 namespace halvek {
 
 /// The services of the one component state; usable at any time, current from the first InitUtils.
-Services& ComponentServices();
+HALVEK_EXPORT Services& ComponentServices();
 
 }  // namespace halvek
