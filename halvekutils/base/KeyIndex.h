@@ -61,23 +61,20 @@ class HALVEK_EXPORT KeyIndex {
     };
     static constexpr std::uint32_t kNoKey = 0xFFFFFFFF;
 
-    struct Slot {
-        std::uint32_t number = 0;  ///< of the item, plus 1; 0 for a free slot
-        std::uint32_t hash = 0;    ///< rules out most other keys without comparing them
-    };
-
-    std::uint32_t HashOf(std::u16string_view key) const noexcept;
     bool AreEqual(std::u16string_view left, std::u16string_view right) const noexcept;
     std::u16string_view TextOf(const Key& key) const noexcept;
     std::size_t SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept;
-    void ResizeSlots(std::size_t size);
+    void MakeRoomFor(std::size_t items);
     void FillSlots() noexcept;
+    std::uint32_t SlotFor(std::size_t numberPlusOne, std::uint32_t hash) const noexcept;
 
     KeyCase keyCase_;
     std::vector<Key> keys_;
     std::u16string text_;
-    std::vector<Slot> slots_;  ///< a power of two of them, at most 7 of 8 taken
-    std::size_t used_ = 0;     ///< how many items have a key
+    // A power of two of slots, at most 7 of 8 taken. A slot is 0 when it is free, else the item's
+    // number plus 1 and, in the bits that no number needs, those of the hash: they rule out most
+    // other keys without comparing them.
+    std::vector<std::uint32_t> slots_;
 };
 
 }  // namespace halvek
