@@ -105,7 +105,7 @@ class Tokens {
     /// False when the text has a character that no date has, or more parts than any date.
     bool Split(std::u16string_view text) {
         std::size_t at = 0;
-        for (std::size_t count = 0; count <= kMost; ++count) {
+        for (std::size_t count = 0; count <= kMax; ++count) {
             while (at < text.size() && IsBlank(text[at])) ++at;
             if (at == text.size()) return true;
             const std::size_t end = EndOfToken(text, at);
@@ -140,7 +140,7 @@ class Tokens {
     }
 
   private:
-    static constexpr std::size_t kMost = 12;  // 2004-03-07T02:05:09 PM
+    static constexpr std::size_t kMax = 12;  // 2004-03-07T02:05:09 PM
 
     /// Numbers and words are runs of characters, a mark stands alone.
     static std::size_t EndOfToken(std::u16string_view text, std::size_t at) {
@@ -150,7 +150,7 @@ class Tokens {
         return at;
     }
 
-    std::array<Token, kMost + 3> tokens_;  // with room to look two steps ahead of the last
+    std::array<Token, kMax + 3> tokens_;  // with room to look two steps ahead of the last
     std::size_t next_ = 0;
 };
 

@@ -26,7 +26,7 @@ constexpr std::uintmax_t kRotationLength = 1'048'576;
 constexpr int kLastVisit = 2000;
 constexpr char16_t kSeparators[] = u"\\/";
 
-void SettlePaths(ComponentState& state) {
+void ResolvePaths(ComponentState& state) {
     if (state.errFileName.empty()) state.errFileName = u"Error.Log";
     const std::size_t separator = state.errFileName.find_last_of(kSeparators);
     if (separator == std::u16string::npos) {
@@ -41,7 +41,7 @@ void SettlePaths(ComponentState& state) {
 
 /// The log file; its path is made anew only when the name has changed.
 const fs::path& LogPath(ComponentState& state) {
-    SettlePaths(state);
+    ResolvePaths(state);
     if (state.logPathName != state.errFileName) {
         state.logPath = NativePath(state.errFileName);
         state.logPathName = state.errFileName;
@@ -100,7 +100,7 @@ void PrepareFile(const ComponentState& state, const fs::path& file) {
     if (found.length < kRotationLength) return;
     // Of several processes that find the log full one rotates it; the others must not take its
     // archive for an old one, nor the new log for the full one.
-    machine.Alone(file, [&] {
+    machine.TryExclusive(file, [&] {
         if (machine.StateOf(file).length >= kRotationLength) Rotate(state, file);
     });
 }
@@ -140,7 +140,7 @@ void WriteErrorLog(ComponentState& state, TextIn message) noexcept {
             if (state.loginUserName.empty()) state.loginUserName = state.machine->LoginName();
             const fs::path& file = LogPath(state);
             const std::string line = LogLine(state, message);
-            if (state.machine->AppendBelow(file, line, kRotationLength)) return;
+            if (state.machine->TryAppend(file, line, kRotationLength)) return;
             PrepareFile(state, file);
             state.machine->Append(file, line);
         } catch (const std::exception& caught) {

@@ -18,11 +18,11 @@ namespace {
 
 constexpr std::uint64_t kLargestObject = 0x100'0000;
 constexpr std::uint64_t kLargestDirectory = 0x400'0000;
-constexpr std::size_t kMostObjects = 200'000;
+constexpr std::size_t kMaxObjects = 200'000;
 constexpr std::uint64_t kFrameLength = LzxDecoder::kFrameLength;
 // What a frame may take up when it does not compress at all.
-constexpr std::uint64_t kLongestFrame = kFrameLength + 6144;
-constexpr std::uint64_t kMostFramesInStretch = 512;
+constexpr std::uint64_t kMaxFrame = kFrameLength + 6144;
+constexpr std::uint64_t kMaxFramesInSpan = 512;
 
 constexpr std::string_view kControlData = "::DataSpace/Storage/MSCompressed/ControlData";
 constexpr std::string_view kContent = "::DataSpace/Storage/MSCompressed/Content";
@@ -43,9 +43,9 @@ class Entries {
     bool AtEnd() const { return rest_.empty(); }
 
     std::optional<std::uint64_t> Number() {
-        constexpr std::size_t kLongest = 9;
+        constexpr std::size_t kMaxLength = 9;
         std::uint64_t value = 0;
-        for (std::size_t i = 0; i < std::min(rest_.size(), kLongest); ++i) {
+        for (std::size_t i = 0; i < std::min(rest_.size(), kMaxLength); ++i) {
             const auto byte = static_cast<unsigned char>(rest_[i]);
             value = value << 7 | (byte & 0x7Fu);
             if (byte < 0x80) {
@@ -68,7 +68,7 @@ class Entries {
     std::string_view rest_;
 };
 
-/// True when the stretch from `start` lies within the first `all` bytes.
+/// True when the span from `start` lies within the first `all` bytes.
 bool LiesIn(std::uint64_t start, std::uint64_t length, std::uint64_t all) {
     return start <= all && length <= all - start;
 }
@@ -151,7 +151,7 @@ void HelpArchive::ReadEntries(std::string_view entries) {
         const auto start = rest.Number();
         const auto length = rest.Number();
         Check(path && section && start && length && *section <= 1, kBadDirectory);
-        Check(objects_.size() < kMostObjects, u"the file holds too many objects");
+        Check(objects_.size() < kMaxObjects, u"the file holds too many objects");
         if (paths_.Add(HelpNameOf(*path))) objects_.push_back({*section == 1, *start, *length});
     }
 }
@@ -184,15 +184,15 @@ void HelpArchive::ReadControlData() {
     const auto version = NumberAt<std::uint32_t>(control, 8);
     const auto interval = NumberAt<std::uint32_t>(control, 0x0C);
     const auto window = NumberAt<std::uint32_t>(control, 0x10);
-    const auto windowsInStretch = NumberAt<std::uint32_t>(control, 0x14);
-    Check(windowsInStretch && control.compare(4, 4, "LZXC") == 0, kBadCompression);
+    const auto windowsInSpan = NumberAt<std::uint32_t>(control, 0x14);
+    Check(windowsInSpan && control.compare(4, 4, "LZXC") == 0, kBadCompression);
     // From the second version on lengths count frames.
     const std::uint64_t unit = *version == 2 ? kFrameLength : 1;
     const std::uint64_t windowLength = *window * unit;
     Check(windowLength >= kFrameLength && windowLength <= kLargestObject, kBadCompression);
     compression_.window = static_cast<std::uint32_t>(windowLength);
-    compression_.framesInStretch = *interval * unit / (windowLength / 2) * *windowsInStretch;
-    Check(compression_.framesInStretch >= 1 && compression_.framesInStretch <= kMostFramesInStretch,
+    compression_.framesInSpan = *interval * unit / (windowLength / 2) * *windowsInSpan;
+    Check(compression_.framesInSpan >= 1 && compression_.framesInSpan <= kMaxFramesInSpan,
           kBadCompression);
 }
 
@@ -220,7 +220,7 @@ void HelpArchive::ReadFrames() {
     for (std::size_t i = 0; i < *count; ++i) {
         const std::uint64_t from = compression_.frames[i];
         const std::uint64_t to = compression_.frames[i + 1];
-        Check(from <= to && to - from <= kLongestFrame, kBadCompression);
+        Check(from <= to && to - from <= kMaxFrame, kBadCompression);
     }
 }
 
@@ -246,25 +246,25 @@ std::u16string HelpArchive::FirstEndingIn(TextIn ending) const {
 
 std::string HelpArchive::Decompressed(std::uint64_t start, std::uint64_t length) {
     Check(LiesIn(start, length, compression_.length), kBadCompression);
-    const std::uint64_t stretchLength = compression_.framesInStretch * kFrameLength;
+    const std::uint64_t spanLength = compression_.framesInSpan * kFrameLength;
     std::string bytes;
     bytes.reserve(static_cast<std::size_t>(length));
     while (bytes.size() < length) {
         const std::uint64_t at = start + bytes.size();
-        const std::string& stretch = Stretch(at / stretchLength);
-        bytes.append(stretch, static_cast<std::size_t>(at % stretchLength),
+        const std::string& span = Span(at / spanLength);
+        bytes.append(span, static_cast<std::size_t>(at % spanLength),
                      static_cast<std::size_t>(length) - bytes.size());
     }
     return bytes;
 }
 
-const std::string& HelpArchive::Stretch(std::uint64_t number) {
-    if (!stretch_.empty() && stretchNumber_ == number) return stretch_;
-    stretch_.clear();
+const std::string& HelpArchive::Span(std::uint64_t number) {
+    if (!span_.empty() && spanNumber_ == number) return span_;
+    span_.clear();
     std::string decompressed;
     LzxDecoder decoder(compression_.window);
-    const std::uint64_t first = number * compression_.framesInStretch;
-    for (std::uint64_t i = 0; i < compression_.framesInStretch; ++i) {
+    const std::uint64_t first = number * compression_.framesInSpan;
+    for (std::uint64_t i = 0; i < compression_.framesInSpan; ++i) {
         const std::uint64_t at = (first + i) * kFrameLength;
         if (at >= compression_.length) break;
         const std::uint64_t from = compression_.frames[static_cast<std::size_t>(first + i)];
@@ -278,9 +278,9 @@ const std::string& HelpArchive::Stretch(std::uint64_t number) {
         }
     }
     Check(!decompressed.empty(), kBadCompression);
-    stretch_ = std::move(decompressed);
-    stretchNumber_ = number;
-    return stretch_;
+    span_ = std::move(decompressed);
+    spanNumber_ = number;
+    return span_;
 }
 
 }  // namespace halvek

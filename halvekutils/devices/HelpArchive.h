@@ -44,12 +44,12 @@ class HALVEK_EXPORT HelpArchive {
         std::uint64_t start = 0;
         std::uint64_t length = 0;
     };
-    /// Where the stretches of compressed data lie, each of which decompresses by itself.
+    /// Where the spans of compressed data lie, each of which decompresses by itself.
     struct Compression {
         std::uint64_t contentStart = 0;
         std::uint64_t length = 0;  ///< of all data, decompressed
         std::uint32_t window = 0;
-        std::uint64_t framesInStretch = 0;
+        std::uint64_t framesInSpan = 0;
         std::vector<std::uint64_t> frames;  ///< where each starts and, last, where the last ends
     };
 
@@ -65,7 +65,7 @@ class HALVEK_EXPORT HelpArchive {
     void ReadControlData();
     void ReadFrames();
     std::string Decompressed(std::uint64_t start, std::uint64_t length);
-    const std::string& Stretch(std::uint64_t number);
+    const std::string& Span(std::uint64_t number);
 
     std::filesystem::path file_;
     std::ifstream in_;
@@ -74,8 +74,8 @@ class HALVEK_EXPORT HelpArchive {
     KeyIndex paths_;
     std::vector<Object> objects_;  ///< in the order of their paths
     Compression compression_;
-    std::uint64_t stretchNumber_ = 0;
-    std::string stretch_;  ///< the one read last, decompressed; empty for none
+    std::uint64_t spanNumber_ = 0;
+    std::string span_;  ///< the one read last, decompressed; empty for none
 };
 
 }  // namespace halvek

@@ -21,7 +21,7 @@ constexpr float kLargestFont = 2160;
 constexpr float kFontStep = 0.1F;
 // The sizes of a font that has fixed ones lie a few points apart. One that has not grown by 10 is
 // of a single size.
-constexpr int kMostFontSteps = 100;
+constexpr int kMaxFontSteps = 100;
 
 struct GridFontCode {
     TextIn code;
@@ -90,7 +90,7 @@ bool SetFontProperties(const std::shared_ptr<ControlFont>& font, TextIn fontName
     set.Name(fontName);
     set.Size(fontSize);
     for (int step = 1; !(set.Size() >= fontSize); ++step) {
-        if (step > kMostFontSteps) {
+        if (step > kMaxFontSteps) {
             set.Size(fontSize);
             return false;
         }

@@ -41,7 +41,7 @@ constexpr GridKey kKeys[] = {
     {Qt::Key_Down, SelectGrid::Key::Down},
 };
 
-constexpr std::size_t kLongestToolTip = 2000;
+constexpr std::size_t kMaxToolTipLength = 2000;
 
 Qt::ScrollBarPolicy Bar(bool shown) {
     return shown ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
@@ -59,7 +59,7 @@ SelectGridHeader::SelectGridHeader(SelectGrid& rules, QWidget* parent)
 
 void SelectGridHeader::Refresh() {
     cell_ = rules_.Cell(0, 1);
-    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kLongestToolTip)));
+    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kMaxToolTipLength)));
     viewport()->update();
 }
 
@@ -89,7 +89,7 @@ void SelectGridHeader::mouseDoubleClickEvent(QMouseEvent*) {}
 bool SelectGridHeader::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QHeaderView::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
-    const TextIn text = std::u16string_view(cell_.text).substr(0, kLongestToolTip);
+    const TextIn text = std::u16string_view(cell_.text).substr(0, kMaxToolTipLength);
     QToolTip::showText(help->globalPos(), ToToolTip(text), this);
     return true;
 }
