@@ -59,11 +59,9 @@ fs::path ArchivePath(const ComponentState& state) {
 }
 
 bool IsArchiveName(const fs::path& file) {
-    std::string name = file.filename().native();
-    for (char& character : name) {
-        if (character >= 'A' && character <= 'Z') character = static_cast<char>(character + 0x20);
-    }
-    return name.ends_with(".log") && (name.starts_with("error_") || name.starts_with("merror_"));
+    const std::u16string name = FromUtf8(file.filename().native());
+    return EndsFolded(name, u".log") &&
+           (StartsFolded(name, u"error_") || StartsFolded(name, u"merror_"));
 }
 
 /// True also for two spellings of one path.
