@@ -13,7 +13,7 @@ namespace frontdesk {
 
 namespace {
 
-constexpr qint64 kLongestTail = 65'536;
+constexpr qint64 kMaxTailLength = 65'536;
 
 QString FromLog(const QByteArray& bytes) {
     const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -54,7 +54,7 @@ QStringList ErrorLogFile::NewMessages() {
 
 QString ErrorLogFile::Tail(int lines) const {
     const qint64 size = QFileInfo(path_).size();
-    const QString text = FromLog(ReadFrom(qMax<qint64>(0, size - kLongestTail)));
+    const QString text = FromLog(ReadFrom(qMax<qint64>(0, size - kMaxTailLength)));
     return text.trimmed().section("\r\n", -lines).replace("\r\n", "\n");
 }
 

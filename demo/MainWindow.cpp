@@ -31,7 +31,7 @@ constexpr int kListWidth = 170;
 constexpr int kCallPaneHeight = 150;
 constexpr int kMargin = 8;
 constexpr int kItemPadding = 12;
-constexpr int kMostShortcuts = 9;
+constexpr int kMaxShortcuts = 9;
 
 QScrollArea* Scrollable(QWidget* page) {
     auto* area = new QScrollArea;
@@ -86,7 +86,7 @@ void MainWindow::AddPage(Page* page, QMenu& menu) {
         list_.setCurrentRow(index);
         list_.setFocus();  // Tab goes on to the page
     });
-    if (index < kMostShortcuts) action->setShortcut(QString("Ctrl+%1").arg(index + 1));
+    if (index < kMaxShortcuts) action->setShortcut(QString("Ctrl+%1").arg(index + 1));
     auto* item = new QListWidgetItem(page->Title(), &list_);
     item->setSizeHint({0, list_.fontMetrics().height() + kItemPadding});
     stack_.addWidget(Scrollable(page));

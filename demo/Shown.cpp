@@ -7,12 +7,12 @@ namespace frontdesk {
 
 namespace {
 
-constexpr qsizetype kLongestText = 56;
+constexpr qsizetype kMaxTextLength = 56;
 constexpr qsizetype kKeptEnd = 18;
 
 QString Shortened(const QString& text) {
-    if (text.size() <= kLongestText) return text;
-    return text.first(kLongestText - kKeptEnd) + QChar(0x2026) + text.last(kKeptEnd);
+    if (text.size() <= kMaxTextLength) return text;
+    return text.first(kMaxTextLength - kKeptEnd) + QChar(0x2026) + text.last(kKeptEnd);
 }
 
 QString Escaped(QString text) {

@@ -9,7 +9,7 @@ namespace frontdesk {
 
 namespace {
 
-constexpr int kMostMnemonics = 9;
+constexpr int kMaxMnemonics = 9;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ void WindowsMenu::Fill() {
         const auto handle = halvek::ToQString(windows.At(kHandleRow, index)).toInt();
         const ClientWindow* window = ClientWindow::Find(handle);
         if (window == nullptr) continue;
-        const QString mnemonic = index > kMostMnemonics ? "" : QString("&%1  ").arg(index);
+        const QString mnemonic = index > kMaxMnemonics ? "" : QString("&%1  ").arg(index);
         addAction(mnemonic + window->windowTitle(), this, [handle] {
             if (ClientWindow* chosen = ClientWindow::Find(handle)) chosen->BringForward();
         });

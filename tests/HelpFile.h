@@ -13,7 +13,7 @@ namespace halvek {
 
 /// The help file of the sources in the folder help, compiled with chmcmd of the package fp-utils:
 /// a first page in Windows-1252, a second one in UTF-8, made so long here that it does not fit into
-/// one compressed stretch unless it is given fewer lines, and a picture.
+/// one compressed span unless it is given fewer lines, and a picture.
 class HelpFile {
   public:
     explicit HelpFile(int lines = 4000) {

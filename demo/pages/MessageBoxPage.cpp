@@ -15,8 +15,8 @@ using namespace halvek;
 
 namespace {
 
-constexpr int kLongestCountdown = 86'400;
-constexpr int kLeastChoiceWidth = 200;
+constexpr int kMaxCountdown = 86'400;
+constexpr int kMinChoiceWidth = 200;
 // A value that no enumeration has, to see what becomes of it.
 constexpr int kUnknownValue = 99;
 
@@ -49,7 +49,7 @@ MessageBoxPage::MessageBoxPage(Desk& desk)
       icon_(MakeOpenChoice(kIconNames)),
       background_(MakeOpenChoice(kBackgroundNames)),
       fontSize_(MakeOpenChoice(kFontSizeNames)),
-      countdown_(MakeNumber(0, 0, kLongestCountdown)),
+      countdown_(MakeNumber(0, 0, kMaxCountdown)),
       show_(MakeButton("Sho&w", [this] { Show(); })),
       returned_(MakeReadOnlyLine()) {
     for (const BoxSample& sample : SpecialSamples()) samples_.push_back(sample);
@@ -94,7 +94,7 @@ QLayout* MessageBoxPage::MakeArguments() {
     AddRow(*form, "&Countdown", countdown_);
     form->addRow(QString(), show_);
     AddRow(*form, "&Returned", returned_);
-    sample_.setMinimumWidth(kLeastChoiceWidth);
+    sample_.setMinimumWidth(kMinChoiceWidth);
     return form;
 }
 

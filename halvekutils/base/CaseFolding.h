@@ -26,6 +26,9 @@ constexpr char16_t FoldCase(char16_t character) {
     }
 }
 
+// Four characters at a time: keys are compared and hashed for every record of the server's and for
+// every look-up, which one character at a time takes two to five times as long.
+
 /// True when the texts differ in letter case at the most.
 HALVEK_EXPORT bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
 

@@ -10,6 +10,9 @@
 
 namespace halvek {
 
+// Without the processor's own instructions, cutting a text into pieces takes 4 to 10 times as long,
+// reading a selection list more than twice and filling a string array 1.3 to 1.5 times.
+
 /// How many characters the functions below look at together.
 inline constexpr std::size_t kBlockLength = 16;
 

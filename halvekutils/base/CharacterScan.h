@@ -82,11 +82,11 @@ CharacterScan(std::u16string_view, Characters...) -> CharacterScan<sizeof...(Cha
 /// How often a character occurs.
 inline std::size_t CountOf(std::u16string_view text, char16_t character) noexcept {
     // Counters of 16 bits, as wide as a character, let the compiler take eight at a time.
-    constexpr std::size_t kMost = 0xFFFF;
+    constexpr std::size_t kMax = 0xFFFF;
     std::size_t count = 0;
-    for (std::size_t start = 0; start < text.size(); start += kMost) {
+    for (std::size_t start = 0; start < text.size(); start += kMax) {
         std::uint16_t part = 0;
-        for (const char16_t c : text.substr(start, kMost)) {
+        for (const char16_t c : text.substr(start, kMax)) {
             part = static_cast<std::uint16_t>(part + (c == character ? 1 : 0));
         }
         count += part;
@@ -96,11 +96,11 @@ inline std::size_t CountOf(std::u16string_view text, char16_t character) noexcep
 
 /// How often two characters that differ stand side by side.
 inline std::size_t CountOfPair(std::u16string_view text, char16_t first, char16_t second) noexcept {
-    constexpr std::size_t kMost = 0xFFFF;
+    constexpr std::size_t kMax = 0xFFFF;
     std::size_t count = 0;
-    for (std::size_t start = 0; start + 1 < text.size(); start += kMost) {
+    for (std::size_t start = 0; start + 1 < text.size(); start += kMax) {
         const char16_t* const at = text.data() + start;
-        const std::size_t length = std::min(kMost, text.size() - start - 1);
+        const std::size_t length = std::min(kMax, text.size() - start - 1);
         std::uint16_t part = 0;
         for (std::size_t i = 0; i < length; ++i) {
             const bool isFirst = at[i] == first;

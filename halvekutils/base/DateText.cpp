@@ -86,14 +86,6 @@ constexpr char16_t kNumber = u'9';
 constexpr char16_t kWord = u'A';
 constexpr char16_t kEnd = 0;
 
-constexpr bool IsDigit(char16_t character) {
-    return character >= u'0' && character <= u'9';
-}
-constexpr bool IsLetter(char16_t character) {
-    const char16_t folded = FoldCase(character);
-    return folded >= u'a' && folded <= u'z';
-}
-
 /// What a character starts: a number, a word, or the mark that it is; kEnd for any other.
 constexpr char16_t KindOf(char16_t character) {
     if (IsDigit(character)) return kNumber;
@@ -113,7 +105,7 @@ class Tokens {
     /// False when the text has a character that no date has, or more parts than any date.
     bool Split(std::u16string_view text) {
         std::size_t at = 0;
-        for (std::size_t count = 0; count <= kMost; ++count) {
+        for (std::size_t count = 0; count <= kMax; ++count) {
             while (at < text.size() && IsBlank(text[at])) ++at;
             if (at == text.size()) return true;
             const std::size_t end = EndOfToken(text, at);
@@ -148,7 +140,7 @@ class Tokens {
     }
 
   private:
-    static constexpr std::size_t kMost = 12;  // 2004-03-07T02:05:09 PM
+    static constexpr std::size_t kMax = 12;  // 2004-03-07T02:05:09 PM
 
     /// Numbers and words are runs of characters, a mark stands alone.
     static std::size_t EndOfToken(std::u16string_view text, std::size_t at) {
@@ -158,7 +150,7 @@ class Tokens {
         return at;
     }
 
-    std::array<Token, kMost + 3> tokens_;  // with room to look two steps ahead of the last
+    std::array<Token, kMax + 3> tokens_;  // with room to look two steps ahead of the last
     std::size_t next_ = 0;
 };
 

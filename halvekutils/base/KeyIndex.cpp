@@ -16,48 +16,54 @@ std::size_t SlotsFor(std::size_t items) {
     return std::bit_ceil(std::max(items + items / 7 + 1, kFewest));
 }
 
+/// What is equal is equal in folded form, too: the hash serves keys of both kinds.
 std::uint32_t HashOf(std::u16string_view key) {
     return static_cast<std::uint32_t>(HashFolded(key));
 }
 
 }  // namespace
 
+bool KeyIndex::AreEqual(std::u16string_view left, std::u16string_view right) const noexcept {
+    return keyCase_ == KeyCase::Exact ? left == right : EqualFolded(left, right);
+}
+
 std::u16string_view KeyIndex::TextOf(const Key& key) const noexcept {
     return std::u16string_view(text_).substr(key.start, key.length);
 }
 
 std::size_t KeyIndex::SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept {
-    const std::size_t last = slots_.size() - 1;
-    std::size_t slot = hash & last;
-    for (; slots_[slot].number != 0; slot = (slot + 1) & last) {
-        const Slot& taken = slots_[slot];
-        if (taken.hash == hash && EqualFolded(TextOf(keys_[taken.number - 1]), key)) break;
+    const auto last = static_cast<std::uint32_t>(slots_.size() - 1);
+    std::uint32_t at = hash & last;
+    for (; slots_[at] != 0; at = (at + 1) & last) {
+        const bool sameHash = ((slots_[at] ^ hash) & ~last) == 0;
+        if (sameHash && AreEqual(TextOf(keys_[(slots_[at] & last) - 1]), key)) break;
     }
-    return slot;
+    return at;
 }
 
 std::size_t KeyIndex::Find(std::u16string_view key) const noexcept {
     if (slots_.empty()) return kNone;
-    const std::uint32_t number = slots_[SlotOf(key, HashOf(key))].number;
+    const std::size_t number = slots_[SlotOf(key, HashOf(key))] & (slots_.size() - 1);
     return number == 0 ? kNone : number - 1;
 }
 
 void KeyIndex::Reserve(std::size_t items, std::size_t characters) {
     keys_.reserve(items);
     text_.reserve(characters);
-    if (const std::size_t slots = SlotsFor(items); slots > slots_.size()) ResizeSlots(slots);
+    MakeRoomFor(items);
 }
 
 void KeyIndex::AddWithoutKey() {
+    MakeRoomFor(keys_.size() + 1);
     keys_.push_back({0, kNoKey, 0});
 }
 
 bool KeyIndex::Add(std::u16string_view key) {
     if (key.size() >= kNoKey) throw RuntimeError(Fault::InvalidArgument);
-    if (const std::size_t slots = SlotsFor(used_ + 1); slots > slots_.size()) ResizeSlots(slots);
+    MakeRoomFor(keys_.size() + 1);
     const std::uint32_t hash = HashOf(key);
-    Slot& slot = slots_[SlotOf(key, hash)];
-    if (slot.number != 0) return false;
+    std::uint32_t& slot = slots_[SlotOf(key, hash)];
+    if (slot != 0) return false;
     keys_.push_back({text_.size(), static_cast<std::uint32_t>(key.size()), hash});
     try {
         text_.append(key);
@@ -65,8 +71,7 @@ bool KeyIndex::Add(std::u16string_view key) {
         keys_.pop_back();
         throw;
     }
-    slot = {static_cast<std::uint32_t>(keys_.size()), hash};
-    ++used_;
+    slot = SlotFor(keys_.size(), hash);
     return true;
 }
 
@@ -75,7 +80,6 @@ void KeyIndex::Remove(std::size_t number) noexcept {
     keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(number));
     if (removed.length != kNoKey) {
         text_.erase(removed.start, removed.length);
-        --used_;
         for (Key& key : keys_) {
             if (key.length != kNoKey && key.start > removed.start) key.start -= removed.length;
         }
@@ -83,20 +87,27 @@ void KeyIndex::Remove(std::size_t number) noexcept {
     FillSlots();
 }
 
-void KeyIndex::ResizeSlots(std::size_t size) {
-    slots_ = std::vector<Slot>(size);
+void KeyIndex::MakeRoomFor(std::size_t items) {
+    const std::size_t slots = SlotsFor(items);
+    if (slots <= slots_.size()) return;
+    slots_ = std::vector<std::uint32_t>(slots);
     FillSlots();
 }
 
 void KeyIndex::FillSlots() noexcept {
-    std::ranges::fill(slots_, Slot());
+    std::ranges::fill(slots_, 0);
     const std::size_t last = slots_.size() - 1;
     for (std::size_t i = 0; i < keys_.size(); ++i) {
         if (keys_[i].length == kNoKey) continue;
-        std::size_t slot = keys_[i].hash & last;
-        while (slots_[slot].number != 0) slot = (slot + 1) & last;
-        slots_[slot] = {static_cast<std::uint32_t>(i + 1), keys_[i].hash};
+        std::size_t at = keys_[i].hash & last;
+        while (slots_[at] != 0) at = (at + 1) & last;
+        slots_[at] = SlotFor(i + 1, keys_[i].hash);
     }
+}
+
+std::uint32_t KeyIndex::SlotFor(std::size_t numberPlusOne, std::uint32_t hash) const noexcept {
+    const auto last = static_cast<std::uint32_t>(slots_.size() - 1);
+    return static_cast<std::uint32_t>(numberPlusOne) | (hash & ~last);
 }
 
 }  // namespace halvek

@@ -11,17 +11,36 @@
 
 namespace halvek {
 
-/// The keys of a collection's items, found without regard to letter case.
+/// Whether the letter case of keys matters.
+enum class KeyCase {
+    Ignored,  ///< as FoldCase has it
+    Exact,    ///< keys are equal when all their characters are
+};
+
+/// The keys of a collection's items.
 ///
 /// Every item has a number from 0 and may have a key; an item without one differs from one under
-/// the empty key. Keys stand one behind the other in one text, beside a hash table of the numbers.
+/// the empty key. Keys stand one after the other in one text, beside a hash table of the numbers.
+///
+/// A table of our own, because look-ups by key are what hosts do most with lists of 100,000 codes:
+/// std::unordered_map and QHash, which allocate a node or a folded key each, take two to five times
+/// as long.
 class HALVEK_EXPORT KeyIndex {
   public:
+    /// An index without items.
+    explicit KeyIndex(KeyCase keyCase = KeyCase::Ignored) noexcept : keyCase_(keyCase) {}
+
     /// What Find gives for a key that no item has.
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
     /// The number of the item under a key; kNone when there is none.
     std::size_t Find(std::u16string_view key) const noexcept;
+
+    /// How many items there are, with a key or without.
+    std::size_t Count() const noexcept { return keys_.size(); }
+
+    /// The key of an item that has one, as it was added; valid until the index changes.
+    std::u16string_view KeyOf(std::size_t number) const noexcept { return TextOf(keys_[number]); }
 
     /// Makes room for items whose keys have so many characters together.
     void Reserve(std::size_t items, std::size_t characters);
@@ -31,7 +50,7 @@ class HALVEK_EXPORT KeyIndex {
     /// Gives the next item a key; false, and nothing is added, when the key is taken.
     bool Add(std::u16string_view key);
 
-    /// Takes an item out; those behind it move up by one.
+    /// Takes an item out; those after it move up by one.
     void Remove(std::size_t number) noexcept;
 
   private:
@@ -42,20 +61,20 @@ class HALVEK_EXPORT KeyIndex {
     };
     static constexpr std::uint32_t kNoKey = 0xFFFFFFFF;
 
-    struct Slot {
-        std::uint32_t number = 0;  ///< of the item, plus 1; 0 for a free slot
-        std::uint32_t hash = 0;    ///< spares most looks at another key
-    };
-
+    bool AreEqual(std::u16string_view left, std::u16string_view right) const noexcept;
     std::u16string_view TextOf(const Key& key) const noexcept;
     std::size_t SlotOf(std::u16string_view key, std::uint32_t hash) const noexcept;
-    void ResizeSlots(std::size_t size);
+    void MakeRoomFor(std::size_t items);
     void FillSlots() noexcept;
+    std::uint32_t SlotFor(std::size_t numberPlusOne, std::uint32_t hash) const noexcept;
 
+    KeyCase keyCase_;
     std::vector<Key> keys_;
     std::u16string text_;
-    std::vector<Slot> slots_;  ///< a power of two of them, at most 7 of 8 taken
-    std::size_t used_ = 0;     ///< how many items have a key
+    // A power of two of slots, at most 7 of 8 taken. A slot is 0 when it is free, else the item's
+    // number plus 1 and, in the bits that no number needs, those of the hash: they rule out most
+    // other keys without comparing them.
+    std::vector<std::uint32_t> slots_;
 };
 
 }  // namespace halvek

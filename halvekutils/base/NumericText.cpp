@@ -17,21 +17,8 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-constexpr bool IsDigit(char16_t character) {
-    return character >= u'0' && character <= u'9';
-}
-constexpr bool IsSign(char16_t character) {
-    return character == u'-' || character == u'+';
-}
-
 std::u16string_view WithoutLeadingBlanks(std::u16string_view text) {
     while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    return text;
-}
-
-std::u16string_view WithoutBlanksAround(std::u16string_view text) {
-    text = WithoutLeadingBlanks(text);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
     return text;
 }
 
@@ -107,12 +94,6 @@ double WithSign(double magnitude, bool negative) {
     return negative ? 0 - magnitude : magnitude;
 }
 
-bool TakeFront(std::u16string_view& text, char16_t mark) {
-    if (!text.starts_with(mark)) return false;
-    text.remove_prefix(1);
-    return true;
-}
-
 /// Takes the sign off, whichever end it is at; 0 when there is none.
 char16_t TakeSign(std::u16string_view& text) {
     if (text.empty()) return 0;
@@ -168,7 +149,7 @@ double Val(TextIn text) {
 }
 
 std::optional<double> ToNumber(TextIn text) {
-    std::u16string_view number = WithoutBlanksAround(text);
+    std::u16string_view number = Trimmed(text, u" \t");
     const bool negative = TakeMarks(number);
     const std::size_t length = NumberEnd(number, SkipGroupedDigits(number));
     if (length == 0 || length != number.size()) return std::nullopt;

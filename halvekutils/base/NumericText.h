@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
@@ -12,18 +13,6 @@ namespace halvek {
 
 // Numbers as text and back: always with "." for the point, whatever the locale. Every reading takes
 // time in proportion to the text, and no result is ever minus zero.
-
-/// True for the blank and TAB, the characters that a number may have around it.
-constexpr bool IsBlank(char16_t character) {
-    return character == u' ' || character == u'\t';
-}
-
-/// The text without the blanks at both ends, as a view into it. TAB stays: it separates fields.
-constexpr TextIn Trimmed(TextIn text) noexcept {
-    while (text.starts_with(u' ')) text.remove_prefix(1);
-    while (text.ends_with(u' ')) text.remove_suffix(1);
-    return text;
-}
 
 /// The value of the number that a text starts with: blanks skipped, a sign, digits with at most one
 /// point, an exponent; the longest such start counts and the rest is ignored.

@@ -5,10 +5,9 @@
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
-#include <filesystem>
+#include <exception>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 
 namespace halvek {
 
@@ -60,8 +59,5 @@ class HALVEK_EXPORT RuntimeError : public std::runtime_error {
 /// Any caught exception as a fault: a RuntimeError as it is, std::bad_alloc as OutOfMemory, a
 /// standard system error by its code, anything else as InvalidArgument with its own text.
 HALVEK_EXPORT RuntimeError AsRuntimeError(const std::exception& caught);
-
-/// The fault that stands for a system error; its description names the file.
-HALVEK_EXPORT RuntimeError SystemFault(std::error_code error, const std::filesystem::path& file);
 
 }  // namespace halvek

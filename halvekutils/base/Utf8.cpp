@@ -68,9 +68,9 @@ char32_t DecodeUtf8(std::string_view bytes, std::size_t& length) {
         if ((byte & 0xC0) != 0x80) return kReplacement;
         point = point << 6 | (byte & 0x3Fu);
     }
-    constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+    constexpr char32_t kMin[] = {0, 0, 0x80, 0x800, 0x10000};
     const bool surrogate = IsHighSurrogate(point) || IsLowSurrogate(point);
-    if (point < kLeast[wanted] || point > 0x10FFFF || surrogate) return kReplacement;
+    if (point < kMin[wanted] || point > 0x10FFFF || surrogate) return kReplacement;
     length = wanted;
     return point;
 }

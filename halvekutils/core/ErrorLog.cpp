@@ -25,7 +25,7 @@ constexpr std::uintmax_t kRotationLength = 1'048'576;
 constexpr int kLastVisit = 2000;
 constexpr char16_t kSeparators[] = u"\\/";
 
-void SettlePaths(Session& session) {
+void ResolvePaths(Session& session) {
     if (session.errFileName.empty()) session.errFileName = u"Error.Log";
     const std::size_t separator = session.errFileName.find_last_of(kSeparators);
     if (separator == std::u16string::npos) {
@@ -40,7 +40,7 @@ void SettlePaths(Session& session) {
 
 /// The log file; its path is made anew only when the name has changed.
 const fs::path& LogPath(Session& session) {
-    SettlePaths(session);
+    ResolvePaths(session);
     if (session.logPathName != session.errFileName) {
         session.logPath = NativePath(session.errFileName);
         session.logPathName = session.errFileName;
@@ -99,7 +99,7 @@ void PrepareFile(const Session& session, const fs::path& file) {
     if (found.length < kRotationLength) return;
     // Of several processes that find the log full one rotates it; the others must not take its
     // archive for an old one, nor the new log for the full one.
-    machine.Alone(file, [&] {
+    machine.TryExclusive(file, [&] {
         if (machine.StateOf(file).length >= kRotationLength) Rotate(session, file);
     });
 }
@@ -139,7 +139,7 @@ void Session::LogError(TextIn message) noexcept {
             if (loginUserName.empty()) loginUserName = machine->LoginName();
             const fs::path& file = LogPath(*this);
             const std::string line = LogLine(*this, message);
-            if (machine->AppendBelow(file, line, kRotationLength)) return;
+            if (machine->TryAppend(file, line, kRotationLength)) return;
             PrepareFile(*this, file);
             machine->Append(file, line);
         } catch (const std::exception& caught) {

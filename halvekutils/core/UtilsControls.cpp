@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/core/Session.h>
@@ -14,11 +15,6 @@ namespace {
 HeldKeys KeysHeld() {
     const Desktop* const desktop = Desktop::Installed();
     return desktop == nullptr ? HeldKeys{} : desktop->KeysHeld();
-}
-
-const SystemPrefs& Existing(const std::shared_ptr<SystemPrefs>& prefs) {
-    if (prefs == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"system preferences");
-    return *prefs;
 }
 
 }  // namespace
@@ -57,7 +53,7 @@ bool Utils::IsLookupKey(std::int16_t CodeKey) const {
 }
 
 std::u16string Utils::ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const {
-    const SystemPrefs& prefs = Existing(d_->systemPrefs);
+    const SystemPrefs& prefs = Existing(d_->systemPrefs, u"system preferences");
     if (CodeKey == static_cast<std::int16_t>(prefs.LookupKey())) return u"1";
     if (CodeKey == static_cast<std::int16_t>(prefs.LookupKey1())) return u"2";
     return {};

@@ -1,29 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
-#include <halvekutils/currency/AmountRange.h>
-#include <halvekutils/currency/CurrencyHandlers.h>
-#include <halvekutils/currency/CurrencyKeys.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/currency/CurrencyEvents.h>
 
 namespace halvek {
 
 namespace {
 
-/// Handles an event of a control, which is kept alive meanwhile.
-template <class Body>
-void Handle(Utils& utils, const char16_t* member, const std::shared_ptr<TextControl>& ctr,
-            const Body& body) {
-    const std::shared_ptr<TextControl> control = ctr;
-    const auto prefix = [member] {
-        return std::u16string(u"Error in HalvekUtils/Utils/") + member + u"  ";
-    };
-    Guarded(OnFault::Quiet, prefix, utils, [&] {
-        if (control == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"control");
-        body(*control);
-    });
+CurrencyEvents Events(AmountSign sign = AmountSign::Unsigned) {
+    return CurrencyEvents(sign, TheSession());
 }
 
 }  // namespace
@@ -36,54 +21,35 @@ std::int16_t Utils::CURRENCY_NUMFRACT() const {
 }
 
 void Utils::OnCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr, std::int16_t& KeyAscii) {
-    Handle(*this, u"OnCurrencyCtrKeyPress", ctr, [&](TextControl& control) {
-        PressCurrencyKey(control, KeyAscii, AmountSign::Unsigned);
-    });
+    Events().PressKey(ctr, KeyAscii);
 }
-
 void Utils::OnNegCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr,
                                      std::int16_t& KeyAscii) {
-    Handle(*this, u"OnNegCurrencyCtrKeyPress", ctr,
-           [&](TextControl& control) { PressCurrencyKey(control, KeyAscii, AmountSign::Signed); });
+    Events(AmountSign::Signed).PressKey(ctr, KeyAscii);
 }
 
 void Utils::OnCurrencyCtrChange(const std::shared_ptr<TextControl>& ctr) {
-    Handle(*this, u"OnCurrencyCtrChange", ctr,
-           [](TextControl& control) { CutDecimals(control, AmountSign::Unsigned); });
+    Events().Change(ctr);
 }
-
 void Utils::OnNegCurrencyCtrChange(const std::shared_ptr<TextControl>& ctr) {
-    Handle(*this, u"OnNegCurrencyCtrChange", ctr,
-           [](TextControl& control) { CutDecimals(control, AmountSign::Signed); });
+    Events(AmountSign::Signed).Change(ctr);
 }
 
 void Utils::OnCurrencyCtrGotFocus(const std::shared_ptr<TextControl>& ctr) {
-    Handle(*this, u"OnCurrencyCtrGotFocus", ctr,
-           [](TextControl& control) { EnterCurrencyField(control); });
+    Events().Enter(ctr);
 }
 
 void Utils::OnCurrencyCtrValidate(const std::shared_ptr<TextControl>& ctr, bool& Cancel) {
-    Handle(*this, u"OnCurrencyCtrValidate", ctr, [&](TextControl& control) {
-        LeaveCurrencyField(control, Cancel, AmountSign::Unsigned);
-    });
+    Events().Leave(ctr, Cancel);
 }
-
 void Utils::OnNegCurrencyCtrValidate(const std::shared_ptr<TextControl>& ctr, bool& Cancel) {
-    Handle(*this, u"OnNegCurrencyCtrValidate", ctr,
-           [&](TextControl& control) { LeaveCurrencyField(control, Cancel, AmountSign::Signed); });
+    Events(AmountSign::Signed).Leave(ctr, Cancel);
 }
 
 void Utils::OnCurrencyCtrValidateRange(const std::shared_ptr<TextControl>& ctr, TextIn strMin,
                                        TextIn strMax, TextIn lblMin, TextIn lblMax, bool& Cancel) {
     const auto self = shared_from_this();
-    Handle(*this, u"OnCurrencyCtrValidateRange", ctr, [&](TextControl& control) {
-        const auto complaint = RangeComplaint(strMin, strMax, lblMin, lblMax);
-        if (!complaint) return;
-        Platform::Installed().ShowStockMessage(*complaint, StockIcon::Critical,
-                                               TheSession().appName);
-        Cancel = true;
-        control.Text(u"");
-    });
+    Events().CheckRange(ctr, strMin, strMax, lblMin, lblMax, Cancel);
 }
 
 }  // namespace halvek

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/currency/AmountText.h>
 
@@ -13,22 +14,12 @@ namespace {
 constexpr std::size_t kGroupDigits = 3;
 constexpr std::u16string_view kAround = u" \t\r\n\u00A0";
 
-constexpr bool IsDigit(char16_t character) {
-    return character >= u'0' && character <= u'9';
-}
-
 std::size_t LeadingDigits(std::u16string_view text) {
     return static_cast<std::size_t>(std::ranges::find_if_not(text, IsDigit) - text.begin());
 }
 
 bool IsDigits(std::u16string_view text) {
     return std::ranges::all_of(text, IsDigit);
-}
-
-bool TakeFront(std::u16string_view& text, char16_t mark) {
-    if (!text.starts_with(mark)) return false;
-    text.remove_prefix(1);
-    return true;
 }
 
 /// Takes the sign in front off; true for a "-".
@@ -142,9 +133,7 @@ bool IsTypedAmount(TextIn text, AmountSign sign) {
 }
 
 std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign) {
-    std::u16string_view rest = text;
-    rest.remove_prefix(std::min(rest.find_first_not_of(kAround), rest.size()));
-    rest = rest.substr(0, rest.find_last_not_of(kAround) + 1);
+    std::u16string_view rest = Trimmed(text, kAround);
 
     const bool hasDollar = TakeFront(rest, u'$');
     bool negative = false;

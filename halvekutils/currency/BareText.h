@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/NumericText.h>
-#include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/Characters.h>
 
+#include <cstdint>
 #include <string>
 #include <utility>
 
@@ -15,15 +15,14 @@ inline std::u16string Without(std::u16string text, char16_t character) {
     return text;
 }
 
-/// The text without the blanks at both ends.
-inline std::u16string WithoutBlanksAround(std::u16string text) {
-    const TextIn trimmed = Trimmed(text);
-    return trimmed.size() == text.size() ? std::move(text) : trimmed.Str();
+/// The length of a text as controls count it.
+inline std::int32_t LengthOf(const std::u16string& text) {
+    return static_cast<std::int32_t>(text.size());
 }
 
 /// What the rules of currency fields call the text of a control: no "$", no blanks around it.
 inline std::u16string BareText(std::u16string text) {
-    return WithoutBlanksAround(Without(std::move(text), u'$'));
+    return Trimmed(Without(std::move(text), u'$')).Str();
 }
 
 }  // namespace halvek

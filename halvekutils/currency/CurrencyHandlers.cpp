@@ -13,14 +13,6 @@ namespace {
 // Two characters stay, whatever the number of decimals is.
 constexpr std::size_t kCharactersKept = 2;
 
-std::int32_t LengthOf(const std::u16string& text) {
-    return static_cast<std::int32_t>(text.size());
-}
-
-constexpr bool IsSign(char16_t character) {
-    return character == u'-' || character == u'+';
-}
-
 bool HasMinus(const std::u16string& text) {
     return text.find(u'-') != text.npos;
 }
@@ -73,7 +65,7 @@ void LeaveCurrencyField(TextControl& ctr, bool& cancel, AmountSign sign) {
     std::u16string text = BareText(ctr.Text());
     const bool negative = sign == AmountSign::Signed && HasMinus(text);
     if (negative) {
-        text = WithoutBlanksAround(Without(std::move(text), u'-'));
+        text = Trimmed(Without(std::move(text), u'-')).Str();
         if (text.empty() || text == u"0.00") {
             ctr.Text(text);
             cancel = false;

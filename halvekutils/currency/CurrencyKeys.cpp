@@ -9,15 +9,7 @@ namespace halvek {
 
 namespace {
 
-constexpr std::int16_t kBackspace = 8;
-
-constexpr bool IsDigitKey(std::int16_t key) {
-    return key >= u'0' && key <= u'9';
-}
-
-std::int32_t LengthOf(const std::u16string& text) {
-    return static_cast<std::int32_t>(text.size());
-}
+constexpr char16_t kBackspace = 8;
 
 void WriteAndGoToEnd(TextControl& ctr, const std::u16string& text) {
     ctr.Text(text);
@@ -107,24 +99,23 @@ bool PressSign(TextControl& ctr, const Entry& entry, bool minus) {
     return false;
 }
 
-bool Press(TextControl& ctr, std::int16_t key, AmountSign sign) {
+bool Press(TextControl& ctr, char16_t key, AmountSign sign) {
     if (ctr.Locked()) return false;
-    const bool replaces = IsDigitKey(key) || key == u'.' || key == u'-';
+    const bool replaces = IsDigit(key) || key == u'.' || key == u'-';
     if (replaces && CoversAll(ctr)) ctr.Text(u"");
     if (key == kBackspace) return true;
 
     const Entry entry(ctr, sign);
-    if (IsDigitKey(key)) return PressDigit(ctr, entry, static_cast<char16_t>(key));
+    if (IsDigit(key)) return PressDigit(ctr, entry, key);
     if (key == u'.') return PressPoint(ctr, entry);
-    const bool isSign = key == u'-' || key == u'+';
-    return isSign && sign == AmountSign::Signed && PressSign(ctr, entry, key == u'-');
+    return IsSign(key) && sign == AmountSign::Signed && PressSign(ctr, entry, key == u'-');
 }
 
 }  // namespace
 
 void PressCurrencyKey(TextControl& ctr, std::int16_t& keyAscii, AmountSign sign) {
     const std::int16_t key = std::exchange(keyAscii, std::int16_t{0});
-    if (Press(ctr, key, sign)) keyAscii = key;
+    if (Press(ctr, static_cast<char16_t>(key), sign)) keyAscii = key;
 }
 
 }  // namespace halvek

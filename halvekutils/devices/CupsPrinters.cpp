@@ -15,7 +15,7 @@ namespace halvek {
 
 namespace {
 
-constexpr int kLongestWait = 1000;  // milliseconds, to connect and again for the answer
+constexpr int kMaxWait = 1000;  // milliseconds, to connect and again for the answer
 
 struct Close {
     void operator()(http_t* connection) const { httpClose(connection); }
@@ -30,13 +30,13 @@ using Message = std::unique_ptr<ipp_t, Close>;
 
 Connection Connect() {
     Connection connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                       cupsEncryption(), 1, kLongestWait, nullptr));
+                                       cupsEncryption(), 1, kMaxWait, nullptr));
     if (connection == nullptr) {
         const char* const reason = cupsLastErrorString();
         Fail(reason == nullptr ? "no connection" : reason);
     }
     const auto giveUp = [](http_t*, void*) { return 0; };
-    httpSetTimeout(connection.get(), kLongestWait / 1000.0, giveUp, nullptr);
+    httpSetTimeout(connection.get(), kMaxWait / 1000.0, giveUp, nullptr);
     return connection;
 }
 

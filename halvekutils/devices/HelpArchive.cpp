@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/SystemFault.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/devices/HelpArchive.h>
 #include <halvekutils/devices/HelpText.h>
@@ -16,11 +18,11 @@ namespace {
 
 constexpr std::uint64_t kLargestObject = 0x100'0000;
 constexpr std::uint64_t kLargestDirectory = 0x400'0000;
-constexpr std::size_t kMostObjects = 200'000;
+constexpr std::size_t kMaxObjects = 200'000;
 constexpr std::uint64_t kFrameLength = LzxDecoder::kFrameLength;
 // What a frame may take up when it does not compress at all.
-constexpr std::uint64_t kLongestFrame = kFrameLength + 6144;
-constexpr std::uint64_t kMostFramesInStretch = 512;
+constexpr std::uint64_t kMaxFrame = kFrameLength + 6144;
+constexpr std::uint64_t kMaxFramesInSpan = 512;
 
 constexpr std::string_view kControlData = "::DataSpace/Storage/MSCompressed/ControlData";
 constexpr std::string_view kContent = "::DataSpace/Storage/MSCompressed/Content";
@@ -41,9 +43,9 @@ class Entries {
     bool AtEnd() const { return rest_.empty(); }
 
     std::optional<std::uint64_t> Number() {
-        constexpr std::size_t kLongest = 9;
+        constexpr std::size_t kMaxLength = 9;
         std::uint64_t value = 0;
-        for (std::size_t i = 0; i < std::min(rest_.size(), kLongest); ++i) {
+        for (std::size_t i = 0; i < std::min(rest_.size(), kMaxLength); ++i) {
             const auto byte = static_cast<unsigned char>(rest_[i]);
             value = value << 7 | (byte & 0x7Fu);
             if (byte < 0x80) {
@@ -66,7 +68,7 @@ class Entries {
     std::string_view rest_;
 };
 
-/// True when the stretch from `start` lies within the first `all` bytes.
+/// True when the span from `start` lies within the first `all` bytes.
 bool LiesIn(std::uint64_t start, std::uint64_t length, std::uint64_t all) {
     return start <= all && length <= all - start;
 }
@@ -149,21 +151,22 @@ void HelpArchive::ReadEntries(std::string_view entries) {
         const auto start = rest.Number();
         const auto length = rest.Number();
         Check(path && section && start && length && *section <= 1, kBadDirectory);
-        Check(objects_.size() < kMostObjects, u"the file holds too many objects");
-        const std::u16string name = HelpNameOf(*path);
-        if (objects_.try_emplace(name, Object{*section == 1, *start, *length}).second) {
-            order_.push_back(name);
-        }
+        Check(objects_.size() < kMaxObjects, u"the file holds too many objects");
+        if (paths_.Add(HelpNameOf(*path))) objects_.push_back({*section == 1, *start, *length});
     }
 }
 
-const HelpArchive::Object* HelpArchive::Find(std::string_view internalPath) const {
-    const auto found = objects_.find(FromUtf8(internalPath));
-    return found == objects_.end() ? nullptr : &found->second;
+const HelpArchive::Object* HelpArchive::Find(TextIn path) const {
+    const std::size_t number = paths_.Find(path);
+    return number == KeyIndex::kNone ? nullptr : &objects_[number];
+}
+
+const HelpArchive::Object* HelpArchive::FindInternal(std::string_view path) const {
+    return Find(FromUtf8(path));
 }
 
 std::string HelpArchive::ReadInternal(std::string_view internalPath) {
-    const Object* const object = Find(internalPath);
+    const Object* const object = FindInternal(internalPath);
     Check(object != nullptr && !object->compressed && object->length <= kLargestObject,
           kBadCompression);
     Check(LiesIn(object->start, object->length, size_ - dataStart_), kCutOff);
@@ -171,7 +174,7 @@ std::string HelpArchive::ReadInternal(std::string_view internalPath) {
 }
 
 void HelpArchive::ReadCompression() {
-    if (Find(kContent) == nullptr) return;
+    if (FindInternal(kContent) == nullptr) return;
     ReadControlData();
     ReadFrames();
 }
@@ -181,20 +184,20 @@ void HelpArchive::ReadControlData() {
     const auto version = NumberAt<std::uint32_t>(control, 8);
     const auto interval = NumberAt<std::uint32_t>(control, 0x0C);
     const auto window = NumberAt<std::uint32_t>(control, 0x10);
-    const auto windowsInStretch = NumberAt<std::uint32_t>(control, 0x14);
-    Check(windowsInStretch && control.compare(4, 4, "LZXC") == 0, kBadCompression);
+    const auto windowsInSpan = NumberAt<std::uint32_t>(control, 0x14);
+    Check(windowsInSpan && control.compare(4, 4, "LZXC") == 0, kBadCompression);
     // From the second version on lengths count frames.
     const std::uint64_t unit = *version == 2 ? kFrameLength : 1;
     const std::uint64_t windowLength = *window * unit;
     Check(windowLength >= kFrameLength && windowLength <= kLargestObject, kBadCompression);
     compression_.window = static_cast<std::uint32_t>(windowLength);
-    compression_.framesInStretch = *interval * unit / (windowLength / 2) * *windowsInStretch;
-    Check(compression_.framesInStretch >= 1 && compression_.framesInStretch <= kMostFramesInStretch,
+    compression_.framesInSpan = *interval * unit / (windowLength / 2) * *windowsInSpan;
+    Check(compression_.framesInSpan >= 1 && compression_.framesInSpan <= kMaxFramesInSpan,
           kBadCompression);
 }
 
 void HelpArchive::ReadFrames() {
-    const Object& content = *Find(kContent);
+    const Object& content = *FindInternal(kContent);
     Check(!content.compressed && LiesIn(content.start, content.length, size_ - dataStart_),
           kCutOff);
     const std::string table = ReadInternal(kResetTable);
@@ -217,16 +220,16 @@ void HelpArchive::ReadFrames() {
     for (std::size_t i = 0; i < *count; ++i) {
         const std::uint64_t from = compression_.frames[i];
         const std::uint64_t to = compression_.frames[i + 1];
-        Check(from <= to && to - from <= kLongestFrame, kBadCompression);
+        Check(from <= to && to - from <= kMaxFrame, kBadCompression);
     }
 }
 
 std::string HelpArchive::Read(TextIn path) {
-    const auto found = objects_.find(path.Str());
-    if (found == objects_.end()) {
+    const Object* const found = Find(path);
+    if (found == nullptr) {
         throw RuntimeError(Fault::FileNotFound, FromUtf8(file_.native()) + u"::" + path.Str());
     }
-    const auto& [compressed, start, length] = found->second;
+    const auto& [compressed, start, length] = *found;
     Check(length <= kLargestObject, u"an object is too large");
     if (compressed) return Decompressed(start, length);
     Check(LiesIn(start, length, size_ - dataStart_), kCutOff);
@@ -234,33 +237,34 @@ std::string HelpArchive::Read(TextIn path) {
 }
 
 std::u16string HelpArchive::FirstEndingIn(TextIn ending) const {
-    for (const std::u16string& path : order_) {
-        if (EndsFolded(path, ending)) return path;
+    for (std::size_t number = 0; number < paths_.Count(); ++number) {
+        const std::u16string_view path = paths_.KeyOf(number);
+        if (EndsFolded(path, ending)) return std::u16string(path);
     }
     return {};
 }
 
 std::string HelpArchive::Decompressed(std::uint64_t start, std::uint64_t length) {
     Check(LiesIn(start, length, compression_.length), kBadCompression);
-    const std::uint64_t stretchLength = compression_.framesInStretch * kFrameLength;
+    const std::uint64_t spanLength = compression_.framesInSpan * kFrameLength;
     std::string bytes;
     bytes.reserve(static_cast<std::size_t>(length));
     while (bytes.size() < length) {
         const std::uint64_t at = start + bytes.size();
-        const std::string& stretch = Stretch(at / stretchLength);
-        bytes.append(stretch, static_cast<std::size_t>(at % stretchLength),
+        const std::string& span = Span(at / spanLength);
+        bytes.append(span, static_cast<std::size_t>(at % spanLength),
                      static_cast<std::size_t>(length) - bytes.size());
     }
     return bytes;
 }
 
-const std::string& HelpArchive::Stretch(std::uint64_t number) {
-    if (!stretch_.empty() && stretchNumber_ == number) return stretch_;
-    stretch_.clear();
+const std::string& HelpArchive::Span(std::uint64_t number) {
+    if (!span_.empty() && spanNumber_ == number) return span_;
+    span_.clear();
     std::string decompressed;
     LzxDecoder decoder(compression_.window);
-    const std::uint64_t first = number * compression_.framesInStretch;
-    for (std::uint64_t i = 0; i < compression_.framesInStretch; ++i) {
+    const std::uint64_t first = number * compression_.framesInSpan;
+    for (std::uint64_t i = 0; i < compression_.framesInSpan; ++i) {
         const std::uint64_t at = (first + i) * kFrameLength;
         if (at >= compression_.length) break;
         const std::uint64_t from = compression_.frames[static_cast<std::size_t>(first + i)];
@@ -274,9 +278,9 @@ const std::string& HelpArchive::Stretch(std::uint64_t number) {
         }
     }
     Check(!decompressed.empty(), kBadCompression);
-    stretch_ = std::move(decompressed);
-    stretchNumber_ = number;
-    return stretch_;
+    span_ = std::move(decompressed);
+    spanNumber_ = number;
+    return span_;
 }
 
 }  // namespace halvek

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/Export.h>
+#include <halvekutils/base/KeyIndex.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstddef>
@@ -11,7 +11,6 @@
 #include <fstream>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace halvek {
@@ -31,7 +30,7 @@ class HALVEK_EXPORT HelpArchive {
 
     const std::filesystem::path& File() const { return file_; }
 
-    bool Has(TextIn path) const { return objects_.contains(path.Str()); }
+    bool Has(TextIn path) const { return Find(path) != nullptr; }
 
     /// The bytes of an object. Throws FileNotFound when there is no such object.
     std::string Read(TextIn path);
@@ -45,20 +44,12 @@ class HALVEK_EXPORT HelpArchive {
         std::uint64_t start = 0;
         std::uint64_t length = 0;
     };
-    struct Hash {
-        std::size_t operator()(const std::u16string& text) const { return HashFolded(text); }
-    };
-    struct Equal {
-        bool operator()(const std::u16string& left, const std::u16string& right) const {
-            return EqualFolded(left, right);
-        }
-    };
-    /// Where the stretches of compressed data lie, each of which decompresses by itself.
+    /// Where the spans of compressed data lie, each of which decompresses by itself.
     struct Compression {
         std::uint64_t contentStart = 0;
         std::uint64_t length = 0;  ///< of all data, decompressed
         std::uint32_t window = 0;
-        std::uint64_t framesInStretch = 0;
+        std::uint64_t framesInSpan = 0;
         std::vector<std::uint64_t> frames;  ///< where each starts and, last, where the last ends
     };
 
@@ -67,23 +58,24 @@ class HALVEK_EXPORT HelpArchive {
     std::string BytesAt(std::uint64_t start, std::uint64_t length);
     void ReadDirectory();
     void ReadEntries(std::string_view entries);
-    const Object* Find(std::string_view internalPath) const;
+    const Object* Find(TextIn path) const;
+    const Object* FindInternal(std::string_view path) const;
     std::string ReadInternal(std::string_view internalPath);
     void ReadCompression();
     void ReadControlData();
     void ReadFrames();
     std::string Decompressed(std::uint64_t start, std::uint64_t length);
-    const std::string& Stretch(std::uint64_t number);
+    const std::string& Span(std::uint64_t number);
 
     std::filesystem::path file_;
     std::ifstream in_;
     std::uint64_t size_ = 0;
     std::uint64_t dataStart_ = 0;
-    std::unordered_map<std::u16string, Object, Hash, Equal> objects_;
-    std::vector<std::u16string> order_;
+    KeyIndex paths_;
+    std::vector<Object> objects_;  ///< in the order of their paths
     Compression compression_;
-    std::uint64_t stretchNumber_ = 0;
-    std::string stretch_;  ///< the one read last, decompressed; empty for none
+    std::uint64_t spanNumber_ = 0;
+    std::string span_;  ///< the one read last, decompressed; empty for none
 };
 
 }  // namespace halvek

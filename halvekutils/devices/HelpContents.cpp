@@ -12,7 +12,7 @@ namespace halvek {
 namespace {
 
 constexpr int kDeepest = 32;
-constexpr std::size_t kMostEntries = 20'000;
+constexpr std::size_t kMaxEntries = 20'000;
 constexpr char16_t kBlanks[] = u" \t\r\n";
 
 /// The tags of a text, one after the other.
@@ -91,7 +91,7 @@ std::vector<HelpContentsEntry> ParseHelpContents(TextIn html) {
         entry.depth = std::clamp(lists - 1, 0, std::min(deepest, kDeepest));
         if (!entry.title.empty()) entries.push_back(entry);
     };
-    for (Tags tags(html); tags.Next() && entries.size() < kMostEntries;) {
+    for (Tags tags(html); tags.Next() && entries.size() < kMaxEntries;) {
         if (tags.Is(u"ul")) {
             ++lists;
         } else if (tags.Is(u"/ul")) {

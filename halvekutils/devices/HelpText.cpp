@@ -76,7 +76,7 @@ std::u16string HelpNameOf(std::string_view bytes) {
 }
 
 std::u16string WithoutReferences(TextIn html) {
-    constexpr std::size_t kLongestName = 8;
+    constexpr std::size_t kMaxNameLength = 8;
     std::u16string text;
     std::size_t at = 0;
     while (at < html.size()) {
@@ -84,7 +84,7 @@ std::u16string WithoutReferences(TextIn html) {
         text += html.substr(at, start - at);
         at = start;
         if (at == html.size()) break;
-        const std::size_t end = html.substr(at, kLongestName + 2).find(u';');
+        const std::size_t end = html.substr(at, kMaxNameLength + 2).find(u';');
         const char16_t character = end == std::u16string_view::npos
                                        ? kReplacement
                                        : CharacterNamed(html.substr(at + 1, end - 1));

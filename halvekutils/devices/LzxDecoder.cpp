@@ -26,8 +26,8 @@ std::size_t SlotsOf(std::uint32_t window) {
 }
 
 constexpr int ExtraBits(std::uint32_t slot) {
-    constexpr std::uint32_t kMost = 17;
-    return slot < 4 ? 0 : static_cast<int>(std::min(slot / 2 - 1, kMost));
+    constexpr std::uint32_t kMax = 17;
+    return slot < 4 ? 0 : static_cast<int>(std::min(slot / 2 - 1, kMax));
 }
 
 constexpr auto kSlotBases = [] {
@@ -91,9 +91,9 @@ void LzxDecoder::Code<symbols>::Build() {
     count_ = {};
     for (std::size_t i = 0; i < symbols; ++i) ++count_[lengths[i]];
     count_[0] = 0;
-    std::array<std::uint16_t, kLongest + 2> start{};
+    std::array<std::uint16_t, kMaxLength + 2> start{};
     std::int32_t left = 1;
-    for (std::size_t length = 1; length <= kLongest; ++length) {
+    for (std::size_t length = 1; length <= kMaxLength; ++length) {
         left = 2 * left - count_[length];
         if (left < 0) Fail();
         start[length + 1] = static_cast<std::uint16_t>(start[length] + count_[length]);
@@ -108,7 +108,7 @@ std::uint32_t LzxDecoder::Code<symbols>::Read(Bits& in) const {
     std::uint32_t word = 0;
     std::uint32_t first = 0;  // the first word of this length, and its place in order
     std::uint32_t place = 0;
-    for (std::size_t length = 1; length <= kLongest; ++length) {
+    for (std::size_t length = 1; length <= kMaxLength; ++length) {
         word = word << 1 | in.Next();
         first <<= 1;
         if (word < first + count_[length]) return inOrder_[place + word - first];

@@ -11,8 +11,8 @@
 
 namespace halvek {
 
-/// Decompresses one stretch of LZX data, as compiled help files hold it: frames of 32 KB that build
-/// on each other. A new stretch needs a new decoder.
+/// Decompresses one span of LZX data, as compiled help files hold it: frames of 32 KB that build
+/// on each other. A new span needs a new decoder.
 ///
 /// The data is trusted in nothing: whatever the bytes are, a frame decodes or throws.
 class HALVEK_EXPORT LzxDecoder {
@@ -31,13 +31,13 @@ class HALVEK_EXPORT LzxDecoder {
     class Bits;
 
     static constexpr std::size_t kLiterals = 256;
-    static constexpr std::size_t kMostSlots = 50;
-    static constexpr std::size_t kMainSymbols = kLiterals + kMostSlots * 8;
+    static constexpr std::size_t kMaxSlots = 50;
+    static constexpr std::size_t kMainSymbols = kLiterals + kMaxSlots * 8;
     static constexpr std::size_t kLengthSymbols = 249;
     static constexpr std::size_t kAlignedSymbols = 8;
     static constexpr std::size_t kPreSymbols = 20;
     // A run of code lengths may go on behind the symbols that it is read for.
-    static constexpr std::size_t kLongestRun = 51;
+    static constexpr std::size_t kMaxRunLength = 51;
 
     enum class Block : std::uint8_t { None, Verbatim, Aligned, Stored };
 
@@ -48,12 +48,12 @@ class HALVEK_EXPORT LzxDecoder {
         void Build();
         std::uint32_t Read(Bits& in) const;
 
-        std::array<std::uint8_t, symbols + kLongestRun> lengths{};
+        std::array<std::uint8_t, symbols + kMaxRunLength> lengths{};
 
       private:
-        static constexpr int kLongest = 16;
+        static constexpr int kMaxLength = 16;
 
-        std::array<std::uint16_t, kLongest + 1> count_{};
+        std::array<std::uint16_t, kMaxLength + 1> count_{};
         std::array<std::uint16_t, symbols> inOrder_{};
     };
 

@@ -40,10 +40,6 @@ constexpr HookedKey kHookedKeys[] = {
     {kDeleteKey, Calculator::kClear}, {kBackspaceKey, kUnknownButton},
 };
 
-constexpr bool IsDigit(char16_t character) {
-    return character >= u'0' && character <= u'9';
-}
-
 constexpr bool IsMainDigit(int keyCode) {
     return keyCode >= 48 && keyCode <= 57;
 }

@@ -3,45 +3,16 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Geometry.h>
 #include <halvekutils/platform/PrinterSource.h>
+#include <halvekutils/platform/TextMeter.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <string>
 
 namespace halvek {
-
-/// A font as the dialogs' rules choose it.
-struct FontSpec {
-    std::u16string face;      ///< empty for the desktop's own interface face
-    std::int32_t points = 9;  ///< the size
-    bool bold = false;        ///< a bold font
-
-    friend bool operator==(const FontSpec&, const FontSpec&) = default;
-};
-
-/// Measures text in a font. Lines end at CR LF, LF or CR; all lengths are twips.
-class HALVEK_EXPORT TextMeter {
-  public:
-    virtual ~TextMeter();
-
-    /// The width of the widest line.
-    virtual std::int32_t TextWidth(TextIn text, const FontSpec& font) const = 0;
-
-    /// The height of all lines when none is wrapped; one line for the empty text.
-    virtual std::int32_t TextHeight(TextIn text, const FontSpec& font) const = 0;
-
-    /// The height when lines wrap at a width.
-    virtual std::int32_t WrappedHeight(TextIn text, const FontSpec& font,
-                                       std::int32_t width) const = 0;
-
-  protected:
-    TextMeter() = default;
-    TextMeter(const TextMeter&) = default;
-    TextMeter& operator=(const TextMeter&) = default;
-};
 
 /// The icon of a stock message.
 enum class StockIcon {
@@ -108,8 +79,5 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// A source for one build of the printers collection; null where the desktop knows no printers.
     virtual std::unique_ptr<PrinterSource> Printers();
 };
-
-/// Sounds the beep of the installed desktop; silent without one. Never throws.
-HALVEK_EXPORT void Beep() noexcept;
 
 }  // namespace halvek

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 
 #include <exception>
 #include <string>

@@ -11,7 +11,8 @@ void Machine::Sleep(std::chrono::milliseconds time) {
     std::this_thread::sleep_for(time);
 }
 
-bool Machine::Alone(const std::filesystem::path& /*file*/, const std::function<void()>& action) {
+bool Machine::TryExclusive(const std::filesystem::path& /*file*/,
+                           const std::function<void()>& action) {
     action();
     return true;
 }

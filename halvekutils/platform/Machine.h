@@ -62,12 +62,13 @@ class HALVEK_EXPORT Machine {
 
     /// Append, when there is nothing to be done before it: false, and nothing is written, unless
     /// the file is there, regular, writable for its owner and shorter than `length` bytes.
-    virtual bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
-                             std::uintmax_t length) = 0;
+    virtual bool TryAppend(const std::filesystem::path& file, std::string_view bytes,
+                           std::uintmax_t length) = 0;
 
     /// Runs `action` unless another process is just now running one on the same file: false then,
     /// and nothing is run. Never waits.
-    virtual bool Alone(const std::filesystem::path& file, const std::function<void()>& action);
+    virtual bool TryExclusive(const std::filesystem::path& file,
+                              const std::function<void()>& action);
 
   protected:
     Machine() = default;

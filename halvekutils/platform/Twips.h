@@ -10,11 +10,11 @@ namespace halvek {
 inline constexpr std::int32_t kTwipsPerInch = 1440;
 
 /// The longest length that the library works with, 17 kilometres: sums of a few stay in range.
-inline constexpr std::int32_t kMostTwips = 1'000'000'000;
+inline constexpr std::int32_t kMaxTwips = 1'000'000'000;
 
 /// A computed length, cut off at the longest one.
 constexpr std::int32_t LimitedTwips(std::int64_t twips) {
-    return static_cast<std::int32_t>(twips < kMostTwips ? twips : kMostTwips);
+    return static_cast<std::int32_t>(twips < kMaxTwips ? twips : kMaxTwips);
 }
 
 /// A length in twips as logical pixels of a screen with `dpi` logical dots per inch.

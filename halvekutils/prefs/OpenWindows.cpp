@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/prefs/OpenWindows.h>

@@ -68,7 +68,7 @@ void ReminderDefinition::AddTab(TextIn tab) {
 
 void ReminderDefinition::AddLine(TextIn line) {
     lines_.back().push_back(line.Str());
-    if (EqualFolded(line.substr(0, 2), u"p-")) hasPatientSpecificData_ = true;
+    if (StartsFolded(line, u"p-")) hasPatientSpecificData_ = true;
 }
 
 }  // namespace halvek

@@ -25,7 +25,7 @@ class Utils;
 /// The field replaces the line edit's validator and input mask, and widens a maximum length that
 /// leaves no room for an amount. It may be made before or after the line edit is shown, and anew.
 /// @param line  the line edit; null does nothing
-/// @param utils  whose handlers serve the field; null for the current Utils object
+/// @param utils  kept alive as long as the field; null for none
 ///
 ///     MakeCurrencyField(&amount);
 HALVEK_EXPORT void MakeCurrencyField(QLineEdit* line, std::shared_ptr<Utils> utils = nullptr);

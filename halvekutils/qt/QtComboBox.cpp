@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/Existing.h>
 
 #include <QComboBox>
 #include <QFontMetricsF>
 #include <QListView>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>

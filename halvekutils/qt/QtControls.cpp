@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/Metrics.h>
@@ -26,10 +27,7 @@ class WidgetOwnerForm : public OwnerForm {
     void Refresh() override { Window().repaint(); }
 
   private:
-    QWidget& Window() const {
-        if (window_ == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"window");
-        return *window_;
-    }
+    QWidget& Window() const { return Existing(window_, u"window"); }
     QRect Frame() const { return Window().frameGeometry(); }
 
     QPointer<QWidget> window_;
@@ -41,19 +39,19 @@ class WidgetTarget : public PopupTarget {
     Rect Place() const override { return ToRect(Seen()); }
     Rect Screen() const override {
         const QScreen* const screen = QGuiApplication::screenAt(Seen().center());
-        return ToRect((screen != nullptr ? screen : Existing().screen())->availableGeometry());
+        return ToRect((screen != nullptr ? screen : Widget().screen())->availableGeometry());
     }
 
   protected:
     /// The widget, which must exist.
-    virtual const QWidget& Existing() const = 0;
+    virtual const QWidget& Widget() const = 0;
     /// The visible part of the target inside the widget.
     virtual QRect Inside() const = 0;
 
   private:
     QRect Seen() const {
         const QRect inside = Inside();
-        return QRect(Existing().mapToGlobal(inside.topLeft()), inside.size());
+        return QRect(Widget().mapToGlobal(inside.topLeft()), inside.size());
     }
 };
 
@@ -63,11 +61,8 @@ class WholeWidgetTarget : public WidgetTarget {
     bool Exists() const override { return widget_ != nullptr; }
 
   protected:
-    const QWidget& Existing() const override {
-        if (!Exists()) throw RuntimeError(Fault::ObjectNotSet, u"control");
-        return *widget_;
-    }
-    QRect Inside() const override { return Existing().rect(); }
+    const QWidget& Widget() const override { return Existing(widget_, u"control"); }
+    QRect Inside() const override { return Widget().rect(); }
 
   private:
     QPointer<const QWidget> widget_;
@@ -79,7 +74,7 @@ class CellTarget : public WidgetTarget {
     bool Exists() const override { return view_ != nullptr && cell_.isValid(); }
 
   protected:
-    const QWidget& Existing() const override { return *View().viewport(); }
+    const QWidget& Widget() const override { return *View().viewport(); }
     QRect Inside() const override {
         const QRect whole = View().visualRect(cell_);
         const QRect seen = whole & View().viewport()->rect();

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/Existing.h>
 
 #include <QAbstractItemView>
 #include <QFontInfo>
+#include <QPointer>
 
 namespace halvek {
 

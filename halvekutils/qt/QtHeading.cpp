@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
-#include <halvekutils/qt/forms/Existing.h>
 #include <halvekutils/qt/forms/HeadingBorder.h>
 #include <halvekutils/qt/forms/Metrics.h>
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPointer>
 #include <QRadioButton>
 
 namespace halvek {

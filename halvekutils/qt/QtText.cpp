@@ -17,8 +17,8 @@ QString ToToolTip(TextIn text) {
 
 QString ToWindowTitle(TextIn text) {
     // A display server drops its connection, and the program with it, over a title of megabytes.
-    constexpr std::size_t kMostShown = 2000;
-    return ToQString(text.substr(0, kMostShown))
+    constexpr std::size_t kMaxShown = 2000;
+    return ToQString(text.substr(0, kMaxShown))
         .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 

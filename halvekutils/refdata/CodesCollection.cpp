@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Pieces.h>
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/CodesCollection.h>
 

@@ -2,7 +2,7 @@
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>

@@ -2,7 +2,7 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>

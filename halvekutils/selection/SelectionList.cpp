@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/base/Prefetch.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <functional>
 #include <limits>
 #include <utility>
 
@@ -24,10 +20,6 @@ constexpr std::u16string_view kDeleted = u"1";
 /// The field that a text starts with.
 std::u16string_view FirstField(std::u16string_view text) {
     return text.substr(0, CharacterScan(text, kFieldEnd, kEntryEnd).Next());
-}
-
-std::size_t HashOf(std::u16string_view code) {
-    return std::hash<std::u16string_view>()(code);
 }
 
 /// One piece of the list, told by the separators in it from left to right.
@@ -113,80 +105,31 @@ void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
 void SelectionList::MeasureCode(std::size_t length) {
     longestCodeLength_ = std::max(longestCodeLength_, static_cast<std::int32_t>(length));
     if (length > 0) ++codes_;
+    codeCharacters_ += length;
 }
 
 void SelectionList::PrepareFind() const {
-    if (!slots_.empty()) return;
-    try {
-        IndexCodes();
-    } catch (...) {
-        slots_.clear();  // half an index would deny the codes that it lacks
-        throw;
-    }
+    if (!index_) index_ = IndexOfCodes();
 }
 
-void SelectionList::IndexCodes() const {
-    indexed_ = 0;
-    entryBits_ = std::bit_ceil(static_cast<std::uint32_t>(lastShown_) + 1) - 1;
+SelectionList::Index SelectionList::IndexOfCodes() const {
+    Index index;
     // A short text with many codes can only repeat a few of them.
-    ResizeIndex(std::bit_ceil(std::min(codes_, values_.size() / 8) * 8 / 7 + 2));
-    // Slots lie anywhere in the index: each is asked for a while before its turn.
-    std::array<IndexedCode, 32> waiting;
-    std::size_t count = 0;
-    const auto addWaiting = [&] {
-        for (std::size_t i = 0; i < count; ++i) AddToIndex(waiting[i]);
-        count = 0;
-    };
+    const std::size_t distinct = std::min(codes_, values_.size() / 8);
+    index.codes.Reserve(distinct, codeCharacters_);
+    index.entries.reserve(distinct);
     for (std::int32_t entry = 1; entry <= lastShown_; ++entry) {
         const std::u16string_view code = TrimmedCode(entry);
-        if (code.empty()) continue;
-        waiting[count] = {code, HashOf(code), entry};
-        Prefetch(&slots_[waiting[count].hash & (slots_.size() - 1)]);
-        if (++count == waiting.size()) addWaiting();
+        if (!code.empty() && index.codes.Add(code)) index.entries.push_back(entry);
     }
-    addWaiting();
-}
-
-void SelectionList::AddToIndex(const IndexedCode& code) const {
-    std::uint32_t& slot = slots_[SlotOf(code.text, code.hash)];
-    if (slot != 0) return;  // the first entry of a code stands for it
-    slot = static_cast<std::uint32_t>(code.entry) | TagOf(code.hash);
-    if (++indexed_ * 8 > slots_.size() * 7) ResizeIndex(slots_.size() * 2);
-}
-
-void SelectionList::ResizeIndex(std::size_t size) const {
-    std::vector<std::uint32_t> old(size);
-    old.swap(slots_);
-    for (const std::uint32_t taken : old) {
-        if (taken == 0) continue;
-        const std::u16string_view code = TrimmedCode(EntryIn(taken));
-        slots_[SlotOf(code, HashOf(code))] = taken;
-    }
-}
-
-std::uint32_t SelectionList::TagOf(std::size_t hash) const {
-    return static_cast<std::uint32_t>(hash >> 32) & ~entryBits_;
-}
-
-std::int32_t SelectionList::EntryIn(std::uint32_t slot) const {
-    return static_cast<std::int32_t>(slot & entryBits_);
-}
-
-std::size_t SelectionList::SlotOf(std::u16string_view code, std::size_t hash) const {
-    const std::size_t last = slots_.size() - 1;
-    const std::uint32_t tag = TagOf(hash);
-    std::size_t at = hash & last;
-    for (; slots_[at] != 0; at = (at + 1) & last) {
-        const bool sameTag = (slots_[at] & ~entryBits_) == tag;
-        if (sameTag && TrimmedCode(EntryIn(slots_[at])) == code) break;
-    }
-    return at;
+    return index;
 }
 
 std::int32_t SelectionList::Find(std::u16string_view code) const {
     if (code.empty()) return 0;
     PrepareFind();
-    return EntryIn(slots_[SlotOf(code, HashOf(code))]);
+    const std::size_t found = index_->codes.Find(code);
+    return found == KeyIndex::kNone ? 0 : index_->entries[found];
 }
 
 std::int32_t SelectionList::RowCount() const {

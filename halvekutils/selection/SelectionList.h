@@ -2,8 +2,10 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
+#include <halvekutils/base/KeyIndex.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,33 +56,22 @@ class HALVEK_EXPORT SelectionList {
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }
 
   private:
-    struct IndexedCode {
-        std::u16string_view text;
-        std::size_t hash = 0;
-        std::int32_t entry = 0;
-    };
-
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
     void ReadEntries(bool doNotIncludeDeleted);
     void MeasureCode(std::size_t length);
-    void IndexCodes() const;
-    void AddToIndex(const IndexedCode& code) const;
-    void ResizeIndex(std::size_t size) const;
-    std::uint32_t TagOf(std::size_t hash) const;
-    std::int32_t EntryIn(std::uint32_t slot) const;
-    std::size_t SlotOf(std::u16string_view code, std::size_t hash) const;
+    struct Index {
+        KeyIndex codes{KeyCase::Exact};
+        std::vector<std::int32_t> entries;  ///< the first one of each code
+    };
+    Index IndexOfCodes() const;
 
     std::u16string values_;
-    std::vector<std::uint32_t> starts_;  ///< where each entry's piece starts
-    std::vector<bool> deleted_;          ///< empty when deleted entries are left out
-    // The index of the codes, made when one is first looked up. A slot is 0 when it is free, else
-    // the first entry of a code and, in the bits that no entry needs, a part of the code's hash,
-    // which spares most looks into the text.
-    mutable std::vector<std::uint32_t> slots_;
-    mutable std::uint32_t entryBits_ = 0;
-    mutable std::size_t indexed_ = 0;
-    std::size_t codes_ = 0;  ///< how many entries have one
+    std::vector<std::uint32_t> starts_;   ///< where each entry's piece starts
+    std::vector<bool> deleted_;           ///< empty when deleted entries are left out
+    mutable std::optional<Index> index_;  ///< made when a code is first looked up
+    std::size_t codes_ = 0;               ///< how many entries have one
+    std::size_t codeCharacters_ = 0;      ///< of all codes together
     std::int32_t lastShown_ = 0;
     std::int32_t longestCodeLength_ = 0;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/SystemFault.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/system/LocalMachine.h>
 
@@ -93,7 +94,7 @@ void RequireRegular(const Descriptor& open, const fs::path& file) {
 
 /// Takes the start of a line that found no room for its end out of the file again, unless another
 /// process has written behind it.
-void TakeBack(const Descriptor& open, std::size_t written) {
+void UndoPartialWrite(const Descriptor& open, std::size_t written) {
     const off_t end = ::lseek(open.Number(), 0, SEEK_CUR);
     struct stat status {};
     if (::fstat(open.Number(), &status) != 0 || status.st_size != end) return;
@@ -108,7 +109,7 @@ void WriteAll(Descriptor& open, std::string_view bytes, const fs::path& file) {
         const ssize_t written = ::write(open.Number(), bytes.data() + done, bytes.size() - done);
         if (written < 0) {
             const std::error_code error = LastError();
-            if (done > 0) TakeBack(open, done);
+            if (done > 0) UndoPartialWrite(open, done);
             throw SystemFault(error, file);
         }
         done += static_cast<std::size_t>(written);
@@ -205,8 +206,7 @@ void LocalMachine::Append(const fs::path& file, std::string_view bytes) {
     WriteAll(open, bytes, file);
 }
 
-bool LocalMachine::AppendBelow(const fs::path& file, std::string_view bytes,
-                               std::uintmax_t length) {
+bool LocalMachine::TryAppend(const fs::path& file, std::string_view bytes, std::uintmax_t length) {
     Descriptor open(::open(file.c_str(), kAppendFlags));
     if (open.Number() < 0) return false;
     const struct stat status = StatusOf(open, file);
@@ -216,7 +216,7 @@ bool LocalMachine::AppendBelow(const fs::path& file, std::string_view bytes,
     return ready;
 }
 
-bool LocalMachine::Alone(const fs::path& file, const std::function<void()>& action) {
+bool LocalMachine::TryExclusive(const fs::path& file, const std::function<void()>& action) {
     const Descriptor open(::open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     // A file system without locks leaves the processes uncoordinated.
     if (open.Number() >= 0 && ::flock(open.Number(), LOCK_EX | LOCK_NB) != 0 &&

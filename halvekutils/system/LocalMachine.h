@@ -25,9 +25,10 @@ class HALVEK_EXPORT LocalMachine : public Machine {
     void VisitFiles(const std::filesystem::path& folder,
                     const std::function<bool(const std::filesystem::path&)>& visit) override;
     void Append(const std::filesystem::path& file, std::string_view bytes) override;
-    bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
-                     std::uintmax_t length) override;
-    bool Alone(const std::filesystem::path& file, const std::function<void()>& action) override;
+    bool TryAppend(const std::filesystem::path& file, std::string_view bytes,
+                   std::uintmax_t length) override;
+    bool TryExclusive(const std::filesystem::path& file,
+                      const std::function<void()>& action) override;
 };
 
 }  // namespace halvek

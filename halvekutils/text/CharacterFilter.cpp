@@ -125,13 +125,11 @@ bool IsDateChar(std::int32_t locChar) {
     if (locChar < 0 || locChar > 255) {
         throw RuntimeError(Fault::InvalidArgument, u"character code " + IntegerText(locChar));
     }
-    return (locChar >= u'0' && locChar <= u'9') || locChar == u'/' || locChar == kBackspace;
+    return IsDigit(static_cast<char16_t>(locChar)) || locChar == u'/' || locChar == kBackspace;
 }
 
 bool IsAlpha(TextIn strText) {
-    return std::ranges::all_of(strText, [](char16_t character) {
-        return (character >= u'A' && character <= u'Z') || (character >= u'a' && character <= u'z');
-    });
+    return std::ranges::all_of(strText, IsLetter);
 }
 
 std::u16string RemoveUnprintableChars(TextIn str) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/Existing.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/base/RuntimeError.h>
@@ -15,18 +16,12 @@ namespace halvek {
 
 namespace {
 
-template <class Control>
-Control& Existing(const std::shared_ptr<Control>& control, TextIn what) {
-    if (control == nullptr) throw RuntimeError(Fault::ObjectNotSet, what);
-    return *control;
-}
-
 // Nothing on a screen is larger, and a text engine may choke on what is.
 constexpr float kLargestFont = 2160;
 constexpr float kFontStep = 0.1F;
 // The sizes of a font that has fixed ones lie a few points apart. One that has not grown by 10 is
 // of a single size.
-constexpr int kMostFontSteps = 100;
+constexpr int kMaxFontSteps = 100;
 
 struct GridFontCode {
     TextIn code;
@@ -95,7 +90,7 @@ bool SetFontProperties(const std::shared_ptr<ControlFont>& font, TextIn fontName
     set.Name(fontName);
     set.Size(fontSize);
     for (int step = 1; !(set.Size() >= fontSize); ++step) {
-        if (step > kMostFontSteps) {
+        if (step > kMaxFontSteps) {
             set.Size(fontSize);
             return false;
         }

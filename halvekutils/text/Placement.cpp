@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/text/Placement.h>
 
 #include <algorithm>
@@ -12,8 +13,8 @@ namespace {
 // Sums of positions on a screen and lengths stay far inside 64 bits, whatever a host passes.
 using Twips = std::int64_t;
 
-/// One direction of the screen: a stretch that windows may use.
-struct Stretch {
+/// One direction of the screen: a span that windows may use.
+struct Span {
     Twips start;
     Twips length;
 
@@ -31,12 +32,12 @@ std::optional<std::int32_t> Given(float position) {
     return RoundToInt32(std::min(position, kFarthest));
 }
 
-std::int32_t PlaceAcross(const PopupAnchor& anchor, Twips width, const Stretch& screen) {
+std::int32_t PlaceAcross(const PopupAnchor& anchor, Twips width, const Span& screen) {
     if (!anchor.left) return screen.Centre(width);
     return screen.Fit(anchor.edge == PopupEdge::Left ? *anchor.left : *anchor.left - width, width);
 }
 
-std::int32_t PlaceDown(const PopupAnchor& anchor, Twips height, const Stretch& screen) {
+std::int32_t PlaceDown(const PopupAnchor& anchor, Twips height, const Span& screen) {
     const std::optional<std::int32_t>& topUp = anchor.topUp;
     const std::optional<std::int32_t>& topDown = anchor.topDown;
     if (!topUp && !topDown) return screen.Centre(height);

@@ -3,13 +3,14 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/platform/Controls.h>
-#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Geometry.h>
 
 #include <cstdint>
 #include <optional>
 
 namespace halvek {
+
+class Desktop;
 
 /// The edge of a pop-up that a given left position fixes.
 enum class PopupEdge : std::int32_t {

@@ -22,7 +22,7 @@ std::int64_t CountIn(TextIn text) {
     constexpr std::int64_t kFar = 1'000'000'000'000;
     std::int64_t count = 0;
     for (const char16_t digit : text) {
-        if (digit < u'0' || digit > u'9' || count > kFar) {
+        if (!IsDigit(digit) || count > kFar) {
             return static_cast<std::int64_t>(std::clamp<double>(Val(text), -kFar, kFar));
         }
         count = 10 * count + (digit - u'0');
@@ -38,7 +38,8 @@ DateTime Today(Machine& machine) {
     return std::chrono::floor<std::chrono::days>(machine.Now());
 }
 
-void AppendTwoDigits(std::u16string& out, TextIn part) {
+/// With a "0" in front of a single digit.
+void AppendPadded(std::u16string& out, TextIn part) {
     const TextIn digits = Trimmed(part);
     out.append(digits.size() < 2 ? 2 - digits.size() : 0, u'0').append(digits);
 }
@@ -74,8 +75,8 @@ std::u16string DigitsOfDate(TextIn strDate) {
         digits = strDate;
         std::erase(digits, u'/');
     } else {
-        AppendTwoDigits(digits, strDate.substr(0, first));
-        AppendTwoDigits(digits, strDate.substr(first + 1, second - first - 1));
+        AppendPadded(digits, strDate.substr(0, first));
+        AppendPadded(digits, strDate.substr(first + 1, second - first - 1));
         digits += strDate.substr(second + 1);
     }
     const TextIn trimmed = Trimmed(digits);
@@ -94,9 +95,9 @@ std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
     if (Val(month) > kLastMonth || year.empty()) return {};
     std::u16string date;
     date.reserve(10);
-    AppendTwoDigits(date, month);
+    AppendPadded(date, month);
     date += u'/';
-    AppendTwoDigits(date, day);
+    AppendPadded(date, day);
     date += u'/';
     date += year;
     return date;

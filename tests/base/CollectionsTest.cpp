@@ -22,8 +22,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
 
 using Numbers = KeyedCollection<int>;
 
@@ -61,7 +61,7 @@ TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
     numbers.Add(Number(1));
     numbers.Add(Number(2));
     EXPECT_EQ(FaultOf([&] { numbers.Item(u""); }), 5);
-    for (const std::int32_t position : {0, -1, 3, kLeast, kMost}) {
+    for (const std::int32_t position : {0, -1, 3, kMin, kMax}) {
         EXPECT_EQ(FaultOf([&] { numbers.Item(position); }), 9) << position;
         EXPECT_EQ(FaultOf([&] { numbers.Remove(position); }), 9) << position;
     }
@@ -87,8 +87,8 @@ TEST(KeyedCollection, KeepsOrderAndKeysThroughRemovals) {
 }
 
 TEST(StringArray, KeepsItsBoundsAndFaultsOutsideThem) {
-    const std::pair<std::int32_t, std::int32_t> rows[] = {
-        {1, 16}, {-3, 2}, {0, -1}, {5, 4}, {kMost, kMost}, {kLeast, kLeast}};
+    const std::pair<std::int32_t, std::int32_t> rows[] = {{1, 16}, {-3, 2},      {0, -1},
+                                                          {5, 4},  {kMax, kMax}, {kMin, kMin}};
     for (const auto& [lower, upper] : rows) {
         StringArray texts(lower, upper);
         EXPECT_EQ(std::pair(texts.LBound(), texts.UBound()), std::pair(lower, upper));
@@ -114,7 +114,7 @@ TEST(StringTable, KeepsItsContentsWhenColumnsComeAndGo) {
     table.ResizeColumns(3);
     EXPECT_EQ(table.At(0, 0) + table.At(1, 0), u"xy");
     EXPECT_EQ(table.At(0, 1) + table.At(1, 1) + table.At(0, 2) + table.At(1, 2), u"");
-    for (const auto& [row, column] : {std::pair{2, 0}, {0, 3}, {-1, 1}, {1, -1}, {kLeast, kMost}}) {
+    for (const auto& [row, column] : {std::pair{2, 0}, {0, 3}, {-1, 1}, {1, -1}, {kMin, kMax}}) {
         EXPECT_EQ(FaultOf([&, r = row, c = column] { table.At(r, c); }), 9) << row << ' ' << column;
     }
     EXPECT_EQ(FaultOf([&] { table.ResizeColumns(-1); }), 9);

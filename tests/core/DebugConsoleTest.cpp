@@ -47,10 +47,10 @@ TEST_F(DebugConsoleTest, MoreThan30000CharactersAreClearedByTheNextLine) {
 /// A log whose writing is itself a matter for the debug console.
 struct TalkingMachine : TestMachine {
     using TestMachine::TestMachine;
-    bool AppendBelow(const std::filesystem::path& file, std::string_view bytes,
-                     std::uintmax_t length) override {
+    bool TryAppend(const std::filesystem::path& file, std::string_view bytes,
+                   std::uintmax_t length) override {
         Services::Current().ShowInDebug(u"writing");
-        return TestMachine::AppendBelow(file, bytes, length);
+        return TestMachine::TryAppend(file, bytes, length);
     }
 };
 

@@ -19,7 +19,7 @@ constexpr Rect kBelowPanel = {600, 400, 19400, 9600};
 constexpr Size kPopup = {4000, 3000};
 constexpr auto kLeft = PopupEdge::Left;
 constexpr auto kRight = PopupEdge::Right;
-constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
+constexpr auto kMax = std::numeric_limits<std::int32_t>::max();
 
 struct Target : PopupTarget {
     Target(const Rect& place, const Rect& screen) : place_(place), screen_(screen) {}
@@ -45,7 +45,7 @@ TEST(Placement, BesideATargetStaysWhollyOnItsScreen) {
         {"second screen", {-5000, -2000, 900, 400}, kPopup, kSecond, kLeft, {-5000, -1600}},
         {"its corner", {-900, 6600, 900, 400}, kPopup, kSecond, kRight, {-4000, 3600}},
         {"larger than it", {-900, 0, 900, 400}, {30000, 20000}, kSecond, kLeft, {-20000, -3000}},
-        {"absurd size", {8000, 4000, 500, 500}, {kMost, kMost}, kMain, kRight, {0, 0}},
+        {"absurd size", {8000, 4000, 500, 500}, {kMax, kMax}, kMain, kRight, {0, 0}},
     };
     for (const auto& [where, target, outer, screen, edge, expected] : cases) {
         const PopupAnchor anchor = AnchorBeside(edge, Target(target, screen));

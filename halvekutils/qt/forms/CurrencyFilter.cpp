@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/core/ComponentServices.h>
+#include <halvekutils/platform/TextField.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyFilter.h>
 #include <halvekutils/qt/forms/CurrencyKeyEvent.h>
 #include <halvekutils/qt/forms/CurrencyValidator.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/LineEditCopy.h>
 
 #include <QApplication>
@@ -63,13 +66,13 @@ bool TakesEvent(QObject& receiver, const CurrencyFilter& field, const Body& body
 }  // namespace
 
 /// Watches the application while the field is edited.
-class CurrencyFilter::Elsewhere : public QObject {
+class CurrencyFilter::ApplicationFilter : public QObject {
   public:
-    explicit Elsewhere(CurrencyFilter& field) : field_(field) {}
+    explicit ApplicationFilter(CurrencyFilter& field) : field_(field) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         return watched != field_.parent() && TakesEvent(*watched, field_, [&](QLineEdit& line) {
-                   return field_.FilterElsewhere(line, *watched, *event);
+                   return field_.FilterApplication(line, *watched, *event);
                });
     }
 
@@ -80,8 +83,9 @@ class CurrencyFilter::Elsewhere : public QObject {
 CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils)
     : QObject(&line),
       sign_(sign),
+      events_(sign, ComponentServices()),
       utils_(std::move(utils)),
-      elsewhere_(std::make_unique<Elsewhere>(*this)) {
+      applicationFilter_(std::make_unique<ApplicationFilter>(*this)) {
     line.setInputMask(QString());
     line.setMaxLength(std::max(line.maxLength(), kRoom));
     line.setText(line.text());  // what was undoable before is not judged
@@ -102,16 +106,6 @@ CurrencyFilter& CurrencyFilter::Attach(QLineEdit& line, AmountSign sign,
 
 CurrencyFilter* CurrencyFilter::Of(const QLineEdit& line) {
     return line.findChild<CurrencyFilter*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-Utils& CurrencyFilter::Library() {
-    if (utils_ != nullptr) return *utils_;
-    // Before the first InitUtils an object of its own serves.
-    const std::shared_ptr<Utils> current = Utils::CurrentUtils();
-    if (current != nullptr || ownUtils_ == nullptr) {
-        ownUtils_ = current != nullptr ? current : Utils::Create();
-    }
-    return *ownUtils_;
 }
 
 bool CurrencyFilter::eventFilter(QObject* watched, QEvent* event) {
@@ -153,7 +147,8 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
 
 /// A button that is pressed without taking the focus validates too; the click that moved the focus
 /// does nothing when the field keeps it.
-bool CurrencyFilter::FilterElsewhere(QLineEdit& line, const QObject& watched, const QEvent& event) {
+bool CurrencyFilter::FilterApplication(QLineEdit& line, const QObject& watched,
+                                       const QEvent& event) {
     switch (event.type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
@@ -181,7 +176,7 @@ bool CurrencyFilter::PressKey(QLineEdit& line, const QKeyEvent& event) {
         Insert(line, QApplication::clipboard()->text());
         return true;
     }
-    const char16_t letter = TypedBy(event);
+    const char16_t letter = AmountCharacterOf(event);
     return letter != 0 && Type(line, letter);
 }
 
@@ -189,13 +184,8 @@ bool CurrencyFilter::PressKey(QLineEdit& line, const QKeyEvent& event) {
 bool CurrencyFilter::Type(QLineEdit& line, char16_t letter) {
     const std::shared_ptr<TextField> field = CopyOf(line);
     const std::u16string before = field->Text();
-    const bool isSigned = sign_ == AmountSign::Signed;
     auto key = static_cast<std::int16_t>(letter);
-    if (isSigned) {
-        Library().OnNegCurrencyCtrKeyPress(field, key);
-    } else {
-        Library().OnCurrencyCtrKeyPress(field, key);
-    }
+    events_.PressKey(field, key);
     if (key == kBackspace) return false;
     if (key != 0) {
         const std::int32_t start = field->SelStart();
@@ -205,11 +195,7 @@ bool CurrencyFilter::Type(QLineEdit& line, char16_t letter) {
     }
     const std::u16string typed = field->Text();
     if (typed != before) {
-        if (isSigned) {
-            Library().OnNegCurrencyCtrChange(field);
-        } else {
-            Library().OnCurrencyCtrChange(field);
-        }
+        events_.Change(field);
         if (!IsTypedAmount(field->Text(), sign_)) {
             Beep();
             return true;
@@ -291,12 +277,12 @@ void CurrencyFilter::Enter(QLineEdit& line) {
     if (editing_ || leaving) return;
     editing_ = true;
     wasLocked_ = line.isReadOnly();
-    qApp->installEventFilter(elsewhere_.get());
+    qApp->installEventFilter(applicationFilter_.get());
 
     const std::shared_ptr<TextField> field = CopyOf(line);
     const bool isReadable = BareAmount(line.text(), AmountSign::Signed).has_value();
     field->Locked(wasLocked_ || !isReadable);
-    Library().OnCurrencyCtrGotFocus(field);
+    events_.Enter(field);
     const QPointer<QLineEdit> alive(&line);
     if (!wasLocked_) SetText(line, ToQString(field->Text()));
     if (alive != nullptr) Select(line, field->SelStart(), field->SelLength());
@@ -317,18 +303,15 @@ bool CurrencyFilter::MayLeave(QLineEdit& line) {
     const QPointer<CurrencyFilter> self(this);
     const auto field = std::make_shared<TextField>(ForValidation(line.text()));
     bool cancel = false;
-    if (sign_ == AmountSign::Signed) {
-        Library().OnNegCurrencyCtrValidate(field, cancel);
-    } else {
-        Library().OnCurrencyCtrValidate(field, cancel);
-    }
+    events_.Leave(field, cancel);
     const QString validated = ToQString(field->Text());
     if (line.text() != validated) SetText(line, validated);
     if (cancel || self == nullptr || range_.from == nullptr) return !cancel;
 
+    // The message may end the filter.
     const Range range = range_;
-    Library().OnCurrencyCtrValidateRange(field, range.from->text(), validated, range.lblMin,
-                                         range.lblMax, cancel);
+    const CurrencyEvents events = events_;
+    events.CheckRange(field, range.from->text(), validated, range.lblMin, range.lblMax, cancel);
     if (cancel && self != nullptr) SetText(line, ToQString(field->Text()));
     return !cancel;
 }
@@ -336,7 +319,7 @@ bool CurrencyFilter::MayLeave(QLineEdit& line) {
 void CurrencyFilter::EndEditing() {
     editing_ = false;
     refusesPress_ = false;
-    qApp->removeEventFilter(elsewhere_.get());
+    qApp->removeEventFilter(applicationFilter_.get());
 }
 
 /// An amount that the program has set meanwhile, "$1,234.50" say, becomes a bare number again

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/currency/AmountText.h>
-#include <halvekutils/platform/TextField.h>
+#include <halvekutils/currency/CurrencyEvents.h>
 
 #include <QLineEdit>
 #include <QObject>
@@ -17,7 +16,9 @@ class QKeyEvent;
 
 namespace halvek {
 
-/// Attaches the currency handlers of Utils to a line edit, which owns it.
+class Utils;
+
+/// Attaches the handlers of currency fields to a line edit, which owns it.
 ///
 /// The handlers work on a copy of the field's four values. What they make of it goes back into the
 /// line edit as one change, which is one step for undo and one signal for the host.
@@ -46,10 +47,10 @@ class CurrencyFilter : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    class Elsewhere;
+    class ApplicationFilter;
 
     bool Filter(QLineEdit& line, QEvent& event);
-    bool FilterElsewhere(QLineEdit& line, const QObject& watched, const QEvent& event);
+    bool FilterApplication(QLineEdit& line, const QObject& watched, const QEvent& event);
     bool PressKey(QLineEdit& line, const QKeyEvent& event);
     bool Type(QLineEdit& line, char16_t letter);
     bool Insert(QLineEdit& line, const QString& piece);
@@ -63,12 +64,10 @@ class CurrencyFilter : public QObject {
     void EndEditing();
     void MakeBare(QLineEdit& line);
 
-    Utils& Library();
-
     AmountSign sign_;
-    std::shared_ptr<Utils> utils_;
-    std::shared_ptr<Utils> ownUtils_;
-    std::unique_ptr<Elsewhere> elsewhere_;
+    CurrencyEvents events_;
+    std::shared_ptr<Utils> utils_;  ///< kept alive for the host
+    std::unique_ptr<ApplicationFilter> applicationFilter_;
     Range range_;
     bool editing_ = false;  ///< entered and not left yet
     bool wasLocked_ = false;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/CurrencyKeyEvent.h>
-
-#include <QKeyEvent>
+#include <halvekutils/qt/forms/Keys.h>
 
 namespace halvek {
 
@@ -23,15 +22,10 @@ bool IsPassing(const QKeyEvent& event) {
     }
 }
 
-bool IsEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-char16_t TypedBy(const QKeyEvent& event) {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return 0;
-    if (event.key() == Qt::Key_Backspace) return kBackspace;
-    if (event.text().size() != 1 || !event.text().front().isPrint()) return 0;
-    const char16_t letter = event.text().front().unicode();
+char16_t AmountCharacterOf(const QKeyEvent& event) {
+    constexpr Qt::KeyboardModifiers kNoTyping = Qt::ControlModifier | Qt::MetaModifier;
+    if (event.key() == Qt::Key_Backspace && !(event.modifiers() & kNoTyping)) return kBackspace;
+    const char16_t letter = TypedBy(event, kNoTyping);
     // Where people write decimal commas the keypad has one instead of the point.
     const bool isKeypadComma = letter == u',' && event.modifiers() & Qt::KeypadModifier;
     return isKeypadComma ? u'.' : letter;

@@ -10,10 +10,8 @@ inline constexpr char16_t kBackspace = 8;
 /// Keys that say nothing to a currency field.
 bool IsPassing(const QKeyEvent& event);
 
-/// The key that presses the default button.
-bool IsEnter(const QKeyEvent& event);
-
-/// The character that a key types, Backspace included; 0 for a command or an editing key.
-char16_t TypedBy(const QKeyEvent& event);
+/// The character that a key types into a currency field, Backspace included; 0 for a command or an
+/// editing key.
+char16_t AmountCharacterOf(const QKeyEvent& event);
 
 }  // namespace halvek

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyValidator.h>
 
@@ -15,7 +15,7 @@ QValidator::State CurrencyValidator::validate(QString& text, int& caret) const {
     if (!line_.isUndoAvailable()) return Acceptable;
     const std::optional<std::u16string> typed = TypedAmount(text, sign_);
     if (!typed) {
-        if (ShortensWhatIsNone(text)) return Acceptable;
+        if (DeletesFromInvalidText(text)) return Acceptable;
         Beep();
         return Invalid;
     }
@@ -27,7 +27,7 @@ QValidator::State CurrencyValidator::validate(QString& text, int& caret) const {
 }
 
 /// What the program wrote may be no amount; the user must be able to delete it bit by bit.
-bool CurrencyValidator::ShortensWhatIsNone(const QString& text) const {
+bool CurrencyValidator::DeletesFromInvalidText(const QString& text) const {
     return text.size() < shown_.size() && !TypedAmount(shown_, sign_);
 }
 

@@ -21,7 +21,7 @@ class CurrencyValidator : public QValidator {
     State validate(QString& text, int& caret) const override;
 
   private:
-    bool ShortensWhatIsNone(const QString& text) const;
+    bool DeletesFromInvalidText(const QString& text) const;
 
     QLineEdit& line_;
     AmountSign sign_;

@@ -17,7 +17,7 @@ constexpr int kInterval = 40;  // milliseconds between repaints
 constexpr qint64 kBurst = 10;
 
 /// A line is laid out as a whole: one of megabytes would hold the program up.
-constexpr int kLongestLine = 1000;
+constexpr int kMaxLineLength = 1000;
 
 bool EndsLine(char16_t character) {
     return character == u'\r' || character == u'\n';
@@ -31,11 +31,11 @@ bool IsControl(char16_t character) {
 QString Shown(std::u16string_view text) {
     const auto size = static_cast<qsizetype>(text.size());
     QString shown;
-    shown.reserve(size + size / kLongestLine);
+    shown.reserve(size + size / kMaxLineLength);
     int length = 0;
     for (const char16_t character : text) {
         const bool endsLine = EndsLine(character);
-        if (!endsLine && length >= kLongestLine && !QChar::isLowSurrogate(character)) {
+        if (!endsLine && length >= kMaxLineLength && !QChar::isLowSurrogate(character)) {
             shown += QLatin1Char('\n');
             length = 0;
         }

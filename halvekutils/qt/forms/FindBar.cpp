@@ -14,7 +14,7 @@ namespace halvek {
 
 namespace {
 
-constexpr int kLongestWord = 200;
+constexpr int kMaxWordLength = 200;
 
 template <class Press>
 QToolButton* MakeButton(const char* name, const QString& caption, const QString& toolTip,
@@ -38,7 +38,7 @@ FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
     txtFind_->setObjectName(QLatin1String("txtFind"));
     txtFind_->setAccessibleName(prompt);
     txtFind_->setPlaceholderText(prompt);
-    txtFind_->setMaxLength(kLongestWord);
+    txtFind_->setMaxLength(kMaxWordLength);
     txtFind_->setClearButtonEnabled(true);
     lblFind_->setObjectName(QLatin1String("lblFind"));
     auto* const row = new QHBoxLayout(this);

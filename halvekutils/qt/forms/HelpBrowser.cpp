@@ -25,7 +25,7 @@ namespace halvek {
 namespace {
 
 constexpr double kPageMargin = 12;
-constexpr qint64 kMostPixelsOnPage = 64'000'000;
+constexpr qint64 kMaxPixelsOnPage = 64'000'000;
 
 QString ContextKey() {
     return QStringLiteral("context");
@@ -104,7 +104,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
 }
 
 QString HelpBrowser::PageAt(const QUrl& address) {
-    pixelsLeft_ = kMostPixelsOnPage;
+    pixelsLeft_ = kMaxPixelsOnPage;
     if (help_ == nullptr) return UnreadablePage(fault_);
     const QString context = QUrlQuery(address).queryItemValue(ContextKey());
     if (!context.isEmpty()) return MissingContextPage(*help_, context);
@@ -113,7 +113,7 @@ QString HelpBrowser::PageAt(const QUrl& address) {
     QString page = UnreadablePage(u"");
     GuardEvent(u"HelpBrowser.PageAt", [&] {
         try {
-            page = TamedMarkup(PageOf(*help_, path));
+            page = SanitizedHtml(PageOf(*help_, path));
         } catch (const std::exception& caught) {
             page = UnreadablePage(AsRuntimeError(caught).Description());
             throw;
@@ -137,7 +137,7 @@ QString HelpBrowser::StyleAt(const QUrl& address) {
     const QString path = address.path(QUrl::FullyDecoded);
     if (help_ == nullptr || !IsInside(address) || !help_->Has(path)) return QStringLiteral(" ");
     return Quietly(QStringLiteral(" "),
-                   [&] { return TamedMarkup(ToQString(HelpTextOf(help_->Read(path)))); });
+                   [&] { return SanitizedHtml(ToQString(HelpTextOf(help_->Read(path)))); });
 }
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {

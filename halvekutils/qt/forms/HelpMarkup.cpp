@@ -11,7 +11,7 @@ namespace halvek {
 
 namespace {
 
-constexpr qsizetype kLongestPage = 500'000;
+constexpr qsizetype kMaxPageLength = 500'000;
 // The time that layout takes doubles with each table in a table, and is squared in other depths.
 constexpr int kDeepestTable = 10;
 constexpr int kDeepest = 200;
@@ -108,12 +108,12 @@ class Copy {
 
 }  // namespace
 
-QString TamedMarkup(const QString& html) {
+QString SanitizedHtml(const QString& html) {
     static const QRegularExpression hugeSpace(
         QStringLiteral(
             "\\b((?:border|cell|margin|padding|text-indent)[a-z-]*\\s*[=:]\\s*[\"']?\\d{3})\\d+"),
         QRegularExpression::CaseInsensitiveOption);
-    QString tamed = html.left(kLongestPage);
+    QString tamed = html.left(kMaxPageLength);
     tamed.replace(hugeSpace, QStringLiteral("\\1"));
     return Copy(tamed).Result();
 }

@@ -10,6 +10,6 @@ namespace halvek {
 /// gigabytes: it is cut at half a million characters, loses tags that stand too deep in others, and
 /// its borders and spaces have three digits at most. Any ordinary page stays as it is, but for
 /// style sheets without a type, which get the one that Qt wants to see.
-QString TamedMarkup(const QString& html);
+QString SanitizedHtml(const QString& html);
 
 }  // namespace halvek

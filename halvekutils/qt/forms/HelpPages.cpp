@@ -81,12 +81,12 @@ QString UnreadablePage(TextIn what) {
 }
 
 QImage PictureOf(const std::string& bytes) {
-    constexpr qint64 kMostPixels = 16'000'000;
+    constexpr qint64 kMaxPixels = 16'000'000;
     QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
     const QSize size = reader.size();
-    if (!size.isValid() || qint64{size.width()} * size.height() > kMostPixels) return {};
+    if (!size.isValid() || qint64{size.width()} * size.height() > kMaxPixels) return {};
     return reader.read();
 }
 

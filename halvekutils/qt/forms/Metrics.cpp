@@ -43,13 +43,13 @@ QFont ToQFont(const FontSpec& font) {
 }
 
 QTextOption WrappingOf(const QString& text) {
-    constexpr qsizetype kLongestWord = 2000;
+    constexpr qsizetype kMaxWordLength = 2000;
     qsizetype wordStart = 0;
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     for (qsizetype i = 0; i <= text.size(); ++i) {
         if (i < text.size() && !text[i].isSpace()) continue;
-        if (i - wordStart > kLongestWord) option.setWrapMode(QTextOption::WrapAnywhere);
+        if (i - wordStart > kMaxWordLength) option.setWrapMode(QTextOption::WrapAnywhere);
         wordStart = i + 1;
     }
     return option;

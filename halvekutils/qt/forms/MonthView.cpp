@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/MonthView.h>
 #include <halvekutils/text/ControlHelpers.h>
 
@@ -43,9 +44,6 @@ constexpr DayKey kKeys[] = {
     {Qt::Key_End, Qt::NoModifier, Calendar::Key::End},
     {Qt::Key_T, Qt::NoModifier, Calendar::Key::Today},
 };
-
-constexpr Qt::KeyboardModifiers kCommands =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
 constexpr char16_t kFont[] = u"Tahoma";
 constexpr float kFontSize = 7;  // points

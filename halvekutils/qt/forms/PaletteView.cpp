@@ -2,6 +2,7 @@
 #include <halvekutils/dialogs/ColorPaletteLayout.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/PaletteView.h>
 
@@ -28,9 +29,6 @@ constexpr PaletteKey kKeys[] = {
     {Qt::Key_PageUp, ColorPalette::Key::PageUp}, {Qt::Key_PageDown, ColorPalette::Key::PageDown},
     {Qt::Key_Home, ColorPalette::Key::Home},     {Qt::Key_End, ColorPalette::Key::End},
 };
-
-constexpr Qt::KeyboardModifiers kCommands =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
 // Around a swatch, in pixels: room for the ring, the ring and a gap inside it.
 constexpr double kRingInset = 1.5;

@@ -18,7 +18,7 @@ constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 5;
 
 /// No cell is so wide that more of a text could show.
-constexpr qsizetype kLongestShown = 500;
+constexpr qsizetype kMaxShown = 500;
 
 void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
                    bool checked) {
@@ -39,7 +39,7 @@ void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const 
 void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
                   const QColor& color) {
     const QRect inner = area.adjusted(kTextMargin, 0, -kTextMargin, 0);
-    const QString text = ToQString(std::u16string_view(cell.text).substr(0, kLongestShown));
+    const QString text = ToQString(std::u16string_view(cell.text).substr(0, kMaxShown));
     painter.setFont(ToQFont(cell.font));
     painter.setPen(color);
     const bool centred = cell.alignment == SelectCell::Alignment::Centre;

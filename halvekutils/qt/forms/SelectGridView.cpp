@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
@@ -40,9 +41,7 @@ constexpr GridKey kKeys[] = {
     {Qt::Key_Down, SelectGrid::Key::Down},
 };
 
-constexpr std::size_t kLongestToolTip = 2000;
-constexpr Qt::KeyboardModifiers kCommands =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+constexpr std::size_t kMaxToolTipLength = 2000;
 
 Qt::ScrollBarPolicy Bar(bool shown) {
     return shown ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
@@ -60,7 +59,7 @@ SelectGridHeader::SelectGridHeader(SelectGrid& rules, QWidget* parent)
 
 void SelectGridHeader::Refresh() {
     cell_ = rules_.Cell(0, 1);
-    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kLongestToolTip)));
+    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kMaxToolTipLength)));
     viewport()->update();
 }
 
@@ -90,7 +89,7 @@ void SelectGridHeader::mouseDoubleClickEvent(QMouseEvent*) {}
 bool SelectGridHeader::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QHeaderView::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
-    const TextIn text = std::u16string_view(cell_.text).substr(0, kLongestToolTip);
+    const TextIn text = std::u16string_view(cell_.text).substr(0, kMaxToolTipLength);
     QToolTip::showText(help->globalPos(), ToToolTip(text), this);
     return true;
 }
@@ -172,12 +171,12 @@ void SelectGridView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool SelectGridView::TypeLetter(const QKeyEvent& event) {
-    const QString text = event.text();
-    if ((event.modifiers() & kCommands) || text.size() != 1 || !text[0].isPrint()) return false;
+    const char16_t letter = TypedBy(event);
+    if (letter == 0) return false;
     const int interval = QGuiApplication::styleHints()->keyboardInputInterval();
     const bool continues = sinceLetter_.isValid() && sinceLetter_.elapsed() < interval;
     sinceLetter_.start();
-    rules_.TypeLetter(text[0].unicode(), continues);
+    rules_.TypeLetter(letter, continues);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 
 #include <QKeyEvent>
@@ -13,8 +14,8 @@ namespace halvek {
 
 namespace {
 
-constexpr std::size_t kMostEdited = 200'000;
-constexpr std::size_t kMostShown = 1000;
+constexpr std::size_t kMaxEdited = 200'000;
+constexpr std::size_t kMaxShown = 1000;
 
 }  // namespace
 
@@ -40,11 +41,11 @@ void TypedCodesEdit::Refresh() {
     if (std::exchange(shownVersion_, rules_.BoxVersion()) == rules_.BoxVersion()) return;
     const QScopedValueRollback mirroring(mirroring_, true);
     // Every change of a line edit costs time in proportion to its text.
-    const bool tooLong = box.text.size() > kMostEdited;
+    const bool tooLong = box.text.size() > kMaxEdited;
     setReadOnly(tooLong);
     setToolTip(tooLong ? tr("Too many codes to be edited here") : QString());
     const QString wanted =
-        tooLong ? ToQString(std::u16string_view(box.text).substr(0, kMostShown)) + QChar(0x2026)
+        tooLong ? ToQString(std::u16string_view(box.text).substr(0, kMaxShown)) + QChar(0x2026)
                 : ToQString(box.text);
     if (text() != wanted) setText(wanted);
     setCursorPosition(box.caret);
@@ -88,7 +89,7 @@ void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnter(*event)) {
         GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { rules_.Accept(); });
         return;
     }

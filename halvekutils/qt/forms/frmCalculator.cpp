@@ -3,6 +3,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/FlashButton.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
@@ -52,10 +53,6 @@ constexpr const char* kNames[] = {"change sign", "point",  "divide", "multiply",
                                   "plus",        "equals", "clear",  "return the result"};
 static_assert(Calculator::kChangeSign + std::size(kNames) == Calculator::kButtonCount);
 
-bool IsEnter(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
-
 /// The key code by which the rules know a key; 0 for a key they have no name for.
 int KeyCodeOf(const QKeyEvent& key) {
     if (key.key() == Qt::Key_Escape) return 27;
@@ -65,14 +62,6 @@ int KeyCodeOf(const QKeyEvent& key) {
 void ShowStatus(QLabel& label, const std::u16string& text) {
     label.setText(ToQString(text));
     label.setAccessibleDescription(label.text());
-}
-
-/// The character that a key types; 0 for a command and for an editing key.
-char16_t TypedBy(const QKeyEvent& key) {
-    const bool isCommand =
-        key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const QString text = key.text();
-    return isCommand || text.size() != 1 || !text[0].isPrint() ? u'\0' : text[0].unicode();
 }
 
 /// Whether a line edit would put the key's text in, as it does with Alt and a letter.

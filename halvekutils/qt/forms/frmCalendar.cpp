@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/MonthView.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
@@ -91,8 +92,7 @@ void frmCalendar::FollowPointer(const QWidget& over) {
 
 // Reached by keys that no control took. QDialog would press buttons on Enter.
 void frmCalendar::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape || (isEnter && Command1_->hasFocus())) CloseByUser();
+    if (event->key() == Qt::Key_Escape || (IsEnter(*event) && Command1_->hasFocus())) CloseByUser();
     event->accept();
 }
 

@@ -2,6 +2,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CloseBox.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/MessageIcons.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/ModalOwner.h>
@@ -41,10 +42,6 @@ unsigned ModifiersOf(const QKeyEvent& event) {
     if (event.modifiers() & Qt::ControlModifier) modifiers |= MessageBox::kControl;
     if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) modifiers |= MessageBox::kAlt;
     return modifiers;
-}
-
-bool IsEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 /// The colour of the focus, dark enough for a light button though the desktop may be dark.

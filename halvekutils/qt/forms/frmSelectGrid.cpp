@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
@@ -104,10 +105,9 @@ bool frmSelectGrid::focusNextPrevChild(bool next) {
 // Reached by keys that no control took. QDialog would press buttons on Enter.
 void frmSelectGrid::keyPressEvent(QKeyEvent* event) {
     auto* const button = qobject_cast<QPushButton*>(focusWidget());
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape) {
         CloseByUser();
-    } else if (isEnter && button != nullptr) {
+    } else if (IsEnter(*event) && button != nullptr) {
         button->click();
     }
     event->accept();
