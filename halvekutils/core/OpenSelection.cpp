@@ -49,7 +49,9 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request,
     };
     Guarded(OnFault::Quiet, kSelectionFault, LogOf(utils), show);
     Refresh(utils, kSelectionFault, FormToRefresh);
-    return grid == nullptr ? std::u16string() : grid->ReturnValue();
+    if (grid == nullptr) return {};
+    // A fault before it was shown leaves what had been ticked by then.
+    return grid->IsOpen() ? std::u16string(grid->Choice()) : grid->Result();
 }
 
 }  // namespace halvek

@@ -24,7 +24,7 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         Services::Current();  // throws before the first InitUtils
         const auto calendar = std::make_shared<Calendar>(makeRequest(), *State().machine);
         Platform::Installed().Show(calendar);
-        return calendar->ReturnValue().Str();
+        return calendar->Result();
     };
     std::u16string day = Guarded(OnFault::Beep, kFault, LogOf(utils), std::u16string(), show);
     Refresh(utils, kFault, formToRefresh);

@@ -18,7 +18,7 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
     });
     Refresh(utils, kPaletteFault, formToRefresh);
     return Guarded(OnFault::Beep, kPaletteFault, LogOf(utils), std::u16string(),
-                   [&] { return palette == nullptr ? std::u16string() : palette->ReturnValue(); });
+                   [&] { return palette == nullptr ? std::u16string() : palette->Result(); });
 }
 
 }  // namespace
