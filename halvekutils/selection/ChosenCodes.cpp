@@ -22,7 +22,7 @@ void Append(std::u16string& codes, std::u16string_view code) {
     codes.append(comma, u',').append(code);
 }
 
-/// The codes of a text, joined anew, all but one.
+/// The codes of a text, joined again without one.
 std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftOut) {
     std::u16string codes;
     codes.reserve(text.size());

@@ -68,9 +68,9 @@ class HALVEK_EXPORT ChosenCodes {
 
     // Checking: the choice is made code by code
 
-    /// Has room for codes of this length before the first is accepted.
+    /// Makes room for codes of this length before the first is accepted.
     void Reserve(std::size_t length) { box_.text.reserve(length); }
-    /// Starts anew from what the box holds, with room for all of it.
+    /// Chooses nothing, with room for all that the box holds.
     void StartCheck();
     /// Adds a code of the box to the choice.
     void Accept(std::u16string_view code);

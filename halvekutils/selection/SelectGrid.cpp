@@ -88,7 +88,7 @@ void SelectGrid::ClickCell(std::int32_t row, std::int32_t column) {
 }
 
 void SelectGrid::ClickHeader() {
-    if (IsOpen()) Finish();
+    if (IsOpen()) Finish({});
 }
 
 void SelectGrid::Toggle(std::int32_t entry) {
@@ -252,11 +252,15 @@ void SelectGrid::RefuseCode(std::u16string_view code) {
 // How it ends
 
 void SelectGrid::Accept() {
-    if (IsOpen() && CheckTypedCodes() && IsOpen()) Finish();
+    if (!IsOpen()) return;
+    // What may fail comes before the check.
+    std::u16string result;
+    result.reserve(Box().text.size());
+    if (CheckTypedCodes() && IsOpen()) Finish(std::move(result));
 }
 
-void SelectGrid::Finish() {
-    std::u16string result = changed_ ? std::u16string(Choice()) : u"CANCEL";
+void SelectGrid::Finish(std::u16string result) {
+    result = changed_ ? Choice() : u"CANCEL";
     cancelled_ = !changed_;
     End(std::move(result));
 }

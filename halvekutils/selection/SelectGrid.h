@@ -159,7 +159,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     enum class EntryCheck { Accepted, AcceptedBefore, Refused };
 
     void OnClose() override;
-    void Finish();
+    void Finish(std::u16string result);
 
     bool IsTicked(std::int32_t entry) const { return marks_[static_cast<std::size_t>(entry)]; }
     void Toggle(std::int32_t entry);
