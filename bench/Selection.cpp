@@ -100,7 +100,7 @@ Case Toggle(double scale) {
     const auto text = std::make_shared<std::u16string>(chosen);
     const auto buffer = std::make_shared<std::u16string>(chosen);
     const auto peerChosen = std::make_shared<QString>(ToQString(chosen));
-    const CellPlace cell = SelectGrid::PlaceOf(static_cast<std::int32_t>(entries / 2) + 2);
+    const CellPlace cell = CheckCellOf(static_cast<std::int32_t>(entries / 2) + 2);
     return {.floor =
                 [text, buffer] {
                     for (int i = 0; i < 2; ++i) {

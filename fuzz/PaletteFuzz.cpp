@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const PaletteCell& cell = cells[static_cast<std::size_t>(palette.Current()) - 1];
     const std::u16string chosen = IntegerText(cell.color) + u'\t' + IntegerText(cell.index);
-    const std::u16string result = palette.ReturnValue();
+    const std::u16string result = palette.Result();
     Require(result.empty() || (!palette.IsOpen() && result == chosen), "the current cell or none");
     return 0;
 }

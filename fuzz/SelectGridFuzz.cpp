@@ -44,10 +44,10 @@ class Play {
         }
         if (!grid_->IsOpen()) return;
         const bool cancels = input_.ConsumeBool();
-        cancels ? grid_->Cancel() : grid_->ClickHeader();
+        cancels ? grid_->Close() : grid_->ClickHeader();
         Require(!grid_->IsOpen(), "it ends");
         const std::u16string result = model_.changed ? model_.choice : u"CANCEL";
-        Require(grid_->ReturnValue() == (cancels ? selected_ : result), "the result of an end");
+        Require(grid_->Result() == (cancels ? selected_ : result), "the result of an end");
     }
 
   private:
@@ -131,7 +131,7 @@ class Play {
         Require(grid_->IsOpen() != model_.Check(), "OK ends what passes the check, and no other");
         if (grid_->IsOpen()) return;
         const std::u16string result = model_.changed ? model_.choice : u"CANCEL";
-        Require(grid_->ReturnValue() == result, "only codes of the list come back");
+        Require(grid_->Result() == result, "only codes of the list come back");
     }
 
     void Compare() {
@@ -145,7 +145,7 @@ class Play {
         Require(box.caret >= 0 && box.selected >= 0 && box.caret + box.selected <= length,
                 "the selection lies in the box");
         for (std::size_t i = 0; i < model_.codes.size(); ++i) {
-            const CellPlace place = SelectGrid::PlaceOf(static_cast<std::int32_t>(i) + 1);
+            const CellPlace place = CheckCellOf(static_cast<std::int32_t>(i) + 1);
             Require(grid_->Cell(place.row, place.column).checked == model_.IsShownTicked(i),
                     "the ticks are those of the rules");
         }

@@ -108,7 +108,7 @@ std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
         Services::Current();  // throws before the first InitUtils
         const auto calendar = std::make_shared<Calendar>(makeRequest(), *TheSession().machine);
         Platform::Installed().Show(calendar);
-        return calendar->ReturnValue().Str();
+        return calendar->Result();
     };
     std::u16string day = Guarded(OnFault::Beep, kCalendarFault, utils, std::u16string(), show);
     Refresh(utils, kCalendarFault, std::move(formToRefresh));
@@ -153,7 +153,7 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
     });
     Refresh(utils, kPaletteFault, std::move(formToRefresh));
     return Guarded(OnFault::Beep, kPaletteFault, utils, std::u16string(),
-                   [&] { return palette == nullptr ? std::u16string() : palette->ReturnValue(); });
+                   [&] { return palette == nullptr ? std::u16string() : palette->Result(); });
 }
 
 }  // namespace
@@ -215,7 +215,8 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request,
     };
     Guarded(OnFault::Quiet, kSelectionFault, utils, show);
     Refresh(utils, kSelectionFault, std::move(formToRefresh));
-    return grid == nullptr ? std::u16string() : grid->ReturnValue();
+    if (grid == nullptr) return {};
+    return grid->IsOpen() ? std::u16string(grid->Choice()) : grid->Result();
 }
 
 }  // namespace

@@ -114,7 +114,7 @@ std::u16string_view Calculator::Caption(int index) {
 }
 
 void Calculator::Press(int index) {
-    if (!open_) return;
+    if (!IsOpen()) return;
     if (Caption(index).empty()) {
         session_.LogError(u"calculator : WHICH BUTTON WAS CLICKED? " + IntegerText(index));
         return;
@@ -129,7 +129,7 @@ void Calculator::Press(int index) {
         if (index == kChangeSign) ChangeSign();
         if (index == kPoint) AddPoint();
         if (index == kClear) Clear();
-        if (index == kReturn) Accept();
+        if (index == kReturn) return End(display_);
     }
     NotifyChanged();
 }
@@ -162,7 +162,7 @@ void Calculator::Clear() {
 }
 
 void Calculator::Operate(char16_t op) {
-    if (!open_) return;
+    if (!IsOpen()) return;
     if (IsOperator(op)) Flash(ButtonOf(op));
     const std::u16string result = PendingResult();
     const bool ends = op == u'=';
@@ -206,7 +206,7 @@ std::u16string Calculator::Compute(TextIn a, char16_t op, TextIn b) {
 }
 
 bool Calculator::KeyPress(char16_t character) {
-    if (!open_) return false;
+    if (!IsOpen()) return false;
     if (IsOperator(character)) {
         Operate(character);
         focus_ = character == u'=' ? kReturn : kEquals;
@@ -226,7 +226,7 @@ bool Calculator::KeyPress(char16_t character) {
 
 bool Calculator::KeyDown(int keyCode) {
     if (keyCode == kEscapeKey) {
-        Cancel();
+        Close();
         return true;
     }
     if (keyCode != kDeleteKey || focus_ == kBox) return false;
@@ -245,13 +245,13 @@ void Calculator::HookedKeyDown(int KeyCode) {
 }
 
 void Calculator::EditDisplay(TextIn text) {
-    if (!open_ || text == display_) return;
+    if (!IsOpen() || text == display_) return;
     display_ = text;
     NotifyChanged();
 }
 
 void Calculator::Paste(TextIn text, std::size_t start, std::size_t selected) {
-    if (!open_) return;
+    if (!IsOpen()) return;
     const std::u16string keys = Keystrokes(WithoutLineEnds(text));
     std::u16string whole = numberDone_ && selected == 0 ? std::u16string() : display_;
     whole.replace(selected == 0 ? whole.size() : std::min(start, whole.size()), selected, keys);
@@ -269,20 +269,6 @@ std::u16string Calculator::Copy() {
     return {};
 }
 
-void Calculator::Accept() {
-    result_ = display_;
-    open_ = false;
-}
-
-void Calculator::Cancel() {
-    if (open_) result_.clear();
-    End();
-}
-
-void Calculator::End() {
-    if (std::exchange(open_, false)) NotifyChanged();
-}
-
 void Calculator::Flash(int index) const {
     if (Flashed) Flashed(index);
 }
@@ -290,10 +276,6 @@ void Calculator::Flash(int index) const {
 void Calculator::Tell(TextIn message) {
     NotifyChanged();
     desktop_.ShowStockMessage(message, StockIcon::None, session_.AppName());
-}
-
-void Calculator::NotifyChanged() const {
-    if (Changed) Changed();
 }
 
 }  // namespace halvek

@@ -4,6 +4,7 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Dialog.h>
 #include <halvekutils/platform/Services.h>
 
 #include <cstddef>
@@ -19,8 +20,8 @@ namespace halvek {
 /// It works from left to right: each operator completes the one before. The display shows a result
 /// with two decimals, the accumulator keeps it unrounded. An empty display, and any other that
 /// shows no number, counts as 0 in an operation. A division by zero gives "ERROR", and so does a
-/// result beyond the range of numbers.
-class HALVEK_EXPORT Calculator {
+/// result beyond the range of numbers. RET ends it with what is shown as its result.
+class HALVEK_EXPORT Calculator : public Dialog {
   public:
     /// The buttons behind the digits, which are the buttons 0 to 9.
     enum Button : int {
@@ -43,9 +44,7 @@ class HALVEK_EXPORT Calculator {
 
     /// Starts with the value of a numeric text, rounded to two decimals, or else empty.
     Calculator(TextIn InitValue, Services& session, Desktop& desktop);
-    ~Calculator();
-    Calculator(const Calculator&) = delete;
-    Calculator& operator=(const Calculator&) = delete;
+    ~Calculator() override;
 
     // What the window shows
 
@@ -62,12 +61,6 @@ class HALVEK_EXPORT Calculator {
     /// The caption of button 0 to 18.
     static std::u16string_view Caption(int index);
 
-    /// False once the calculator has ended.
-    bool IsOpen() const { return open_; }
-
-    /// Called after every change that the window shows, before every message that is raised, and
-    /// once when the calculator ends.
-    std::function<void()> Changed;
     /// Called when a button is pressed in any way: it flashes.
     std::function<void(int index)> Flashed;
 
@@ -110,40 +103,24 @@ class HALVEK_EXPORT Calculator {
     /// The result of one operation on the values of two texts.
     std::u16string Compute(TextIn a, char16_t op, TextIn b);
 
-    // How it ends
-
-    /// The close box: the result stays as it stands.
-    void CloseByUser() { End(); }
-    /// The modal loop ended with the calculator still open.
-    void Abandon() { End(); }
-
-    /// What was shown when RET was pressed; empty otherwise.
-    const std::u16string& Result() const { return result_; }
-
   private:
     void AddDigit(char16_t digit);
     void AddPoint();
     void StartNumber();
     void ChangeSign();
     void Clear();
-    void Accept();
-    void Cancel();
-    void End();
     std::u16string PendingResult();
     void Flash(int index) const;
     void Tell(TextIn message);
-    void NotifyChanged() const;
 
     Services& session_;
     Desktop& desktop_;
     std::u16string display_;
     std::u16string accumulator_ = u"0";
-    std::u16string result_;
     char16_t lastOperator_ = 0;
     int focus_ = kReturn;
     bool numberDone_ = true;
     bool enterArmed_ = false;
-    bool open_ = true;
 };
 
 }  // namespace halvek

@@ -53,7 +53,7 @@ Calendar::Calendar(const CalendarRequest& request, Machine& machine) : anchor_(r
 Calendar::~Calendar() = default;
 
 void Calendar::Mark(Day day) {
-    if (!open_) return;
+    if (!IsOpen()) return;
     marked_ = std::clamp(day, kFirstDay, kLastDay);
     NotifyChanged();
 }
@@ -100,23 +100,9 @@ void Calendar::KeyDown(Key key) {
 }
 
 void Calendar::ClickDay(Day day) {
-    if (!open_ || !CanBeChosen(day)) return;
-    result_ = DateOnlyText(day);
+    if (!IsOpen() || !CanBeChosen(day)) return;
     marked_ = day;
-    End();
-}
-
-void Calendar::Close() {
-    if (open_) End();
-}
-
-void Calendar::End() {
-    open_ = false;
-    NotifyChanged();
-}
-
-void Calendar::NotifyChanged() const {
-    if (Changed) Changed();
+    End(DateOnlyText(day));
 }
 
 }  // namespace halvek

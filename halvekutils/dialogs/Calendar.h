@@ -4,11 +4,11 @@
 #include <halvekutils/base/DateText.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/platform/Dialog.h>
 #include <halvekutils/platform/Machine.h>
 #include <halvekutils/text/Placement.h>
 
 #include <chrono>
-#include <functional>
 #include <string>
 
 namespace halvek {
@@ -25,8 +25,8 @@ struct CalendarRequest {
 /// to day and which day comes back.
 ///
 /// One day is marked; the month that holds it is the one on view. A window draws that and forwards
-/// its events.
-class HALVEK_EXPORT Calendar {
+/// its events. The result is the chosen day as "mm/dd/yyyy".
+class HALVEK_EXPORT Calendar : public Dialog {
   public:
     /// A day of the calendar.
     using Day = std::chrono::local_days;
@@ -38,12 +38,7 @@ class HALVEK_EXPORT Calendar {
 
     /// `machine` tells what day it is.
     Calendar(const CalendarRequest& request, Machine& machine);
-    ~Calendar();
-    Calendar(const Calendar&) = delete;
-    Calendar& operator=(const Calendar&) = delete;
-
-    /// Called after every change that the window shows, and once when the calendar ends.
-    std::function<void()> Changed;
+    ~Calendar() override;
 
     // What the window shows
 
@@ -53,8 +48,6 @@ class HALVEK_EXPORT Calendar {
     Day MarkedDay() const { return marked_; }
     /// Where the calendar is asked to open.
     const PopupAnchor& Anchor() const { return anchor_; }
-    /// False once the calendar has ended.
-    bool IsOpen() const { return open_; }
 
     // What the user does
 
@@ -86,22 +79,12 @@ class HALVEK_EXPORT Calendar {
     /// Chooses a day. One that cannot be chosen does nothing.
     void ClickDay(Day day);
 
-    /// Ends without a choice: the button, the close box, or the window has gone.
-    void Close();
-
-    /// The chosen day as "mm/dd/yyyy"; empty without a choice.
-    TextIn ReturnValue() const { return result_; }
-
   private:
     void MarkIn(std::chrono::year_month month);
-    void End();
-    void NotifyChanged() const;
 
     PopupAnchor anchor_;
     Day today_;
     Day marked_;
-    std::u16string result_;
-    bool open_ = true;
 };
 
 }  // namespace halvek

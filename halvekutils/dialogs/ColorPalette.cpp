@@ -50,25 +50,25 @@ std::u16string ColorPalette::CellName(int cell) const {
 
 void ColorPalette::Click(int cell) {
     const PaletteCell& clicked = CellAt(cell);
-    if (!open_) return;
-    chosen_ = clicked;
-    End();
-    session_.ShowInDebug(u"CLICKED COLOR " + IntegerText(clicked.index));
+    if (!IsOpen()) return;
+    const std::u16string index = IntegerText(clicked.index);
+    End(IntegerText(clicked.color) + u'\t' + index);
+    session_.ShowInDebug(u"CLICKED COLOR " + index);
 }
 
 void ColorPalette::KeyDown(Key key, int rowsOnPage) {
-    if (!open_) return;
+    if (!IsOpen()) return;
     switch (key) {
         case Key::Enter:
         case Key::Space:
             Click(current_);
             break;
         case Key::Escape:
-            Cancel();
+            Close();
             break;
         default:
             current_ = Moved(key, rowsOnPage);
-            if (Changed) Changed();
+            NotifyChanged();
     }
 }
 
@@ -105,20 +105,6 @@ int ColorPalette::MovedDown(int rows) const {
     const int row = (current_ - 1) / kColumns;
     const int target = std::clamp(row + rows, 0, RowCount() - 1);
     return std::min(current_ + (target - row) * kColumns, CellCount());
-}
-
-void ColorPalette::Cancel() {
-    if (open_) End();
-}
-
-void ColorPalette::End() {
-    open_ = false;
-    if (Changed) Changed();
-}
-
-std::u16string ColorPalette::ReturnValue() const {
-    if (!chosen_) return {};
-    return IntegerText(chosen_->color) + u'\t' + IntegerText(chosen_->index);
 }
 
 }  // namespace halvek

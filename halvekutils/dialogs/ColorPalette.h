@@ -4,12 +4,11 @@
 #include <halvekutils/base/Color.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/StringArray.h>
+#include <halvekutils/platform/Dialog.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/text/Placement.h>
 
 #include <cstdint>
-#include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,7 +27,9 @@ struct PaletteCell {
 
 /// The rules of one colour palette, without a window: which colours it shows, where its keys lead
 /// and what it returns. A window draws it and forwards its events.
-class HALVEK_EXPORT ColorPalette {
+///
+/// The result is the chosen colour, a tab and its index in the list, as in "255<TAB>7".
+class HALVEK_EXPORT ColorPalette : public Dialog {
   public:
     /// The title bar's text.
     static constexpr char16_t kCaption[] = u"Color Palette";
@@ -42,9 +43,7 @@ class HALVEK_EXPORT ColorPalette {
     /// holds is logged and left out. Throws SubscriptOutOfRange when there is no entry 1, Overflow
     /// when it is such a number.
     ColorPalette(const StringArray& colors, const PopupAnchor& anchor, Services& session);
-    ~ColorPalette();
-    ColorPalette(const ColorPalette&) = delete;
-    ColorPalette& operator=(const ColorPalette&) = delete;
+    ~ColorPalette() override;
 
     // What the window shows. Cells are numbered from 1, in rows of six.
 
@@ -63,11 +62,6 @@ class HALVEK_EXPORT ColorPalette {
 
     /// Where the palette is asked to open.
     const PopupAnchor& Anchor() const { return anchor_; }
-    /// False once the palette has ended.
-    bool IsOpen() const { return open_; }
-
-    /// Called after every change that the window shows, and once when the palette ends.
-    std::function<void()> Changed;
 
     // What the user does
 
@@ -94,25 +88,15 @@ class HALVEK_EXPORT ColorPalette {
     /// A key pressed while `rowsOnPage` rows are in view.
     void KeyDown(Key key, int rowsOnPage = 1);
 
-    /// Escape, the close box, or a window that goes away with the palette still open.
-    void Cancel();
-
-    /// The chosen colour, a tab and its index in the list, as in "255<TAB>7"; empty when none was
-    /// chosen.
-    std::u16string ReturnValue() const;
-
   private:
     const PaletteCell& CellAt(int cell) const;
     int Moved(Key key, int rowsOnPage) const;
     int MovedDown(int rows) const;
-    void End();
 
     PopupAnchor anchor_;
     Services& session_;
     std::vector<PaletteCell> cells_;
-    std::optional<PaletteCell> chosen_;
     int current_ = 1;
-    bool open_ = true;
 };
 
 }  // namespace halvek

@@ -128,14 +128,14 @@ std::u16string MessageBox::CopyText() const {
 }
 
 void MessageBox::Press(int index) {
-    if (!open_ || ButtonCaption(index).empty()) return;
+    if (!IsOpen() || ButtonCaption(index).empty()) return;
     End(IntegerText(set_->results[static_cast<std::size_t>(index)]));
 }
 
 MessageBox::KeyAction MessageBox::KeyDown(int keyCode, unsigned modifiers) {
-    if (!open_) return KeyAction::None;
+    if (!IsOpen()) return KeyAction::None;
     if (keyCode == 'C' && modifiers == kControl) {
-        StopCountdown();
+        countdownRunning_ = false;
         return KeyAction::Copy;
     }
     if (const char16_t letter = AcceleratorLetter(keyCode); letter != 0) {
@@ -147,32 +147,28 @@ MessageBox::KeyAction MessageBox::KeyDown(int keyCode, unsigned modifiers) {
             }
         }
     }
-    StopCountdown();
+    countdownRunning_ = false;
     if (keyCode != kEscape || !set_->escapeCloses) return KeyAction::None;
-    CloseByUser();
+    Close();
     return KeyAction::Handled;
 }
 
 void MessageBox::FormKeyPress(int keyAscii) {
     const bool closes = keyAscii == kEnter || keyAscii == kEscape;
     // Where a button shows it has the focus, and no key reaches the form itself.
-    if (open_ && closes && ButtonCount(set_->choice) == 0) RunCloseStep();
+    if (IsOpen() && closes && ButtonCount(set_->choice) == 0) CloseWith({});
 }
 
-void MessageBox::CloseByUser() {
-    if (!open_ || !set_->hasCloseBox) return;
-    result_ = set_->closeResult;
-    RunCloseStep();
+void MessageBox::OnClose() {
+    if (set_->hasCloseBox) CloseWith(set_->closeResult);
 }
 
-void MessageBox::Abandon() {
-    if (!open_) return;
-    result_ = set_->hasCloseBox ? std::u16string(set_->closeResult) : IntegerText(kNotAnswered);
-    RunCloseStep();
+void MessageBox::OnAbandon() {
+    CloseWith(set_->hasCloseBox ? set_->closeResult : IntegerText(kNotAnswered));
 }
 
 void MessageBox::Tick() {
-    if (!countdownRunning_) return;
+    if (!CountdownRunning()) return;
     caption_ =
         title_ + u"          " + ClockText(countdownElapsed_) + u" / " + ClockText(countdownTotal_);
     ++countdownElapsed_;
@@ -195,7 +191,7 @@ void MessageBox::ScrollBy(std::int32_t twips) {
 }
 
 MbMsgBoxResult MessageBox::ReturnedValue() {
-    const std::u16string result = std::exchange(result_, {});
+    const std::u16string result = TakeResult();
     request_.buttons = mbOkOnly;
     return result.empty() ? mbOK : static_cast<MbMsgBoxResult>(ToInt32(result));
 }
@@ -204,29 +200,14 @@ void MessageBox::ShownModeless() {
     RefreshOwner();
 }
 
-void MessageBox::RunCloseStep() {
-    End(std::u16string(result_));
+void MessageBox::CloseWith(std::u16string_view result) {
+    End(std::u16string(result));
     RefreshOwner();
     request_.owner = nullptr;
 }
 
 void MessageBox::RefreshOwner() const {
     if (request_.owner != nullptr && request_.owner->Exists()) request_.owner->Refresh();
-}
-
-void MessageBox::End(std::u16string_view result) {
-    result_ = result;
-    countdownRunning_ = false;
-    open_ = false;
-    NotifyChanged();
-}
-
-void MessageBox::StopCountdown() {
-    countdownRunning_ = false;
-}
-
-void MessageBox::NotifyChanged() const {
-    if (Changed) Changed();
 }
 
 }  // namespace halvek

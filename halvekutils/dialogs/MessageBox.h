@@ -9,10 +9,10 @@
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Dialog.h>
 #include <halvekutils/platform/Services.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,13 +47,13 @@ HALVEK_EXPORT ColorChoice NormalizedBackground(ColorChoice background);
 
 /// The rules of one message box, without a window: what it shows, what its keys and buttons do and
 /// how it ends. A window draws it and forwards its events.
-class HALVEK_EXPORT MessageBox {
+///
+/// The result is the number of a MbMsgBoxResult; empty counts as 1.
+class HALVEK_EXPORT MessageBox : public Dialog {
   public:
     /// Takes the session's name and skin, and measures texts and the screen on this desktop.
     MessageBox(MessageBoxRequest request, const Services& session, const Desktop& desktop);
-    ~MessageBox();
-    MessageBox(const MessageBox&) = delete;
-    MessageBox& operator=(const MessageBox&) = delete;
+    ~MessageBox() override;
 
     // What the window shows
 
@@ -90,13 +90,8 @@ class HALVEK_EXPORT MessageBox {
     /// The box stands on the screen and its show has returned: the owner is refreshed.
     void ShownModeless();
 
-    /// False once the box has ended.
-    bool IsOpen() const { return open_; }
     /// Whether the box is going to close itself.
-    bool CountdownRunning() const { return countdownRunning_; }
-
-    /// Called after every change that the window shows, and once when the box ends.
-    std::function<void()> Changed;
+    bool CountdownRunning() const { return IsOpen() && countdownRunning_; }
 
     // What the user does
 
@@ -124,12 +119,6 @@ class HALVEK_EXPORT MessageBox {
     /// A character typed where no control has the focus: Enter (13) and Escape (27) close the box.
     void FormKeyPress(int keyAscii);
 
-    /// The close box or a close request of the window manager.
-    void CloseByUser();
-
-    /// The window goes away with the box still open: the application quits or the owner is gone.
-    void Abandon();
-
     /// One second has passed.
     void Tick();
 
@@ -138,15 +127,14 @@ class HALVEK_EXPORT MessageBox {
     /// Scrolls to later (positive) or earlier lines, as far as the text goes.
     void ScrollBy(std::int32_t twips);
 
-    /// The answer: the result text as a number, 1 when it is empty. Reading it clears the result.
+    /// The result as a number, 1 when it is empty. Reading it clears the result.
     MbMsgBoxResult ReturnedValue();
 
   private:
-    void End(std::u16string_view result);
-    void RunCloseStep();
+    void OnClose() override;
+    void OnAbandon() override;
+    void CloseWith(std::u16string_view result);
     void RefreshOwner() const;
-    void NotifyChanged() const;
-    void StopCountdown();
 
     MessageBoxRequest request_;
     const MessageBoxButtonSet* set_;
@@ -156,12 +144,10 @@ class HALVEK_EXPORT MessageBox {
     MessageBoxLayout layout_;
     std::u16string title_;
     std::u16string caption_;
-    std::u16string result_;
     std::int32_t scrollOffset_ = 0;
     std::int32_t countdownTotal_ = 0;
     std::int32_t countdownElapsed_ = 0;
     bool countdownRunning_ = false;
-    bool open_ = true;
 };
 
 }  // namespace halvek

@@ -26,16 +26,17 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     }
 }
 
-/// Takes the next answer out of the queue; a fault when the script holds none.
-template <class Answer>
-Answer TakeAnswer(std::deque<Answer>& answers, std::u16string_view dialog, TextIn caption) {
+/// Plays the next answer of the queue on a dialog; a fault when the script holds none.
+template <class Rules, class Answer>
+void Play(Rules& dialog, std::deque<Answer>& answers, std::u16string_view name, TextIn caption) {
     if (answers.empty()) {
         throw RuntimeError(Fault::InvalidArgument,
-                           u"no answer for the " + std::u16string(dialog) + u" " + caption.Str());
+                           u"no answer for the " + std::u16string(name) + u" " + caption.Str());
     }
-    Answer answer = std::move(answers.front());
+    const Answer answer = std::move(answers.front());
     answers.pop_front();
-    return answer;
+    answer(dialog);
+    dialog.Abandon();
 }
 
 class ScriptedPrinters : public PrinterSource {
@@ -139,28 +140,23 @@ void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality mod
         return;
     }
     std::erase(modeless_, box);
-    TakeAnswer(messageBoxAnswers_, u"message box", box->Caption())(*box);
-    box->Abandon();
+    Play(*box, messageBoxAnswers_, u"message box", box->Caption());
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<Calculator>& calculator) {
-    TakeAnswer(calculatorAnswers_, u"calculator", calculator->Display())(*calculator);
-    calculator->Abandon();
+    Play(*calculator, calculatorAnswers_, u"calculator", calculator->Display());
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<Calendar>& calendar) {
-    TakeAnswer(calendarAnswers_, u"calendar", DateOnlyText(calendar->MarkedDay()))(*calendar);
-    calendar->Close();
+    Play(*calendar, calendarAnswers_, u"calendar", DateOnlyText(calendar->MarkedDay()));
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<ColorPalette>& palette) {
-    TakeAnswer(colorPaletteAnswers_, u"dialog", ColorPalette::kCaption)(*palette);
-    palette->Cancel();
+    Play(*palette, colorPaletteAnswers_, u"dialog", ColorPalette::kCaption);
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<SelectGrid>& grid) {
-    TakeAnswer(selectionAnswers_, u"selection list", grid->Caption())(*grid);
-    grid->Abandon();
+    Play(*grid, selectionAnswers_, u"selection list", grid->Caption());
 }
 
 }  // namespace halvek

@@ -37,7 +37,7 @@ struct Desk {
         if (word == "+-") return calculator.Press(Calculator::kChangeSign);
         if (word == "CLR") return calculator.Press(Calculator::kClear);
         if (word == "RET") return calculator.Press(Calculator::kReturn);
-        if (word == "CLOSE") return calculator.CloseByUser();
+        if (word == "CLOSE") return calculator.Close();
         if (word == "DEL" || word == "ESC") {
             calculator.KeyDown(word == "DEL" ? 46 : 27);
         } else if (word[0] == '"') {

@@ -39,7 +39,7 @@ TEST(ColorPalette, KeysMoveOverTheRowsAndChoose) {
     }
     palette.Changed = [&] { EXPECT_FALSE(palette.IsOpen() || !session.shown.empty()); };
     palette.KeyDown(Key::Enter);
-    EXPECT_EQ(palette.ReturnValue(), u"0\t2");
+    EXPECT_EQ(palette.Result(), u"0\t2");
     EXPECT_EQ(session.shown, Texts{u"CLICKED COLOR 2"});
 }
 

@@ -220,7 +220,7 @@ TEST_F(MessageBoxTest, EverySetAnswersByItsButtonsItsCloseBoxAndItsKeys) {
                       shown ? row.results[at] : row.closed.value_or(kNotAnswered));
         }
         const auto closeThenPress = [](MessageBox& box) {
-            box.CloseByUser();
+            box.Close();
             box.Press(0);
         };
         EXPECT_EQ(AnswerAfter(row.set, closeThenPress), row.closed ? row.closed : row.results[0]);
@@ -356,14 +356,14 @@ TEST_F(MessageBoxTest, ABoxIsCentredOnItsOwnerAndRefreshesItAtTheEnd) {
         EXPECT_EQ(place->left + box.Layout().form.width / 2, 1000 + 4500);
         EXPECT_EQ(place->top + box.Layout().form.height / 2, -500 + 2000);
         owner->refreshes = 0;
-        byUser ? box.CloseByUser() : box.Abandon();
+        byUser ? box.Close() : box.Abandon();
         EXPECT_EQ(owner->refreshes, 1);
         EXPECT_EQ(owner.use_count(), 1);
     }
     MessageBox orphan = make();
     owner->exists = false;
     EXPECT_FALSE(orphan.CentredOnOwner().has_value());
-    orphan.CloseByUser();
+    orphan.Close();
     EXPECT_EQ(owner->refreshes, 1);
 }
 

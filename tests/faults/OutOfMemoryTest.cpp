@@ -137,7 +137,7 @@ Text ShowRight(const SecurityItem& item) {
 Text Show(const SelectGrid& grid) {
     Text shown = grid.HeaderText() + grid.Box().text;
     for (std::int32_t i = 1; i <= 4; ++i) shown += grid.Cell(1, i).checked ? u'x' : u'-';
-    return shown + (grid.IsOpen() ? u"" : grid.ReturnValue());
+    return shown + (grid.IsOpen() ? u"" : grid.Result());
 }
 Text ShowField(World& w) {
     return w.field->Text() + u'/' + IntegerText(w.field->SelLength());

@@ -64,7 +64,7 @@ class SelectGridTest : public CleanState {
     Texts Told() { return std::exchange(told_, {}); }
 
     bool IsTicked(int entry) const {
-        const CellPlace cell = SelectGrid::PlaceOf(entry);
+        const CellPlace cell = CheckCellOf(entry);
         return grid_->Cell(cell.row, cell.column).checked;
     }
     /// The check boxes of the first band.
@@ -75,7 +75,7 @@ class SelectGridTest : public CleanState {
     }
 
     void Click(int entry) {
-        const CellPlace cell = SelectGrid::PlaceOf(entry);
+        const CellPlace cell = CheckCellOf(entry);
         grid_->ClickCell(cell.row, cell.column);
     }
     void Type(TextIn text) { grid_->EditBox(text, static_cast<std::int32_t>(text.size())); }
@@ -158,7 +158,7 @@ TEST_F(SelectGridTest, TogglesTidyTheBoxAndSkipBlankCells) {
     Click(2);
     grid.ClickHeader();
     Click(3);
-    EXPECT_EQ(grid.ReturnValue(), u"x,C");
+    EXPECT_EQ(grid.Result(), u"x,C");
 }
 
 TEST_F(SelectGridTest, TakingACodeOutLeavesAllOthersAsTheyWere) {
@@ -197,7 +197,7 @@ TEST_F(SelectGridTest, ThePseudoEntryTakesAllCodesOrNone) {
     Click(1);
     EXPECT_EQ(Ticked(), u"");
     grid.KeyDown(Key::Enter);
-    EXPECT_EQ(grid.ReturnValue(), u"");
+    EXPECT_EQ(grid.Result(), u"");
 }
 
 TEST_F(SelectGridTest, ChecksTheTypedCodes) {
@@ -226,12 +226,12 @@ TEST_F(SelectGridTest, ChecksTheTypedCodes) {
         EXPECT_EQ(Ticked(), row.ticked) << ToUtf8(row.typed);
         EXPECT_EQ(grid.Box().caret, row.caret) << ToUtf8(row.typed);
         EXPECT_EQ(grid.Box().selected, row.selected) << ToUtf8(row.typed);
-        EXPECT_EQ(grid.ReturnValue(), row.choice) << ToUtf8(row.typed);
+        EXPECT_EQ(grid.Choice(), row.choice) << ToUtf8(row.typed);
     }
     Open(kCodes).EnableBox(false);  // nobody typed what stands in it, so its form is not checked
     Type(u",A,,B");
     EXPECT_TRUE(grid_->ValidateBox());
-    EXPECT_EQ(grid_->ReturnValue(), u"A,B");
+    EXPECT_EQ(grid_->Choice(), u"A,B");
 }
 
 TEST_F(SelectGridTest, ChangedMeansAToggleAnEmptiedBoxOrOtherMarks) {
@@ -249,7 +249,7 @@ TEST_F(SelectGridTest, ChangedMeansAToggleAnEmptiedBoxOrOtherMarks) {
         SelectGrid& grid = Open(kCodes, u"A");
         act(grid);
         grid.Accept();
-        EXPECT_EQ(grid.ReturnValue(), returned);
+        EXPECT_EQ(grid.Result(), returned);
     }
 }
 
@@ -319,7 +319,7 @@ TEST_F(SelectGridTest, LogsAFaultAndStaysUsable) {
                     .ends_with("ERR in frmSelectGrid.FindOneItem: Out of memory\r\n"));
     Type(u"A");
     grid.Accept();
-    EXPECT_EQ(grid.ReturnValue(), u"A");
+    EXPECT_EQ(grid.Result(), u"A");
 }
 
 TEST_F(SelectGridTest, KeepsBoxTicksAndResultTogetherOverManySteps) {
@@ -340,7 +340,7 @@ TEST_F(SelectGridTest, KeepsBoxTicksAndResultTogetherOverManySteps) {
                 if (std::erase(chosen, codes[which]) == 0) chosen.push_back(codes[which]);
                 ASSERT_EQ(grid.Box().text, Joined(chosen, u","));
             }
-            ASSERT_EQ(grid.ReturnValue(), Joined(chosen, u","));
+            ASSERT_EQ(grid.Choice(), Joined(chosen, u","));
             for (std::size_t i = 0; i < codes.size(); ++i) {
                 ASSERT_EQ(IsTicked(static_cast<int>(i) + 2),
                           std::ranges::count(chosen, codes[i]) > 0);
@@ -357,7 +357,7 @@ TEST_F(SelectGridTest, HandlesAHospitalsLargestList) {
     for (int i = 0; i < 2'000; ++i) grid.KeyDown(Key::Space), grid.KeyDown(Key::Left);
     grid.ReleaseComma();
     EXPECT_EQ(Told(), Texts());
-    EXPECT_EQ(grid.ReturnValue().size(), Joined(selected, u",").size());
+    EXPECT_EQ(grid.Choice().size(), Joined(selected, u",").size());
     Open(std::u16string(1'000'000, u':')).ClickCell(1, 1);
     grid_->KeyDown(Key::End);
     EXPECT_EQ(grid_->CurrentEntry(), 1);

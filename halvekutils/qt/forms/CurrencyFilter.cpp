@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/core/ComponentServices.h>
+#include <halvekutils/core/Session.h>
 #include <halvekutils/platform/TextField.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CurrencyFilter.h>
@@ -83,7 +83,7 @@ class CurrencyFilter::ApplicationFilter : public QObject {
 CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils)
     : QObject(&line),
       sign_(sign),
-      events_(sign, ComponentServices()),
+      events_(sign, TheSession()),
       utils_(std::move(utils)),
       applicationFilter_(std::make_unique<ApplicationFilter>(*this)) {
     line.setInputMask(QString());

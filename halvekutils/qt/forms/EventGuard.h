@@ -7,12 +7,18 @@
 namespace halvek {
 
 /// Runs what an event handler or slot does. An exception that left it would end the process, so it
-/// is beeped and logged here: "ERR in " and the handler's name, ": " and the fault.
+/// is beeped and logged here: "ERR in ", the form's and the handler's name, ": " and the fault.
 template <class Body>
-void GuardEvent(const char16_t* handler, const Body& body) {
-    const auto prefix = [handler] { return u"ERR in " + std::u16string(handler) + u": "; };
+void GuardEvent(const char16_t* form, const char16_t* handler, const Body& body) {
+    const auto prefix = [&] { return u"ERR in " + std::u16string(form) + handler + u": "; };
     const auto log = [](TextIn line) { Services::Current().LogError(line); };
     Guarded(OnFault::Beep, prefix, log, body);
+}
+
+/// The same where one text names both.
+template <class Body>
+void GuardEvent(const char16_t* handler, const Body& body) {
+    GuardEvent(handler, u"", body);
 }
 
 }  // namespace halvek

@@ -2,11 +2,7 @@
 #pragma once
 
 #include <halvekutils/dialogs/Calendar.h>
-#include <halvekutils/platform/Desktop.h>
-#include <halvekutils/qt/forms/DialogShow.h>
-
-#include <QDialog>
-#include <QPoint>
+#include <halvekutils/qt/forms/DialogForm.h>
 
 #include <memory>
 #include <optional>
@@ -18,39 +14,26 @@ namespace halvek {
 class MonthView;
 
 /// The window of a calendar: the month view and the button that closes it.
-class frmCalendar : public QDialog {
+class frmCalendar : public DialogForm {
     Q_OBJECT
 
   public:
     /// `desktop` knows the screens.
-    frmCalendar(std::shared_ptr<Calendar> rules, const Desktop& desktop);
-    ~frmCalendar() override;
-
-    /// Shows the calendar until it has ended.
-    void ShowModal();
+    frmCalendar(const std::shared_ptr<Calendar>& rules, const Desktop& desktop);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-  public slots:
-    void reject() override;
-
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    void Refresh() override;
     void showEvent(QShowEvent* event) override;
 
   private:
-    void ApplyLayout(const Desktop& desktop);
+    Size LayOut(const Desktop& desktop);
     void FollowPointer(const QWidget& over);
-    void CloseByUser();
-    void Sync();
 
-    std::shared_ptr<Calendar> rules_;
-    MonthView* MonthView1_;
-    QPushButton* Command1_;
-    Point place_;
+    MonthView* month_;
+    QPushButton* closeButton_;
     std::optional<QPoint> pointerRestsAt_;  ///< until it first moves
-    DialogShow show_;
 };
 
 }  // namespace halvek

@@ -2,10 +2,7 @@
 #pragma once
 
 #include <halvekutils/dialogs/ColorPalette.h>
-#include <halvekutils/platform/Desktop.h>
-#include <halvekutils/qt/forms/DialogShow.h>
-
-#include <QDialog>
+#include <halvekutils/qt/forms/DialogForm.h>
 
 #include <memory>
 
@@ -13,34 +10,21 @@ namespace halvek {
 
 class PaletteView;
 
-/// The window of a colour palette: draws its rules and forwards its events.
-class frmColor : public QDialog {
+/// The window of a colour palette.
+class frmColor : public DialogForm {
     Q_OBJECT
 
   public:
     /// `desktop` knows the screens.
-    frmColor(std::shared_ptr<ColorPalette> rules, const Desktop& desktop);
-    ~frmColor() override;
-
-    /// Shows the palette until it has ended.
-    void ShowModal();
-
-  public slots:
-    void reject() override;
+    frmColor(const std::shared_ptr<ColorPalette>& rules, const Desktop& desktop);
 
   protected:
+    void Refresh() override;
     void keyPressEvent(QKeyEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:
-    void ApplyLayout(const Desktop& desktop);
-    void Sync();
-
-    std::shared_ptr<ColorPalette> rules_;
-    PaletteView* Frame2_;
-    Point place_;
-    DialogShow show_;
+    PaletteView* cells_;
 };
 
 }  // namespace halvek

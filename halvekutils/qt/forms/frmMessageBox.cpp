@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -61,12 +60,11 @@ QFrame* MakeFrame(QWidget* parent, const char* name, const Rect& place) {
 }  // namespace
 
 frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
-    : box_(std::move(box)),
-      frMSG_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
-      frButtons_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)) {
-    setObjectName(QLatin1String("frmMessageBox"));
-    setAttribute(Qt::WA_QuitOnClose, false);
-    SetCloseBox();
+    : DialogForm(box, u"frmMessageBox"),
+      box_(std::move(box)),
+      textFrame_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
+      buttonFrame_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)) {
+    if (!box_->HasCloseBox()) RemoveCloseBox(*this);
     const Size inner = box_->Layout().inner;
     setFixedSize(TwipsToPixels(inner.width), TwipsToPixels(inner.height));
     const QPalette desktop = palette();
@@ -74,58 +72,53 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
     BuildText();
     BuildButtons(ButtonPalette(desktop));
     BuildScrollButtons(ButtonPalette(desktop));
+    BuildIcon();
+    countdown_.setObjectName(QLatin1String("tmrUnload"));
+    countdown_.setInterval(kOneSecond);
+    connect(&countdown_, &QTimer::timeout, this,
+            [this] { GuardEvent(u"frmMessageBox.tmrUnload_Timer", [this] { box_->Tick(); }); });
+}
 
+void frmMessageBox::BuildIcon() {
     auto* const icon = new MessageIcon(this);
     icon->setObjectName(QLatin1String("Image1"));
     icon->SetNumber(box_->Picture());
     icon->setGeometry(ToQRect(box_->Layout().icon));
     icon->setVisible(box_->Picture() != 0);
-
-    tmrUnload_.setObjectName(QLatin1String("tmrUnload"));
-    tmrUnload_.setInterval(kOneSecond);
-    connect(&tmrUnload_, &QTimer::timeout, this,
-            [this] { GuardEvent(u"frmMessageBox.tmrUnload_Timer", [this] { box_->Tick(); }); });
-    box_->Changed = [this] { Sync(); };
-    Sync();
-}
-
-frmMessageBox::~frmMessageBox() {
-    box_->Changed = nullptr;
-    box_->Abandon();
 }
 
 void frmMessageBox::BuildText() {
     const MessageBoxLayout& layout = box_->Layout();
-    lblText_ = new QTextEdit(frMSG_);
-    lblText_->setObjectName(QLatin1String("lblText"));
-    lblText_->setAccessibleName(tr("Message"));
-    lblText_->setReadOnly(true);
-    lblText_->setUndoRedoEnabled(false);
-    lblText_->setFocusPolicy(Qt::NoFocus);
-    lblText_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    lblText_->setFrameShape(QFrame::NoFrame);
-    lblText_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    lblText_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    lblText_->document()->setDocumentMargin(0);
-    lblText_->setFont(ToQFont(box_->Font()));
+    text_ = new QTextEdit(textFrame_);
+    text_->setObjectName(QLatin1String("lblText"));
+    text_->setAccessibleName(tr("Message"));
+    text_->setReadOnly(true);
+    text_->setUndoRedoEnabled(false);
+    text_->setFocusPolicy(Qt::NoFocus);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text_->setFrameShape(QFrame::NoFrame);
+    text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text_->document()->setDocumentMargin(0);
+    text_->setFont(ToQFont(box_->Font()));
     Rect place = layout.label;
     place.height = layout.viewHeight;
-    lblText_->setGeometry(ToQRect(place));
-    lblText_->setWordWrapMode(WrappingOf(ToQString(box_->Prompt())).wrapMode());
-    lblText_->setPlainText(ToQString(box_->Prompt()));
-    lblText_->viewport()->installEventFilter(this);
-    connect(lblText_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+    text_->setGeometry(ToQRect(place));
+    text_->setWordWrapMode(WrappingOf(ToQString(box_->Prompt())).wrapMode());
+    text_->setPlainText(ToQString(box_->Prompt()));
+    text_->viewport()->installEventFilter(this);
+    connect(text_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
         GuardEvent(u"frmMessageBox.lblText_Scroll", [this, value] { TextScrolled(value); });
     });
     setAccessibleDescription(ToQString(box_->Prompt()).left(kDescriptionLength));
 }
 
 void frmMessageBox::BuildButtons(const QPalette& colors) {
-    frButtons_->setVisible(ButtonCount(box_->Buttons()) > 0);
+    buttonFrame_->setVisible(ButtonCount(box_->Buttons()) > 0);
     for (int i = 0; i < 3; ++i) {
         const auto& place = box_->Layout().buttons[static_cast<std::size_t>(i)];
         if (!place) continue;
-        auto* const button = new QPushButton(ToQString(box_->ButtonCaption(i)), frButtons_);
+        auto* const button = new QPushButton(ToQString(box_->ButtonCaption(i)), buttonFrame_);
         button->setObjectName(QStringLiteral("arrCmd_%1").arg(i));
         button->setAccessibleName(button->text().remove(QLatin1Char('&')));
         button->setAutoDefault(false);
@@ -135,7 +128,7 @@ void frmMessageBox::BuildButtons(const QPalette& colors) {
         connect(button, &QPushButton::clicked, this, [this, i] {
             GuardEvent(u"frmMessageBox.arrCmd_Click", [this, i] { box_->Press(i); });
         });
-        arrCmd_[static_cast<std::size_t>(i)] = button;
+        buttons_[static_cast<std::size_t>(i)] = button;
     }
 }
 
@@ -143,7 +136,7 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
     constexpr Qt::ArrowType kArrows[] = {Qt::DownArrow, Qt::UpArrow};
     const QString names[] = {tr("Later lines"), tr("Earlier lines")};
     for (int i = 0; i < 2; ++i) {
-        auto* const button = new QToolButton(frMSG_);
+        auto* const button = new QToolButton(textFrame_);
         button->setObjectName(QStringLiteral("cmdUpDn_%1").arg(i));
         button->setAccessibleName(names[i]);
         button->setToolTip(names[i]);
@@ -156,7 +149,7 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
         connect(button, &QToolButton::clicked, this, [this, i] {
             GuardEvent(u"frmMessageBox.cmdUpDn_Click", [this, i] { box_->PressScroll(i); });
         });
-        cmdUpDn_[static_cast<std::size_t>(i)] = button;
+        scrollButtons_[static_cast<std::size_t>(i)] = button;
     }
 }
 
@@ -183,30 +176,6 @@ QPalette frmMessageBox::ButtonPalette(const QPalette& desktop) const {
     return buttons;
 }
 
-void frmMessageBox::SetCloseBox() {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    if (!box_->HasCloseBox()) RemoveCloseBox(*this);
-}
-
-void frmMessageBox::ShowModal() {
-    StartCountdown();
-    show_.Modal([this](const QWidget* owner) { return PlaceOf(owner); });
-}
-
-void frmMessageBox::ShowModeless() {
-    StartCountdown();
-    show_.Modeless([this](const QWidget* owner) { return PlaceOf(owner); });
-}
-
-void frmMessageBox::Abandon() {
-    GuardEvent(u"frmMessageBox.Form_Unload", [this] { box_->Abandon(); });
-}
-
-void frmMessageBox::StartCountdown() {
-    if (box_->CountdownRunning()) tmrUnload_.start();
-}
-
 QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
     const Size form = box_->Layout().form;
     const QSize outer(TwipsToPixels(form.width), TwipsToPixels(form.height));
@@ -216,15 +185,14 @@ QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
     return Inside(QRect(corner, outer), CurrentScreen()).topLeft();
 }
 
-void frmMessageBox::Sync() {
+void frmMessageBox::Refresh() {
     setWindowTitle(ToWindowTitle(box_->Caption()));
-    if (!box_->CountdownRunning()) tmrUnload_.stop();
-    lblText_->verticalScrollBar()->setValue(ScrolledPixels());
-    cmdUpDn_[0]->setEnabled(!AtLastLine());
-    cmdUpDn_[1]->setEnabled(box_->ScrollOffset() < 0);
-    if (box_->IsOpen()) return;
-    show_.End();
-    emit Ended();
+    if (box_->CountdownRunning() != countdown_.isActive()) {
+        box_->CountdownRunning() ? countdown_.start() : countdown_.stop();
+    }
+    text_->verticalScrollBar()->setValue(ScrolledPixels());
+    scrollButtons_[0]->setEnabled(!AtLastLine());
+    scrollButtons_[1]->setEnabled(box_->ScrollOffset() < 0);
 }
 
 bool frmMessageBox::AtLastLine() const {
@@ -233,7 +201,7 @@ bool frmMessageBox::AtLastLine() const {
 
 int frmMessageBox::ScrolledPixels() const {
     const std::int32_t offset = -box_->ScrollOffset();
-    if (offset > 0 && AtLastLine()) return lblText_->verticalScrollBar()->maximum();
+    if (offset > 0 && AtLastLine()) return text_->verticalScrollBar()->maximum();
     return TwipsToPixels(offset);
 }
 
@@ -244,19 +212,19 @@ void frmMessageBox::TextScrolled(int pixels) {
 }
 
 bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && watched == lblText_->viewport()) {
+    if (event->type() == QEvent::Wheel && watched == text_->viewport()) {
         wheelEvent(static_cast<QWheelEvent*>(event));
         return true;
     }
-    if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+    if (event->type() != QEvent::KeyPress) return DialogForm::eventFilter(watched, event);
     auto* const key = static_cast<QKeyEvent*>(event);
     for (int i = 0; i < 3; ++i) {
-        if (watched != arrCmd_[static_cast<std::size_t>(i)]) continue;
+        if (watched != buttons_[static_cast<std::size_t>(i)]) continue;
         bool taken = false;
         GuardEvent(u"frmMessageBox.arrCmd_KeyDown", [&] { taken = ButtonKey(i, *key); });
         return taken;
     }
-    return QDialog::eventFilter(watched, event);
+    return DialogForm::eventFilter(watched, event);
 }
 
 /// Whether the key is done with; any other goes on to the button.
@@ -267,7 +235,7 @@ bool frmMessageBox::ButtonKey(int index, const QKeyEvent& event) {
     }
     const MessageBox::KeyAction action = box_->KeyDown(KeyCodeOf(event), ModifiersOf(event));
     if (action == MessageBox::KeyAction::Copy) Copy();
-    Sync();
+    Refresh();
     return action != MessageBox::KeyAction::None || ScrollKey(event.key());
 }
 
@@ -294,7 +262,7 @@ bool frmMessageBox::ScrollKey(int key) {
 }
 
 std::int32_t frmMessageBox::LineHeight() const {
-    return PixelsToTwips(lblText_->fontMetrics().lineSpacing());
+    return PixelsToTwips(text_->fontMetrics().lineSpacing());
 }
 
 void frmMessageBox::Copy() const {
@@ -326,18 +294,9 @@ void frmMessageBox::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-void frmMessageBox::closeEvent(QCloseEvent* event) {
-    GuardEvent(u"frmMessageBox.Form_QueryUnload", [this] { box_->CloseByUser(); });
-    event->setAccepted(!box_->IsOpen());
-}
-
 void frmMessageBox::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (arrCmd_[0] != nullptr) arrCmd_[0]->setFocus(Qt::ActiveWindowFocusReason);
-}
-
-void frmMessageBox::reject() {
-    GuardEvent(u"frmMessageBox.Form_QueryUnload", [this] { box_->CloseByUser(); });
+    DialogForm::showEvent(event);
+    if (buttons_[0] != nullptr) buttons_[0]->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 }  // namespace halvek

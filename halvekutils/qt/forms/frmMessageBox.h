@@ -2,9 +2,8 @@
 #pragma once
 
 #include <halvekutils/dialogs/MessageBox.h>
-#include <halvekutils/qt/forms/DialogShow.h>
+#include <halvekutils/qt/forms/DialogForm.h>
 
-#include <QDialog>
 #include <QTimer>
 
 #include <array>
@@ -17,33 +16,22 @@ class QToolButton;
 
 namespace halvek {
 
-/// The window of a message box: draws its rules and forwards its events.
-class frmMessageBox : public QDialog {
+/// The window of a message box.
+class frmMessageBox : public DialogForm {
     Q_OBJECT
 
   public:
     explicit frmMessageBox(std::shared_ptr<MessageBox> box);
-    ~frmMessageBox() override;
 
     const std::shared_ptr<MessageBox>& Box() const { return box_; }
 
-    /// Shows the box until it has ended; one that stands on the screen modelessly goes on modally.
-    void ShowModal();
-    void ShowModeless();
-
-  signals:
-    /// The box has ended and is hidden.
-    void Ended();
-
   protected:
+    void Refresh() override;
+    QPoint PlaceOf(const QWidget* owner) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
-
-  public slots:
-    void reject() override;
 
   private:
     void BuildText();
@@ -51,11 +39,7 @@ class frmMessageBox : public QDialog {
     void BuildScrollButtons(const QPalette& colors);
     void ApplyColors(const QPalette& desktop);
     QPalette ButtonPalette(const QPalette& desktop) const;
-    void SetCloseBox();
-    void StartCountdown();
-    QPoint PlaceOf(const QWidget* owner) const;
-    void Abandon();
-    void Sync();
+    void BuildIcon();
     bool AtLastLine() const;
     int ScrolledPixels() const;
     void TextScrolled(int pixels);
@@ -65,13 +49,12 @@ class frmMessageBox : public QDialog {
     void Copy() const;
 
     std::shared_ptr<MessageBox> box_;
-    QFrame* frMSG_;
-    QFrame* frButtons_;
-    QTextEdit* lblText_ = nullptr;
-    std::array<QPushButton*, 3> arrCmd_{};
-    std::array<QToolButton*, 2> cmdUpDn_{};
-    QTimer tmrUnload_{this};
-    DialogShow show_{*this, [this] { Abandon(); }};
+    QFrame* textFrame_;
+    QFrame* buttonFrame_;
+    QTextEdit* text_ = nullptr;
+    std::array<QPushButton*, 3> buttons_{};
+    std::array<QToolButton*, 2> scrollButtons_{};
+    QTimer countdown_{this};
 };
 
 }  // namespace halvek

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/base/Export.h>
+
+#include <functional>
+#include <string>
+
+namespace halvek {
+
+/// The life cycle of a dialog's rules: open from the start, then ended once, with a result.
+///
+/// The user ends it by a choice of its own kind or by Close; when its window goes away instead,
+/// Abandon ends it.
+class HALVEK_EXPORT Dialog {
+  public:
+    virtual ~Dialog();
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+
+    /// False once the dialog has ended.
+    bool IsOpen() const { return open_; }
+
+    /// Called after every change that the window shows, before every message that is raised, and
+    /// once when the dialog ends.
+    std::function<void()> Changed;
+
+    /// The user closes the dialog without a choice: the close box, and Escape or a button that does
+    /// the same. A dialog without a close box stays open, one that has ended stays as it is.
+    void Close();
+
+    /// The window goes away with the dialog still open: the application quits or the owner is gone.
+    void Abandon();
+
+    /// How the dialog was answered, in the form that its class gives; empty while it is open.
+    const std::u16string& Result() const { return result_; }
+
+  protected:
+    Dialog();
+
+    /// Ends the dialog and tells the window.
+    void End(std::u16string result);
+    /// Tells the window of a change.
+    void NotifyChanged() const;
+    /// Hands the result over and leaves none.
+    std::u16string TakeResult();
+
+  private:
+    /// What Close does while the dialog is open: ends it without a result.
+    virtual void OnClose();
+    /// What Abandon does while the dialog is open: the same as Close.
+    virtual void OnAbandon();
+
+    std::u16string result_;
+    bool open_ = true;
+};
+
+}  // namespace halvek

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/dialogs/Calculator.h>
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CalculatorKeys.h>
+#include <halvekutils/qt/forms/Keys.h>
+
+#include <QApplication>
+#include <QLineEdit>
+
+#include <cstddef>
+
+namespace halvek {
+
+namespace {
+
+/// The key code by which the rules know a key; 0 for a key they have no name for.
+int KeyCodeOf(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Escape) return 27;
+    return key.key() == Qt::Key_Delete ? 46 : 0;
+}
+
+/// Whether a line edit would put the key's text in, as it does with Alt and a letter.
+bool WouldBeInserted(const QKeyEvent& key) {
+    const bool isCommand =
+        key.modifiers().testFlag(Qt::ControlModifier) && !key.modifiers().testFlag(Qt::AltModifier);
+    return !isCommand && !key.text().isEmpty() && key.text()[0].category() != QChar::Other_Control;
+}
+
+}  // namespace
+
+bool CalculatorKeys::Take(const QKeyEvent& key) {
+    const bool pastes = key.matches(QKeySequence::Paste);
+    // A key that is held down counts once, and not at all when it was before the calculator opened.
+    if (key.isAutoRepeat() && (pastes || !IsInBox())) return true;
+    if (pastes) {
+        Paste(QClipboard::Clipboard);
+        return true;
+    }
+    if (key.matches(QKeySequence::Copy)) {
+        Copy();
+        return true;
+    }
+    if (IsEnter(key)) {
+        if (!IsInBox()) rules_.Press(rules_.Focus());
+        return true;
+    }
+    return rules_.KeyDown(KeyCodeOf(key)) || Type(key);
+}
+
+bool CalculatorKeys::Type(const QKeyEvent& key) {
+    const char16_t typed = TypedBy(key);
+    if (typed == 0) return WouldBeInserted(key);
+    if (!rules_.KeyPress(typed)) return true;
+    if (!BoxIsFull()) return false;
+    QApplication::beep();
+    return true;
+}
+
+bool CalculatorKeys::IsInBox() const {
+    return rules_.Focus() == Calculator::kBox;
+}
+
+bool CalculatorKeys::BoxIsFull() const {
+    const qsizetype kept = box_.text().size() - box_.selectedText().size();
+    return kept >= static_cast<qsizetype>(Calculator::kMaxLength);
+}
+
+void CalculatorKeys::Copy() const {
+    const std::u16string number = rules_.Copy();
+    if (!number.empty()) QGuiApplication::clipboard()->setText(ToQString(number));
+}
+
+void CalculatorKeys::Paste(QClipboard::Mode mode) {
+    const bool replaces = IsInBox() && box_.hasSelectedText();
+    rules_.Paste(QGuiApplication::clipboard()->text(mode),
+                 replaces ? static_cast<std::size_t>(box_.selectionStart()) : 0,
+                 replaces ? static_cast<std::size_t>(box_.selectionLength()) : 0);
+}
+
+}  // namespace halvek

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CalculatorPad.h>
+#include <halvekutils/qt/forms/EventGuard.h>
+#include <halvekutils/qt/forms/FlashButton.h>
+#include <halvekutils/qt/forms/Metrics.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+namespace halvek {
+
+namespace {
+
+// In twips.
+constexpr std::int32_t kButtonWidth = 840;
+constexpr std::int32_t kButtonHeight = 720;
+
+// In points.
+constexpr std::int32_t kButtonFont = 13;
+
+/// The buttons as they lie before the user; the tab key follows them. One that stands in two rows
+/// is as high as both.
+constexpr int kFace[4][5] = {
+    {7, 8, 9, Calculator::kDivide, Calculator::kClear},
+    {4, 5, 6, Calculator::kMultiply, Calculator::kEquals},
+    {1, 2, 3, Calculator::kMinus, Calculator::kEquals},
+    {0, Calculator::kPoint, Calculator::kChangeSign, Calculator::kPlus, Calculator::kReturn},
+};
+
+/// What screen readers and tool tips call the buttons after the digits.
+constexpr const char* kNames[] = {"change sign", "point",  "divide", "multiply",         "minus",
+                                  "plus",        "equals", "clear",  "return the result"};
+static_assert(Calculator::kChangeSign + std::size(kNames) == Calculator::kButtonCount);
+
+}  // namespace
+
+CalculatorPad::CalculatorPad(Calculator& rules, QWidget* form) : rules_(rules) {
+    for (int row = 0; row < 4; ++row) {
+        for (int column = 0; column < 5; ++column) {
+            const int index = kFace[row][column];
+            FlashButton*& button = buttons_[static_cast<std::size_t>(index)];
+            if (button != nullptr) continue;
+            button = MakeButton(index, form);
+            const int rows = row < 3 && kFace[row + 1][column] == index ? 2 : 1;
+            addWidget(button, row, column, rows, 1);
+        }
+    }
+}
+
+FlashButton* CalculatorPad::MakeButton(int index, QWidget* form) {
+    auto* const button = new FlashButton(ToCaption(Calculator::Caption(index)), form);
+    button->setObjectName(QStringLiteral("arrCmd_%1").arg(index));
+    if (index >= Calculator::kChangeSign) {
+        button->setAccessibleName(tr(kNames[index - Calculator::kChangeSign]));
+        button->setToolTip(button->accessibleName());
+    } else {
+        button->setAccessibleName(button->text());
+    }
+    button->setFont(ToQFont({{}, kButtonFont}));
+    button->setMinimumSize(TwipsToPixels(kButtonWidth), TwipsToPixels(kButtonHeight));
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    button->setAutoDefault(false);
+    button->installEventFilter(form);
+    connect(button, &QPushButton::clicked, this, [this, index] {
+        GuardEvent(u"frmCalculator.arrCmd_Click", [this, index] { rules_.Press(index); });
+    });
+    return button;
+}
+
+int CalculatorPad::IndexOf(const QObject* object) const {
+    const auto button = std::ranges::find(buttons_, object);
+    return button == buttons_.end() ? Calculator::kBox
+                                    : static_cast<int>(button - buttons_.begin());
+}
+
+void CalculatorPad::Announce() {
+    const QString shown = ToQString(rules_.Display());
+    const QString display = tr("Display") + u' ' + (shown.isEmpty() ? tr("empty") : shown);
+    for (FlashButton* const button : buttons_) {
+        const bool focused = IndexOf(button) == rules_.Focus();
+        button->setAccessibleDescription(focused ? display : QString());
+    }
+}
+
+void CalculatorPad::EndFlashes() {
+    for (FlashButton* const button : buttons_) button->EndFlash();
+}
+
+}  // namespace halvek

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/Dialog.h>
+#include <halvekutils/qt/forms/DialogShow.h>
+#include <halvekutils/text/Placement.h>
+
+#include <QDialog>
+#include <QPoint>
+
+#include <memory>
+
+namespace halvek {
+
+/// The window of a dialog: shows its rules, closes them when the user asks for it and goes when
+/// they have ended.
+///
+/// It has a title bar with a close box and no QObject parent, and never keeps the application
+/// running. Whatever QDialog would make of a key is left to the rules.
+class DialogForm : public QDialog {
+    Q_OBJECT
+
+  public:
+    ~DialogForm() override;
+
+    /// Shows the dialog until it has ended; one that stands on the screen modelessly goes on
+    /// modally.
+    void ShowModal();
+    void ShowModeless();
+
+  signals:
+    /// The dialog has ended and is hidden.
+    void Ended();
+
+  public slots:
+    /// Closes the rules, as the close box does.
+    void reject() override;
+
+  protected:
+    /// `name` becomes the object's name and stands in the log when a handler fails.
+    DialogForm(std::shared_ptr<Dialog> rules, const char16_t* name);
+
+    /// Shows what the rules say: once before the window opens, then after every change.
+    virtual void Refresh() = 0;
+
+    /// The top left corner, with the frame, where the window opens; at first what OpenAt has found.
+    virtual QPoint PlaceOf(const QWidget* owner) const;
+    /// Places the window, of this size with its frame, as a pop-up is placed.
+    void OpenAt(const PopupAnchor& anchor, Size outer, const Desktop& desktop);
+
+    // Reached by keys that no control took: Escape closes, Enter presses the button with the focus.
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void Follow();
+    void Abandon();
+
+    std::shared_ptr<Dialog> rules_;
+    const char16_t* name_;
+    QPoint place_;
+    DialogShow show_{*this, [this] { Abandon(); }};
+};
+
+}  // namespace halvek

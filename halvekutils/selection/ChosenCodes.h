@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/base/NumericText.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvek {
+
+/// The box of typed codes as the rules want it. Positions count characters from 0.
+struct TypedCodesBox {
+    std::u16string text;        ///< what it holds
+    std::int32_t caret = 0;     ///< how many characters stand before the caret
+    std::int32_t selected = 0;  ///< how many characters after the caret are selected
+    bool enabled = true;        ///< what stands in a disabled box was not typed by the user
+};
+
+/// Calls `visit` with each piece between commas, without the blanks around it, until it returns
+/// false.
+template <class Visit>
+void ForEachCode(std::u16string_view text, const Visit& visit) {
+    while (true) {
+        const std::size_t end = text.find(u',');
+        if (!visit(Trimmed(text.substr(0, end))) || end == text.npos) return;
+        text.remove_prefix(end + 1);
+    }
+}
+
+/// The chosen codes, joined by ",", and the box in which they stand until the user types there.
+///
+/// With a few thousand codes chosen, the two texts are long: while they are the same there is one.
+class HALVEK_EXPORT ChosenCodes {
+  public:
+    /// The chosen codes.
+    std::u16string_view Text() const { return boxIsChoice_ ? box_.text : choice_; }
+    /// The box of typed codes.
+    const TypedCodesBox& Box() const { return box_; }
+    /// Grows whenever the rules, not the user, change the box.
+    std::uint32_t BoxVersion() const { return boxVersion_; }
+
+    // Choosing: the codes in the box, one more or less, become the choice and the box's text. Each
+    // is true when that empties a box that held something.
+
+    /// Adds a code after the others.
+    bool Add(std::u16string_view code);
+    /// Takes a code out, however often it stands there.
+    bool Remove(std::u16string_view code);
+    /// Chooses these codes and no other.
+    bool Replace(const std::vector<std::u16string_view>& codes);
+
+    // Typing
+
+    /// Puts a text into the box that leaves the choice alone.
+    void Type(std::u16string text);
+    /// Puts caret and selection where the user has them, at the nearest place in the text.
+    void MoveCaret(std::int32_t caret, std::int32_t selected);
+    /// Puts caret and selection where the rules want them.
+    void Select(std::size_t start, std::size_t length);
+    /// Selects a code that was refused, with the comma after it.
+    void SelectCode(std::u16string_view code);
+    /// Whether the user can type.
+    void Enable(bool enabled) { box_.enabled = enabled; }
+
+    // Checking: the choice is made code by code
+
+    /// Makes room for codes of this length before the first is accepted.
+    void Reserve(std::size_t length) { box_.text.reserve(length); }
+    /// Chooses nothing, with room for all that the box holds.
+    void StartCheck();
+    /// Adds a code of the box to the choice.
+    void Accept(std::u16string_view code);
+    /// The last code is accepted.
+    void EndCheck();
+    /// Chooses nothing; the box stays as it is.
+    void Clear();
+
+  private:
+    bool SetText(std::u16string codes);
+    void TakeBox();
+
+    TypedCodesBox box_;
+    std::uint32_t boxVersion_ = 0;
+    std::u16string choice_;    ///< while the box holds another text
+    bool boxIsChoice_ = true;  ///< the box holds the choice itself
+    bool hasComma_ = false;    ///< a code with a comma in it was chosen
+};
+
+}  // namespace halvek

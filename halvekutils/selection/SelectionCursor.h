@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/base/Export.h>
+#include <halvekutils/selection/SelectionList.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace halvek {
+
+/// The keys that the grid of a selection dialog knows.
+enum class SelectionKey {
+    Enter,     ///< OK
+    Space,     ///< ticks the current entry or takes its tick off
+    PageUp,    ///< as many bands up as are in view
+    PageDown,  ///< as many bands down as are in view
+    End,       ///< the last entry
+    Home,      ///< the first entry, that of all codes
+    Left,      ///< the entry before
+    Up,        ///< the band above
+    Right,     ///< the entry after
+    Down,      ///< the band below
+};
+
+/// Where the keys stand in a selection list and how they move there: from one entry with a code to
+/// another, by keys or to what begins with typed letters.
+class HALVEK_EXPORT SelectionCursor {
+  public:
+    /// Stands on the pseudo-entry; on none when the list shows none. `list` outlives the cursor.
+    explicit SelectionCursor(const SelectionList& list);
+
+    /// The current entry; 0 when the list shows none.
+    std::int32_t Entry() const { return entry_; }
+
+    // Each is true when another entry became the current one.
+
+    /// Goes to an entry with a code.
+    bool GoTo(std::int32_t entry);
+    /// Moves by a key; Enter and Space do not. Left and right cross the bands.
+    /// @param key  the key
+    /// @param bandsOnPage  how many bands the grid shows at a time
+    bool Move(SelectionKey key, std::int32_t bandsOnPage);
+    /// Goes to the next entry whose code or description begins with what was typed, letter case
+    /// ignored.
+    /// @param letter  the character; one up to a blank moves nowhere
+    /// @param continues  it follows closely on the last one and is added to it
+    bool TypeLetter(char16_t letter, bool continues);
+
+  private:
+    std::int32_t NearestWithCode(std::int32_t entry, std::int32_t step) const;
+    bool GoToNearest(std::int32_t entry, std::int32_t step);
+    bool MoveAcrossBands(std::int32_t bands);
+    std::int32_t FindByStart(std::u16string_view start, std::int32_t from) const;
+
+    const SelectionList& list_;
+    std::int32_t entry_;
+    std::u16string searched_;
+};
+
+}  // namespace halvek
