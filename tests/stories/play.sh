@@ -78,16 +78,23 @@ keyboard_is() {
 numbers_are() {
     [ "$numlock" = "$1" ] && return
     numlock=$1
-    act 0 "key ${code[NumLock]}"
+    act 0 "key --delay 0 ${code[NumLock]}"
 }
 
-point_at() {
+# A button goes down and up again without the tenth of a second that xdotool's own click takes.
+click_here() {
+    act 1 "mousedown 1" "mouseup 1"
+}
+
+# Clicks into the middle of a control
+click_on() {
     echo "where ${1/#day:/qt_calendar_calendarview:}" >&"$questions"
     hear && [ "$answer" != nowhere ] || {
         trouble="$1 is nowhere"
         return 1
     }
     echo "mousemove ${answer#at }" >&"$hand"
+    click_here
 }
 
 press() {
@@ -102,7 +109,7 @@ press() {
         return 1
     }
     keys+=("$part")
-    act 0 "key $(IFS=+ && echo "${keys[*]}")"
+    act 0 "key --delay 0 $(IFS=+ && echo "${keys[*]}")"
 }
 
 type_text() {
@@ -116,13 +123,13 @@ take_step() {
     case $1 in
     \[*\]) # a button of the calculator
         name=${1:1:-1}
-        point_at "arrCmd_${button[$name]:-$name}" && act 1 "click 1"
+        click_on "arrCmd_${button[$name]:-$name}"
         ;;
     \<\<*\>\>) # the second click comes when the first has had its effect
         echo slow-hand >&"$questions"
-        point_at "${1:2:-2}" && act 1 "click 1" && act 1 "click 1"
+        click_on "${1:2:-2}" && click_here
         ;;
-    \<*\>) point_at "${1:1:-1}" && act 1 "click 1" ;;
+    \<*\>) click_on "${1:1:-1}" ;;
     \'*\') type_text "${1:1:-1}" ;;
     \?*) echo "read ${1:1}" >&"$questions" && act 0 ;;
     NUM) numbers_are on ;;
