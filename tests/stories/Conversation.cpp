@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "Conversation.h"
+
+#include "Record.h"
+#include "Seen.h"
+
+#include <halvekutils/base/StringArray.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QLocale>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QStringList>
+
+#include <unistd.h>
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <utility>
+
+using namespace halvek;
+
+namespace {
+
+constexpr int kCalmRounds = 3;
+constexpr int kPause = 2;  // in milliseconds, between two looks
+
+// How far apart the clicks of a double click may be, in milliseconds; the slow hand is that of a
+// player on a busy machine.
+constexpr int kQuickHand = 400;
+constexpr int kSlowHand = 20'000;
+
+/// What all events of the input extension begin with
+struct XiEvent {
+    std::uint32_t kindAndSequence;
+    std::uint32_t length;
+    std::uint16_t type;
+    std::uint16_t device;
+};
+
+/// A button let go; the device behind the pointer that all share tells of it, too.
+bool IsClick(const XiEvent& event) {
+    constexpr std::uint16_t kButtonRelease = 5;
+    constexpr std::uint16_t kSharedPointer = 2;
+    return event.type == kButtonRelease && event.device == kSharedPointer;
+}
+
+QWidget* Front(QWidget* desk) {
+    if (QWidget* const popup = QApplication::activePopupWidget()) return popup;
+    if (QWidget* const dialog = QApplication::activeModalWidget()) return dialog;
+    return desk;
+}
+
+std::uint32_t AtomOf(const char* name) {
+    auto* const display = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    const QByteArray text(name);
+    auto* const reply = xcb_intern_atom_reply(
+        display,
+        xcb_intern_atom(display, false, static_cast<std::uint16_t>(text.size()), text.constData()),
+        nullptr);
+    const std::uint32_t atom = reply == nullptr ? 0 : reply->atom;
+    std::free(reply);
+    return atom;
+}
+
+std::shared_ptr<Utils> StartLibrary() {
+    auto utils = Utils::Create();
+    utils->InitUtils(QDir::homePath() + "/Desk.log", QString("Desk"), QString("test"), true,
+                     QString("1"));
+    StringArray colors(1, 20);
+    for (int i = 1; i <= 20; ++i) colors[i] = QString::number(i * 500'000).toStdU16String();
+    utils->InitPrefs(colors, 0xFFFFFF, 0, 0xFFFFFF, 0xFFFFFF);
+    return utils;
+}
+
+}  // namespace
+
+Conversation::Conversation() : mark_(AtomOf("_NET_WM_WINDOW_ROLE")) {
+    marked_.create();
+    qApp->installNativeEventFilter(this);
+    Record::Answer("marks " + QString::number(marked_.winId()));
+    auto* const input = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this);
+    connect(input, &QSocketNotifier::activated, this, [this] { Listen(); });
+    check_.setInterval(0);
+    connect(&check_, &QTimer::timeout, this, [this] { Check(); });
+}
+
+void Conversation::Listen() {
+    char piece[1024];
+    const ssize_t length = read(STDIN_FILENO, piece, sizeof piece);
+    if (length <= 0) std::exit(0);
+    heard_.append(piece, static_cast<qsizetype>(length));
+    for (qsizetype end = heard_.indexOf('\n'); end >= 0; end = heard_.indexOf('\n')) {
+        const QString line = QString::fromUtf8(heard_.left(end));
+        heard_.remove(0, end + 1);
+        Answer(line);
+    }
+}
+
+void Conversation::Answer(const QString& line) {
+    const QString word = line.section(' ', 0, 0);
+    const QString rest = line.section(' ', 1);
+    if (word == "new") return Renew(rest);
+    if (word == "where") return AnswerWhere(rest);
+    if (word == "read") return Read(rest);
+    if (word == "load") desk_->Load(rest.section(' ', 0, 0), rest.section(' ', 1));
+    if (word == "clipboard") QApplication::clipboard()->setText(rest);
+    if (word == "locale") QLocale::setDefault(QLocale(rest));
+    if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
+    if (word == "why") Record::Answer(State());
+    if (word == "await") {
+        marksAwaited_ = rest.section(' ', 0, 0).toInt();
+        clicksAwaited_ = rest.section(' ', 1).toInt();
+        isAsked_ = true;
+        check_.start();
+    }
+}
+
+void Conversation::Renew(const QString& place) {
+    // A story that failed may have left a dialog, whose loop has to end first.
+    if (QWidget* const left = QApplication::activeModalWidget()) {
+        left->close();
+        QTimer::singleShot(0, this, [this, place] { Renew(place); });
+        return;
+    }
+    QLocale::setDefault(QLocale::c());
+    QApplication::setDoubleClickInterval(kQuickHand);
+    desk_ = std::make_unique<Desk>(StartLibrary());
+    if (place == "right") {
+        desk_->adjustSize();
+        constexpr int kBeyond = 100;  // so that a pop-up has to give way
+        desk_->move(desk_->screen()->geometry().width() - desk_->width() + kBeyond, 40);
+    } else {
+        desk_->move(40, 40);
+    }
+    desk_->show();
+    AnswerOnceSeen();
+}
+
+void Conversation::AnswerOnceSeen() {
+    if (desk_->windowHandle()->isExposed()) {
+        Record::Answer("window " + QString::number(desk_->winId()));
+    } else {
+        QTimer::singleShot(kPause, this, [this] { AnswerOnceSeen(); });
+    }
+}
+
+void Conversation::AnswerWhere(const QString& name) const {
+    const auto place = PlaceOf(*Front(desk_.get()), name);
+    Record::Answer(place ? QString("at %1 %2").arg(place->x()).arg(place->y()) : "nowhere");
+}
+
+void Conversation::Read(const QString& name) const {
+    Record::Got(name, TextSeen(*Front(desk_.get()), name) + "");
+}
+
+bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
+    const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+    const int kind = event->response_type & 0x7F;
+    if (kind == XCB_PROPERTY_NOTIFY) {
+        const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
+        marksSeen_ += change.window == marked_.winId() && change.atom == mark_;
+    } else if (kind == XCB_BUTTON_RELEASE) {
+        ++clicksSeen_;
+    } else if (kind == XCB_GE_GENERIC) {
+        clicksSeen_ += IsClick(*static_cast<const XiEvent*>(message));
+    }
+    calm_ = 0;
+    return false;
+}
+
+/// Called whenever the event loop has nothing else to do.
+void Conversation::Check() {
+    const bool isThere = marksSeen_ >= marksAwaited_ && clicksSeen_ >= clicksAwaited_;
+    if (!isThere || !IsSettled()) calm_ = 0;
+    check_.setInterval(calm_ == 0 ? kPause : 0);
+    if (!isAsked_ || calm_++ < kCalmRounds) return;
+    isAsked_ = false;
+    check_.stop();
+    Record::Answer("done");
+}
+
+bool Conversation::IsSettled() const {
+    if (QApplication::activePopupWidget() != nullptr) return true;
+    const QWindow* const front = Front(desk_.get())->windowHandle();
+    return front != nullptr && front->isExposed() && QGuiApplication::focusWindow() == front;
+}
+
+QString Conversation::State() const {
+    const QWindow* const focus = QGuiApplication::focusWindow();
+    return QString("%1 of %2 marks, %3 of %4 clicks, the keyboard is with %5, in front is %6")
+        .arg(marksSeen_)
+        .arg(marksAwaited_)
+        .arg(clicksSeen_)
+        .arg(clicksAwaited_)
+        .arg(focus ? focus->objectName() : "nobody")
+        .arg(Front(desk_.get())->objectName());
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Desk.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+#include <QTimer>
+#include <QWindow>
+
+#include <cstdint>
+#include <memory>
+
+/// Answers what the player of the stories asks on the standard input, a line each:
+///
+///     new [right]              a new window in the place of the old one; "window ID"
+///     where NAME               "at X Y" on the screen, or "nowhere"
+///     read NAME[.PART]         puts on record what a person sees of a control
+///     load FIELD TEXT          the program sets a text
+///     clipboard|locale TEXT    what the desktop offers
+///     slow-hand                both clicks of a double click may be far apart
+///     await MARKS CLICKS       "done" once all that was done before has had its effect
+///     why                      what is not there yet
+///
+/// The player marks the end of an act by a property of a window that the host names at first, which
+/// comes in order with the keys. Clicks come later, since the window manager looks at them first;
+/// they are counted. An act has had its effect when no event is left and the window in front has
+/// the keyboard.
+class Conversation : public QObject, public QAbstractNativeEventFilter {
+  public:
+    Conversation();
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr*) override;
+
+  private:
+    void Listen();
+    void Answer(const QString& line);
+    void Renew(const QString& place);
+    void AnswerOnceSeen();
+    void AnswerWhere(const QString& name) const;
+    void Read(const QString& name) const;
+    void Check();
+    bool IsSettled() const;
+    QString State() const;
+
+    std::unique_ptr<Desk> desk_;
+    QByteArray heard_;
+    QTimer check_;
+    QWindow marked_;      ///< never shown
+    std::uint32_t mark_;  ///< the property's atom
+    int marksSeen_ = 0;
+    int clicksSeen_ = 0;
+    int marksAwaited_ = 0;
+    int clicksAwaited_ = 0;
+    bool isAsked_ = false;
+    int calm_ = 0;  ///< rounds of the event loop without news
+};

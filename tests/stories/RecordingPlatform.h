@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Record.h"
+
+#include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/qt/QtPlatform.h>
+#include <halvekutils/qt/QtText.h>
+
+/// A desktop whose beeps, plain messages and debug lines go on record. The messages are shown too,
+/// the debug console is not: it would stand before the host.
+class RecordingPlatform : public halvek::QtPlatform {
+  public:
+    void Beep() override { Record::Got("beep"); }
+
+    void ShowStockMessage(halvek::TextIn text, halvek::StockIcon icon,
+                          halvek::TextIn title) override {
+        Record::Got("message", halvek::ToQString(text));
+        QtPlatform::ShowStockMessage(text, icon, title);
+    }
+
+    using QtPlatform::Show;
+    void Show(const std::shared_ptr<halvek::DebugConsole>& console) override {
+        const QStringList lines =
+            halvek::ToQString(console->Text()).split("\r\n", Qt::SkipEmptyParts);
+        if (!lines.isEmpty()) Record::Got("debug", lines.last());
+    }
+};

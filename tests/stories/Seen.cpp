@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "Seen.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QVariant>
+
+namespace {
+
+const QWidget* Find(const QWidget& front, const QString& name) {
+    if (front.objectName() == name) return &front;
+    for (const QWidget* const child : front.findChildren<QWidget*>(name)) {
+        if (child->isVisible()) return child;
+    }
+    return nullptr;
+}
+
+std::optional<QPoint> PlaceOfCell(const QWidget& grid, const QString& cell) {
+    const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
+    if (view == nullptr) return std::nullopt;
+    const QModelIndex index =
+        view->model()->index(cell.section(',', 0, 0).toInt(), cell.section(',', 1).toInt());
+    return view->viewport()->mapToGlobal(view->visualRect(index).center());
+}
+
+/// The cells as their view paints them: numbers in its language.
+QString RowOf(const QWidget& grid, int row) {
+    const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
+    if (view == nullptr) return {};
+    QStringList cells;
+    for (int column = 0; column < view->model()->columnCount(); ++column) {
+        const QVariant cell = view->model()->index(row, column).data();
+        const bool isText = cell.typeId() == QMetaType::QString;
+        cells += isText ? cell.toString() : view->locale().toString(cell.toInt());
+    }
+    return cells.join(' ');
+}
+
+QString TextOf(const QWidget& control) {
+    if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) return line->text();
+    if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
+        return button->text();
+    }
+    return control.accessibleName();
+}
+
+QString PartOf(const QWidget& control, const QString& part) {
+    const auto* const line = qobject_cast<const QLineEdit*>(&control);
+    if (part.startsWith("row")) return RowOf(control, part.mid(3).toInt());
+    if (part == "selected" && line != nullptr) return line->selectedText();
+    if (part == "caret" && line != nullptr) return QString::number(line->cursorPosition());
+    if (part == "aligned" && line != nullptr) {
+        return line->alignment() & Qt::AlignRight ? "right" : "left";
+    }
+    if (part == "right") {
+        return QString::number(control.screen()->geometry().right() -
+                               control.frameGeometry().right());
+    }
+    return control.property(part.toUtf8()).toString();
+}
+
+}  // namespace
+
+std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name) {
+    const QWidget* const control = Find(front, name.section(':', 0, 0));
+    if (control == nullptr) return std::nullopt;
+    const QString place = name.section(':', 1);
+    if (place.contains(',')) return PlaceOfCell(*control, place);
+    constexpr int kInside = 6;
+    const QPoint middle = control->rect().center();
+    return control->mapToGlobal(place == "left" ? QPoint(kInside, middle.y()) : middle);
+}
+
+QString TextSeen(const QWidget& front, const QString& name) {
+    if (name == "focus") {
+        return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "nobody";
+    }
+    const QWidget* const control = Find(front, name.section('.', 0, 0));
+    if (control == nullptr) return "not seen";
+    return name.contains('.') ? PartOf(*control, name.section('.', 1)) : TextOf(*control);
+}
