@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ErrorLogFile.h"
 
-#include <halvekutils/base/CodePage.h>
 #include <halvekutils/qt/QtText.h>
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <string_view>
 
 namespace frontdesk {
 
 namespace {
 
 constexpr qint64 kMaxTailLength = 65'536;
-
-QString FromLog(const QByteArray& bytes) {
-    const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return halvek::ToQString(halvek::FromCodePage(view));
-}
 
 }  // namespace
 
@@ -38,7 +30,7 @@ void ErrorLogFile::Follow(const QString& errFileName) {
 QStringList ErrorLogFile::NewMessages() {
     const qint64 size = QFileInfo(path_).size();
     if (size < position_) position_ = 0;  // the log was rotated
-    const QString text = FromLog(ReadFrom(position_));
+    const QString text = halvek::FromServer(ReadFrom(position_));
     position_ = size;
     QStringList messages;
     for (const QString& line : text.split("\r\n", Qt::SkipEmptyParts)) {
@@ -54,7 +46,7 @@ QStringList ErrorLogFile::NewMessages() {
 
 QString ErrorLogFile::Tail(int lines) const {
     const qint64 size = QFileInfo(path_).size();
-    const QString text = FromLog(ReadFrom(qMax<qint64>(0, size - kMaxTailLength)));
+    const QString text = halvek::FromServer(ReadFrom(qMax<qint64>(0, size - kMaxTailLength)));
     return text.trimmed().section("\r\n", -lines).replace("\r\n", "\n");
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SampleData.h"
 
-#include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/qt/QtText.h>
 
@@ -27,7 +26,7 @@ QByteArray ReadFile(const QString& folder, const QString& name) {
 }
 
 std::u16string ReadText(const QString& folder, const QString& name) {
-    return halvek::FromCodePage(ReadFile(folder, name).toStdString());
+    return halvek::FromServer(ReadFile(folder, name)).toStdU16String();
 }
 
 QStringList LinesOf(const QByteArray& bytes) {

@@ -2,10 +2,10 @@
 #include "fuzz/FuzzText.h"
 
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/devices/HelpContents.h>
-#include <halvekutils/devices/HelpText.h>
-#include <halvekutils/devices/HelpTopic.h>
-#include <halvekutils/devices/LzxDecoder.h>
+#include <halvekutils/help/HelpContents.h>
+#include <halvekutils/help/HelpText.h>
+#include <halvekutils/help/HelpTopic.h>
+#include <halvekutils/help/LzxDecoder.h>
 
 #include <string_view>
 

@@ -2,6 +2,7 @@
 #include "fuzz/SelectGridModel.h"
 #include "tests/FakeServices.h"
 
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/selection/SelectGrid.h>
 

@@ -3,6 +3,8 @@
 
 #include "fuzz/FuzzText.h"
 
+#include <halvekutils/base/Characters.h>
+
 #include <algorithm>
 
 namespace halvek {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
 
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>

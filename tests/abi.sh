@@ -3,7 +3,7 @@
 # Checks that a library exports nothing but namespace halvek and that a host built against the
 # baseline in abi/ still runs with it. Both come from the release build, which keeps its debug
 # information.
-# Usage: abi.sh SOURCE-FOLDER LIBRARY WORK-FOLDER
+# Usage: abi.sh SOURCE-FOLDER LIBRARY WORK-FOLDER LIST-OF-HEADERS
 set -euo pipefail
 source=$1
 library=$2
@@ -21,7 +21,7 @@ if [ -n "$foreign" ]; then
 fi
 
 gunzip -c "$source/abi/$name.abi.gz" >"$old"
-"$source/scripts/dump-abi" "$library" >"$new"
+"$source/scripts/dump-abi" "$library" "$4" >"$new"
 # Without debug information there would be nothing to compare.
 grep -q '<function-decl .* elf-symbol-id=' "$new"
 if ! abidiff --no-added-syms "$old" "$new"; then

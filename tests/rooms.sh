@@ -3,10 +3,11 @@
 # Checks that every room of the library includes only what it may touch, and that the library
 # without windows links nothing beyond the C and C++ run-time, and that every source names its
 # licence.
-# Usage: rooms.sh SOURCE-FOLDER LIBRARY
+# Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
 set -euo pipefail
 cd "$1"
 library=$2
+public=$3
 failures=0
 
 fail() {
@@ -19,7 +20,8 @@ wrong=$(grep -rE '#include <halvekutils/' halvekutils --include='*.h' --include=
     awk -F'[/:<>]' '
         BEGIN {
             floor["base"] = 1; floor["platform"] = 2
-            floor["text"] = floor["refdata"] = floor["system"] = floor["devices"] = 3
+            floor["text"] = floor["refdata"] = floor["system"] = 3
+            floor["help"] = floor["printers"] = floor["controls"] = 3
             floor["dialogs"] = floor["selection"] = floor["currency"] = floor["prefs"] = 4
             floor["core"] = 5; floor["qt"] = floor["scripted"] = 6
         }
@@ -36,19 +38,29 @@ circle=$(grep -oE '#include <halvekutils/core/[A-Za-z]+' halvekutils/core/*.h ha
 [ -z "$circle" ] || fail "core/ includes in a circle: $circle"
 
 # Foreign headers: names without a dot are the standard library's or Qt's; names with .h are the
-# system's and the devices', and in one place the processor's
+# system's and the printers', and in one place the processor's
 foreign() {
     grep -rnE "#include <$1" halvekutils --include='*.h' --include='*.cpp' |
         grep -v '<halvekutils/' | grep -v '^halvekutils/base/CharacterBlock.h:.*<emmintrin.h>' |
         grep -vE "^halvekutils/($2)/" || true
 }
-for found in "$(foreign 'Q[A-Za-z]' 'qt')" "$(foreign '[a-z0-9_/]+\.h>' 'system|devices')"; do
+for found in "$(foreign 'Q[A-Za-z]' 'qt')" "$(foreign '[a-z0-9_/]+\.h>' 'system|printers')"; do
     [ -z "$found" ] || fail "$found"
 done
-devices=$(grep -rnE '#include <(cups/|chm_)' halvekutils | grep -v '^halvekutils/devices/' || true)
-[ -z "$devices" ] || fail "$devices"
-demo=$(grep -rnE '#include <halvekutils/(qt/forms|core/(DataBins|Session|UtilsPrivate))' demo || true)
-[ -z "$demo" ] || fail "$demo"
+cups=$(grep -rn '#include <cups/' halvekutils | grep -v '^halvekutils/printers/' || true)
+[ -z "$cups" ] || fail "$cups"
+
+# Public headers: what the libraries offer to hosts stands nowhere else, and they and the demo
+# include no other headers of ours
+exporting=$(grep -rl HALVEK_EXPORT halvekutils --include='*.h' | sed 's,^halvekutils/,,' |
+    grep -vxFf "$public" || true)
+[ -z "$exporting" ] || fail "HALVEK_EXPORT in headers that are not public: $exporting"
+private=$(sed 's,^,halvekutils/,' "$public" | cat - <(find demo -name '*.h' -o -name '*.cpp') |
+    xargs grep -HoE '#include <halvekutils/[^>]+' |
+    awk -F'<halvekutils/' -v public="$public" '
+        BEGIN { while ((getline header < public) > 0) listed[header] }
+        !($2 in listed)')
+[ -z "$private" ] || fail "includes of headers that are not public: $private"
 
 needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
     grep -vE '^(libc|libm|libstdc\+\+|libgcc_s|ld-linux.*|libasan|libubsan)\.so' || true)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 
 #include <cstddef>
 #include <string_view>
@@ -30,7 +30,7 @@ constexpr char16_t FoldCase(char16_t character) {
 // every look-up, which one character at a time takes two to five times as long.
 
 /// True when the texts differ in letter case at the most.
-HALVEK_EXPORT bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
+HALVEK_INTERNAL bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
 
 /// True when a text begins with another, letter case ignored.
 inline bool StartsFolded(std::u16string_view text, std::u16string_view start) noexcept {
@@ -42,6 +42,6 @@ inline bool EndsFolded(std::u16string_view text, std::u16string_view end) noexce
 }
 
 /// A hash under which texts that EqualFolded calls equal are equal.
-HALVEK_EXPORT std::size_t HashFolded(std::u16string_view text) noexcept;
+std::size_t HashFolded(std::u16string_view text) noexcept;
 
 }  // namespace halvek

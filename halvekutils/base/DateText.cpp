@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/DateText.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>

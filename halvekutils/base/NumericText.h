@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Characters.h>
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
@@ -21,7 +20,7 @@ namespace halvek {
 /// gives plus or minus infinity.
 ///
 ///     Val(u" 12.5 mg") == 12.5;  Val(u"1e") == 1;  Val(u"1,234") == 1;
-HALVEK_EXPORT double Val(TextIn text);
+double Val(TextIn text);
 
 /// The value of a text that is a number or an amount as a whole; nothing when it is neither.
 ///
@@ -31,37 +30,37 @@ HALVEK_EXPORT double Val(TextIn text);
 /// it; an exponent may follow. A number too large for a double is none.
 ///
 ///     ToNumber(u"$1,234.50") == 1234.5;  ToNumber(u"(5.00)") == -5;  ToNumber(u"5 mg") == nullopt;
-HALVEK_EXPORT std::optional<double> ToNumber(TextIn text);
+std::optional<double> ToNumber(TextIn text);
 
 /// True for a text that ToNumber reads.
-HALVEK_EXPORT bool IsNumeric(TextIn text);
+bool IsNumeric(TextIn text);
 
 /// The nearest integer, halves to the even one. Throws Overflow for what a 32-bit integer does not
 /// hold, NaN included.
-HALVEK_EXPORT std::int32_t RoundToInt32(double number);
+std::int32_t RoundToInt32(double number);
 
 /// The number that a text starts with, rounded by RoundToInt32, which may throw Overflow.
-HALVEK_EXPORT std::int32_t ToInt32(TextIn text);
+std::int32_t ToInt32(TextIn text);
 
 /// The number with two decimals, halves away from zero.
 ///
 /// What counts is the number as people see it, its shortest decimal text: 2.675 gives 2.68 although
 /// the double lies a little below. NaN, infinity and numbers without decimals stay as they are.
-HALVEK_EXPORT double RoundToCents(double number);
+double RoundToCents(double number);
 
 /// The number with up to 15 significant digits and no trailing zeros: "0.5", "-12", "0".
 ///
 /// From 1E+15 on and below 0.0001 in exponent form, "1.5E+20". ToNumber reads all of these back,
 /// except that the very largest doubles round up out of its range. "NaN", "Infinity" and
 /// "-Infinity" are not numeric.
-HALVEK_EXPORT std::u16string NumberText(double number);
+std::u16string NumberText(double number);
 
 /// The integer with all its digits.
-HALVEK_EXPORT std::u16string IntegerText(std::int64_t number);
+std::u16string IntegerText(std::int64_t number);
 /// The same, at the end of a text.
-HALVEK_EXPORT void AppendInteger(std::u16string& out, std::int64_t number);
+void AppendInteger(std::u16string& out, std::int64_t number);
 
 /// "True" or "False".
-HALVEK_EXPORT std::u16string BooleanText(bool value);
+HALVEK_INTERNAL std::u16string BooleanText(bool value);
 
 }  // namespace halvek

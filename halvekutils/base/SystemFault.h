@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/RuntimeError.h>
 
 #include <filesystem>
@@ -12,6 +11,6 @@ namespace halvek {
 // Apart from RuntimeError.h, which every file includes: <filesystem> takes long to compile.
 
 /// The fault that stands for a system error; its description names the file.
-HALVEK_EXPORT RuntimeError SystemFault(std::error_code error, const std::filesystem::path& file);
+RuntimeError SystemFault(std::error_code error, const std::filesystem::path& file);
 
 }  // namespace halvek

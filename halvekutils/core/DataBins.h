@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/core/DataBin.h>
 
@@ -12,7 +11,7 @@ namespace halvek {
 /// A search compares keys exactly, while the collection refuses a key that differs from another in
 /// letter case only. So an exact match can only be the one bin that the collection holds under the
 /// key, and no search needs to walk the bins.
-class HALVEK_EXPORT DataBins {
+class DataBins {
   public:
     DataBins();
     ~DataBins();

@@ -5,6 +5,7 @@
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/Session.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/NativePath.h>
 

@@ -2,6 +2,7 @@
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
+#include <halvekutils/platform/PrinterSource.h>
 
 #include <utility>
 

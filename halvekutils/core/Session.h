@@ -2,7 +2,7 @@
 #pragma once
 
 #include <halvekutils/base/Color.h>
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/platform/Machine.h>
 #include <halvekutils/platform/Services.h>
@@ -26,7 +26,7 @@ class Utils;
 /// Values are empty, 0 or false until the start-up members of Utils fill them. Used on the host's
 /// user-interface thread only, and never destroyed, so that a host's own late destructors can
 /// still log. No host meets this header.
-struct HALVEK_EXPORT Session final : public Services {
+struct Session final : public Services {
     bool debugMode = false;
     std::u16string appName;
     std::u16string appType;
@@ -83,6 +83,6 @@ struct HALVEK_EXPORT Session final : public Services {
 };
 
 /// The one session of the process. It is Services::Current() from the first InitUtils on.
-HALVEK_EXPORT Session& TheSession();
+HALVEK_INTERNAL Session& TheSession();
 
 }  // namespace halvek

@@ -8,6 +8,7 @@
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
 #include <halvekutils/prefs/OpenWindows.h>
@@ -16,7 +17,6 @@
 #include <halvekutils/refdata/CodesCollection.h>
 #include <halvekutils/refdata/PrintersCollection.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
-#include <halvekutils/text/Placement.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -2,11 +2,11 @@
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/controls/ControlHelpers.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
-#include <halvekutils/text/ControlHelpers.h>
 
 namespace halvek {
 

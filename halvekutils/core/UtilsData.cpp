@@ -3,6 +3,7 @@
 #include <halvekutils/core/UtilsPrivate.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
@@ -9,7 +10,6 @@
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/NativePath.h>
 #include <halvekutils/selection/SelectGrid.h>
-#include <halvekutils/text/Placement.h>
 
 #include <filesystem>
 #include <memory>

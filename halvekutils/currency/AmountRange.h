@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <optional>
@@ -14,7 +13,7 @@ namespace halvek {
 ///
 /// Amounts are compared in single precision. One that is 0 or no number is in order with any other;
 /// throws Overflow for one that single precision does not hold.
-HALVEK_EXPORT std::optional<std::u16string> RangeComplaint(TextIn strMin, TextIn strMax,
-                                                           TextIn lblMin, TextIn lblMax);
+std::optional<std::u16string> RangeComplaint(TextIn strMin, TextIn strMax, TextIn lblMin,
+                                             TextIn lblMax);
 
 }  // namespace halvek

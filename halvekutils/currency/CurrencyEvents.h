@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/currency/AmountText.h>
 #include <halvekutils/platform/Controls.h>
@@ -17,7 +17,7 @@ namespace halvek {
 /// No member throws: a fault goes to the log under the name of the member of Utils, see there, and
 /// the control keeps the text that it has by then. A control is kept alive for the call; null is a
 /// fault.
-class HALVEK_EXPORT CurrencyEvents {
+class HALVEK_INTERNAL CurrencyEvents {
   public:
     /// @param session  outlives this object
     CurrencyEvents(AmountSign sign, Services& session) : sign_(sign), session_(session) {}

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/currency/AmountText.h>
 #include <halvekutils/platform/Controls.h>
 
@@ -10,12 +9,12 @@ namespace halvek {
 // What a currency field does on its other events; faults are thrown. See the members of Utils.
 
 /// Cuts what follows the point to two characters.
-HALVEK_EXPORT void CutDecimals(TextControl& ctr, AmountSign sign);
+void CutDecimals(TextControl& ctr, AmountSign sign);
 
 /// Takes the marks of a shown amount off, unless the field is locked, and selects the text.
-HALVEK_EXPORT void EnterCurrencyField(TextControl& ctr);
+void EnterCurrencyField(TextControl& ctr);
 
 /// Shows the amount formatted. Throws TypeMismatch when the text is none.
-HALVEK_EXPORT void LeaveCurrencyField(TextControl& ctr, bool& cancel, AmountSign sign);
+void LeaveCurrencyField(TextControl& ctr, bool& cancel, AmountSign sign);
 
 }  // namespace halvek

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/currency/BareText.h>
 #include <halvekutils/currency/CurrencyKeys.h>
 

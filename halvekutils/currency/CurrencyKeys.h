@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/currency/AmountText.h>
 #include <halvekutils/platform/Controls.h>
 
@@ -13,6 +12,6 @@ namespace halvek {
 ///
 /// `keyAscii` becomes 0 for a key that must not be inserted; a fault, which may come from any
 /// member of the control, leaves it at 0. See Utils::OnCurrencyCtrKeyPress.
-HALVEK_EXPORT void PressCurrencyKey(TextControl& ctr, std::int16_t& keyAscii, AmountSign sign);
+void PressCurrencyKey(TextControl& ctr, std::int16_t& keyAscii, AmountSign sign);
 
 }  // namespace halvek

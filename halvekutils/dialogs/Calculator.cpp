@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/dialogs/Calculator.h>
+#include <halvekutils/platform/Services.h>
 
 #include <algorithm>
 #include <iterator>

@@ -5,7 +5,6 @@
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Dialog.h>
-#include <halvekutils/platform/Services.h>
 
 #include <cstddef>
 #include <functional>
@@ -13,6 +12,8 @@
 #include <string_view>
 
 namespace halvek {
+
+class Services;
 
 /// The rules of the calculator, without a window: what its buttons and keys do, what it shows and
 /// how it ends. A window draws it, moves the focus as asked and forwards its events.

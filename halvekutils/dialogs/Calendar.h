@@ -4,9 +4,9 @@
 #include <halvekutils/base/DateText.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Dialog.h>
 #include <halvekutils/platform/Machine.h>
-#include <halvekutils/text/Placement.h>
 
 #include <chrono>
 #include <string>

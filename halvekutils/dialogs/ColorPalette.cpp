@@ -3,6 +3,7 @@
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/Services.h>
 
 #include <algorithm>
 

@@ -4,15 +4,16 @@
 #include <halvekutils/base/Color.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/StringArray.h>
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Dialog.h>
-#include <halvekutils/platform/Services.h>
-#include <halvekutils/text/Placement.h>
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace halvek {
+
+class Services;
 
 /// The log's prefix for whatever goes wrong with a palette.
 inline constexpr char16_t kPaletteFault[] = u"Error in Utils.ShowColor ";

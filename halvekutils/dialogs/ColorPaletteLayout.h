@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/platform/Geometry.h>
 
 #include <cstdint>
@@ -19,16 +19,16 @@ struct ColorPaletteLayout {
 
 /// Lays a palette of so many rows out on a screen, for a window frame that adds `frame` to its
 /// inner size. Rows that do not fit are scrolled to.
-HALVEK_EXPORT ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
-                                                    Size screen, Size frame);
+HALVEK_INTERNAL ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
+                                                      Size screen, Size frame);
 
 /// Where a cell, numbered from 1, lies in Frame2 before scrolling.
-HALVEK_EXPORT Rect PaletteCellPlace(int cell);
+HALVEK_INTERNAL Rect PaletteCellPlace(int cell);
 
 /// The row, from 0, that lies at a height in Frame2 before scrolling.
-HALVEK_EXPORT int PaletteRowAt(std::int32_t top);
+HALVEK_INTERNAL int PaletteRowAt(std::int32_t top);
 
 /// The height that rows of cells take in Frame2.
-HALVEK_EXPORT std::int32_t PaletteHeight(int rows);
+HALVEK_INTERNAL std::int32_t PaletteHeight(int rows);
 
 }  // namespace halvek

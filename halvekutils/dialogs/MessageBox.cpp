@@ -2,6 +2,8 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/dialogs/MessageBox.h>
+#include <halvekutils/dialogs/MessageBoxButtons.h>
+#include <halvekutils/platform/Services.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -94,6 +96,14 @@ MessageBox::~MessageBox() = default;
 std::u16string_view MessageBox::ButtonCaption(int index) const {
     if (index < 0 || index > 2) return {};
     return CaptionOf(set_->results[static_cast<std::size_t>(index)]);
+}
+
+ButtonsChoice MessageBox::Buttons() const {
+    return set_->choice;
+}
+
+bool MessageBox::HasCloseBox() const {
+    return set_->hasCloseBox;
 }
 
 int MessageBox::Picture() const {

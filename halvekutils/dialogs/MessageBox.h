@@ -4,13 +4,11 @@
 #include <halvekutils/base/Color.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
-#include <halvekutils/dialogs/MessageBoxButtons.h>
 #include <halvekutils/dialogs/MessageBoxLayout.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Dialog.h>
-#include <halvekutils/platform/Services.h>
 
 #include <cstdint>
 #include <memory>
@@ -18,6 +16,9 @@
 #include <string>
 
 namespace halvek {
+
+class Services;
+struct MessageBoxButtonSet;
 
 /// What a message box is asked to show.
 struct MessageBoxRequest {
@@ -66,7 +67,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     /// The picture's number from 1, or 0 for none.
     int Picture() const;
     /// The button set; mbOkOnly for an unknown value.
-    ButtonsChoice Buttons() const { return set_->choice; }
+    ButtonsChoice Buttons() const;
     /// The font of the text.
     const FontSpec& Font() const { return font_; }
     /// The colours of the box.
@@ -74,7 +75,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     /// The sizes and places of its parts.
     const MessageBoxLayout& Layout() const { return layout_; }
     /// Whether the title bar has a close box.
-    bool HasCloseBox() const { return set_->hasCloseBox; }
+    bool HasCloseBox() const;
     /// A position on the screen in twips.
     struct Position {
         std::int32_t left;  ///< of the left edge

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 
 #include <array>
@@ -19,13 +19,13 @@ struct MessageBoxButtonSet {
 };
 
 /// The row of a button set; that of mbOkOnly for an unknown value.
-HALVEK_EXPORT const MessageBoxButtonSet& ButtonSetOf(ButtonsChoice choice);
+const MessageBoxButtonSet& ButtonSetOf(ButtonsChoice choice);
 
 /// How many buttons a set shows: 0 to 3.
-HALVEK_EXPORT int ButtonCount(ButtonsChoice choice);
+HALVEK_INTERNAL int ButtonCount(ButtonsChoice choice);
 
 /// The caption of the button with this result, its accelerator letter behind a "&"; empty for a
 /// result of no button.
-HALVEK_EXPORT std::u16string_view CaptionOf(MbMsgBoxResult result);
+std::u16string_view CaptionOf(MbMsgBoxResult result);
 
 }  // namespace halvek

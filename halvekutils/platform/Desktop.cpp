@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/PrinterSource.h>
 
 #include <exception>
 #include <utility>

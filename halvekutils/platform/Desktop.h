@@ -3,9 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
-#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Geometry.h>
-#include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/platform/TextMeter.h>
 
 #include <cstdint>
@@ -13,6 +11,8 @@
 #include <memory>
 
 namespace halvek {
+
+class PrinterSource;
 
 /// The icon of a stock message.
 enum class StockIcon {

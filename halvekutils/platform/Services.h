@@ -2,7 +2,7 @@
 #pragma once
 
 #include <halvekutils/base/Color.h>
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <string>
@@ -10,7 +10,7 @@
 namespace halvek {
 
 /// What a feature may ask of the current session: its log, its switches and its colours.
-class HALVEK_EXPORT Services {
+class HALVEK_INTERNAL Services {
   public:
     virtual ~Services();
 

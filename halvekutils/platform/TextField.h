@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/platform/Controls.h>
 
 namespace halvek {
@@ -11,7 +12,7 @@ namespace halvek {
 ///     auto box = std::make_shared<TextField>(u"12.5");
 ///     utils->OnCurrencyCtrValidate(box, cancel);
 ///     box->Text();  // $12.50
-class HALVEK_EXPORT TextField : public TextControl {
+class HALVEK_INTERNAL TextField : public TextControl {
   public:
     TextField();
     /// A field that shows a text, with the caret and selection given.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/CurrencyFilter.h>
+#include <halvekutils/qt/currency/CurrencyFilter.h>
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/qt/QtControls.h>
-#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QAbstractItemView>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
-#include <halvekutils/qt/forms/HeadingBorder.h>
-#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/helpers/HeadingBorder.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/devices/CupsPrinters.h>
+#include <halvekutils/platform/PrinterSource.h>
+#include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/CloseBox.h>
-#include <halvekutils/qt/forms/HelpViewer.h>
-#include <halvekutils/qt/forms/Metrics.h>
-#include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
 #include <halvekutils/qt/forms/frmColor.h>
 #include <halvekutils/qt/forms/frmDebug.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
+#include <halvekutils/qt/help/HelpViewer.h>
+#include <halvekutils/qt/helpers/CloseBox.h>
+#include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QApplication>
 #include <QFontDatabase>

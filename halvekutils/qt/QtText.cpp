@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CodePage.h>
 #include <halvekutils/qt/QtText.h>
 
 #include <QTextDocument>
@@ -24,6 +25,15 @@ QString ToWindowTitle(TextIn text) {
 
 QString ToCaption(TextIn text) {
     return ToQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString FromServer(const QByteArray& bytes) {
+    return QString::fromStdU16String(
+        FromCodePage({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+}
+
+QByteArray ToServer(TextIn text) {
+    return QByteArray::fromStdString(ToCodePage(text));
 }
 
 }  // namespace halvek

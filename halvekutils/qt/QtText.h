@@ -4,6 +4,7 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
+#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -22,5 +23,19 @@ HALVEK_EXPORT QString ToWindowTitle(TextIn text);
 
 /// The same, shown literally on a button or menu, where "&" would mark an accelerator.
 HALVEK_EXPORT QString ToCaption(TextIn text);
+
+/// A text from the bytes in which the practice's server sends it, Windows-1252: with its curly
+/// quotes and the five codes of 128 to 159 that other Latin alphabets lack. Every byte has a
+/// character.
+///
+/// @code{.cpp}
+/// utils->BuildCodesCollection(FromServer(reply->readAll()));
+/// @endcode
+HALVEK_EXPORT QString FromServer(const QByteArray& bytes);
+
+/// The bytes in which the practice's server reads a text. A character that Windows-1252 lacks
+/// becomes
+/// "?".
+HALVEK_EXPORT QByteArray ToServer(TextIn text);
 
 }  // namespace halvek

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/platform/Services.h>
@@ -14,7 +13,7 @@ namespace halvek {
 
 /// One build of the printers collection: the server's list, then the workstation's printers, all
 /// numbered by one counter that starts at 0.
-class HALVEK_EXPORT PrinterListBuilder {
+class PrinterListBuilder {
   public:
     /// @param printers  the collection that is added to
     /// @param source  where the workstation's printers are asked for

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/platform/Twips.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 

@@ -4,6 +4,7 @@
 #include <halvekutils/base/Export.h>
 #include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/Platform.h>
+#include <halvekutils/platform/PrinterSource.h>
 
 #include <cstdint>
 #include <deque>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/selection/ChosenCodes.h>
+#include <halvekutils/selection/EachCode.h>
 
 #include <algorithm>
 #include <cstring>

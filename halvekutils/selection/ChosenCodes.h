@@ -2,7 +2,6 @@
 #pragma once
 
 #include <halvekutils/base/Export.h>
-#include <halvekutils/base/NumericText.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -19,17 +18,6 @@ struct TypedCodesBox {
     std::int32_t selected = 0;  ///< how many characters after the caret are selected
     bool enabled = true;        ///< what stands in a disabled box was not typed by the user
 };
-
-/// Calls `visit` with each piece between commas, without the blanks around it, until it returns
-/// false.
-template <class Visit>
-void ForEachCode(std::u16string_view text, const Visit& visit) {
-    while (true) {
-        const std::size_t end = text.find(u',');
-        if (!visit(Trimmed(text.substr(0, end))) || end == text.npos) return;
-        text.remove_prefix(end + 1);
-    }
-}
 
 /// The chosen codes, joined by ",", and the box in which they stand until the user types there.
 ///

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/selection/SelectCell.h>
 

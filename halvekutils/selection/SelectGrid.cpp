@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/platform/Guard.h>
+#include <halvekutils/platform/Services.h>
+#include <halvekutils/selection/EachCode.h>
 #include <halvekutils/selection/SelectGrid.h>
 #include <halvekutils/text/CharacterFilter.h>
 

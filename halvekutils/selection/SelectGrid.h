@@ -3,13 +3,12 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Dialog.h>
-#include <halvekutils/platform/Services.h>
 #include <halvekutils/selection/ChosenCodes.h>
 #include <halvekutils/selection/SelectCell.h>
 #include <halvekutils/selection/SelectionCursor.h>
 #include <halvekutils/selection/SelectionList.h>
-#include <halvekutils/text/Placement.h>
 
 #include <cstdint>
 #include <functional>
@@ -18,6 +17,8 @@
 #include <vector>
 
 namespace halvek {
+
+class Services;
 
 /// What a selection dialog is asked to show.
 struct SelectionRequest {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
+#include <halvekutils/base/Internal.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Geometry.h>
 
@@ -40,7 +40,7 @@ struct SelectGridContent {
 /// pseudo-entry. Ten of them fit on the screen; longer codes are cut off, but never so that fewer
 /// than eight characters show: then the grid scrolls across. The grid shows whole bands, all of
 /// them when the screen has room.
-HALVEK_EXPORT SelectGridLayout LayOutSelectGrid(const SelectGridContent& content,
-                                                const TextMeter& meter, Size screen, Size frame);
+HALVEK_INTERNAL SelectGridLayout LayOutSelectGrid(const SelectGridContent& content,
+                                                  const TextMeter& meter, Size screen, Size frame);
 
 }  // namespace halvek

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/selection/SelectCell.h>
 #include <halvekutils/selection/SelectionCursor.h>

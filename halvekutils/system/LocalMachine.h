@@ -10,7 +10,7 @@ namespace halvek {
 /// Log files can hold patient data: they are created with mode 0600, opened without following a
 /// link, and anything but a regular file is refused. The component's own folder is
 /// `.local/state/HalvekUtils` in the home directory of the effective user, with mode 0700.
-class HALVEK_EXPORT LocalMachine : public Machine {
+class LocalMachine : public Machine {
   public:
     LocalMachine();
     ~LocalMachine() override;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CharacterBlock.h>
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
@@ -11,10 +10,10 @@ namespace halvek {
 
 // The rules behind the members of Utils of the same names, which document them for a host.
 
-HALVEK_EXPORT bool IsUnwantedChar(std::int32_t locChar);
-HALVEK_EXPORT bool IsDateChar(std::int32_t locChar);
-HALVEK_EXPORT bool IsAlpha(TextIn strText);
-HALVEK_EXPORT std::u16string RemoveUnprintableChars(TextIn str);
+bool IsUnwantedChar(std::int32_t locChar);
+bool IsDateChar(std::int32_t locChar);
+bool IsAlpha(TextIn strText);
+std::u16string RemoveUnprintableChars(TextIn str);
 
 /// What a filter has to tell.
 struct FilterReport {
@@ -24,9 +23,7 @@ struct FilterReport {
 
 /// Writes the text without its unwanted characters. The report's message is left to the caller to
 /// show; in debug mode the debug console of the current session gets both texts.
-HALVEK_EXPORT FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT,
-                                               TextIn strReplaceWith = {},
-                                               bool bDoNotRemoveUnwantedChars = false,
-                                               TextIn strExceptions = {});
+FilterReport RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith = {},
+                                 bool bDoNotRemoveUnwantedChars = false, TextIn strExceptions = {});
 
 }  // namespace halvek

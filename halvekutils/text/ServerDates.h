@@ -2,7 +2,6 @@
 #pragma once
 
 #include <halvekutils/base/DateText.h>
-#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/platform/Machine.h>
 
@@ -21,22 +20,21 @@ namespace halvek {
 /// Nothing when there are 86,400 seconds or more. The result may lie outside of the range of dates.
 ///
 ///     ReadServerDate(u"60000,43200", machine)  // 4/10/2005 12:00:00 PM
-HALVEK_EXPORT std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
+std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
 
 /// "3/5/2024" as "03052024": month and day get two digits, the year stays as it is. A text without
 /// a first slash and a further one, at its fourth character or later, loses the slashes it has.
-HALVEK_EXPORT std::u16string DigitsOfDate(TextIn strDate);
+std::u16string DigitsOfDate(TextIn strDate);
 
 /// "03052024" as "03/05/2024"; "" for what is no number, a month above 12 and a year of three
 /// digits. No year is the current one; one of two digits is 1930 to 2029. Nothing else is checked.
-HALVEK_EXPORT std::u16string DateOfDigits(TextIn strDate, Machine& machine);
+std::u16string DateOfDigits(TextIn strDate, Machine& machine);
 
 /// DateOfDigits when `bConvert` is true, else DigitsOfDate.
-HALVEK_EXPORT std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine);
+std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine);
 
 /// How many seconds the server's clock is ahead of the machine's; nothing for a text that is no
 /// date or time. Throws Overflow beyond 32 bits.
-HALVEK_EXPORT std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer,
-                                                            Machine& machine);
+std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine);
 
 }  // namespace halvek

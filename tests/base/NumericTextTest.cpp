@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
 

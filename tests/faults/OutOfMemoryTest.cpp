@@ -9,8 +9,8 @@
 #include <halvekutils/base/ObjectStore.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/DebugConsole.h>
-#include <halvekutils/devices/CompiledHelp.h>
-#include <halvekutils/devices/HelpText.h>
+#include <halvekutils/help/CompiledHelp.h>
+#include <halvekutils/help/HelpText.h>
 #include <halvekutils/platform/TextField.h>
 #include <halvekutils/prefs/OpenWindows.h>
 #include <halvekutils/prefs/ReminderDefinition.h>

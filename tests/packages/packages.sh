@@ -46,8 +46,7 @@ holds libhalvekutils-qt0 < <(printf '%s\n' "$libraries"/libhalvekutils-qt.so.{0,
 holds libhalvekutils-dev < <(
     printf '%s\n' "$libraries"/{libhalvekutils{,-qt}.so,pkgconfig/halvekutils{,-qt}.pc} \
         "$libraries"/cmake/HalvekUtils/HalvekUtils{Config,ConfigVersion,Targets,Targets-of}.cmake
-    cd "$source"
-    find halvekutils -name '*.h' ! -path '*/forms/*' ! -name '*Private.h' -printf 'include/%p\n'
+    sed 's,^,include/halvekutils/,' "$build/public-headers.txt"
 )
 holds halvekutils-demo < <(
     printf '%s\n' bin/halvekutils-demo share/applications/halvekutils-demo.desktop \

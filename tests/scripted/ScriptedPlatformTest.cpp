@@ -3,6 +3,7 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/core/Utils.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
 
 #include <gtest/gtest.h>

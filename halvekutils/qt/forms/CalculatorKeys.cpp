@@ -2,7 +2,7 @@
 #include <halvekutils/dialogs/Calculator.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorKeys.h>
-#include <halvekutils/qt/forms/Keys.h>
+#include <halvekutils/qt/helpers/Keys.h>
 
 #include <QApplication>
 #include <QLineEdit>

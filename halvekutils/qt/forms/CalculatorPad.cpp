@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorPad.h>
-#include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/FlashButton.h>
-#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <algorithm>
 #include <cstdint>

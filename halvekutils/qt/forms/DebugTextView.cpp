@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QTextCursor>
 

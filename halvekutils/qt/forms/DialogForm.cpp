@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DialogForm.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
-#include <halvekutils/qt/forms/Metrics.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QCloseEvent>
 #include <QPushButton>

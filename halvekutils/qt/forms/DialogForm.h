@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Dialog.h>
-#include <halvekutils/qt/forms/DialogShow.h>
-#include <halvekutils/text/Placement.h>
+#include <halvekutils/qt/helpers/DialogShow.h>
 
 #include <QDialog>
 #include <QPoint>

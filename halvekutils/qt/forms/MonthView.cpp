@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/controls/ControlHelpers.h>
 #include <halvekutils/qt/QtControls.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/MonthView.h>
-#include <halvekutils/text/ControlHelpers.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
 
 #include <QAbstractItemView>
 #include <QAction>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/ColorPaletteLayout.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/PaletteView.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

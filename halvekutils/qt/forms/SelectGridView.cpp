@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 
 #include <QGuiApplication>

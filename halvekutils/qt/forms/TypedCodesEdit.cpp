@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>

@@ -2,11 +2,11 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorPad.h>
 #include <halvekutils/qt/forms/CalculatorStatus.h>
-#include <halvekutils/qt/forms/EventGuard.h>
 #include <halvekutils/qt/forms/FlashButton.h>
-#include <halvekutils/qt/forms/Metrics.h>
-#include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QFontMetrics>
 #include <QLineEdit>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/MonthView.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QCursor>
 #include <QMouseEvent>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/ColorPaletteLayout.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/PaletteView.h>
 #include <halvekutils/qt/forms/frmColor.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QKeyEvent>
 #include <QStyle>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/FindBar.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/frmDebug.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/dialogs/MessageBoxButtons.h>
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/CloseBox.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Keys.h>
 #include <halvekutils/qt/forms/MessageIcons.h>
-#include <halvekutils/qt/forms/Metrics.h>
-#include <halvekutils/qt/forms/ModalOwner.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
+#include <halvekutils/qt/helpers/CloseBox.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
-#include <halvekutils/qt/forms/EventGuard.h>
-#include <halvekutils/qt/forms/Metrics.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 
 #include <QPushButton>

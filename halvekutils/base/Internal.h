@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+
+/// Marks what the library without windows offers to the one with windows, and to nobody else: the
+/// headers where it stands are not installed.
+#define HALVEK_INTERNAL [[gnu::visibility("default")]]

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/base/Internal.h>
+#include <halvekutils/base/KeyIndex.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvek {
+
+/// The objects of a compiled help file, by their paths, as in "/images/logo.png".
+///
+/// Every offset and length in the file is checked before it is used, and no object of more than
+/// 16 MB is read: a file that is cut off or damaged, or made to do harm, is a fault. Letter case in
+/// paths does not matter. Throws DeviceError, which names the file, unless it says otherwise.
+class HALVEK_INTERNAL HelpArchive {
+  public:
+    /// Opens a file and reads its directory.
+    explicit HelpArchive(const std::filesystem::path& file);
+    ~HelpArchive();
+    HelpArchive(const HelpArchive&) = delete;
+    HelpArchive& operator=(const HelpArchive&) = delete;
+
+    const std::filesystem::path& File() const { return file_; }
+
+    bool Has(TextIn path) const { return Find(path) != nullptr; }
+
+    /// The bytes of an object. Throws FileNotFound when there is no such object.
+    std::string Read(TextIn path);
+
+    /// The first path in the directory's order that ends so; empty when none does.
+    std::u16string FirstEndingIn(TextIn ending) const;
+
+  private:
+    struct Object {
+        bool compressed = false;
+        std::uint64_t start = 0;
+        std::uint64_t length = 0;
+    };
+    /// Where the spans of compressed data lie, each of which decompresses by itself.
+    struct Compression {
+        std::uint64_t contentStart = 0;
+        std::uint64_t length = 0;  ///< of all data, decompressed
+        std::uint32_t window = 0;
+        std::uint64_t framesInSpan = 0;
+        std::vector<std::uint64_t> frames;  ///< where each starts and, last, where the last ends
+    };
+
+    [[noreturn]] void Fail(TextIn what) const;
+    void Check(bool holds, TextIn what) const;
+    std::string BytesAt(std::uint64_t start, std::uint64_t length);
+    void ReadDirectory();
+    void ReadEntries(std::string_view entries);
+    const Object* Find(TextIn path) const;
+    const Object* FindInternal(std::string_view path) const;
+    std::string ReadInternal(std::string_view internalPath);
+    void ReadCompression();
+    void ReadControlData();
+    void ReadFrames();
+    std::string Decompressed(std::uint64_t start, std::uint64_t length);
+    const std::string& Span(std::uint64_t number);
+
+    std::filesystem::path file_;
+    std::ifstream in_;
+    std::uint64_t size_ = 0;
+    std::uint64_t dataStart_ = 0;
+    KeyIndex paths_;
+    std::vector<Object> objects_;  ///< in the order of their paths
+    Compression compression_;
+    std::uint64_t spanNumber_ = 0;
+    std::string span_;  ///< the one read last, decompressed; empty for none
+};
+
+}  // namespace halvek

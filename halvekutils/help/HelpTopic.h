@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/base/Internal.h>
+#include <halvekutils/base/TextIn.h>
+
+#include <string>
+
+namespace halvek {
+
+/// A place in a compiled help file.
+struct HelpTopic {
+    std::u16string path;    ///< of the page, from the file's root, as in "/billing/late.htm"
+    std::u16string anchor;  ///< in the page; empty for its beginning
+
+    friend bool operator==(const HelpTopic&, const HelpTopic&) = default;
+};
+
+/// Reads a topic as hosts and help files write it.
+///
+/// Takes "::/late.htm", "/late.htm", "late.htm" and "billing\late.htm", each also with "#anchor" at
+/// the end and with ">window", which has no meaning here. The path is empty when none is named.
+HALVEK_INTERNAL HelpTopic ParseHelpTopic(TextIn text);
+
+}  // namespace halvek

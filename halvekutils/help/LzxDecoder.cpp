@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/help/LzxDecoder.h>
+
+#include <algorithm>
+#include <bit>
+
+namespace halvek {
+
+namespace {
+
+constexpr std::uint32_t kSmallestWindow = 0x8000;
+constexpr std::uint32_t kLargestWindow = 0x20'0000;
+constexpr std::uint32_t kShortestMatch = 2;
+constexpr std::uint32_t kLongLength = 7;  // a match whose length has a symbol of its own
+
+[[noreturn]] void Fail() {
+    throw RuntimeError(Fault::DeviceError, u"compressed data is damaged");
+}
+
+/// How many ranges of match offsets there are; each is twice as wide as the last but one.
+std::size_t SlotsOf(std::uint32_t window) {
+    if (window == 0x10'0000) return 42;
+    if (window == 0x20'0000) return 50;
+    return 2 * static_cast<std::size_t>(std::countr_zero(window));
+}
+
+constexpr int ExtraBits(std::uint32_t slot) {
+    constexpr std::uint32_t kMax = 17;
+    return slot < 4 ? 0 : static_cast<int>(std::min(slot / 2 - 1, kMax));
+}
+
+constexpr auto kSlotBases = [] {
+    std::array<std::uint32_t, 50> bases{};
+    for (std::uint32_t slot = 1; slot < bases.size(); ++slot) {
+        bases[slot] = bases[slot - 1] + (1u << ExtraBits(slot - 1));
+    }
+    return bases;
+}();
+
+}  // namespace
+
+/// The bits of a frame: 16-bit little-endian words, each from its highest bit.
+class LzxDecoder::Bits {
+  public:
+    explicit Bits(std::string_view bytes) : bytes_(bytes) {}
+
+    std::uint32_t Next() {
+        const std::size_t byte = next_ / 8 ^ 1;
+        if (byte >= bytes_.size()) Fail();
+        const auto value = static_cast<unsigned char>(bytes_[byte]);
+        return value >> (7 - next_++ % 8) & 1u;
+    }
+
+    std::uint32_t Read(int count) {
+        std::uint32_t value = 0;
+        while (count-- > 0) value = value << 1 | Next();
+        return value;
+    }
+
+    /// Goes on at whole bytes, behind at least one bit and at most 16.
+    void ToBytes() { next_ = (next_ / 16 + 1) * 16; }
+
+    std::string_view Bytes(std::size_t count) {
+        const std::size_t start = next_ / 8;
+        if (start > bytes_.size() || count > bytes_.size() - start) Fail();
+        next_ += count * 8;
+        return bytes_.substr(start, count);
+    }
+
+    std::uint32_t Number() {
+        std::uint32_t value = 0;
+        int shift = 0;
+        for (const char byte : Bytes(4)) {
+            value |= static_cast<std::uint32_t>(static_cast<unsigned char>(byte)) << shift;
+            shift += 8;
+        }
+        return value;
+    }
+
+    /// Skips the byte that fills up a word.
+    void ToWord() { next_ = (next_ + 15) / 16 * 16; }
+
+  private:
+    std::string_view bytes_;
+    std::size_t next_ = 0;
+};
+
+template <std::size_t symbols>
+void LzxDecoder::Code<symbols>::Build() {
+    count_ = {};
+    for (std::size_t i = 0; i < symbols; ++i) ++count_[lengths[i]];
+    count_[0] = 0;
+    std::array<std::uint16_t, kMaxLength + 2> start{};
+    std::int32_t left = 1;
+    for (std::size_t length = 1; length <= kMaxLength; ++length) {
+        left = 2 * left - count_[length];
+        if (left < 0) Fail();
+        start[length + 1] = static_cast<std::uint16_t>(start[length] + count_[length]);
+    }
+    for (std::size_t i = 0; i < symbols; ++i) {
+        if (lengths[i] != 0) inOrder_[start[lengths[i]]++] = static_cast<std::uint16_t>(i);
+    }
+}
+
+template <std::size_t symbols>
+std::uint32_t LzxDecoder::Code<symbols>::Read(Bits& in) const {
+    std::uint32_t word = 0;
+    std::uint32_t first = 0;  // the first word of this length, and its place in order
+    std::uint32_t place = 0;
+    for (std::size_t length = 1; length <= kMaxLength; ++length) {
+        word = word << 1 | in.Next();
+        first <<= 1;
+        if (word < first + count_[length]) return inOrder_[place + word - first];
+        first += count_[length];
+        place += count_[length];
+    }
+    Fail();
+}
+
+LzxDecoder::LzxDecoder(std::uint32_t window) : window_(window) {
+    if (!std::has_single_bit(window) || window < kSmallestWindow || window > kLargestWindow) Fail();
+    mainSymbols_ = kLiterals + SlotsOf(window) * 8;
+}
+
+std::string LzxDecoder::Frame(std::string_view compressed, std::size_t length) {
+    Bits in(compressed);
+    if (!headerRead_) ReadHeader(in);
+    const std::size_t start = history_.size();
+    const std::size_t end = start + length;
+    while (history_.size() < end) {
+        if (blockLeft_ == 0) StartBlock(in);
+        const std::size_t before = history_.size();
+        const std::size_t most = std::min(before + blockLeft_, start + kFrameLength);
+        const std::size_t wanted = std::min(most, end);
+        if (block_ == Block::Stored) {
+            history_ += in.Bytes(wanted - before);
+        } else {
+            Decode(in, wanted, most);
+        }
+        blockLeft_ -= static_cast<std::uint32_t>(history_.size() - before);
+        if (block_ == Block::Stored && blockLeft_ == 0) in.ToWord();
+    }
+    std::string frame = history_.substr(start, length);
+    if (translatedSize_ != 0) TranslateCalls(frame);
+    return frame;
+}
+
+void LzxDecoder::ReadHeader(Bits& in) {
+    headerRead_ = true;
+    if (in.Next() != 0) translatedSize_ = in.Read(32);
+}
+
+void LzxDecoder::StartBlock(Bits& in) {
+    const std::uint32_t kind = in.Read(3);
+    if (kind == 0 || kind > static_cast<std::uint32_t>(Block::Stored)) Fail();
+    block_ = static_cast<Block>(kind);
+    blockLength_ = in.Read(24);
+    blockLeft_ = blockLength_;
+    if (block_ == Block::Stored) {
+        in.ToBytes();
+        for (std::uint32_t& offset : recent_) offset = in.Number();
+    } else {
+        ReadCodes(in);
+    }
+}
+
+void LzxDecoder::ReadCodes(Bits& in) {
+    if (block_ == Block::Aligned) {
+        for (std::size_t i = 0; i < kAlignedSymbols; ++i) {
+            aligned_.lengths[i] = static_cast<std::uint8_t>(in.Read(3));
+        }
+        aligned_.Build();
+    }
+    ReadLengths(in, main_, 0, kLiterals);
+    ReadLengths(in, main_, kLiterals, mainSymbols_);
+    main_.Build();
+    ReadLengths(in, length_, 0, kLengthSymbols);
+    length_.Build();
+}
+
+/// Code lengths are told as what they differ by from those of the block before, in a code of their
+/// own that also has words for runs.
+template <std::size_t symbols>
+void LzxDecoder::ReadLengths(Bits& in, Code<symbols>& code, std::size_t first, std::size_t last) {
+    constexpr std::uint32_t kFewZeros = 17;
+    constexpr std::uint32_t kManyZeros = 18;
+    constexpr std::uint32_t kRepeat = 19;
+    Code<kPreSymbols> pre;
+    for (std::size_t i = 0; i < kPreSymbols; ++i) {
+        pre.lengths[i] = static_cast<std::uint8_t>(in.Read(4));
+    }
+    pre.Build();
+    const auto changed = [&code](std::size_t at, std::uint32_t by) {
+        if (by > 16) Fail();
+        return static_cast<std::uint8_t>((code.lengths[at] + 17u - by) % 17u);
+    };
+    while (first < last) {
+        const std::uint32_t word = pre.Read(in);
+        std::size_t run = 1;
+        std::uint8_t length = 0;
+        if (word == kFewZeros) {
+            run = in.Read(4) + 4;
+        } else if (word == kManyZeros) {
+            run = in.Read(5) + 20;
+        } else if (word == kRepeat) {
+            run = in.Read(1) + 4;
+            length = changed(first, pre.Read(in));
+        } else {
+            length = changed(first, word);
+        }
+        while (run-- > 0) code.lengths[first++] = length;
+    }
+}
+
+/// Until there is as much as wanted; a match may go on behind that, but not behind `most`.
+void LzxDecoder::Decode(Bits& in, std::size_t wanted, std::size_t most) {
+    while (history_.size() < wanted) {
+        const std::uint32_t symbol = main_.Read(in);
+        if (symbol < kLiterals) {
+            history_ += static_cast<char>(symbol);
+        } else {
+            Copy(in, static_cast<std::uint32_t>(symbol - kLiterals), most);
+        }
+    }
+}
+
+void LzxDecoder::Copy(Bits& in, std::uint32_t symbol, std::size_t most) {
+    std::size_t length = symbol % 8;
+    if (length == kLongLength) length += length_.Read(in);
+    length += kShortestMatch;
+    const std::size_t offset = MatchOffset(in, symbol / 8);
+    if (offset == 0 || offset > window_ || offset > history_.size()) Fail();
+    if (length > most - history_.size()) Fail();
+    // One by one: a match may overlap what it makes.
+    while (length-- > 0) history_ += history_[history_.size() - offset];
+}
+
+/// The first three slots stand for the offsets used last.
+std::uint32_t LzxDecoder::MatchOffset(Bits& in, std::uint32_t slot) {
+    constexpr std::uint32_t kRecent = 3;
+    if (slot < kRecent) {
+        std::swap(recent_[0], recent_[slot]);
+    } else {
+        recent_ = {ReadOffset(in, slot), recent_[0], recent_[1]};
+    }
+    return recent_[0];
+}
+
+std::uint32_t LzxDecoder::ReadOffset(Bits& in, std::uint32_t slot) {
+    constexpr int kAlignedBits = 3;
+    const int extra = ExtraBits(slot);
+    std::uint32_t value = 0;
+    if (block_ == Block::Aligned && extra >= kAlignedBits) {
+        value = in.Read(extra - kAlignedBits) << kAlignedBits;
+        value += aligned_.Read(in);
+    } else {
+        value = in.Read(extra);
+    }
+    return kSlotBases[slot] - 2 + value;
+}
+
+/// Programs are compressed with the targets of their calls as absolute addresses; this makes them
+/// relative again.
+void LzxDecoder::TranslateCalls(std::string& frame) const {
+    constexpr std::size_t kNoCallsAtEnd = 10;
+    constexpr char kCall = '\xE8';
+    const auto size = static_cast<std::int64_t>(translatedSize_);
+    const auto frameStart = static_cast<std::int64_t>(history_.size() - frame.size());
+    for (std::size_t i = 0; i + kNoCallsAtEnd < frame.size(); ++i) {
+        if (frame[i] != kCall) continue;
+        const std::int64_t at = frameStart + static_cast<std::int64_t>(i);
+        const auto target =
+            static_cast<std::int32_t>(Bits(std::string_view(frame).substr(i + 1)).Number());
+        if (target >= -at && target < size) {
+            std::uint32_t relative =
+                static_cast<std::uint32_t>(target >= 0 ? target - at : target + size);
+            for (std::size_t byte = 1; byte <= 4; ++byte, relative >>= 8) {
+                frame[i + byte] = static_cast<char>(relative & 0xFF);
+            }
+        }
+        i += 4;
+    }
+}
+
+}  // namespace halvek

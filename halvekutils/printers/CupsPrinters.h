@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/platform/PrinterSource.h>
+
+#include <exception>
+#include <vector>
+
+namespace halvek {
+
+/// The queues of the print scheduler that the workstation is set up to use.
+///
+/// Asks the scheduler once, at the first call, and answers both calls from that; one that does not
+/// answer within a second counts as not there. Make a new object for each build.
+class CupsPrinters : public PrinterSource {
+  public:
+    CupsPrinters();
+    ~CupsPrinters() override;
+
+    /// Device URI and name of each queue. Throws DeviceError when the scheduler does not answer.
+    std::vector<PrinterConnection> Connections() override;
+
+    /// Each queue with its make and model as the driver; none when the scheduler does not answer.
+    std::vector<InstalledPrinter> Installed() override;
+
+  private:
+    void Ask();
+
+    bool asked_ = false;
+    std::exception_ptr failure_;
+    std::vector<InstalledPrinter> queues_;
+};
+
+}  // namespace halvek

@@ -1,0 +1,378 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/Utf8.h>
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/help/HelpBrowser.h>
+#include <halvekutils/qt/help/HelpViewer.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/ModalOwner.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScreen>
+#include <QSplitter>
+#include <QStyle>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <array>
+#include <exception>
+#include <iterator>
+#include <vector>
+
+namespace halvek {
+
+namespace {
+
+constexpr QSize kOrdinarySize(920, 640);
+constexpr int kContentsWidth = 240;
+constexpr int kMargin = 4;
+constexpr int kAddressRole = Qt::UserRole;
+constexpr std::array kZooms = {50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
+
+QToolButton* ButtonOf(QAction* action) {
+    auto* const button = new QToolButton;
+    button->setObjectName(QLatin1String("cmd") + action->objectName().mid(3));
+    button->setDefaultAction(action);
+    button->setAccessibleName(action->text());
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
+                                                       : Qt::ToolButtonTextBesideIcon);
+    return button;
+}
+
+/// Takes `lower` out from below `window`, if it is the owner of it or of one of its owners.
+void TakeOut(QWindow& lower, QWindow* window) {
+    while (window != nullptr && window->transientParent() != &lower) {
+        window = window->transientParent();
+    }
+    if (window != nullptr) window->setTransientParent(lower.transientParent());
+}
+
+}  // namespace
+
+HelpViewer::HelpViewer()
+    : browser_(new HelpBrowser),
+      trvContents_(new QTreeWidget),
+      find_(new FindBar(*browser_, tr("Find in this page"))) {
+    notice_ = MakeNotice();
+    setObjectName(QLatin1String("HelpViewer"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle(tr("Help"));
+    browser_->setObjectName(QLatin1String("txtPage"));
+    trvContents_->setObjectName(QLatin1String("trvContents"));
+    trvContents_->setAccessibleName(tr("Contents"));
+    trvContents_->setHeaderHidden(true);
+    auto* const page = new QWidget;
+    auto* const pageColumn = new QVBoxLayout(page);
+    pageColumn->setContentsMargins(0, 0, 0, 0);
+    pageColumn->setSpacing(0);
+    for (QWidget* const part :
+         {static_cast<QWidget*>(browser_), notice_, static_cast<QWidget*>(find_)}) {
+        pageColumn->addWidget(part);
+    }
+    auto* const columns = new QSplitter;
+    columns->addWidget(trvContents_);
+    columns->addWidget(page);
+    columns->setStretchFactor(1, 1);
+    columns->setSizes({kContentsWidth, kOrdinarySize.width() - kContentsWidth});
+    columns->setChildrenCollapsible(false);
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    rows->setSpacing(kMargin);
+    rows->addWidget(MakeTools());
+    rows->addWidget(columns, 1);
+    setTabOrder(trvContents_, browser_);
+    connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+        GuardEvent(u"HelpViewer.Link_Click", [&] { Follow(link); });
+    });
+    connect(browser_, &HelpBrowser::PageShown, this, [this] {
+        GuardEvent(u"HelpViewer.PageShown", [this] {
+            notice_->hide();
+            MarkInContents();
+        });
+    });
+    connect(browser_, &HelpBrowser::ZoomAsked, this,
+            [this](int step) { GuardEvent(u"HelpViewer.Wheel", [&] { ChangeZoom(step); }); });
+    const auto open = [this](QTreeWidgetItem* item) {
+        GuardEvent(u"HelpViewer.Contents_Click", [&] { GoTo(item); });
+    };
+    connect(trvContents_, &QTreeWidget::itemClicked, this, open);
+    connect(trvContents_, &QTreeWidget::itemActivated, this, open);
+}
+
+HelpViewer::~HelpViewer() = default;
+
+QAction* HelpViewer::MakeAction(const char* name, const QString& caption, const QString& keys,
+                                const std::function<void()>& run) {
+    auto* const action = new QAction(caption, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcuts(QKeySequence::listFromString(keys));
+    action->setToolTip(
+        QStringLiteral("%1 (%2)").arg(caption, keys.section(QLatin1String("; "), 0, 0)));
+    connect(action, &QAction::triggered, this,
+            [run] { GuardEvent(u"HelpViewer.Tool_Click", run); });
+    addAction(action);
+    return action;
+}
+
+QWidget* HelpViewer::MakeTools() {
+    QAction* const back =
+        MakeAction("actBack", tr("Back"), QStringLiteral("Alt+Left; Backspace; Back"),
+                   [this] { browser_->backward(); });
+    QAction* const forward =
+        MakeAction("actForward", tr("Forward"), QStringLiteral("Alt+Right; Forward"),
+                   [this] { browser_->forward(); });
+    home_ = MakeAction("actHome", tr("Home"), QStringLiteral("Alt+Home"), [this] { GoHome(); });
+    showContents_ = MakeAction("actContents", tr("Contents"), QStringLiteral("F9"),
+                               [this] { trvContents_->setVisible(showContents_->isChecked()); });
+    showContents_->setCheckable(true);
+    QAction* const find =
+        MakeAction("actFind", tr("Find"), QStringLiteral("Ctrl+F"), [this] { find_->Open(); });
+    MakeAction("actFindNext", tr("Find next"), QStringLiteral("F3; Ctrl+G"),
+               [this] { find_->Find(false); });
+    MakeAction("actFindPrevious", tr("Find previous"), QStringLiteral("Shift+F3; Ctrl+Shift+G"),
+               [this] { find_->Find(true); });
+    MakeAction("actClose", tr("Close"), QStringLiteral("Ctrl+W"), [this] { close(); });
+    back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    home_->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+    for (QAction* const action : {back, forward}) action->setEnabled(false);
+    connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+
+    QAction* const smaller = MakeAction("actSmaller", tr("Smaller"), QStringLiteral("Ctrl+-"),
+                                        [this] { ChangeZoom(-1); });
+    QAction* const larger = MakeAction("actLarger", tr("Larger"), QStringLiteral("Ctrl++; Ctrl+="),
+                                       [this] { ChangeZoom(1); });
+    ordinarySize_ = MakeAction("actOrdinarySize", tr("100%"), QStringLiteral("Ctrl+0"),
+                               [this] { ChangeZoom(0); });
+    ordinarySize_->setToolTip(tr("Ordinary size (Ctrl+0)"));
+
+    auto* const tools = new QWidget;
+    auto* const row = new QHBoxLayout(tools);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (QAction* const action : {back, forward, home_, showContents_, find}) {
+        row->addWidget(ButtonOf(action));
+    }
+    row->addStretch();
+    for (QAction* const action : {smaller, ordinarySize_, larger}) {
+        row->addWidget(ButtonOf(action));
+    }
+    return tools;
+}
+
+QWidget* HelpViewer::MakeNotice() {
+    auto* const notice = new QFrame;
+    notice->setFrameShape(QFrame::StyledPanel);
+    lblOutside_ = new QLabel;
+    lblOutside_->setObjectName(QLatin1String("lblOutside"));
+    lblOutside_->setTextFormat(Qt::PlainText);
+    lblOutside_->setWordWrap(true);
+    lblOutside_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto* const copy = new QToolButton;
+    copy->setObjectName(QLatin1String("cmdCopyAddress"));
+    copy->setText(tr("Copy address"));
+    copy->setAccessibleName(copy->text());
+    copy->setFocusPolicy(Qt::StrongFocus);
+    connect(copy, &QToolButton::clicked, this, [this] {
+        GuardEvent(u"HelpViewer.cmdCopyAddress_Click", [this] {
+            QGuiApplication::clipboard()->setText(notice_->property("address").toString());
+        });
+    });
+    auto* const row = new QHBoxLayout(notice);
+    row->addWidget(lblOutside_, 1);
+    row->addWidget(copy);
+    notice->hide();
+    return notice;
+}
+
+void HelpViewer::ShowContext(const std::filesystem::path& file, std::int32_t contextId) {
+    Open(file);
+    const auto topic = help_->TopicOfContext(contextId);
+    if (topic) {
+        ShowPage(*topic);
+        return;
+    }
+    browser_->ShowMissingContext(contextId);
+    BringForward();
+    throw RuntimeError(Fault::FileNotFound, FromUtf8(file.native()) + u": context number " +
+                                                QString::number(contextId).toStdU16String());
+}
+
+void HelpViewer::ShowTopic(const std::filesystem::path& file, TextIn topic) {
+    HelpTopic asked = ParseHelpTopic(topic);
+    Open(file);
+    if (asked.path.empty()) asked.path = help_->DefaultTopic().path;
+    ShowPage(asked);
+}
+
+void HelpViewer::Open(const std::filesystem::path& file) {
+    if (help_ != nullptr && help_->File() == file) return;
+    help_ = nullptr;
+    std::exception_ptr fault;
+    std::u16string description;
+    try {
+        help_ = std::make_shared<CompiledHelp>(file);
+    } catch (const std::exception& caught) {
+        fault = std::current_exception();
+        description = AsRuntimeError(caught).Description();
+    }
+    browser_->SetHelp(help_, description);
+    setWindowTitle(help_ == nullptr ? tr("Help") : ToWindowTitle(help_->Title()));
+    home_->setEnabled(help_ != nullptr);
+    FillContents();
+    if (fault == nullptr) return;
+    BringForward();
+    std::rethrow_exception(fault);
+}
+
+void HelpViewer::ShowPage(const HelpTopic& topic) {
+    browser_->ShowTopic(topic);
+    BringForward();
+    if (help_->Has(topic.path)) return;
+    throw RuntimeError(Fault::FileNotFound, FromUtf8(help_->File().native()) + u"::" + topic.path);
+}
+
+void HelpViewer::BringForward() {
+    if (!isVisible()) {
+        const QRect usable = CurrentScreen()->availableGeometry();
+        if (!testAttribute(Qt::WA_Moved)) {
+            resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
+            move(CentredPlace(size(), CurrentOwner()).topLeft());
+        }
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    StayAboveDialogs();
+    raise();
+    activateWindow();
+    browser_->setFocus(Qt::OtherFocusReason);
+}
+
+/// A modal dialog blocks every window that does not belong to it, so the viewer belongs to the one
+/// that is open, even when that was opened while the viewer was active.
+void HelpViewer::StayAboveDialogs() {
+    const QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || windowHandle() == nullptr) return;
+    QWindow* const above = dialog->window()->windowHandle();
+    if (above == nullptr || above == windowHandle() || !above->isVisible()) return;
+    TakeOut(*windowHandle(), above);
+    BelongTo(above);
+}
+
+/// Until the owner hides: should it open again, from the viewer perhaps, neither may own the other.
+void HelpViewer::BelongTo(QWindow* owner) {
+    disconnect(ownerHides_);
+    if (owner != nullptr) {
+        ownerHides_ = connect(owner, &QWindow::visibleChanged, this, [this, owner](bool visible) {
+            if (visible) return;
+            QWindow* const below = owner->transientParent();
+            BelongTo(below != nullptr && below->isModal() && below->isVisible() ? below : nullptr);
+        });
+    }
+    windowHandle()->setTransientParent(owner);
+}
+
+bool HelpViewer::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) {
+        GuardEvent(u"HelpViewer.Blocked", [this] { StayAboveDialogs(); });
+    }
+    return QWidget::event(event);
+}
+
+void HelpViewer::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+    } else if (find_->isVisible()) {
+        find_->Close();
+    } else {
+        notice_->hide();
+    }
+}
+
+void HelpViewer::FillContents() {
+    trvContents_->clear();
+    std::vector<QTreeWidgetItem*> path;
+    if (help_ != nullptr) {
+        for (const HelpContentsEntry& entry : help_->Contents()) {
+            path.resize(static_cast<std::size_t>(entry.depth));
+            auto* const item =
+                path.empty() ? new QTreeWidgetItem(trvContents_) : new QTreeWidgetItem(path.back());
+            item->setText(0, ToQString(entry.title));
+            item->setToolTip(0, ToToolTip(entry.title));
+            if (!entry.topic.path.empty()) {
+                item->setData(0, kAddressRole, browser_->AddressOf(entry.topic));
+            }
+            path.push_back(item);
+        }
+    }
+    trvContents_->expandToDepth(0);
+    const bool hasContents = trvContents_->topLevelItemCount() > 0;
+    showContents_->setEnabled(hasContents);
+    showContents_->setChecked(hasContents);
+    trvContents_->setVisible(hasContents);
+}
+
+/// Marks the entry of the page that is shown; one for its anchor rather than one for the page.
+void HelpViewer::MarkInContents() {
+    const QUrl shown = browser_->source();
+    QTreeWidgetItem* found = nullptr;
+    for (QTreeWidgetItemIterator it(trvContents_); *it != nullptr; ++it) {
+        const QUrl address = (*it)->data(0, kAddressRole).toUrl();
+        if (address.isEmpty() || address.path().compare(shown.path(), Qt::CaseInsensitive) != 0) {
+            continue;
+        }
+        if (address.fragment() == shown.fragment()) {
+            found = *it;
+            break;
+        }
+        if (found == nullptr) found = *it;
+    }
+    trvContents_->setCurrentItem(found);
+}
+
+void HelpViewer::Follow(const QUrl& link) {
+    const QUrl address = browser_->source().resolved(link);
+    if (!browser_->IsInside(address)) {
+        NoteOutside(link);
+        return;
+    }
+    browser_->setSource(address);
+}
+
+void HelpViewer::NoteOutside(const QUrl& link) {
+    const QString address = link.toString();
+    notice_->setProperty("address", address);
+    lblOutside_->setText(tr("This address is outside of the help and is not opened: %1")
+                             .arg(ToQString(TextIn(address).substr(0, 500))));
+    notice_->show();
+}
+
+void HelpViewer::GoTo(const QTreeWidgetItem* item) {
+    const QUrl address = item->data(0, kAddressRole).toUrl();
+    if (!address.isEmpty()) Follow(address);
+}
+
+void HelpViewer::GoHome() {
+    if (help_ != nullptr) Follow(browser_->AddressOf(help_->DefaultTopic()));
+}
+
+void HelpViewer::ChangeZoom(int step) {
+    const auto at = std::ranges::lower_bound(kZooms, browser_->Zoom()) - kZooms.begin();
+    const auto last = static_cast<std::ptrdiff_t>(kZooms.size()) - 1;
+    const auto next = std::clamp<std::ptrdiff_t>(at + step, 0, last);
+    browser_->SetZoom(step == 0 ? 100 : kZooms[static_cast<std::size_t>(next)]);
+    ordinarySize_->setText(QStringLiteral("%1%").arg(browser_->Zoom()));
+}
+
+}  // namespace halvek

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/qt/helpers/DialogShow.h>
+#include <halvekutils/qt/helpers/ModalOwner.h>
+
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace halvek {
+
+DialogShow::DialogShow(QDialog& dialog, std::function<void()> abandon)
+    : dialog_(dialog), abandon_(std::move(abandon)) {}
+
+DialogShow::~DialogShow() {
+    RestorePointer();
+}
+
+void DialogShow::Modal(const Place& place) {
+    QWidget* const owner = Owner();
+    Open(owner, Qt::ApplicationModal, place);
+    if (owner != nullptr) {
+        connect(owner, &QObject::destroyed, this, [this] { abandon_(); });
+    }
+    if (!ended_) loop_.exec();
+    abandon_();
+}
+
+void DialogShow::Modeless(const Place& place) {
+    Open(Owner(), Qt::NonModal, place);
+}
+
+void DialogShow::End() {
+    ended_ = true;
+    RestorePointer();
+    const bool wasActive = dialog_.isActiveWindow();
+    dialog_.hide();
+    // Not every window manager gives the keyboard back.
+    if (wasActive && owner_ != nullptr) owner_->activateWindow();
+    loop_.quit();
+}
+
+QWidget* DialogShow::Owner() const {
+    QWidget* const current = CurrentOwner();
+    return current == &dialog_ ? nullptr : current;
+}
+
+void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& place) {
+    owner_ = owner;
+    dialog_.hide();
+    dialog_.setWindowModality(modality);
+    // Before the window has a handle: later the position would be that of its inner part.
+    corner_ = place(owner);
+    dialog_.move(corner_);
+    SetOwner(dialog_, owner);
+    ShowArrowPointer();
+    dialog_.installEventFilter(this);
+    sinceShown_.start();
+    dialog_.show();
+    dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
+    dialog_.activateWindow();
+}
+
+// Some window managers forget their frame when they place a new window. Where it came to stand is
+// told by the first move, and put right once.
+bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
+    constexpr qint64 kStillOpening = 500;
+    if (event->type() == QEvent::Move && dialog_.isVisible()) {
+        dialog_.removeEventFilter(this);
+        const bool opening = sinceShown_.elapsed() < kStillOpening;
+        if (opening && dialog_.frameGeometry().topLeft() != corner_) dialog_.move(corner_);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void DialogShow::ShowArrowPointer() {
+    // A busy cursor of the host's would show over the dialog.
+    if (pointerSaved_ || QGuiApplication::overrideCursor() == nullptr) return;
+    QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    pointerSaved_ = true;
+}
+
+void DialogShow::RestorePointer() {
+    if (std::exchange(pointerSaved_, false)) QGuiApplication::restoreOverrideCursor();
+}
+
+}  // namespace halvek
