@@ -12,9 +12,12 @@ work=$build/packages-test
 root=$work/root
 rm -rf "$work"
 mkdir -p "$root"
-cpack --config "$build/CPackConfig.cmake" -B "$work" >"$work/cpack.log"
+mkdir "$work/source"
+cp -r "$source/debian" "$source/CHANGELOG.md" "$work/source"
 cd "$work"
-version=$(sed -nE '1s/.*\((.*)\).*/\1/p' "$source/cmake/packages/changelog")
+(cd source && DEB_BUILD_OPTIONS=noautodbgsym debian/rules binary BUILD="$build") >build.log 2>&1 ||
+    { tail -n 30 build.log; exit 1; }
+version=$(sed -nE '1s/.*\((.*)\).*/\1/p' "$source/debian/changelog")
 arch=$(dpkg --print-architecture)
 libraries=lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 upstream=${version%-*}
@@ -59,7 +62,7 @@ system=(libc6 libgcc-s1 libstdc++6)
 depends libhalvekutils0 "${system[@]}"
 depends libhalvekutils-qt0 libhalvekutils0 libcups2 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
 depends libhalvekutils-dev libhalvekutils0 libhalvekutils-qt0 qt6-base-dev
-depends halvekutils-demo libhalvekutils-qt0 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
+depends halvekutils-demo libhalvekutils0 libhalvekutils-qt0 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
 lintian --allow-root --fail-on error,warning ./*.deb
 
 # Beside the machine's own packages, so that dpkg really resolves the dependencies
