@@ -31,31 +31,6 @@ std::shared_ptr<int> Number(int value) {
     return std::make_shared<int>(value);
 }
 
-TEST(KeyedCollection, RefusesAKeyThatDiffersInLetterCaseOnly) {
-    const struct {
-        bool same;
-        std::u16string_view first, second;
-    } rows[] = {
-        {true, u"Insurance Az", u"iNSURANCE aZ"},
-        {true, u"\u00C0\u00D6\u00D8\u00DE", u"\u00E0\u00F6\u00F8\u00FE"},
-        {true, u"\u0178\u0160\u0152\u017D", u"\u00FF\u0161\u0153\u017E"},
-        {false, u"", u"\0"sv},
-        {false, u"a\0b"sv, u"a\0c"sv},
-        {false, u"@[", u"`{"},
-        {false, u"\u00D7", u"\u00F7"},  // the signs of multiplication and division
-        {false, u"K", u"\u212A"},       // kelvin
-    };
-    for (const auto& [same, first, second] : rows) {
-        Numbers numbers;
-        numbers.Add(Number(1), first);
-        EXPECT_EQ(FaultOf([&, &second = second] { numbers.Add(Number(2), second); }),
-                  same ? 457 : 0)
-            << ToUtf8(second);
-        EXPECT_EQ(*numbers.Item(first), 1);
-        EXPECT_EQ(*numbers.Item(second), same ? 1 : 2);
-    }
-}
-
 TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
     Numbers numbers;
     numbers.Add(Number(1));
@@ -67,23 +42,6 @@ TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
     }
     numbers.Add(Number(3), u"");
     EXPECT_EQ(numbers.Item(u""), numbers.Item(3));
-}
-
-TEST(KeyedCollection, KeepsOrderAndKeysThroughRemovals) {
-    const auto key = [](int value) { return FromUtf8(std::to_string(value)); };
-    Numbers numbers;
-    for (int i = 1; i <= 8; ++i)
-        i % 3 == 0 ? numbers.Add(Number(i)) : numbers.Add(Number(i), key(i));
-    numbers.Remove(key(1));
-    numbers.Remove(2);
-    numbers.Remove(key(8));
-    ASSERT_EQ(numbers.Count(), 5);
-    for (std::int32_t position = 1; const int value : {2, 4, 5, 6, 7}) {
-        EXPECT_EQ(*numbers.Item(position++), value);
-        EXPECT_EQ(value % 3 == 0 ? value : *numbers.Item(key(value)), value);
-    }
-    EXPECT_EQ(numbers.Find(key(1)), nullptr);
-    numbers.Add(Number(1), key(1));
 }
 
 TEST(StringArray, KeepsItsBoundsAndFaultsOutsideThem) {

@@ -90,20 +90,6 @@ TEST_F(UtilsTest, ArgumentsMayBeViewsOfTheStateThatTheyReplace) {
     EXPECT_EQ(utils_->ColorArray()[1], type);
 }
 
-TEST_F(UtilsTest, TextMembersReachTheTextFunctions) {
-    StringArray array;
-    std::u16string left, right;
-    EXPECT_EQ(utils_->SplitStr(u"A^B", u"^", 2), u"B");
-    EXPECT_EQ(utils_->CountInstances(u"a,b,,c", u","), 3);
-    EXPECT_TRUE(utils_->StrToArr(u"A|B", u"|", array));
-    EXPECT_EQ(array[2], u"B");
-    EXPECT_TRUE(utils_->ChunkStrToArr(u"AB|CD|EF|", array, 4, u"|"));
-    EXPECT_EQ(array[2], u"EF|");
-    utils_->SplitLeftRight(u"key=value", u"=", left, right);
-    EXPECT_EQ(left + right, u"keyvalue");
-    EXPECT_FALSE(utils_->ExistsInColl(nullptr, u"key"));
-}
-
 TEST_F(UtilsTest, BinsAreFoundAndRemovedByTheExactKeyOnly) {
     utils_->AddBin(u"Visit", u"1", u"T");
     utils_->AddBin(u"", u"under the empty key", u"");

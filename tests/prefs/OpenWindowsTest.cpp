@@ -35,20 +35,6 @@ class OpenWindowsTest : public CleanState {
     std::shared_ptr<OpenWindows> windows_ = utils_->OpenWindows();
 };
 
-TEST_F(OpenWindowsTest, KeepsTheOrderWhileWindowsComeAndGo) {
-    EXPECT_FALSE(windows_->RemoveItem(1)) << "an empty registry has nothing to log";
-    EXPECT_TRUE(windows_->AddItem(u"A", 100));
-    EXPECT_TRUE(windows_->AddItem(u"B", 200));
-    windows_->AddItem(u"C", 300);
-    windows_->AddItem(u"C", 300);
-    EXPECT_TRUE(windows_->RemoveItem(2));
-    EXPECT_EQ(Shown(windows_->GetAll()), u"A 100, C 300, C 300");
-    EXPECT_EQ(windows_->GetAllByType(u"none such"), windows_->GetAll());
-    windows_->ClearAll();
-    EXPECT_EQ(Shown(windows_->GetAll()), u"");
-    EXPECT_EQ(Log(), "(missing)");
-}
-
 TEST_F(OpenWindowsTest, AnIndexThatDoesNotExistGivesNothingAndChangesNothing) {
     windows_->AddItem(u"A", 100);
     windows_->AddItem(u"", kLimits.min());

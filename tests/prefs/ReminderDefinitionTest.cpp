@@ -63,42 +63,5 @@ TEST(ReminderDefinition, ReadsTabsTitlesAndLines) {
     }
 }
 
-TEST(ReminderDefinition, AnAlertAloneIsNoData) {
-    const std::pair<std::u16string_view, bool> rows[] = {
-        {u"", false}, {u"£1", true}, {u"£0", false}, {u"£x", false}, {u"£1Aæx", true}};
-    for (const auto& [data, alert] : rows) {
-        ReminderDefinition reminder;
-        reminder.PopulateReminder(u"", data);
-        EXPECT_FALSE(reminder.HasData());
-        EXPECT_EQ(reminder.SoundAlert(), alert) << ToUtf8(data);
-        EXPECT_EQ(reminder.TabData(1), StringArray(0, 0));
-    }
-}
-
-TEST(ReminderDefinition, TakesWhatNoServerSends) {
-    const std::u16string many(1'000'000, u'ç');
-    ReminderDefinition tabs;
-    tabs.PopulateReminder(u"", many + u"LastæP-x");
-    EXPECT_EQ(Joined(tabs.Tabs(), 1), u"Last");
-    EXPECT_TRUE(tabs.HasPatientSpecificData());
-
-    std::mt19937 random(3);
-    for (int round = 0; round < 2000; ++round) {
-        std::u16string data;
-        for (auto left = random() % 40; left > 0; --left) data += u"æææççç£1Pp-xy\0"[random() % 14];
-        ReminderDefinition reminder;
-        reminder.PopulateReminder(data, data);
-        const std::u16string text = data.substr(0, data.find(u'£'));
-        EXPECT_EQ(reminder.HasData(), !text.empty());
-        if (text.empty()) continue;
-        const auto pieces = static_cast<std::int16_t>(std::ranges::count(text, u'ç') + 1);
-        EXPECT_TRUE(reminder.TabData(pieces).IsAllocated()) << ToUtf8(data);
-        for (const int tab : {0, -1, pieces + 1, 32767, -32768}) {
-            EXPECT_FALSE(reminder.TabData(static_cast<std::int16_t>(tab)).IsAllocated()) << tab;
-        }
-        EXPECT_LE(reminder.Tabs().UBound(), pieces);
-    }
-}
-
 }  // namespace
 }  // namespace halvek

@@ -118,24 +118,5 @@ TEST_F(CodesCollectionTest, ARebuildLeavesTheHostsCollectionAndItsLoopsAlone) {
     EXPECT_EQ(utils_->GetCodesCollection(), nullptr);
 }
 
-TEST_F(CodesCollectionTest, RaisesForAnUnknownKeyOrPosition) {
-    const auto codes = Build(u"OneæAæ1æ1ææ|a record without a key");
-    for (const std::int32_t position : {0, -1, 3, 2'147'483'647}) {
-        EXPECT_EQ(FaultOf([&] { codes->Item(position); }), 9) << position;
-    }
-    for (const TextIn key : {u"B", u"", u"A ", u"a record without a key"}) {
-        EXPECT_EQ(FaultOf([&] { codes->Item(key); }), 5) << ToUtf8(key);
-    }
-}
-
-TEST_F(CodesCollectionTest, TakesAHundredThousandTables) {
-    std::u16string data;
-    for (int i = 1; i <= 100'000; ++i)
-        data += u"TableæKey" + FromUtf8(std::to_string(i)) + u"æ1æ0ææ|";
-    const auto codes = Build(data);
-    ASSERT_EQ(codes->Count(), 100'000);
-    EXPECT_EQ(codes->Item(u"KEY99999"), codes->Item(99'999));
-}
-
 }  // namespace
 }  // namespace halvek

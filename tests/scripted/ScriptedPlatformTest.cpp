@@ -109,25 +109,5 @@ TEST_F(ScriptedPlatformTest, TheHostMayReleaseEverythingWhileItsBoxIsOpen) {
     EXPECT_TRUE(alive.expired());
 }
 
-TEST_F(ScriptedPlatformTest, AModelessBoxCanBecomeModal) {
-    const auto box = std::make_shared<MessageBox>(
-        MessageBoxRequest{u"Printing", mbOkCancel, mbNoIcon, u""}, Services::Current(), desktop_);
-    desktop_.Show(box, Modality::Modeless);
-    desktop_.OnMessageBox([](MessageBox& shown) { shown.Press(0); });
-    desktop_.Show(box, Modality::Modal);
-    EXPECT_TRUE(desktop_.ModelessBoxes().empty());
-    EXPECT_EQ(box->ReturnedValue(), mbOK);
-}
-
-TEST_F(ScriptedPlatformTest, TheLastPlatformAnswersUntilItGoes) {
-    {
-        const ScriptedPlatform inner;
-        EXPECT_EQ(&Platform::Installed(), &inner);
-    }
-    EXPECT_EQ(&Platform::Installed(), &desktop_);
-    Beep();
-    EXPECT_EQ(desktop_.Beeps(), 1);
-}
-
 }  // namespace
 }  // namespace halvek

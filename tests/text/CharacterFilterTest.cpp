@@ -102,12 +102,5 @@ TEST_F(CharacterFilter, ShowsBothTextsInTheDebugConsole) {
     EXPECT_EQ(out, u"cd");
 }
 
-TEST_F(CharacterFilter, ShowsUnprintableCharactersAsTheirCodes) {
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"a\tb"), u"a<9>b");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"a\r\nb"), u"a<13>\r\n<10>b");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"~\u007F\u00E9\u20AC"), u"~<127><233><128>");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"x\u0142\U0001F600y"), u"x???y");
-}
-
 }  // namespace
 }  // namespace halvek
