@@ -90,17 +90,6 @@ TEST_F(UtilsTest, ArgumentsMayBeViewsOfTheStateThatTheyReplace) {
     EXPECT_EQ(utils_->ColorArray()[1], type);
 }
 
-TEST_F(UtilsTest, BinsAreFoundAndRemovedByTheExactKeyOnly) {
-    utils_->AddBin(u"Visit", u"1", u"T");
-    utils_->AddBin(u"", u"under the empty key", u"");
-    for (const TextIn key : {u"vISIT", u"Visit ", u"Visi"}) {
-        utils_->RemoveBin(key);
-        EXPECT_FALSE(utils_->BinExists(key)) << ToUtf8(key);
-    }
-    EXPECT_EQ(utils_->GetBinData(u"Visit") + utils_->GetBinData(u""), u"1under the empty key");
-    EXPECT_FALSE(Utils::Create()->BinExists(u"Visit"));
-}
-
 TEST_F(UtilsTest, ABinWhoseKeyDiffersInLetterCaseIsRefusedAndLogged) {
     utils_->AddBin(u"Visit", u"1", u"T");
     utils_->AddBin(u"vISIT", u"2", u"U");

@@ -58,24 +58,6 @@ TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMis
     EXPECT_EQ(desktop_.HelpShown().back().topic, u"::/a.htm#b");
 }
 
-TEST_F(ScriptedPlatformTest, OutOfRangeChoicesAreWrittenBackBeforeTheBoxOpens) {
-    const std::int32_t rows[][4] = {
-        {0, 0, mbWhite, mb9},
-        {4, 10, mbWhite, mb9},
-        {-7, -7, mbWhite, -7},
-    };
-    for (const auto& row : rows) {
-        auto background = static_cast<ColorChoice>(row[0]);
-        auto fontSize = static_cast<FontSizeChoice>(row[1]);
-        desktop_.OnMessageBox([&](MessageBox&) {
-            EXPECT_EQ(background, row[2]);
-            EXPECT_EQ(fontSize, row[3]);
-        });
-        utils_->ShowMsgBox(u"", mbOkOnly, mbNoIcon, u"", background, fontSize);
-    }
-    EXPECT_EQ(desktop_.AnswersLeft(), 0u);
-}
-
 TEST_F(ScriptedPlatformTest, AFaultIsLoggedAndAnswersNothing) {
     EXPECT_EQ(Ask(mbYesNo), kNotAnswered);  // the script holds no answer
     desktop_.OnMessageBox([](MessageBox&) { throw std::bad_alloc(); });

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <random>
 #include <string>
 #include <tuple>
 #include <utility>
