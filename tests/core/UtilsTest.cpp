@@ -3,22 +3,13 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
-
-#include <gtest/gtest.h>
 
 #include <gmock/gmock.h>
-
-#include <memory>
-#include <string>
 
 namespace halvek {
 namespace {
 
-class UtilsTest : public CleanState {
-  protected:
-    std::shared_ptr<Utils> utils_ = Utils::Create();
-};
+using UtilsTest = CleanState;
 
 TEST_F(UtilsTest, EveryObjectReadsTheOneSession) {
     utils_->InitUtils(u"a.log", u"Front Desk ", u"clinic ", true, u"2.4.1 ");
@@ -56,7 +47,7 @@ TEST_F(UtilsTest, ColorArrayIsCopiedBothWaysWithItsBounds) {
 
 TEST_F(UtilsTest, OnlyTheCurrentUtilsOutlivesItsHost) {
     Utils::Create()->LogError(u"works before InitUtils");
-    EXPECT_NE(ReadFile(machine_.ownFolder / "Error.Log"), "(missing)");
+    EXPECT_NE(Log(), "(missing)");
     EXPECT_EQ(Utils::CurrentUtils(), nullptr);
     const std::weak_ptr<Utils> first = utils_;
     utils_->InitUtils(u"", u"First", u"", false, u"");
@@ -94,8 +85,7 @@ TEST_F(UtilsTest, ABinWhoseKeyDiffersInLetterCaseIsRefusedAndLogged) {
     utils_->AddBin(u"Visit", u"1", u"T");
     utils_->AddBin(u"vISIT", u"2", u"U");
     EXPECT_EQ(desktop_.Beeps(), 1);
-    EXPECT_THAT(ReadFile(machine_.ownFolder / "Error.Log"),
-                testing::HasSubstr("\tError in Utils.AddBin "));
+    EXPECT_THAT(Log(), testing::HasSubstr("\tError in Utils.AddBin "));
     EXPECT_EQ(utils_->GetBinData(u"Visit"), u"1");
     utils_->RemoveBin(u"Visit");
     utils_->AddBin(u"vISIT", u"2", u"U");

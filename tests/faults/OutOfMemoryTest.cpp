@@ -19,17 +19,13 @@
 #include <halvekutils/refdata/PrintersCollection.h>
 #include <halvekutils/selection/SelectGrid.h>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <new>
 #include <ostream>
-#include <string>
 #include <utility>
 #include <vector>
 

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/prefs/OpenWindows.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
-#include <memory>
-#include <string>
 
 namespace halvek {
 namespace {
@@ -29,9 +24,6 @@ std::u16string Shown(const StringTable& table) {
 
 class OpenWindowsTest : public CleanState {
   protected:
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
     std::shared_ptr<OpenWindows> windows_ = utils_->OpenWindows();
 };
 

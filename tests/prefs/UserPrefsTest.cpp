@@ -5,18 +5,13 @@
 #include <halvekutils/base/BoolIn.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <random>
-#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -139,29 +134,27 @@ TEST(UserPrefs, PopulatingResetsAllButTheAdvancedSettings) {
 using CurrentPrefs = CleanState;
 
 TEST_F(CurrentPrefs, UserPrefsCrossByCopyInBothDirections) {
-    const auto utils = Utils::Create();
     UserPrefs own = Populated(u"formßdemoßßßßßßßßßFalseß5ßR12");
     own.LastPrinterUsed(u"Lab");
-    utils->SetCurrentUserPrefs(own);
+    utils_->SetCurrentUserPrefs(own);
     const std::u16string settings = own.GetSettingsString();
     own.DemoFormData(u"changed");
-    const auto copy = utils->GetCurrentUserPrefs();
+    const auto copy = utils_->GetCurrentUserPrefs();
     EXPECT_EQ(copy->GetSettingsString(), settings);
     EXPECT_EQ(copy->LastPrinterUsed(), u"");
     copy->FormSkinColor();
-    EXPECT_EQ(utils->GetCurrentUserPrefs()->GetSettingsString(), settings);
+    EXPECT_EQ(utils_->GetCurrentUserPrefs()->GetSettingsString(), settings);
     EXPECT_EQ(Utils::Create()->GetCurrentUserPrefs()->GetSettingsString(),
               u"ßßßßß0ß0ß0ß0ß0ßFalseß0ßßßFalseß0ßFalseßßßßFalseßßFalseßFalseßßßßßßß");
 }
 
 TEST_F(CurrentPrefs, SystemPrefsAreShared) {
-    const auto utils = Utils::Create();
-    EXPECT_EQ(utils->GetCurrentSystemPrefs(), utils->GetCurrentSystemPrefs());
+    EXPECT_EQ(utils_->GetCurrentSystemPrefs(), utils_->GetCurrentSystemPrefs());
     const auto own = std::make_shared<SystemPrefs>();
-    utils->SetCurrentSystemPrefs(own);
-    EXPECT_EQ(utils->GetCurrentSystemPrefs(), own);
-    utils->SetCurrentSystemPrefs(nullptr);
-    EXPECT_NE(utils->GetCurrentSystemPrefs(), nullptr);
+    utils_->SetCurrentSystemPrefs(own);
+    EXPECT_EQ(utils_->GetCurrentSystemPrefs(), own);
+    utils_->SetCurrentSystemPrefs(nullptr);
+    EXPECT_NE(utils_->GetCurrentSystemPrefs(), nullptr);
 }
 
 }  // namespace

@@ -3,11 +3,8 @@
 #include "tests/printers/PrivateScheduler.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/refdata/PrintersCollection.h>
-
-#include <gtest/gtest.h>
 
 #include <cups/cups.h>
 #include <sys/socket.h>
@@ -18,9 +15,7 @@
 #include <cstddef>
 #include <cstring>
 #include <iterator>
-#include <memory>
 #include <stop_token>
-#include <string>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -52,8 +47,6 @@ class CupsPrintersTest : public CleanState {
         return shown;
     }
 
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
     /// True when the last two lines of the log tell of a failure and of an empty printer list.
     bool LogEndsWithFallBack() const {
         const std::string log = Log();
@@ -65,7 +58,6 @@ class CupsPrintersTest : public CleanState {
     }
 
     CupsDesktop cups_;
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {

@@ -4,15 +4,10 @@
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/CodesCollection.h>
-
-#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <iterator>
-#include <memory>
-#include <string>
 #include <tuple>
 
 namespace halvek {
@@ -35,8 +30,6 @@ class CodesCollectionTest : public CleanState {
         utils_->BuildCodesCollection(data);
         return utils_->GetCodesCollection();
     }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(CodesCollectionTest, HoldsTheServersTablesInTheirOrder) {
@@ -87,14 +80,14 @@ TEST_F(CodesCollectionTest, ReadsTheMenuFlagExactlyAndTheOthersByValue) {
 TEST_F(CodesCollectionTest, KeepsTheFirstOfTwoEqualKeysAndLogsTheSecond) {
     for (const bool debugMode : {false, true}) {
         const int beeps = desktop_.Beeps();
-        utils_->InitUtils(u"", u"Front Desk", u"", debugMode, u"");
+        Start(debugMode);
         const auto codes = Build(u"Firstæabcæ1æ1ææ|SecondæABCæ0æ0ææ|LastæZæ0æ0ææ");
         ASSERT_EQ(codes->Count(), 2);
         EXPECT_EQ(codes->Item(u"ABC")->CodeDescription(), u"First");
         EXPECT_EQ(codes->Item(2)->CodeDescription(), u"Last");
         EXPECT_EQ(desktop_.Beeps() - beeps, debugMode ? 1 : 0);
     }
-    const std::string text = ReadFile(machine_.ownFolder / "Error.Log");
+    const std::string text = Log();
     const std::string entry = "\tError adding to CodesCollection in HalvekUtils.Add:\r\n" +
                               ToUtf8(RuntimeError(Fault::DuplicateKey, u"ABC").Description()) +
                               "\r\n\r\nPossible duplicate CodeKey/CodeDescription:  ABC/Second\r\n";

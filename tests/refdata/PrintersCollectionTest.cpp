@@ -3,16 +3,11 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/PrintersCollection.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -56,7 +51,7 @@ class PrintersCollectionTest : public CleanState {
 
     /// The messages that were logged since the last call, each ended by "|".
     std::string NewMessages() {
-        const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
+        const std::string log = Log();
         std::string messages;
         for (std::size_t at = logged_; (at = log.find("\tnina\t", at)) != std::string::npos;) {
             at += 6;
@@ -65,8 +60,6 @@ class PrintersCollectionTest : public CleanState {
         logged_ = log == "(missing)" ? 0 : log.size();
         return messages;
     }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 
   private:
     std::size_t logged_ = 0;

@@ -2,29 +2,18 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Beep.h>
-#include <halvekutils/scripted/ScriptedPlatform.h>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
 
 namespace halvek {
 namespace {
 
 class ScriptedPlatformTest : public CleanState {
   protected:
-    void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
+    void SetUp() override { Start(); }
 
     MbMsgBoxResult Ask(ButtonsChoice buttons) {
         return utils_->ShowMsgBox(u"Delete the visit?", buttons, mbQuestion, u"");
     }
-
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {

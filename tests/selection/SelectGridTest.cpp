@@ -3,15 +3,10 @@
 
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/selection/SelectGrid.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
-#include <memory>
-#include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -44,7 +39,7 @@ std::u16string ListOf(const Texts& codes) {
 
 class SelectGridTest : public CleanState {
   protected:
-    void SetUp() override { Utils::Create()->InitUtils(u"", u"Front Desk", u"", false, u""); }
+    void SetUp() override { Start(); }
 
     SelectGrid& Open(TextIn allValues, TextIn selected = {}, TextIn typed = {}) {
         told_.clear();
@@ -240,8 +235,7 @@ TEST_F(SelectGridTest, LogsAFaultAndStaysUsable) {
     SelectGrid& grid = Open(kCodes);
     Type(u"x");
     EXPECT_FALSE(grid.ValidateBox());
-    EXPECT_TRUE(ReadFile(machine_.ownFolder / "Error.Log")
-                    .ends_with("ERR in frmSelectGrid.FindOneItem: Out of memory\r\n"));
+    EXPECT_TRUE(Log().ends_with("ERR in frmSelectGrid.FindOneItem: Out of memory\r\n"));
     Type(u"A");
     grid.Accept();
     EXPECT_EQ(grid.Result(), u"A");

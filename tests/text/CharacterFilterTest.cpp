@@ -4,22 +4,15 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/text/CharacterFilter.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
 #include <tuple>
 
 namespace halvek {
 namespace {
 
-class CharacterFilter : public CleanState {
-  protected:
-    void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
+struct CharacterFilter : CleanState {
+    void SetUp() override { Start(); }
 };
 
 TEST_F(CharacterFilter, TellsWantedFromUnwantedCodes) {

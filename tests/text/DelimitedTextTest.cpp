@@ -2,17 +2,12 @@
 #include "tests/CleanState.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/text/DelimitedText.h>
-
-#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <random>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -122,18 +117,17 @@ TEST(DelimitedText, TheTextMayBeAViewOfAnOutput) {
     }
 }
 
-class ExistsInCollTest : public CleanState {};
+using ExistsInCollTest = CleanState;
 
 TEST_F(ExistsInCollTest, FetchesUnderTheCollectionsOwnKeyRule) {
-    const auto utils = Utils::Create();
-    utils->BuildCodesCollection(u"");
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS"));
-    utils->BuildCodesCollection(u"InsuranceæINSæ1æ1ææ|a record without a key");
-    EXPECT_TRUE(ExistsInColl(utils->GetCodesCollection(), u"ins"));
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS "));
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u""));
-    utils->ClearCodesCollection();
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS"));
+    utils_->BuildCodesCollection(u"");
+    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS"));
+    utils_->BuildCodesCollection(u"InsuranceæINSæ1æ1ææ|a record without a key");
+    EXPECT_TRUE(ExistsInColl(utils_->GetCodesCollection(), u"ins"));
+    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS "));
+    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u""));
+    utils_->ClearCodesCollection();
+    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS"));
 }
 
 /// A collection of a host's own, which keys distinguish by letter case.
@@ -150,15 +144,14 @@ struct Visits {
 static_assert(Fetchable<Visits> && !Fetchable<const Visits> && !Fetchable<std::u16string>);
 
 TEST_F(ExistsInCollTest, FetchesFromACollectionOfTheHostsOwn) {
-    const auto utils = Utils::Create();
     const auto visits = std::make_shared<Visits>();
-    EXPECT_FALSE(utils->ExistsInColl(visits, u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(visits, u"v1"));
     EXPECT_EQ(visits->fetches, 0) << "an empty one is not asked";
     visits->numbers[u"v1"] = 1;
-    EXPECT_TRUE(utils->ExistsInColl(visits, u"v1"));
-    EXPECT_FALSE(utils->ExistsInColl(visits, u"V1"));
+    EXPECT_TRUE(utils_->ExistsInColl(visits, u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(visits, u"V1"));
     EXPECT_EQ(visits->fetches, 2);
-    EXPECT_FALSE(utils->ExistsInColl(std::shared_ptr<Visits>(), u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(std::shared_ptr<Visits>(), u"v1"));
 }
 
 }  // namespace
