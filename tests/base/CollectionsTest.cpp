@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Enumerator.h>
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/StringTable.h>
-#include <halvekutils/base/Utf8.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace halvek {
 namespace {
-
-using namespace std::string_view_literals;
 
 constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
@@ -76,24 +70,6 @@ TEST(StringTable, KeepsItsContentsWhenColumnsComeAndGo) {
         EXPECT_EQ(FaultOf([&, r = row, c = column] { table.At(r, c); }), 9) << row << ' ' << column;
     }
     EXPECT_EQ(FaultOf([&] { table.ResizeColumns(-1); }), 9);
-}
-
-struct Bag {
-    int Item(std::int32_t position) const { return items[static_cast<std::size_t>(position) - 1]; }
-    std::int32_t Count() const { return static_cast<std::int32_t>(items.size()); }
-    std::vector<int> items;
-};
-
-TEST(Enumerator, SeesAddedItemsAndKeepsTheCollectionAlive) {
-    auto bag = std::make_shared<Bag>(Bag{{1, 2}});
-    const std::weak_ptr<Bag> watch = bag;
-    std::vector<int> seen;
-    for (Enumerator<Bag> at(std::exchange(bag, nullptr)); at != std::default_sentinel; ++at) {
-        seen.push_back(*at);
-        if (*at < 100) watch.lock()->items.push_back(*at * 100);
-    }
-    EXPECT_EQ(seen, (std::vector{1, 2, 100, 200}));
-    EXPECT_TRUE(watch.expired());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
 
@@ -84,10 +83,6 @@ TEST(NumericText, IsNumericRefusesWhatIsNoNumberAsAWhole) {
     for (const auto& row : rows) {
         for (const auto& text : row) EXPECT_FALSE(IsNumeric(text)) << ToUtf8(text);
     }
-}
-
-TEST(NumericText, TrimmedTakesBlanksAtTheEndsAndKeepsTabs) {
-    EXPECT_EQ(Trimmed(u"  \ta b\t "), u"\ta b\t");
 }
 
 TEST(NumericText, RoundToInt32TakesHalvesToTheEvenInteger) {

@@ -2,8 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Utf8.h>
-
 #include <gmock/gmock.h>
 
 namespace halvek {

@@ -27,7 +27,6 @@
 #include <new>
 #include <ostream>
 #include <utility>
-#include <vector>
 
 namespace halvek {
 namespace {

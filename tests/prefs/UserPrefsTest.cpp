@@ -8,10 +8,8 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <string_view>
 #include <type_traits>
 
@@ -107,17 +105,6 @@ TEST(UserPrefs, ReadsNumbersByTheirBeginningAndGoesOnBehindABadOne) {
         EXPECT_EQ(FieldOf(prefs, 5), IntegerText(color)) << ToUtf8(text);
         EXPECT_EQ(prefs.AINumDaysToShow(), days) << ToUtf8(text);
         EXPECT_EQ(FieldOf(prefs, 6) + prefs.AIFilterData(), u"9filter") << ToUtf8(text);
-    }
-}
-
-TEST(UserPrefs, TakesTheFirstFieldFromBetweenItsBars) {
-    const std::u16string rows[][2] = {{u"|abc|def", u"abc"}, {u"x|abc", u"x|abc"},
-                                      {u"|abc", u"abc"},     {u"|", u""},
-                                      {u"||x", u""},         {u" |a|b", u" |a|b"}};
-    for (const auto& [field, value] : rows) {
-        const UserPrefs prefs = Populated(field + u"ß" + field);
-        EXPECT_EQ(prefs.AIFormData(), value) << ToUtf8(field);
-        EXPECT_EQ(prefs.DemoFormData(), field) << "of the first field only";
     }
 }
 

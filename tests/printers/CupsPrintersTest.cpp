@@ -61,6 +61,7 @@ class CupsPrintersTest : public CleanState {
 };
 
 TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
+    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
     const PrivateScheduler scheduler(2);
     EXPECT_EQ(Build(scheduler.Socket()),
               "1WIN/Queue1/file:/dev/null/\n2WIN/Queue2/ipp://192.0.2.1/2/\n");
@@ -68,17 +69,6 @@ TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
               "1WIN/Queue1/file:/dev/null/Local Raw Printer\n"
               "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n");
     EXPECT_EQ(Log(), "(missing)");
-}
-
-TEST_F(CupsPrintersTest, TakesAnyNumberOfQueuesAndLimitsOnlyThePrinterList) {
-    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
-    const PrivateScheduler scheduler(120);
-    Build(scheduler.Socket());
-    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 120);
-    EXPECT_EQ(Log(), "(missing)");
-    Build(scheduler.Socket(), u"printerlistold");
-    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 100);
-    EXPECT_TRUE(Log().ends_with("limiting to MaxNoToLoad 100\r\n"));
 }
 
 TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {

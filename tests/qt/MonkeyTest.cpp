@@ -49,11 +49,6 @@ struct MonkeyTest : FormTest {
             if (!window->inherits("QTipLabel")) names += window->objectName();
         return names;
     }
-    static QWidget& Window(const char* name) {
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == name) return *window;
-        qFatal("there is no %s", name);
-    }
 };
 
 TEST_F(MonkeyTest, MessageBoxes) {

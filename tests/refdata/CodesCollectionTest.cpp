@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
-#include "tests/FaultOf.h"
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>

@@ -5,7 +5,6 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/selection/SelectGrid.h>
 
-#include <algorithm>
 #include <functional>
 #include <tuple>
 #include <utility>
@@ -122,23 +121,6 @@ TEST_F(SelectGridTest, DrawsEachCellByItsRowAndEntry) {
     EXPECT_EQ(grid.AccessibleText(1, 1), u"*** ALL CODES ***, not selected");
 }
 
-TEST_F(SelectGridTest, TogglesTidyTheBoxAndSkipBlankCells) {
-    SelectGrid& grid = Open(kCodes, u"A");
-    Type(u" x ,,A, A,");
-    EXPECT_EQ(grid.HeaderText(), u"Codes  (A)");  // nothing is checked yet
-    grid.ClickCell(3, 4);
-    EXPECT_EQ(grid.CurrentCell(), (CellPlace{1, 4}));
-    grid.ClickCell(2, 6);   // blank
-    grid.ClickCell(2, 10);  // past the last entry
-    EXPECT_EQ(grid.CurrentEntry(), 4);
-    EXPECT_EQ(grid.Box().text, u"x,A,A,C");
-    EXPECT_EQ(grid.Box().caret, 7);
-    Click(2);
-    grid.ClickHeader();
-    Click(3);
-    EXPECT_EQ(grid.Result(), u"x,C");
-}
-
 TEST_F(SelectGridTest, ChecksTheTypedCodes) {
     const struct {
         const char16_t *typed, *ticked, *choice, *told;
@@ -171,15 +153,6 @@ TEST_F(SelectGridTest, ChecksTheTypedCodes) {
     Type(u",A,,B");
     EXPECT_TRUE(grid_->ValidateBox());
     EXPECT_EQ(grid_->Choice(), u"A,B");
-}
-
-TEST_F(SelectGridTest, ATypedCharacterIsCheckedLaterThanTheFirstFocus) {
-    SelectGrid& grid = Open(kCodes, u"A", u"x");
-    grid.FocusBox(Focus::Entered);
-    grid.FocusBox(Focus::Restored);
-    EXPECT_EQ(Told(), Texts());
-    grid.FocusBox(Focus::Entered);
-    EXPECT_EQ(Told().size(), 1u);
 }
 
 TEST_F(SelectGridTest, ShowsCaretAndMarksBeforeAMessageAndIgnoresChecksMeanwhile) {

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <random>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -117,18 +116,7 @@ TEST(DelimitedText, TheTextMayBeAViewOfAnOutput) {
     }
 }
 
-using ExistsInCollTest = CleanState;
-
-TEST_F(ExistsInCollTest, FetchesUnderTheCollectionsOwnKeyRule) {
-    utils_->BuildCodesCollection(u"");
-    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS"));
-    utils_->BuildCodesCollection(u"InsuranceæINSæ1æ1ææ|a record without a key");
-    EXPECT_TRUE(ExistsInColl(utils_->GetCodesCollection(), u"ins"));
-    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS "));
-    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u""));
-    utils_->ClearCodesCollection();
-    EXPECT_FALSE(ExistsInColl(utils_->GetCodesCollection(), u"INS"));
-}
+using ExistsInColl = CleanState;
 
 /// A collection of a host's own, which keys distinguish by letter case.
 struct Visits {
@@ -143,7 +131,7 @@ struct Visits {
 };
 static_assert(Fetchable<Visits> && !Fetchable<const Visits> && !Fetchable<std::u16string>);
 
-TEST_F(ExistsInCollTest, FetchesFromACollectionOfTheHostsOwn) {
+TEST_F(ExistsInColl, FetchesFromACollectionOfTheHostsOwn) {
     const auto visits = std::make_shared<Visits>();
     EXPECT_FALSE(utils_->ExistsInColl(visits, u"v1"));
     EXPECT_EQ(visits->fetches, 0) << "an empty one is not asked";
