@@ -40,6 +40,8 @@ TEST_F(OpenWindowsTest, AnIndexThatDoesNotExistGivesNothingAndChangesNothing) {
     }
     EXPECT_EQ(std::ranges::count(Log(), '\n'), 5);
     EXPECT_TRUE(Log().ends_with("\tOpenWindows: RemoveItem Subscript out of range\r\n"));
+    windows_->ClearAll();
+    EXPECT_EQ(Shown(windows_->GetAll()), u"");
 }
 
 TEST_F(OpenWindowsTest, HandsOutCopiesOfOneRegistryForEachUtils) {

@@ -64,6 +64,15 @@ TEST(UserPrefs, WritesEveryFieldOfTheSettingsText) {
     EXPECT_EQ(Populated(std::u16string(kWhole) + u"ßfield 31ß").GetSettingsString(), kWhole);
 }
 
+TEST(UserPrefs, EachColourHasItsFieldForReadingAndWriting) {
+    for (const auto& [field, get, set] : kColors) {
+        UserPrefs prefs = Populated(Only(field, u"65535"));
+        EXPECT_EQ((prefs.*get)(), 65535) << field;
+        (prefs.*set)(-1);
+        EXPECT_EQ(FieldOf(prefs, field), u"-1");
+    }
+}
+
 TEST(UserPrefs, AnUnsetColourTurnsIntoItsDefaultWhenItIsRead) {
     UserPrefs prefs = Populated(u"");
     std::u16string read;
