@@ -2,7 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <chrono>
 #include <functional>
 #include <initializer_list>
 
@@ -57,10 +56,6 @@ TEST_F(ServerDates, DatesWithSlashesBecomeDigitsAndComeBack) {
     ExpectResults(toDate, {u"03052024=03/05/2024", u"030529=03/05/2029", u"030530=03/05/1930",
                            u"0305=03/05/2024", u"022923=02/29/2023", u"13012024=", u"0305202=",
                            u"03052-=", u"3/5/2024=", u"nan=", u"="});
-    DateTime day = MakeDateTime(1900, 1, 1);
-    for (; day < MakeDateTime(2101, 1, 1); day += std::chrono::days(1)) {
-        ASSERT_EQ(toDate(toDigits(DateOnlyText(day))), DateOnlyText(day));
-    }
 }
 
 }  // namespace
