@@ -121,6 +121,15 @@ TEST_F(SelectGridTest, DrawsEachCellByItsRowAndEntry) {
     EXPECT_EQ(grid.AccessibleText(1, 1), u"*** ALL CODES ***, not selected");
 }
 
+TEST_F(SelectGridTest, TakingACodeOutLeavesAllOthersAsTheyWere) {
+    Open(u"H:ABCDXEFGH\tx\t0:ABCDYEFGH\tx\t0:", u"ABCDXEFGH,ABCDYEFGH");
+    Click(3);
+    EXPECT_EQ(grid_->Box().text, u"ABCDXEFGH");
+    Open(u"H:A, B\tx\t0:B\tx\t0:A\tx\t0:");  // a code with a comma in it
+    for (const int entry : {2, 3, 4, 4}) Click(entry);
+    EXPECT_EQ(grid_->Box().text, u"B,B");
+}
+
 TEST_F(SelectGridTest, ChecksTheTypedCodes) {
     const struct {
         const char16_t *typed, *ticked, *choice, *told;
