@@ -197,6 +197,14 @@ TEST_F(ErrorLog, LosesALineRatherThanAnArchiveThatTheCleanUpLeft) {
     EXPECT_EQ(ReadFile(folder_ / "a.log"), Line("next").replace(16, 1, "4"));
 }
 
+TEST_F(ErrorLog, WritesIntoALogThatWasReadOnly) {
+    StartWith("a.log", "old\r\n");
+    fs::permissions(folder_ / "a.log", fs::perms::owner_read | fs::perms::group_read);
+    utils_->LogError(u"new");
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), "old\r\n" + Line("new"));
+    EXPECT_EQ(fs::status(folder_ / "a.log").permissions(), fs::perms(0640));
+}
+
 TEST_F(ErrorLog, AFailureLosesOneLineAndOnlyDebugModeTells) {
     const fs::path file = folder_ / "logs/a.log";
     Start(file);
