@@ -3,7 +3,6 @@
 #include "tests/TestMachine.h"
 
 #include <halvekutils/base/NumericText.h>
-#include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/text/ServerDates.h>
 
 #include <chrono>

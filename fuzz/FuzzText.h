@@ -6,6 +6,7 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -49,6 +50,11 @@ inline std::u16string RestAsText(FuzzedDataProvider& input, std::u16string_view 
 inline std::u16string Folded(std::u16string text) {
     for (char16_t& character : text) character = FoldCase(character);
     return text;
+}
+
+inline std::u16string Trimmed(const std::u16string& text) {
+    const std::size_t start = std::min(text.find_first_not_of(u' '), text.size());
+    return text.substr(start, text.find_last_not_of(u' ') + 1 - start);
 }
 
 /// The pieces between separators: one more than there are separators.

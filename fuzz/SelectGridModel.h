@@ -3,16 +3,9 @@
 
 #include "fuzz/FuzzText.h"
 
-#include <halvekutils/base/Characters.h>
-
 #include <algorithm>
 
 namespace halvek {
-
-inline std::u16string Trimmed(const std::u16string& text) {
-    const std::size_t start = std::min(text.find_first_not_of(u' '), text.size());
-    return text.substr(start, text.find_last_not_of(u' ') + 1 - start);
-}
 
 /// The rules of a selection dialog as one tells them: every look-up a scan, every text built anew.
 struct SelectGridModel {

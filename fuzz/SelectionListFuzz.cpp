@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
 
-#include <halvekutils/base/Characters.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
@@ -16,11 +15,6 @@ struct Entry {
     std::u16string description;
     bool deleted = false;
 };
-
-std::u16string Trimmed(const std::u16string& text) {
-    const std::size_t start = std::min(text.find_first_not_of(u' '), text.size());
-    return text.substr(start, text.find_last_not_of(u' ') + 1 - start);
-}
 
 /// The entries of a list, each cut from its text by itself.
 std::vector<Entry> EntriesOf(const std::u16string& text, bool doNotIncludeDeleted) {

@@ -13,7 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <optional>
+#include <string>
 
 namespace halvek {
 
@@ -30,9 +32,16 @@ class CleanState : public ::testing::Test {
         Reset();
     }
 
+    /// Starts a session whose log is the component's own.
+    void Start(bool debugMode = false) {
+        utils_->InitUtils(u"", u"Front Desk", u"", debugMode, u"");
+    }
+    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
+
     TemporaryFolder folder_;
     TestMachine machine_{folder_ / "own/state"};
     ScriptedPlatform desktop_;
+    std::shared_ptr<Utils> utils_ = Utils::Create();
 
   private:
     static void Reset() {

@@ -170,11 +170,9 @@ bool ReadMonthName(Tokens& in, unsigned& month) {
     return false;
 }
 
-bool ReadDay(Tokens& in, unsigned& day) {
-    return in.TakeNumber(1, 2, day);
-}
-bool ReadMonth(Tokens& in, unsigned& month) {
-    return in.TakeNumber(1, 2, month);
+/// The number of a month or a day.
+bool ReadShort(Tokens& in, unsigned& number) {
+    return in.TakeNumber(1, 2, number);
 }
 
 /// The mark between the parts of a date of digits: the one behind its first number.
@@ -184,25 +182,25 @@ char16_t DateMark(const Tokens& in) {
 
 bool ReadMonthDayYear(Tokens& in, DateParts& parts) {
     const char16_t mark = DateMark(in);
-    return ReadMonth(in, parts.month) && in.Take(mark) && ReadDay(in, parts.day) && in.Take(mark) &&
-           ReadYear(in, parts.year);
+    return ReadShort(in, parts.month) && in.Take(mark) && ReadShort(in, parts.day) &&
+           in.Take(mark) && ReadYear(in, parts.year);
 }
 
 /// With a "T" behind the date a time has to follow.
 bool ReadYearMonthDay(Tokens& in, DateParts& parts) {
     const char16_t mark = DateMark(in);
-    return in.TakeNumber(4, 4, parts.year) && in.Take(mark) && ReadMonth(in, parts.month) &&
-           in.Take(mark) && ReadDay(in, parts.day) && !(in.TakeWord(u"t") && in.AtEnd());
+    return in.TakeNumber(4, 4, parts.year) && in.Take(mark) && ReadShort(in, parts.month) &&
+           in.Take(mark) && ReadShort(in, parts.day) && !(in.TakeWord(u"t") && in.AtEnd());
 }
 
 bool ReadNameDayYear(Tokens& in, DateParts& parts) {
-    if (!ReadMonthName(in, parts.month) || !ReadDay(in, parts.day)) return false;
+    if (!ReadMonthName(in, parts.month) || !ReadShort(in, parts.day)) return false;
     in.Take(u',');
     return ReadYear(in, parts.year);
 }
 
 bool ReadDayNameYear(Tokens& in, DateParts& parts) {
-    if (!ReadDay(in, parts.day)) return false;
+    if (!ReadShort(in, parts.day)) return false;
     for (const char16_t mark : {u'-', u'/'}) {
         if (!in.Take(mark)) continue;
         return ReadMonthName(in, parts.month) && in.Take(mark) && ReadYear(in, parts.year);

@@ -4,6 +4,7 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/TextIn.h>
 
+#include <array>
 #include <cstddef>
 #include <iterator>
 
@@ -64,5 +65,17 @@ class Pieces {
     TextIn text_;
     char16_t separator_;
 };
+
+/// Fills an array with the first pieces of a text. Returns how many pieces there are, or one more
+/// than fit.
+template <std::size_t kFields>
+std::size_t CutInto(std::array<TextIn, kFields>& fields, TextIn text, char16_t separator) {
+    std::size_t count = 0;
+    for (const TextIn piece : Pieces(text, separator)) {
+        if (count == kFields) return kFields + 1;
+        fields[count++] = piece;
+    }
+    return count;
+}
 
 }  // namespace halvek

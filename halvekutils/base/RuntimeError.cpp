@@ -59,10 +59,8 @@ RuntimeError AsRuntimeError(const std::exception& caught) {
     if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&caught)) {
         return SystemFault(file->code(), file->path1());
     }
-    if (dynamic_cast<const std::bad_alloc*>(&caught) != nullptr) {
-        return RuntimeError(Fault::OutOfMemory);
-    }
-    if (dynamic_cast<const std::length_error*>(&caught) != nullptr) {
+    if (dynamic_cast<const std::bad_alloc*>(&caught) != nullptr ||
+        dynamic_cast<const std::length_error*>(&caught) != nullptr) {
         return RuntimeError(Fault::OutOfMemory);
     }
     return RuntimeError(Fault::InvalidArgument, FromUtf8(caught.what()));

@@ -51,23 +51,16 @@ std::u16string Folded(std::u16string text) {
 
 constexpr std::int32_t kNotFound = -1;
 
-/// The position of the first entry that satisfies `matches`.
-template <class Matches>
-std::int32_t FirstEntry(const ComboBox& box, const Matches& matches) {
-    const std::int32_t count = box.ListCount();
-    for (std::int32_t index = 0; index < count; ++index) {
-        if (matches(box.List(index))) return index;
-    }
-    return kNotFound;
-}
-
 std::int32_t IndexOf(const ComboBox& box, TextIn text, bool partialMatch, bool matchCase) {
     const std::u16string sought = matchCase ? text.Str() : Folded(text.Str());
-    return FirstEntry(box, [&](std::u16string entry) {
+    const std::int32_t count = box.ListCount();
+    for (std::int32_t index = 0; index < count; ++index) {
+        std::u16string entry = box.List(index);
         if (!matchCase) entry = Folded(std::move(entry));
-        if (!partialMatch) return entry == sought;
-        return !entry.empty() && entry.find(sought) != std::u16string::npos;
-    });
+        const bool isPart = !entry.empty() && entry.find(sought) != std::u16string::npos;
+        if (partialMatch ? isPart : entry == sought) return index;
+    }
+    return kNotFound;
 }
 
 }  // namespace

@@ -75,8 +75,9 @@ std::u16string Utils::RemoveUnprintableChars(TextIn Str) const {
 
 std::u16string Utils::ConvertNumberToDate(TextIn strDate, bool bConvert) {
     return Guarded(
-        OnFault::Quiet, u"Error in Utils.ConvertNumberToDate ", *this, std::u16string(),
-        [&] { return halvek::ConvertNumberToDate(strDate, bConvert, *TheSession().machine); });
+        OnFault::Quiet, u"Error in Utils.ConvertNumberToDate ", *this, std::u16string(), [&] {
+            return bConvert ? DateOfDigits(strDate, *TheSession().machine) : DigitsOfDate(strDate);
+        });
 }
 
 std::u16string Utils::ConvertHDate(TextIn HDate) {

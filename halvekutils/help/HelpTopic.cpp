@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/help/HelpTopic.h>
 
 #include <algorithm>
@@ -14,11 +15,7 @@ namespace {
 std::u16string FromRoot(std::u16string path) {
     std::ranges::replace(path, u'\\', u'/');
     std::vector<std::u16string_view> components;
-    const std::u16string_view all = path;
-    for (std::size_t at = 0; at <= all.size();) {
-        const std::size_t end = std::min(all.find(u'/', at), all.size());
-        const std::u16string_view component = all.substr(at, end - at);
-        at = end + 1;
+    for (const TextIn component : Pieces(path, u'/')) {
         if (component == u"..") {
             if (!components.empty()) components.pop_back();
         } else if (!component.empty() && component != u".") {

@@ -155,8 +155,7 @@ void LzxDecoder::StartBlock(Bits& in) {
     const std::uint32_t kind = in.Read(3);
     if (kind == 0 || kind > static_cast<std::uint32_t>(Block::Stored)) Fail();
     block_ = static_cast<Block>(kind);
-    blockLength_ = in.Read(24);
-    blockLeft_ = blockLength_;
+    blockLeft_ = in.Read(24);
     if (block_ == Block::Stored) {
         in.ToBytes();
         for (std::uint32_t& offset : recent_) offset = in.Number();

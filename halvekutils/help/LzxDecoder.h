@@ -72,7 +72,6 @@ class LzxDecoder {
     std::uint32_t translatedSize_ = 0;  ///< of the program that the calls are in; mostly 0, none
     std::array<std::uint32_t, 3> recent_ = {1, 1, 1};
     Block block_ = Block::None;
-    std::uint32_t blockLength_ = 0;
     std::uint32_t blockLeft_ = 0;
     Code<kMainSymbols> main_;
     Code<kLengthSymbols> length_;

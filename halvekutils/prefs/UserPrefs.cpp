@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/prefs/UserPrefs.h>
-#include <halvekutils/text/DelimitedText.h>
 
 #include <array>
 #include <cstddef>
@@ -30,6 +30,7 @@ using SwitchMember = bool UserPrefs::*;
 struct Text {
     TextMember member;
     std::u16string_view reset = {};
+    bool mayBeBarred = false;  ///< may arrive between two bars, and is written without them
 };
 
 void Reset(UserPrefs& prefs, const Text& row) {
@@ -40,24 +41,11 @@ void Reset(UserPrefs& prefs, const Text& row) {
     }
 }
 void Read(UserPrefs& prefs, const Text& row, TextIn field) {
+    if (row.mayBeBarred && TakeFront(field, kPieceMark))
+        field = field.substr(0, field.find(kPieceMark));
     prefs.*row.member = field;
 }
 void Write(const UserPrefs& prefs, const Text& row, std::u16string& out) {
-    out += prefs.*row.member;
-}
-
-/// A text that may arrive between two bars, and is written without them.
-struct BarredText {
-    TextMember member;
-};
-
-void Reset(UserPrefs& prefs, const BarredText& row) {
-    (prefs.*row.member).clear();
-}
-void Read(UserPrefs& prefs, const BarredText& row, TextIn field) {
-    prefs.*row.member = field.starts_with(kPieceMark) ? SplitStr(field, u"|", 2) : field.Str();
-}
-void Write(const UserPrefs& prefs, const BarredText& row, std::u16string& out) {
     out += prefs.*row.member;
 }
 
@@ -113,7 +101,7 @@ void Write(const UserPrefs& prefs, const Level& row, std::u16string& out) {
 /// The fields of the settings text, in its order.
 struct UserPrefs::Table {
     static constexpr std::tuple kRows{
-        BarredText{&UserPrefs::aiFormData_},
+        Text{&UserPrefs::aiFormData_, {}, true},
         Text{&UserPrefs::demoFormData_},
         Text{&UserPrefs::scheduleFormData_},
         Text{&UserPrefs::postingFormData_},
@@ -160,11 +148,7 @@ bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
     next.showAdvancedSettings_ = showAdvancedSettings_;
     Table::ForEachRow([&](const auto& row) { Reset(next, row); });
     std::array<TextIn, std::tuple_size_v<decltype(Table::kRows)>> fields;
-    std::size_t count = 0;
-    for (const TextIn field : Pieces(StrAllSettings, kFieldSeparator)) {
-        if (count == fields.size()) break;
-        fields[count++] = field;
-    }
+    const std::size_t count = CutInto(fields, StrAllSettings, kFieldSeparator);
     std::size_t at = 0;
     Table::ForEachRow([&](const auto& row) {
         if (at < count) Read(next, row, fields[at++]);

@@ -26,21 +26,6 @@ enum FieldNumber : std::size_t {
     kFieldCount,
 };
 
-struct Record {
-    std::array<TextIn, kFieldCount> fields;
-    std::size_t count = 0;
-};
-
-/// Cuts a record into its fields; those behind the last known one are ignored.
-Record Cut(TextIn data) {
-    Record record;
-    for (const TextIn field : Pieces(data, kFieldSeparator)) {
-        if (record.count == kFieldCount) break;
-        record.fields[record.count++] = field;
-    }
-    return record;
-}
-
 bool IsOne(TextIn field) {
     if (field.size() == 1) return field.front() == u'1';  // as servers send it
     return Val(field) == 1.0;
@@ -52,9 +37,9 @@ CodeDefinition::CodeDefinition() = default;
 CodeDefinition::~CodeDefinition() = default;
 
 void CodeDefinition::Init(TextIn codeData) {
-    const Record record = Cut(codeData);
-    if (record.count < kLeastFields) return;
-    const auto& fields = record.fields;
+    std::array<TextIn, kFieldCount> fields;
+    const std::size_t count = CutInto(fields, codeData, kFieldSeparator);
+    if (count < kLeastFields) return;
     const auto fieldOf = [&](const TextIn& text) {
         return Field{static_cast<std::size_t>(text.data() - codeData.data()), text.size()};
     };
@@ -66,9 +51,9 @@ void CodeDefinition::Init(TextIn codeData) {
     reportName_ = fieldOf(fields[kReportName]);
     sortByList_ = fieldOf(fields[kSortBy]);
     // The second half stands right behind the first, parted as a list of two is.
-    if (record.count > kSortBySecond) sortByList_.length += 1 + fields[kSortBySecond].size();
-    if (record.count > kEntitySpecific) isEntitySpecific_ = IsOne(fields[kEntitySpecific]);
-    if (record.count > kSystemCode) isSystemCode_ = IsOne(fields[kSystemCode]);
+    if (count > kSortBySecond) sortByList_.length += 1 + fields[kSortBySecond].size();
+    if (count > kEntitySpecific) isEntitySpecific_ = IsOne(fields[kEntitySpecific]);
+    if (count > kSystemCode) isSystemCode_ = IsOne(fields[kSystemCode]);
 }
 
 }  // namespace halvek

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <optional>
 #include <utility>
 
 namespace halvek {
@@ -26,18 +25,6 @@ constexpr std::size_t kMaxInstalled = 100;
 enum Field : std::size_t { kIdentifier, kIgnored, kDescription, kPort, kFieldCount };
 
 using Fields = std::array<TextIn, kFieldCount>;
-
-/// The fields of a serial entry; nothing when it has more or less than four.
-std::optional<Fields> Cut(TextIn entry) {
-    Fields fields;
-    std::size_t count = 0;
-    for (const TextIn field : Pieces(entry, kFieldSeparator)) {
-        if (count == kFieldCount) return std::nullopt;
-        fields[count++] = field;
-    }
-    if (count < kFieldCount) return std::nullopt;
-    return fields;
-}
 
 PrinterFields SerialPrinter(const Fields& fields) {
     PrinterFields printer;
@@ -83,8 +70,9 @@ void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList) {
 }
 
 void PrinterListBuilder::AddSerialPrinter(TextIn entry, std::int32_t position) {
-    if (const auto fields = Cut(entry)) {
-        AddNext(SerialPrinter(*fields));
+    Fields fields;
+    if (CutInto(fields, entry, kFieldSeparator) == kFieldCount) {
+        AddNext(SerialPrinter(fields));
         return;
     }
     Beep();

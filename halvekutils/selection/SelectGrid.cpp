@@ -61,15 +61,14 @@ std::u16string SelectGrid::HeaderText() const {
 }
 
 SelectCell SelectGrid::Cell(std::int32_t row, std::int32_t column) const {
-    return Guarded(
-        OnFault::Quiet, u"ERR in frmSelectGrid_grdSelection.GetStyleRowCol: ",
-        [this](TextIn line) { session_.LogError(line); }, SelectCell(),
-        [&] {
-            const bool isHeader = row == 0 && column >= 1 && column <= ColumnCount();
-            if (isHeader) return HeaderCell(HeaderText());
-            const CellPlace place{row, column};
-            return EntryCell(list_, place, IsTicked(EntryAt(list_, place)));
-        });
+    const auto cell = [&] {
+        const bool isHeader = row == 0 && column >= 1 && column <= ColumnCount();
+        if (isHeader) return HeaderCell(HeaderText());
+        const CellPlace place{row, column};
+        return EntryCell(list_, place, IsTicked(EntryAt(list_, place)));
+    };
+    return Guarded(OnFault::Quiet, u"ERR in frmSelectGrid_grdSelection.GetStyleRowCol: ", session_,
+                   SelectCell(), cell);
 }
 
 std::u16string SelectGrid::AccessibleText(std::int32_t row, std::int32_t column) const {
@@ -280,8 +279,7 @@ void SelectGrid::Tell(const SelectionMessage& message) {
 template <class Value, class Body>
 Value SelectGrid::Logged(std::u16string_view routine, Value neutral, const Body& body) const {
     const auto prefix = [&] { return u"ERR in frmSelectGrid." + std::u16string(routine) + u": "; };
-    return Guarded(
-        OnFault::Quiet, prefix, [this](TextIn line) { session_.LogError(line); }, neutral, body);
+    return Guarded(OnFault::Quiet, prefix, session_, neutral, body);
 }
 
 }  // namespace halvek

@@ -104,10 +104,6 @@ std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
     return date;
 }
 
-std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine) {
-    return bConvert ? DateOfDigits(strDate, machine) : DigitsOfDate(strDate);
-}
-
 std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine) {
     using Limits = std::numeric_limits<std::int32_t>;
     const DateTime now = machine.Now();

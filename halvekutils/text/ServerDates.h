@@ -30,9 +30,6 @@ std::u16string DigitsOfDate(TextIn strDate);
 /// digits. No year is the current one; one of two digits is 1930 to 2029. Nothing else is checked.
 std::u16string DateOfDigits(TextIn strDate, Machine& machine);
 
-/// DateOfDigits when `bConvert` is true, else DigitsOfDate.
-std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machine);
-
 /// How many seconds the server's clock is ahead of the machine's; nothing for a text that is no
 /// date or time. Throws Overflow beyond 32 bits.
 std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine);

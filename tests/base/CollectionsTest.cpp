@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Enumerator.h>
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/StringTable.h>
-#include <halvekutils/base/Utf8.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace halvek {
 namespace {
-
-using namespace std::string_view_literals;
 
 constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
@@ -29,31 +23,6 @@ using Numbers = KeyedCollection<int>;
 
 std::shared_ptr<int> Number(int value) {
     return std::make_shared<int>(value);
-}
-
-TEST(KeyedCollection, RefusesAKeyThatDiffersInLetterCaseOnly) {
-    const struct {
-        bool same;
-        std::u16string_view first, second;
-    } rows[] = {
-        {true, u"Insurance Az", u"iNSURANCE aZ"},
-        {true, u"\u00C0\u00D6\u00D8\u00DE", u"\u00E0\u00F6\u00F8\u00FE"},
-        {true, u"\u0178\u0160\u0152\u017D", u"\u00FF\u0161\u0153\u017E"},
-        {false, u"", u"\0"sv},
-        {false, u"a\0b"sv, u"a\0c"sv},
-        {false, u"@[", u"`{"},
-        {false, u"\u00D7", u"\u00F7"},  // the signs of multiplication and division
-        {false, u"K", u"\u212A"},       // kelvin
-    };
-    for (const auto& [same, first, second] : rows) {
-        Numbers numbers;
-        numbers.Add(Number(1), first);
-        EXPECT_EQ(FaultOf([&, &second = second] { numbers.Add(Number(2), second); }),
-                  same ? 457 : 0)
-            << ToUtf8(second);
-        EXPECT_EQ(*numbers.Item(first), 1);
-        EXPECT_EQ(*numbers.Item(second), same ? 1 : 2);
-    }
 }
 
 TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
@@ -67,23 +36,6 @@ TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
     }
     numbers.Add(Number(3), u"");
     EXPECT_EQ(numbers.Item(u""), numbers.Item(3));
-}
-
-TEST(KeyedCollection, KeepsOrderAndKeysThroughRemovals) {
-    const auto key = [](int value) { return FromUtf8(std::to_string(value)); };
-    Numbers numbers;
-    for (int i = 1; i <= 8; ++i)
-        i % 3 == 0 ? numbers.Add(Number(i)) : numbers.Add(Number(i), key(i));
-    numbers.Remove(key(1));
-    numbers.Remove(2);
-    numbers.Remove(key(8));
-    ASSERT_EQ(numbers.Count(), 5);
-    for (std::int32_t position = 1; const int value : {2, 4, 5, 6, 7}) {
-        EXPECT_EQ(*numbers.Item(position++), value);
-        EXPECT_EQ(value % 3 == 0 ? value : *numbers.Item(key(value)), value);
-    }
-    EXPECT_EQ(numbers.Find(key(1)), nullptr);
-    numbers.Add(Number(1), key(1));
 }
 
 TEST(StringArray, KeepsItsBoundsAndFaultsOutsideThem) {
@@ -118,24 +70,6 @@ TEST(StringTable, KeepsItsContentsWhenColumnsComeAndGo) {
         EXPECT_EQ(FaultOf([&, r = row, c = column] { table.At(r, c); }), 9) << row << ' ' << column;
     }
     EXPECT_EQ(FaultOf([&] { table.ResizeColumns(-1); }), 9);
-}
-
-struct Bag {
-    int Item(std::int32_t position) const { return items[static_cast<std::size_t>(position) - 1]; }
-    std::int32_t Count() const { return static_cast<std::int32_t>(items.size()); }
-    std::vector<int> items;
-};
-
-TEST(Enumerator, SeesAddedItemsAndKeepsTheCollectionAlive) {
-    auto bag = std::make_shared<Bag>(Bag{{1, 2}});
-    const std::weak_ptr<Bag> watch = bag;
-    std::vector<int> seen;
-    for (Enumerator<Bag> at(std::exchange(bag, nullptr)); at != std::default_sentinel; ++at) {
-        seen.push_back(*at);
-        if (*at < 100) watch.lock()->items.push_back(*at * 100);
-    }
-    EXPECT_EQ(seen, (std::vector{1, 2, 100, 200}));
-    EXPECT_TRUE(watch.expired());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
 
@@ -10,7 +9,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -87,10 +85,6 @@ TEST(NumericText, IsNumericRefusesWhatIsNoNumberAsAWhole) {
     }
 }
 
-TEST(NumericText, TrimmedTakesBlanksAtTheEndsAndKeepsTabs) {
-    EXPECT_EQ(Trimmed(u"  \ta b\t "), u"\ta b\t");
-}
-
 TEST(NumericText, RoundToInt32TakesHalvesToTheEvenInteger) {
     const Reading rows[] = {
         {0, {u"0.5", u"-0.5", u"0.49", u"x"}},
@@ -134,18 +128,6 @@ TEST(NumericText, NumberTextGivesUpTo15Digits) {
     };
     for (const auto& [text, numbers] : rows) {
         for (const double number : numbers) EXPECT_EQ(NumberText(number), text);
-    }
-}
-
-TEST(NumericText, ToNumberReadsBackWhatNumberTextWrites) {
-    std::mt19937_64 random(20040307);
-    std::uniform_real_distribution<double> mantissa(-10, 10);
-    std::uniform_int_distribution<int> exponent(-320, 306);
-    for (int i = 0; i < 20'000; ++i) {
-        const double number = mantissa(random) * std::pow(10.0, exponent(random));
-        const std::u16string text = NumberText(number);
-        ASSERT_TRUE(IsNumeric(text)) << ToUtf8(text);
-        EXPECT_EQ(NumberText(*ToNumber(text)), text);
     }
 }
 

@@ -2,10 +2,7 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <string>
 #include <tuple>
 #include <vector>
 
@@ -21,10 +18,7 @@ struct FakeFont : ControlFont {
     std::vector<float> asked;
 };
 
-class ControlHelpersTest : public CleanState {
-  protected:
-    std::shared_ptr<Utils> utils_ = Utils::Create();
-};
+using ControlHelpersTest = CleanState;
 
 TEST_F(ControlHelpersTest, AFontReachesItsSizeOrEndsWhereItBegan) {
     const auto exact = [](float asked) { return asked; };
@@ -46,7 +40,7 @@ TEST_F(ControlHelpersTest, AFontReachesItsSizeOrEndsWhereItBegan) {
 }
 
 TEST_F(ControlHelpersTest, AMissingControlIsLogged) {
-    utils_->InitUtils(u"", u"", u"", false, u"");
+    Start();
     desktop_.OnMessageBox([](MessageBox& box) { EXPECT_GT(box.Prompt().find(u"91"), 9u); });
     utils_->HighlightHeading(nullptr);
     EXPECT_FALSE(utils_->FillCombo(u"A", nullptr));
@@ -54,11 +48,10 @@ TEST_F(ControlHelpersTest, AMissingControlIsLogged) {
         EXPECT_EQ(utils_->FindInCombo(nullptr, u"A", false, true, answersLeft == 0), -1);
         EXPECT_EQ(desktop_.AnswersLeft(), answersLeft);
     }
-    std::string log = ReadFile(machine_.ownFolder / "Error.Log");
     for (const std::string line : {"Error in Utils.HighlightHeading Object not set: heading",
                                    "Error in Utils.FillCombo Object not set: combo box",
                                    " | Function: FindInCombo | Error: #91"}) {
-        EXPECT_NE(log.find('\t' + line + "\r\n"), std::string::npos) << line;
+        EXPECT_NE(Log().find('\t' + line + "\r\n"), std::string::npos) << line;
     }
 }
 

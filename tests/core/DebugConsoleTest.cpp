@@ -7,12 +7,8 @@ namespace {
 constexpr char kStamp[] = "03/05/24 09:07:03 AM\tnina\t";
 
 struct DebugConsoleTest : CleanState {
-    void SetUp() override { SetDebugMode(true); }
-    void SetDebugMode(bool on) { utils_->InitUtils(u"", u"Front Desk", u"", on, u""); }
+    void SetUp() override { Start(true); }
     std::u16string Text() const { return desktop_.Console()->Text(); }
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(DebugConsoleTest, LinesAreDroppedOutsideDebugModeAndWithoutModelessWindows) {
@@ -29,7 +25,7 @@ TEST_F(DebugConsoleTest, LinesAreDroppedOutsideDebugModeAndWithoutModelessWindow
     desktop_.Console()->StopLogging(true);
     utils_->ShowInDebug(u"logging stopped");
     desktop_.Console()->StopLogging(false);
-    SetDebugMode(false);
+    Start(false);
     utils_->ShowInDebug(u"no debug mode");
     utils_->ClearDebug();
     EXPECT_EQ(Text(), u"1\r\n<<<<<LOG STOPPED>>>>>\r\n<<<<<LOG STARTED>>>>>\r\n");

@@ -2,23 +2,12 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
-
-#include <gtest/gtest.h>
-
 #include <gmock/gmock.h>
-
-#include <memory>
-#include <string>
 
 namespace halvek {
 namespace {
 
-class UtilsTest : public CleanState {
-  protected:
-    std::shared_ptr<Utils> utils_ = Utils::Create();
-};
+using UtilsTest = CleanState;
 
 TEST_F(UtilsTest, EveryObjectReadsTheOneSession) {
     utils_->InitUtils(u"a.log", u"Front Desk ", u"clinic ", true, u"2.4.1 ");
@@ -56,7 +45,7 @@ TEST_F(UtilsTest, ColorArrayIsCopiedBothWaysWithItsBounds) {
 
 TEST_F(UtilsTest, OnlyTheCurrentUtilsOutlivesItsHost) {
     Utils::Create()->LogError(u"works before InitUtils");
-    EXPECT_NE(ReadFile(machine_.ownFolder / "Error.Log"), "(missing)");
+    EXPECT_NE(Log(), "(missing)");
     EXPECT_EQ(Utils::CurrentUtils(), nullptr);
     const std::weak_ptr<Utils> first = utils_;
     utils_->InitUtils(u"", u"First", u"", false, u"");
@@ -90,37 +79,11 @@ TEST_F(UtilsTest, ArgumentsMayBeViewsOfTheStateThatTheyReplace) {
     EXPECT_EQ(utils_->ColorArray()[1], type);
 }
 
-TEST_F(UtilsTest, TextMembersReachTheTextFunctions) {
-    StringArray array;
-    std::u16string left, right;
-    EXPECT_EQ(utils_->SplitStr(u"A^B", u"^", 2), u"B");
-    EXPECT_EQ(utils_->CountInstances(u"a,b,,c", u","), 3);
-    EXPECT_TRUE(utils_->StrToArr(u"A|B", u"|", array));
-    EXPECT_EQ(array[2], u"B");
-    EXPECT_TRUE(utils_->ChunkStrToArr(u"AB|CD|EF|", array, 4, u"|"));
-    EXPECT_EQ(array[2], u"EF|");
-    utils_->SplitLeftRight(u"key=value", u"=", left, right);
-    EXPECT_EQ(left + right, u"keyvalue");
-    EXPECT_FALSE(utils_->ExistsInColl(nullptr, u"key"));
-}
-
-TEST_F(UtilsTest, BinsAreFoundAndRemovedByTheExactKeyOnly) {
-    utils_->AddBin(u"Visit", u"1", u"T");
-    utils_->AddBin(u"", u"under the empty key", u"");
-    for (const TextIn key : {u"vISIT", u"Visit ", u"Visi"}) {
-        utils_->RemoveBin(key);
-        EXPECT_FALSE(utils_->BinExists(key)) << ToUtf8(key);
-    }
-    EXPECT_EQ(utils_->GetBinData(u"Visit") + utils_->GetBinData(u""), u"1under the empty key");
-    EXPECT_FALSE(Utils::Create()->BinExists(u"Visit"));
-}
-
 TEST_F(UtilsTest, ABinWhoseKeyDiffersInLetterCaseIsRefusedAndLogged) {
     utils_->AddBin(u"Visit", u"1", u"T");
     utils_->AddBin(u"vISIT", u"2", u"U");
     EXPECT_EQ(desktop_.Beeps(), 1);
-    EXPECT_THAT(ReadFile(machine_.ownFolder / "Error.Log"),
-                testing::HasSubstr("\tError in Utils.AddBin "));
+    EXPECT_THAT(Log(), testing::HasSubstr("\tError in Utils.AddBin "));
     EXPECT_EQ(utils_->GetBinData(u"Visit"), u"1");
     utils_->RemoveBin(u"Visit");
     utils_->AddBin(u"vISIT", u"2", u"U");

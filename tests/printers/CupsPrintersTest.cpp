@@ -3,11 +3,8 @@
 #include "tests/printers/PrivateScheduler.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/refdata/PrintersCollection.h>
-
-#include <gtest/gtest.h>
 
 #include <cups/cups.h>
 #include <sys/socket.h>
@@ -18,9 +15,7 @@
 #include <cstddef>
 #include <cstring>
 #include <iterator>
-#include <memory>
 #include <stop_token>
-#include <string>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -52,8 +47,6 @@ class CupsPrintersTest : public CleanState {
         return shown;
     }
 
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
     /// True when the last two lines of the log tell of a failure and of an empty printer list.
     bool LogEndsWithFallBack() const {
         const std::string log = Log();
@@ -65,10 +58,10 @@ class CupsPrintersTest : public CleanState {
     }
 
     CupsDesktop cups_;
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
+    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
     const PrivateScheduler scheduler(2);
     EXPECT_EQ(Build(scheduler.Socket()),
               "1WIN/Queue1/file:/dev/null/\n2WIN/Queue2/ipp://192.0.2.1/2/\n");
@@ -76,17 +69,6 @@ TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
               "1WIN/Queue1/file:/dev/null/Local Raw Printer\n"
               "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n");
     EXPECT_EQ(Log(), "(missing)");
-}
-
-TEST_F(CupsPrintersTest, TakesAnyNumberOfQueuesAndLimitsOnlyThePrinterList) {
-    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
-    const PrivateScheduler scheduler(120);
-    Build(scheduler.Socket());
-    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 120);
-    EXPECT_EQ(Log(), "(missing)");
-    Build(scheduler.Socket(), u"printerlistold");
-    EXPECT_EQ(utils_->GetPrintersCollection()->Count(), 100);
-    EXPECT_TRUE(Log().ends_with("limiting to MaxNoToLoad 100\r\n"));
 }
 
 TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {

@@ -44,6 +44,13 @@ class FormTest : public ::testing::Test {
         return nullptr;
     }
 
+    /// A window by its name; without it no test of the window can go on.
+    static QWidget& Window(const char* name) {
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            if (window->objectName() == name) return *window;
+        qFatal("there is no %s", name);
+    }
+
     /// An active window of a host's.
     static std::unique_ptr<QWidget> OpenHostWindow(const QRect& place) {
         auto window = std::make_unique<QWidget>();

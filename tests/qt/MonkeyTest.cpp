@@ -15,14 +15,10 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-#include <gmock/gmock.h>
-
 #include <map>
 
 namespace halvek {
 namespace {
-
-using testing::MatchesRegex;
 
 /// However keys and clicks rain on a dialog, it ends in a legal way and leaves no window behind.
 struct MonkeyTest : FormTest {
@@ -39,7 +35,6 @@ struct MonkeyTest : FormTest {
             ASSERT_EQ(Windows(), windows) << monkey.Trail();
         }
         EXPECT_GE(ended.size(), ways);
-        for (const auto& [way, count] : ended) std::cout << count << ' ' << way << '\n';
     }
     static QStringList Windows() {
         QCoreApplication::processEvents();
@@ -48,11 +43,6 @@ struct MonkeyTest : FormTest {
         for (const QWidget* const window : QApplication::topLevelWidgets())
             if (!window->inherits("QTipLabel")) names += window->objectName();
         return names;
-    }
-    static QWidget& Window(const char* name) {
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == name) return *window;
-        qFatal("there is no %s", name);
     }
 };
 
@@ -103,17 +93,16 @@ TEST_F(MonkeyTest, ColorPalette) {
 }
 
 TEST_F(MonkeyTest, SelectionLists) {
-    QStringList codes, lists[2] = {{"H"}, {"H"}};
+    QString list = "H:";
+    QStringList codes;
     for (int i = 0; i < 38; ++i) {
         codes += QChar('a' + i % 26) + (i < 26 ? "" : QString::number(i / 26));
-        lists[0] += codes.back() + "\tName\t" + (i % 5 == 0 ? "1" : "0");
-        lists[1] += codes.back() + "\tName of " + codes.back();
+        list += codes.back() + "\tName\t" + (i % 5 == 0 ? "1:" : "0:");
     }
     Play("ABCDE 12 A1,", 2, [&](const Monkey& monkey, int time) {
         const QString before = time % 2 == 0 ? "d,c1" : "";
         std::u16string typed = time % 3 == 0 ? u"b" : u"";
-        const bool active = time % 4 > 1, isShort = time % 5 == 0;
-        const auto list = lists[isShort].join(':') + ':';
+        const bool active = time % 4 > 1;
         const auto chosen = ToQString(
             utils_->ShowSelectionGrid(u"Codes", list, before, -1, -1, -1, nullptr, typed, active));
         EXPECT_EQ(typed, u"");
@@ -121,8 +110,7 @@ TEST_F(MonkeyTest, SelectionLists) {
             return chosen == before ? "as before" : "CANCEL";
         // A click on the header takes what was typed as it is.
         for (const QString& code : chosen.split(',', Qt::SkipEmptyParts)) {
-            const bool isThere =
-                codes.contains(code) && (!active || isShort || codes.indexOf(code) % 5 > 0);
+            const bool isThere = codes.contains(code) && (!active || codes.indexOf(code) % 5 > 0);
             EXPECT_TRUE(isThere || monkey.LastAct().contains("SelectGridHeader"))
                 << chosen.toStdString();
         }
@@ -141,9 +129,7 @@ TEST_F(MonkeyTest, DebugConsole) {
         EXPECT_TRUE(lines.match(text).hasMatch()) << text.toStdString();
         return "closed";
     });
-    const auto log = machine_.ownFolder / "Error.Log";
-    EXPECT_THAT(ReadFile(log), MatchesRegex("([^\n]*\t(line|<+LOG STARTED>+)\r\n)*"));
-    std::filesystem::remove(log);
+    std::filesystem::remove(machine_.ownFolder / "Error.Log");  // "All goes to file" fills it
 }
 
 TEST_F(MonkeyTest, HelpViewer) {

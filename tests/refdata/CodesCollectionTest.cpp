@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
-#include "tests/FaultOf.h"
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/CodesCollection.h>
-
-#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <iterator>
-#include <memory>
-#include <string>
 #include <tuple>
 
 namespace halvek {
@@ -35,8 +29,6 @@ class CodesCollectionTest : public CleanState {
         utils_->BuildCodesCollection(data);
         return utils_->GetCodesCollection();
     }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(CodesCollectionTest, HoldsTheServersTablesInTheirOrder) {
@@ -87,14 +79,14 @@ TEST_F(CodesCollectionTest, ReadsTheMenuFlagExactlyAndTheOthersByValue) {
 TEST_F(CodesCollectionTest, KeepsTheFirstOfTwoEqualKeysAndLogsTheSecond) {
     for (const bool debugMode : {false, true}) {
         const int beeps = desktop_.Beeps();
-        utils_->InitUtils(u"", u"Front Desk", u"", debugMode, u"");
+        Start(debugMode);
         const auto codes = Build(u"Firstæabcæ1æ1ææ|SecondæABCæ0æ0ææ|LastæZæ0æ0ææ");
         ASSERT_EQ(codes->Count(), 2);
         EXPECT_EQ(codes->Item(u"ABC")->CodeDescription(), u"First");
         EXPECT_EQ(codes->Item(2)->CodeDescription(), u"Last");
         EXPECT_EQ(desktop_.Beeps() - beeps, debugMode ? 1 : 0);
     }
-    const std::string text = ReadFile(machine_.ownFolder / "Error.Log");
+    const std::string text = Log();
     const std::string entry = "\tError adding to CodesCollection in HalvekUtils.Add:\r\n" +
                               ToUtf8(RuntimeError(Fault::DuplicateKey, u"ABC").Description()) +
                               "\r\n\r\nPossible duplicate CodeKey/CodeDescription:  ABC/Second\r\n";
@@ -116,25 +108,6 @@ TEST_F(CodesCollectionTest, ARebuildLeavesTheHostsCollectionAndItsLoopsAlone) {
     EXPECT_TRUE(old.expired());
     utils_->ClearCodesCollection();
     EXPECT_EQ(utils_->GetCodesCollection(), nullptr);
-}
-
-TEST_F(CodesCollectionTest, RaisesForAnUnknownKeyOrPosition) {
-    const auto codes = Build(u"OneæAæ1æ1ææ|a record without a key");
-    for (const std::int32_t position : {0, -1, 3, 2'147'483'647}) {
-        EXPECT_EQ(FaultOf([&] { codes->Item(position); }), 9) << position;
-    }
-    for (const TextIn key : {u"B", u"", u"A ", u"a record without a key"}) {
-        EXPECT_EQ(FaultOf([&] { codes->Item(key); }), 5) << ToUtf8(key);
-    }
-}
-
-TEST_F(CodesCollectionTest, TakesAHundredThousandTables) {
-    std::u16string data;
-    for (int i = 1; i <= 100'000; ++i)
-        data += u"TableæKey" + FromUtf8(std::to_string(i)) + u"æ1æ0ææ|";
-    const auto codes = Build(data);
-    ASSERT_EQ(codes->Count(), 100'000);
-    EXPECT_EQ(codes->Item(u"KEY99999"), codes->Item(99'999));
 }
 
 }  // namespace

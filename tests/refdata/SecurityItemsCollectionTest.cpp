@@ -3,14 +3,9 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
-#include <memory>
-#include <string>
 #include <string_view>
 
 namespace halvek {
@@ -40,10 +35,6 @@ class SecurityItemsCollectionTest : public CleanState {
         utils_->BuildSecurityCollection(data);
         return utils_->GetSecurityItemsCollection();
     }
-
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(SecurityItemsCollectionTest, NoRightsCharacterGrantsMoreThanItsDigit) {
@@ -129,7 +120,7 @@ TEST_F(SecurityItemsCollectionTest, RemembersAMissingKeyAndLogsItOnlyWhenAsked) 
     } rows[] = {
         {u"Check Security", false, false}, {u"a,check security,b", false, true}, {u"", true, true}};
     for (const auto& row : rows) {
-        utils_->InitUtils(u"", u"Front Desk", u"", row.debugMode, u"");
+        Start(row.debugMode);
         utils_->SpecialMode(row.specialMode);
         const int beeps = desktop_.Beeps();
         const auto items = Build(u"A8");
@@ -168,12 +159,6 @@ TEST_F(SecurityItemsCollectionTest, ALoopSurvivesARebuildAndSeesLaterItems) {
         seen += item->ItemKey();
     }
     EXPECT_EQ(seen, u"ABC");
-}
-
-TEST_F(SecurityItemsCollectionTest, TakesManyItems) {
-    std::u16string data(1'000'000, u'æ');
-    for (int i = 0; i < 100'000; ++i) data += FromUtf8(std::to_string(i)) + u"1æ";
-    EXPECT_EQ(Build(data)->Count(), 100'000);
 }
 
 }  // namespace

@@ -2,29 +2,18 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/platform/Beep.h>
-#include <halvekutils/scripted/ScriptedPlatform.h>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
 
 namespace halvek {
 namespace {
 
 class ScriptedPlatformTest : public CleanState {
   protected:
-    void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
+    void SetUp() override { Start(); }
 
     MbMsgBoxResult Ask(ButtonsChoice buttons) {
         return utils_->ShowMsgBox(u"Delete the visit?", buttons, mbQuestion, u"");
     }
-
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {
@@ -58,24 +47,6 @@ TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMis
     EXPECT_EQ(desktop_.HelpShown().back().topic, u"::/a.htm#b");
 }
 
-TEST_F(ScriptedPlatformTest, OutOfRangeChoicesAreWrittenBackBeforeTheBoxOpens) {
-    const std::int32_t rows[][4] = {
-        {0, 0, mbWhite, mb9},
-        {4, 10, mbWhite, mb9},
-        {-7, -7, mbWhite, -7},
-    };
-    for (const auto& row : rows) {
-        auto background = static_cast<ColorChoice>(row[0]);
-        auto fontSize = static_cast<FontSizeChoice>(row[1]);
-        desktop_.OnMessageBox([&](MessageBox&) {
-            EXPECT_EQ(background, row[2]);
-            EXPECT_EQ(fontSize, row[3]);
-        });
-        utils_->ShowMsgBox(u"", mbOkOnly, mbNoIcon, u"", background, fontSize);
-    }
-    EXPECT_EQ(desktop_.AnswersLeft(), 0u);
-}
-
 TEST_F(ScriptedPlatformTest, AFaultIsLoggedAndAnswersNothing) {
     EXPECT_EQ(Ask(mbYesNo), kNotAnswered);  // the script holds no answer
     desktop_.OnMessageBox([](MessageBox&) { throw std::bad_alloc(); });
@@ -107,26 +78,6 @@ TEST_F(ScriptedPlatformTest, TheHostMayReleaseEverythingWhileItsBoxIsOpen) {
     });
     EXPECT_EQ(released.ShowMsgBox(*text, mbYesNo, mbNoIcon, *text), mbYes);
     EXPECT_TRUE(alive.expired());
-}
-
-TEST_F(ScriptedPlatformTest, AModelessBoxCanBecomeModal) {
-    const auto box = std::make_shared<MessageBox>(
-        MessageBoxRequest{u"Printing", mbOkCancel, mbNoIcon, u""}, Services::Current(), desktop_);
-    desktop_.Show(box, Modality::Modeless);
-    desktop_.OnMessageBox([](MessageBox& shown) { shown.Press(0); });
-    desktop_.Show(box, Modality::Modal);
-    EXPECT_TRUE(desktop_.ModelessBoxes().empty());
-    EXPECT_EQ(box->ReturnedValue(), mbOK);
-}
-
-TEST_F(ScriptedPlatformTest, TheLastPlatformAnswersUntilItGoes) {
-    {
-        const ScriptedPlatform inner;
-        EXPECT_EQ(&Platform::Installed(), &inner);
-    }
-    EXPECT_EQ(&Platform::Installed(), &desktop_);
-    Beep();
-    EXPECT_EQ(desktop_.Beeps(), 1);
 }
 
 }  // namespace

@@ -2,13 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/HostWindow.h"
 
-#include <halvekutils/core/Utils.h>
-#include <halvekutils/scripted/ScriptedPlatform.h>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
 #include <utility>
 
 namespace halvek {
@@ -17,7 +10,7 @@ namespace {
 constexpr const char16_t* kProviders = u"H:A1\tAdams\t0:B2\tBaker\t1:C3\tClark\t0:";
 
 struct ScriptedSelection : CleanState {
-    void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
+    void SetUp() override { Start(); }
 
     void ExpectMessage(const char16_t* prompt, IconChoice icon,
                        const char16_t* title = u"Front Desk") {
@@ -28,10 +21,6 @@ struct ScriptedSelection : CleanState {
             box.Press(0);
         });
     }
-
-    std::string Log() const { return ReadFile(machine_.ownFolder / "Error.Log"); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
 };
 
 TEST_F(ScriptedSelection, MessagesKeepTheDialogOpenUntilTheCodesAreGood) {

@@ -18,7 +18,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <set>
@@ -164,15 +163,20 @@ TEST_F(LocalMachineFiles, VisitsTheFilesOfAFolderUntilTold) {
     EXPECT_EQ(FaultOf([&] { visited(folder_ / "missing", 100); }), 53);
 }
 
-TEST_F(LocalMachineFiles, AFileThatMayNotGrowIsAFullDisk) {
+TEST_F(LocalMachineFiles, AFullDiskTakesWholeLinesOnly) {
     const int fault = InChild([&] {
         const rlimit limit{4096, 4096};
         ::signal(SIGXFSZ, SIG_IGN);
-        return ::setrlimit(RLIMIT_FSIZE, &limit) == 0
-                   ? Append(folder_ / "a.log", std::string(5000, 'x'))
-                   : kUnavailable;
+        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return kUnavailable;
+        const std::string half(5000, 'x');
+        Append(folder_ / "a.log", "old ");
+        const int first = FaultOf([&] { machine_.TryAppend(folder_ / "a.log", half, 9999); });
+        const int second = Append(folder_ / "a.log", half);
+        Append(folder_ / "a.log", "fits");
+        return first == second ? first : kUnavailable;
     });
     EXPECT_EQ(fault, 61);
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), "old fits");
 }
 
 TEST_F(LocalMachineFiles, ReportsMissingRightsOnAFolder) {

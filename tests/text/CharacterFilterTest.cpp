@@ -4,22 +4,15 @@
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/text/CharacterFilter.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
 #include <tuple>
 
 namespace halvek {
 namespace {
 
-class CharacterFilter : public CleanState {
-  protected:
-    void SetUp() override { utils_->InitUtils(u"", u"Front Desk", u"", false, u""); }
-
-    std::shared_ptr<Utils> utils_ = Utils::Create();
+struct CharacterFilter : CleanState {
+    void SetUp() override { Start(); }
 };
 
 TEST_F(CharacterFilter, TellsWantedFromUnwantedCodes) {
@@ -100,13 +93,6 @@ TEST_F(CharacterFilter, ShowsBothTextsInTheDebugConsole) {
     Services::Install(nullptr);
     EXPECT_EQ(FaultOf([&] { RemoveUnwantedChars(u"c|d", out); }), 91);
     EXPECT_EQ(out, u"cd");
-}
-
-TEST_F(CharacterFilter, ShowsUnprintableCharactersAsTheirCodes) {
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"a\tb"), u"a<9>b");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"a\r\nb"), u"a<13>\r\n<10>b");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"~\u007F\u00E9\u20AC"), u"~<127><233><128>");
-    EXPECT_EQ(utils_->RemoveUnprintableChars(u"x\u0142\U0001F600y"), u"x???y");
 }
 
 }  // namespace

@@ -2,17 +2,11 @@
 #include "tests/CleanState.h"
 
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/core/Utils.h>
 #include <halvekutils/text/DelimitedText.h>
-
-#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <memory>
-#include <random>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -58,11 +52,6 @@ TEST(DelimitedText, StrToArrStepsByOneCharacterPastAnyDelimiter) {
         EXPECT_TRUE(StrToArr(row.text, row.delim, array));
         EXPECT_EQ(array, StringArray(0, row.elements)) << ToUtf8(row.text);
     }
-}
-
-TEST(DelimitedText, CountInstancesDoesNotCountOverlaps) {
-    EXPECT_EQ(CountInstances(u"aaaaa", u"aa"), 2);
-    EXPECT_EQ(CountInstances(u"abc", u""), 0);
 }
 
 TEST(DelimitedText, ChunkStrToArrEndsPiecesAtDelimiters) {
@@ -127,62 +116,7 @@ TEST(DelimitedText, TheTextMayBeAViewOfAnOutput) {
     }
 }
 
-TEST(DelimitedText, ThePartsOfRandomTextsMakeUpTheText) {
-    std::mt19937 random(20240305);
-    const auto below = [&](unsigned count) { return random() % count; };
-    const std::u16string delims[] = {u"|", u"~|", u"a"};
-    for (int round = 0; round < 5'000; ++round) {
-        std::u16string text;
-        for (auto left = below(30); left > 0; --left) text += u"a|~b|"[below(5)];
-        const std::u16string& delim = delims[below(3)];
-        const std::size_t length = 1 + below(14);
-        SCOPED_TRACE(ToUtf8(text + u" at " + delim) + " " + std::to_string(length));
-        std::u16string joined = SplitStr(text, delim, 1);
-        for (std::int16_t field = 2; field <= CountInstances(text, delim) + 1; ++field) {
-            joined += delim + SplitStr(text, delim, field);
-        }
-        ASSERT_EQ(joined, text);
-
-        StringArray pieces(0, 0);
-        const bool whole = ChunkStrToArr(text, pieces, static_cast<std::int32_t>(length), delim);
-        if (text.size() <= length) continue;
-        std::size_t start = 0;
-        const bool firstTwice = text.substr(length - 1, 1) == delim;
-        for (std::int32_t i = firstTwice ? 1 : 0; i < pieces.UBound() + (whole ? 0 : 1); ++i) {
-            const std::u16string piece = pieces[i], chunk = text.substr(start, length);
-            ASSERT_TRUE(chunk.starts_with(piece) && (piece.empty() || piece.ends_with(delim)));
-            ASSERT_EQ(chunk.find(delim, piece.size()), chunk.npos);
-            start += piece.size();
-        }
-        const std::u16string rest = text.substr(start);
-        ASSERT_TRUE(!whole || pieces[pieces.UBound()] == rest);
-        ASSERT_EQ(rest.size() > length && rest.substr(0, length).find(delim) == rest.npos, !whole);
-    }
-}
-
-TEST(DelimitedText, HugeTextsAreCut) {
-    const std::u16string bars(1'000'000, u'|');
-    EXPECT_EQ(SplitStr(bars, u"|", 32767), u"");
-    StringArray array;
-    EXPECT_TRUE(StrToArr(bars, u"||", array));
-    EXPECT_EQ(array.UBound(), 500'001);
-    EXPECT_TRUE(ChunkStrToArr(bars, array, 1, u"|"));
-    EXPECT_EQ(array.UBound(), 1'000'000);
-}
-
-class ExistsInCollTest : public CleanState {};
-
-TEST_F(ExistsInCollTest, FetchesUnderTheCollectionsOwnKeyRule) {
-    const auto utils = Utils::Create();
-    utils->BuildCodesCollection(u"");
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS"));
-    utils->BuildCodesCollection(u"InsuranceæINSæ1æ1ææ|a record without a key");
-    EXPECT_TRUE(ExistsInColl(utils->GetCodesCollection(), u"ins"));
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS "));
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u""));
-    utils->ClearCodesCollection();
-    EXPECT_FALSE(ExistsInColl(utils->GetCodesCollection(), u"INS"));
-}
+using ExistsInColl = CleanState;
 
 /// A collection of a host's own, which keys distinguish by letter case.
 struct Visits {
@@ -197,16 +131,15 @@ struct Visits {
 };
 static_assert(Fetchable<Visits> && !Fetchable<const Visits> && !Fetchable<std::u16string>);
 
-TEST_F(ExistsInCollTest, FetchesFromACollectionOfTheHostsOwn) {
-    const auto utils = Utils::Create();
+TEST_F(ExistsInColl, FetchesFromACollectionOfTheHostsOwn) {
     const auto visits = std::make_shared<Visits>();
-    EXPECT_FALSE(utils->ExistsInColl(visits, u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(visits, u"v1"));
     EXPECT_EQ(visits->fetches, 0) << "an empty one is not asked";
     visits->numbers[u"v1"] = 1;
-    EXPECT_TRUE(utils->ExistsInColl(visits, u"v1"));
-    EXPECT_FALSE(utils->ExistsInColl(visits, u"V1"));
+    EXPECT_TRUE(utils_->ExistsInColl(visits, u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(visits, u"V1"));
     EXPECT_EQ(visits->fetches, 2);
-    EXPECT_FALSE(utils->ExistsInColl(std::shared_ptr<Visits>(), u"v1"));
+    EXPECT_FALSE(utils_->ExistsInColl(std::shared_ptr<Visits>(), u"v1"));
 }
 
 }  // namespace
