@@ -31,7 +31,7 @@ struct Record {
     std::size_t count = 0;
 };
 
-/// Cuts a record into its fields; those behind the last known one are ignored.
+/// Cuts a record into its fields; those after the last known one are ignored.
 Record Cut(TextIn data) {
     Record record;
     for (const TextIn field : Pieces(data, kFieldSeparator)) {
@@ -65,7 +65,7 @@ void CodeDefinition::Init(TextIn codeData) {
     includedInMenu_ = fields[kIncludedInMenu] == u"1";
     reportName_ = fieldOf(fields[kReportName]);
     sortByList_ = fieldOf(fields[kSortBy]);
-    // The second half stands right behind the first, parted as a list of two is.
+    // The second half directly follows the first, with the separator of a list of two between them.
     if (record.count > kSortBySecond) sortByList_.length += 1 + fields[kSortBySecond].size();
     if (record.count > kEntitySpecific) isEntitySpecific_ = IsOne(fields[kEntitySpecific]);
     if (record.count > kSystemCode) isSystemCode_ = IsOne(fields[kSystemCode]);

@@ -27,7 +27,7 @@ enum Field : std::size_t { kIdentifier, kIgnored, kDescription, kPort, kFieldCou
 
 using Fields = std::array<TextIn, kFieldCount>;
 
-/// The fields of a serial entry; nothing when it has more or less than four.
+/// The fields of a serial entry; nothing when it does not have exactly four.
 std::optional<Fields> Cut(TextIn entry) {
     Fields fields;
     std::size_t count = 0;
