@@ -1,5 +1,5 @@
-# SPDX-License-Identifier: MIT
-# What Debian wants in each package beside the installed files. CPack runs this over its stage.
+# SPDX-License-Identifier: MIT What Debian requires in each package besides the installed files.
+# CPack runs this on its staging folder.
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} upper)
   set(root ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr)
@@ -15,7 +15,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     configure_file(${CMAKE_CURRENT_LIST_DIR}/${name}.overrides
                    ${root}/share/lintian/overrides/${name} COPYONLY)
   endif()
-  # Programs find packaged libraries by themselves.
+  # Programs find packaged libraries without a search path in the file.
   file(GLOB programs ${root}/bin/*)
   foreach(program IN LISTS programs)
     file(RPATH_REMOVE FILE ${program})

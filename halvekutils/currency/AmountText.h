@@ -12,8 +12,9 @@ namespace halvek {
 
 // Amounts as text. They are never turned into binary numbers: what was typed is what is shown.
 
-/// The most digits before and after the point.
+/// The most digits before the point.
 inline constexpr std::size_t kWholeDigits = 7;
+/// The most digits after the point.
 inline constexpr std::size_t kFractionDigits = 2;
 
 /// Whether the amounts of a field may be negative.

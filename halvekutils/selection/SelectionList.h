@@ -23,10 +23,11 @@ namespace halvek {
 /// entries before it do not fill their bands: it is usually the empty piece after the last ":".
 class HALVEK_EXPORT SelectionList {
   public:
-    static constexpr std::int32_t kColumns = 10;
-    static constexpr std::int32_t kRowsPerBand = 3;
-    static constexpr std::int32_t kAllCodes = 1;  ///< the number of the pseudo-entry
+    static constexpr std::int32_t kColumns = 10;     ///< how many entries a band has
+    static constexpr std::int32_t kRowsPerBand = 3;  ///< ticks, codes and descriptions
+    static constexpr std::int32_t kAllCodes = 1;     ///< the number of the pseudo-entry
 
+    /// @param allValues  the list as the server sends it
     /// @param doNotIncludeDeleted  true to leave out deleted entries; otherwise they are kept and
     ///     marked
     SelectionList(std::u16string allValues, bool doNotIncludeDeleted);
@@ -40,7 +41,9 @@ class HALVEK_EXPORT SelectionList {
 
     // What an entry holds; its number is 1 to Count(). Views stay valid as long as the list.
 
+    /// The code of an entry.
     std::u16string_view Code(std::int32_t entry) const;
+    /// The description of an entry.
     std::u16string_view Description(std::int32_t entry) const;
     /// True when the list keeps deleted entries and this one is deleted.
     bool IsDeleted(std::int32_t entry) const;

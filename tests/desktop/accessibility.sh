@@ -7,14 +7,14 @@ set -u
 here=$(dirname "$0")
 source "$here/desktop.sh"
 
-# Waits until the focus is told as a line of role, name and states. Usage: expect_focus LINE WAY
+# Waits until the focus is reported as a line of role, name and states. Usage: expect_focus LINE WAY
 expect_focus() {
     local told=$1
     wait_until "\"$told\" is told to have the focus by $2" \
         eval '[ "$(tail -n 1 "$work/heard")" = "$told" ]'
 }
 
-# Whether the screen holds what is told as a line. Usage: shows LINE
+# Whether the screen holds what a line describes. Usage: shows LINE
 shows() {
     /usr/bin/python3 "$here/hear.py" tree >"$work/shown" && grep -qxF -- "$1" "$work/shown"
 }

@@ -95,7 +95,7 @@ open_list Return
 keys Tab space Return
 expect_choice "$all" "all codes by Space"
 
-# The character that opens the list goes on in its box.
+# The character that opens the list arrives in its box.
 open_list W
 keys C Return
 expect_choice MB,MG,WC "a character typed in the client"
