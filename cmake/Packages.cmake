@@ -1,5 +1,6 @@
-# SPDX-License-Identifier: MIT Debian packages by the target `package`: both libraries, what a
-# host's build needs, the demo. Each component of the install rules is a package.
+# SPDX-License-Identifier: MIT
+# Debian packages by the target `package`: both libraries, what a host's build needs, the demo. Each
+# component of the install rules is a package.
 set(HALVEK_PACKAGE_FILES ${PROJECT_SOURCE_DIR}/cmake/packages)
 file(STRINGS ${HALVEK_PACKAGE_FILES}/changelog HALVEK_CHANGES LIMIT_COUNT 1)
 if(NOT HALVEK_CHANGES MATCHES "^halvekutils \\(${PROJECT_VERSION}-([^)]+)\\)")

@@ -1,4 +1,5 @@
-# SPDX-License-Identifier: MIT Turns a header into what doxygen reads; line numbers stay the same.
+# SPDX-License-Identifier: MIT
+# Turns a header into what doxygen reads; line numbers stay the same.
 # - Indented lines below an empty one are a sample, also after the parameters of a function.
 # - Two neighbouring overloads, usually the setter and the getter of a property, share the comment
 #   of the first.

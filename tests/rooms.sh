@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT Checks that every room of the library includes only what it may
-# touch, that the library without windows links nothing beyond the C and C++ run-time, and that
-# every source names its licence. Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
+# SPDX-License-Identifier: MIT
+# Checks that every room of the library includes only what it may touch, that the library without
+# windows links nothing beyond the C and C++ run-time, and that every source names its licence.
+# Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
 set -euo pipefail
 cd "$1"
 library=$2

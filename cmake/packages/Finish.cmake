@@ -1,6 +1,6 @@
-# SPDX-License-Identifier: MIT What CPack cannot express: libraries and headers of several
-# architectures can be installed side by side, and a trigger runs ldconfig instead of scripts. CPack
-# runs this on the packages it has made.
+# SPDX-License-Identifier: MIT
+# What CPack cannot express: libraries and headers of several architectures can be installed side by
+# side, and a trigger runs ldconfig instead of scripts. CPack runs this on the packages it has made.
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
   if(package MATCHES "/lib[^/]*$")
     set(folder ${package}.d)

@@ -1,5 +1,6 @@
-# SPDX-License-Identifier: MIT What Debian requires in each package besides the installed files.
-# CPack runs this on its staging folder.
+# SPDX-License-Identifier: MIT
+# What Debian requires in each package besides the installed files. CPack runs this on its staging
+# folder.
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} upper)
   set(root ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr)

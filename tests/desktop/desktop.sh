@@ -1,5 +1,6 @@
-# SPDX-License-Identifier: MIT Sourced by the desktop tests: a private display with a window
-# manager, a client on it, and real keys and clicks. All started programs end with the test.
+# SPDX-License-Identifier: MIT
+# Sourced by the desktop tests: a private display with a window manager, a client on it, and real
+# keys and clicks. All started programs end with the test.
 set -uo pipefail
 
 work=$(mktemp -d)
@@ -47,7 +48,8 @@ start() {
 }
 
 # A display at 96 dots per inch with a window manager, at Qt's given scale. Keys do not repeat when
-# a slow machine releases them late. Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
+# a slow machine releases them late.
+# Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
 start_desktop() {
     local manager=${1:-openbox} screen=${2:-1366x768} scale=${3:-1}
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
@@ -142,7 +144,8 @@ has_focus() {
 }
 
 # Shows a page through its menu. An open menu holds the keyboard, and keys sent while it closes may
-# go to it and be lost, so this waits until the page is shown. Usage: choose_page KEYS...
+# go to it and be lost, so this waits until the page is shown.
+# Usage: choose_page KEYS...
 choose_page() {
     focused=$(wc -l <"$focus")
     keys "$@"

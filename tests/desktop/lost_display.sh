@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT Kills the display under the demo client while a dialog is open: the
-# client exits through Qt, neither hangs nor crashes, and its error log holds whole lines. Usage:
-# lost_display.sh DEMO
+# SPDX-License-Identifier: MIT
+# Kills the display under the demo client while a dialog is open: the client exits through Qt,
+# neither hangs nor crashes, and its error log holds whole lines. Usage: lost_display.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
 

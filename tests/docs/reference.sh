@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT Writes the reference, fails on any warning of doxygen, and checks
-# what doxygen does not. Usage: reference.sh SOURCE-FOLDER BUILD-FOLDER
+# SPDX-License-Identifier: MIT
+# Writes the reference, fails on any warning of doxygen, and checks what doxygen does not.
+# Usage: reference.sh SOURCE-FOLDER BUILD-FOLDER
 set -euo pipefail
 rooms=$1/halvekutils
 pages=$1/docs/pages

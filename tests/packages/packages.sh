@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT Makes the Debian packages of a build folder, checks their contents,
-# installs them below a folder and uses them there: a host's project that finds them by CMake and by
-# pkg-config, the program in the README, and the demo's tour. Needs no root. Usage: packages.sh
-# SOURCE-FOLDER BUILD-FOLDER COMPILER
+# SPDX-License-Identifier: MIT
+# Makes the Debian packages of a build folder, checks their contents, installs them below a folder
+# and uses them there: a host's project that finds them by CMake and by pkg-config, the program in
+# the README, and the demo's tour. Needs no root.
+# Usage: packages.sh SOURCE-FOLDER BUILD-FOLDER COMPILER
 set -euo pipefail
 source=$1
 build=$2
