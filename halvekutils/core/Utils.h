@@ -155,10 +155,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param posTopDown  the target's bottom, below which the pop-up opens
     /// @param Edge  PopupEdge::Left for the calendar and the palette, Right for selection lists
     ///
-    /// Without a target all three are -1, which stands for "not given"; so they are when the target
-    /// no longer exists, which beeps and is logged with "Error in Utils.CalculateCellCoordinates ".
-    /// On a screen left of or above the main one, positions are negative and count as not given
-    /// too; the members that take the target themselves work on every screen.
+    /// All three are -1, for "not given", without a target and when the target no longer exists,
+    /// which beeps and is logged with "Error in Utils.CalculateCellCoordinates ". On a screen left
+    /// of or above the main one, positions are negative and count as not given too; the members
+    /// that take the target themselves work on every screen.
     void CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
                                   float& posTopUp, float& posTopDown,
                                   PopupEdge Edge = PopupEdge::Left);
@@ -440,8 +440,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
                                 bool bNeedsConversions = false);
 
     /// ShowCalendar beside a button or cell: left edges aligned, below it when the screen has room,
-    /// otherwise above it. Without a target the calendar is centred; so it is when the target no
-    /// longer exists, which is logged.
+    /// otherwise above it. The calendar is centred without a target and when the target no longer
+    /// exists, which is logged.
     ///
     ///     auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
     std::u16string ShowCalendarAndCalculateCoordinates(
@@ -649,8 +649,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     std::u16string ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const;
 
     /// ShowColor beside a button or cell: left edges aligned, below it when the screen has room,
-    /// otherwise above it. Without a target the palette is centred; so it is when the target no
-    /// longer exists, which is logged.
+    /// otherwise above it. The palette is centred without a target and when the target no longer
+    /// exists, which is logged.
     ///
     ///     auto chosen = utils->ShowColorAndCalculateCoordinates(Beside(&button));
     std::u16string ShowColorAndCalculateCoordinates(
@@ -682,8 +682,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// room, otherwise above it.
     ///
     /// All other arguments are those of ShowSelectionGrid. A cell's target knows its grid, so there
-    /// is no argument for the grid. Without a target the dialog is centred; so it is when the
-    /// target no longer exists, which is logged.
+    /// is no argument for the grid. The dialog is centred without a target and when the target no
+    /// longer exists, which is logged.
     ///
     ///     auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
     ///         u"Providers", server.providers(), row.codes(), Beside(&view, index));

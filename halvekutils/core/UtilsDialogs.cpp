@@ -29,8 +29,8 @@ float PositionOf(const std::optional<std::int32_t>& twips) {
     return twips ? static_cast<float>(*twips) : kNotGiven;
 }
 
-/// The anchor of a pop-up beside a target. Without a target it is empty, which centres the pop-up;
-/// so it is for a destroyed target, which is logged.
+/// The anchor of a pop-up beside a target. It is empty, which centres the pop-up, without a target
+/// and for a destroyed one, which is logged.
 PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTarget>& target) {
     PopupAnchor anchor;
     Guarded(OnFault::Beep, u"Error in Utils.CalculateCellCoordinates ", utils, [&] {
