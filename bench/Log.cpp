@@ -26,7 +26,7 @@ const std::string kMessage(84, 'x');
 const std::string kLine =
     std::string("11/21/2026 09:30:00 AM\tfrontdesk\t").append(kMessage).append("\r\n");
 
-/// A folder of its own that goes with the last user of it.
+/// A folder of its own, deleted with its last user.
 class Folder {
   public:
     explicit Folder(const fs::path& parent) {

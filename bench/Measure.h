@@ -17,8 +17,8 @@ struct Times {
 /// Runs the three ways in turns, in random order, and takes the median of each.
 Times Measure(const Case& work);
 
-/// The exponent with which our time grows from a tenth of the size to the size and from there to
-/// ten times the size: 1 for work that grows with its size, 2 for its square.
+/// The exponent with which our time grows from a tenth of the size to the size, and from the size
+/// to ten times the size: 1 is linear, 2 quadratic.
 struct Growth {
     double toSize = 0;
     double toTenfold = 0;

@@ -18,7 +18,7 @@ using namespace halvek;
 constexpr char16_t kSeparator = 223;
 constexpr std::size_t kFields = 31;
 
-/// 31 fields that come to 2 KiB: numbers and switches where the settings have them, form data else.
+/// 31 fields, 2 KiB in all: numbers and switches where the settings have them, otherwise form data.
 std::vector<std::u16string> MakeFields() {
     std::vector<std::u16string> fields(kFields, u"Left=1200;Top=900;Width=14400;Height=9600;");
     for (const std::size_t number : {5u, 6u, 7u, 8u, 9u, 11u}) fields[number] = u"16777215";

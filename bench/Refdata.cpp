@@ -89,7 +89,7 @@ Case BuildCodes(double scale) {
                 }};
 }
 
-/// Keys as a host writes them, half of them in small letters, in random order.
+/// Keys as a host writes them, half of them in lower case, in random order.
 struct LookUps {
     std::vector<std::u16string> keys;
     std::vector<std::int32_t> positions;  ///< from 1

@@ -11,20 +11,21 @@ namespace bench {
 
 using Work = std::function<void()>;
 
-/// The same work done three ways on one input; a way that is left out is not measured.
+/// The same work done in three ways on one input; a missing way is not measured.
 struct Case {
     Work floor;  ///< the least that any implementation has to do
     Work ours;
-    Work peer;  ///< what a host's programmer would pick instead
+    Work peer;  ///< what a host's programmer would use instead
 };
 
 /// A line of the table.
 struct Row {
     std::string work;
     std::string floor;
-    double atMost = 0;  ///< how often the floor's time we may take; 0 when it is only reported
+    double atMost = 0;  ///< how many times the floor's time we may take; 0 when it is only reported
     std::string peer;
-    double fasterBy = 0;  ///< how much longer the peer is to take; 0 when it is only reported
+    double fasterBy =
+        0;  ///< how many times our time the peer must take; 0 when it is only reported
 
     /// Makes the input, `scale` times as large as the row says: 1, and for the growth 0.1 and 10.
     std::function<Case(double scale)> prepare;

@@ -34,7 +34,7 @@ std::u16string ListText(std::size_t entries) {
     return text;
 }
 
-/// Every n-th code of a list, parted by ",".
+/// Every n-th code of a list, separated by ",".
 std::u16string ChosenText(std::size_t entries, std::size_t chosen) {
     std::u16string text;
     for (std::size_t i = 0; i < chosen; ++i) {
@@ -52,7 +52,7 @@ std::unique_ptr<SelectGrid> Open(const std::u16string& list, const std::u16strin
     return grid;
 }
 
-/// Looks each code up by comparing it with the entries from the first on.
+/// Looks up each code by comparing it with the entries, from the first on.
 std::size_t ScanPerCode(std::u16string_view list, std::u16string_view chosen) {
     std::vector<std::u16string_view> codes;
     for (std::size_t at = 0; (at = list.find(u':', at)) != list.npos;) {

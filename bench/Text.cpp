@@ -25,7 +25,7 @@ std::size_t Characters(double bytes) {
     return static_cast<std::size_t>(bytes) / sizeof(char16_t);
 }
 
-/// Fields of `length` small letters, each behind the separator but the first.
+/// Fields of `length` lower-case letters, with a separator before each but the first.
 std::u16string FieldsText(std::size_t characters, std::size_t length,
                           std::u16string_view separator) {
     std::u16string text;
@@ -122,7 +122,7 @@ Case SplitOne(double scale) {
             .peer = {}};
 }
 
-/// Words and numbers as people type them, one character in fifty unwanted when it is not clean.
+/// Words and numbers as people type them, with one unwanted character in fifty unless it is clean.
 std::u16string TypedText(std::size_t characters, bool clean) {
     constexpr std::u16string_view kLine = u"Seen on 03/07/2004 by Dr. Adams; follow-up in 2 weeks.";
     constexpr std::array<char16_t, 4> kUnwanted = {u'|', u'^', u'\t', 0xE6};

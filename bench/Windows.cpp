@@ -61,7 +61,7 @@ std::u16string ListText(int entries) {
     return text;
 }
 
-/// A dialog around a table, as large as the selection dialog.
+/// A dialog that holds a table, as large as the selection dialog.
 void ShowTable(QTableWidget& table) {
     QDialog dialog;
     QVBoxLayout layout(&dialog);

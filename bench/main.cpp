@@ -34,7 +34,7 @@ Options Read(int argc, char** argv) {
     return options;
 }
 
-/// Freed memory stays with the process: every repetition finds the heap as warm as the one before.
+/// Freed memory stays with the process, so every repetition finds the heap equally warm.
 void KeepTheHeapWarm() {
     mallopt(M_TRIM_THRESHOLD, 2'000'000'000);
     mallopt(M_MMAP_THRESHOLD, 2'000'000'000);

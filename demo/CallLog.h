@@ -19,14 +19,14 @@ class CallLog {
 
     explicit CallLog(ErrorLogFile& errorLog) : errorLog_(errorLog) {}
 
-    /// Notes a call and its result, empty for a member that returns nothing. Gives back the
-    /// messages that the error log gained meanwhile.
+    /// Notes a call and its result, empty for a member that returns nothing. Returns the messages
+    /// that the call wrote to the error log.
     QStringList Add(const QString& function, const QStringList& arguments,
                     const QString& result = {});
 
     const QStringList& Lines() const { return lines_; }
 
-    /// Adds one who hears of every line to come.
+    /// Adds a listener, which is called with every later line.
     void Listen(Listener listener) { listeners_.push_back(std::move(listener)); }
 
   private:

@@ -13,11 +13,11 @@
 
 namespace frontdesk {
 
-/// The client behind its windows: the library object, the practice's data, the error log and the
-/// list of calls that all pages share.
+/// The client without its windows: the library object, the practice's data, the error log and the
+/// list of calls, which all pages share.
 class Desk {
   public:
-    /// Starts the session with the data's values, as a client does when its user has logged in.
+    /// Starts the session with the data's values, as a client does when its user logs in.
     Desk(SampleData data, const QString& logFolder);
 
     halvek::Utils& Library() { return *utils_; }
@@ -31,8 +31,8 @@ class Desk {
     void InitPrefs(const Preferences& preferences);
     void InitOtherSettings(const OtherSettings& settings);
 
-    // The help members, noted as well; an empty file stands for the client's own. They give back
-    // what they logged.
+    // The help members, noted as well; an empty file stands for the client's own. They return what
+    // they logged.
 
     QStringList ShowHelp(int contextId, const QString& file = {});
     QStringList ShowHelpByTopic(const QString& topic, const QString& file = {});

@@ -22,7 +22,7 @@ void ErrorLogFile::Follow(const QString& errFileName) {
     QString path = errFileName;
     path.replace('\\', '/');
     if (path.isEmpty()) path = "Error.Log";
-    // A name without a folder stays in the folder of the log before.
+    // A name without a folder stays in the folder of the previous log.
     path_ = path.contains('/') || path_.isEmpty() ? path : QFileInfo(path_).path() + '/' + path;
     position_ = QFileInfo(path_).size();
 }

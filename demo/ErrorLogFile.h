@@ -11,7 +11,7 @@ class ErrorLogFile {
   public:
     explicit ErrorLogFile(const QString& path);
 
-    /// Reads another log from now on, as the library does after InitUtils with this name.
+    /// Switches to another log, as the library does after InitUtils with this name.
     void Follow(const QString& errFileName);
 
     const QString& Path() const { return path_; }

@@ -23,7 +23,7 @@ bool IsAnyOf(const QWidget& widget) {
     return ((qobject_cast<const Kind*>(&widget) != nullptr) || ...);
 }
 
-/// A control that holds no others, whatever parts it is made of.
+/// A control that holds no other controls, only its own parts.
 bool IsWhole(const QWidget& widget) {
     return IsAnyOf<QAbstractButton, QComboBox, QAbstractSpinBox, QLineEdit, QPlainTextEdit,
                    QAbstractItemView>(widget);

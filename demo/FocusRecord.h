@@ -9,9 +9,9 @@
 
 namespace frontdesk {
 
-/// Tells which control the keyboard acts on, for those who go through the client without a mouse.
-/// A line for every change: the window or the page; on a page, the control's number among all that
-/// can be operated; the control's name.
+/// Records which control the keyboard acts on, to follow the client without a mouse. Every change
+/// gives a line: the window or the page; on a page, the control's number among all that can be
+/// operated; the control's name.
 ///
 ///     Front Desk: Services
 ///     Codes 1/6: Key

@@ -74,7 +74,8 @@ QPalette MakePalette(const RoleColors (&table)[n]) {
     return palette;
 }
 
-// Fusion derives the outline of a field from the colour of the window: hardly seen on a dark one.
+// Fusion derives the outline of a field from the colour of the window: on a dark one it can hardly
+// be seen.
 constexpr QRgb kDarkOutline = 0x8F9296;
 constexpr const char* kOutlined[] = {"QAbstractItemView", "QAbstractSpinBox", "QCheckBox",
                                      "QComboBox",         "QLineEdit",        "QPlainTextEdit"};

@@ -6,12 +6,12 @@
 
 namespace frontdesk {
 
-/// The colours that the client can be asked to use in place of the desktop's own.
+/// The colours that the client can use instead of the desktop's own.
 QStringList LooksNames();
 
-/// Dresses the application, before its first window opens, in Qt's Fusion style with colours that
-/// are the same on every desktop and a caret that does not blink, so that pictures can be compared.
-/// Throws std::runtime_error for an unknown name.
+/// Gives the application, before its first window opens, Qt's Fusion style, colours that are the
+/// same on every desktop and a caret that does not blink, so that pictures can be compared. Throws
+/// std::runtime_error for an unknown name.
 void UseLooks(const QString& name);
 
 }  // namespace frontdesk

@@ -14,8 +14,8 @@
 
 namespace frontdesk {
 
-/// The client's window: the services at the left, the chosen one's page beside them, and below what
-/// the library returned.
+/// The client's window: the services at the left, the page of the chosen one beside them, and what
+/// the library returned below.
 class MainWindow : public QMainWindow {
   public:
     explicit MainWindow(Desk& desk);

@@ -33,10 +33,10 @@ class Page : public QWidget {
     /// The context number of the page's topic in the client's help.
     virtual int HelpContext() const { return kWelcomeTopic; }
 
-    /// Shows the present values; called whenever the page comes to the front.
+    /// Shows the current values; called whenever the page comes to the front.
     virtual void Refresh() {}
 
-    /// Calls the service in its typical and its extreme ways, as a person would.
+    /// Plays typical and extreme uses of the service, as a person would.
     virtual void Play(Tour& tour) = 0;
 
   protected:

@@ -28,7 +28,7 @@ constexpr int kLinePadding = 8;
 constexpr char kHighlightMark[] = "-";
 constexpr char kPatientMark[] = "P-";
 
-/// The lines of the tabs that have a title. A tab piece without one has a number too.
+/// The lines of the tabs that have a title. A tab without a title also has a number.
 std::vector<StringArray> TitledTabs(const ReminderDefinition& reminder) {
     std::vector<StringArray> tabs;
     std::int16_t number = 1;

@@ -9,8 +9,8 @@
 
 namespace frontdesk {
 
-/// An account's reminders, one tab a title. What a mark sets apart is marked by a word, by bold or
-/// slanted type and, if highlighted, by colour.
+/// An account's reminders, one tab for each title. Marked lines get a word, bold or italic type
+/// and, if highlighted, a colour.
 class ReminderWindow : public QDialog {
   public:
     struct Highlight {

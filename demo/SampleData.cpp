@@ -49,7 +49,7 @@ halvek::StringArray ParseColors(const QByteArray& bytes) {
     return halvek::StringArray(1, std::move(colors));
 }
 
-/// One text of the server a line, after its name and "=".
+/// Each line is one text of the server, after its name and "=".
 template <class Entry>
 std::vector<Entry> ParseEntries(const std::u16string& text) {
     std::vector<Entry> entries;

@@ -40,7 +40,7 @@ struct OtherSettings {
     std::int32_t scrollBarWidth = 0;
 };
 
-/// A list that the user chooses codes from.
+/// A list from which the user chooses codes.
 struct SelectionSource {
     QString name;
     QString values;  ///< in the server's format
@@ -52,13 +52,13 @@ struct Reminder {
     QString data;  ///< in the server's format
 };
 
-/// What a practice's server would send at start-up, read from the files of a data folder.
+/// What a practice's server would send at start-up, read from the files in a data folder.
 class SampleData {
   public:
     /// Throws std::runtime_error, naming the file, when one cannot be read.
     explicit SampleData(const QString& folder);
 
-    /// The data folder that lies beside the program, installed or in a build folder.
+    /// The data folder beside the program, installed or in a build folder.
     static QString Folder();
 
     /// The client's help file, in the same folder; it may be missing.
@@ -68,7 +68,7 @@ class SampleData {
     Preferences StartPreferences() const;
     OtherSettings StartOtherSettings() const;
 
-    /// A value of session.txt as it stands there; empty when it is missing.
+    /// A value of session.txt, unchanged; empty when it is missing.
     QString SessionValue(const QString& name) const { return session_.value(name); }
 
     /// codes.txt: the code tables in the server's format.

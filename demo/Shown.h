@@ -13,14 +13,14 @@
 
 namespace frontdesk {
 
-/// Arguments and results as the lists of calls write them: texts in quotes and shortened in the
-/// middle when they are long, control characters as escapes, arrays with their bounds.
+/// Arguments and results as the list of calls shows them: texts in quotes, with the middle of long
+/// ones cut out, control characters as escapes, arrays with their bounds.
 QString Shown(const QString& text);
 QString Shown(halvek::TextIn text);
 QString Shown(const halvek::StringArray& array);
 QString Shown(std::int32_t value);
 QString Shown(double value);
-/// Of booleans only: a pointer must not become "true".
+/// Only for booleans: a pointer must not become "true".
 template <std::same_as<bool> T>
 QString Shown(T value) {
     return value ? "true" : "false";
@@ -32,7 +32,7 @@ QStringList Args(const T&... arguments) {
     return {Shown(arguments)...};
 }
 
-/// An enumerator and the name that stands for it in code.
+/// An enumerator and its name in code.
 template <class Enum>
 struct Named {
     Enum value;

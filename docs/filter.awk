@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
-# What doxygen reads of a header; line numbers stay as they are.
-# - Indented lines below an empty one are a sample, behind the parameters of a function too.
-# - Two overloads of one name, the setter and the getter of a property above all, share the comment
-#   of the first when they are neighbours.
+# Turns a header into what doxygen reads; line numbers stay the same.
+# - Indented lines below an empty one are a sample, also after the parameters of a function.
+# - Two neighbouring overloads, usually the setter and the getter of a property, share the comment
+#   of the first.
 # - Defaulted members have no entries.
 
-# A line is printed when the next one is known: it may end a sample.
+# A line is printed once the next one is known, since it may end a sample.
 function put(line) {
     if (NR > 1) print held
     held = line

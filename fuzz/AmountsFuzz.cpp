@@ -7,7 +7,7 @@ using namespace halvek;
 
 namespace {
 
-/// True when each comma has three digits behind it, and no more.
+/// True when each comma has exactly three digits after it.
 bool PartsThousands(const std::u16string& text) {
     constexpr std::u16string_view kDigits = u"0123456789";
     for (std::size_t at = 0; (at = text.find(u',', at)) != text.npos; ++at) {
@@ -17,7 +17,7 @@ bool PartsThousands(const std::u16string& text) {
     return true;
 }
 
-/// A pasted text is read as any other reader of amounts reads it, or not at all.
+/// A pasted text is read as the other readers of amounts read it, or not at all.
 void CheckPasting(const std::u16string& text, AmountSign sign) {
     const auto bare = BareAmount(text, sign);
     const auto number = ToNumber(text);

@@ -27,8 +27,8 @@ void PressAmount(Calculator& calculator, std::int64_t cents) {
     }
 }
 
-/// Amounts multiplied by up to two others, then added and subtracted: to the cent what whole
-/// numbers give. Doubles part from decimals where a difference ends in half a cent.
+/// Amounts multiplied by up to two others, then added and subtracted, give to the cent what whole
+/// numbers give. Doubles differ from decimals when a difference ends in half a cent.
 void CheckChain(FuzzedDataProvider& input, Calculator& calculator) {
     constexpr std::int64_t kCent = 10'000;  // totals are in millionths
     auto factors = input.ConsumeIntegralInRange(0, 2);
@@ -97,7 +97,7 @@ void PlayKeys(FuzzedDataProvider& input, Calculator& calculator) {
     Require(ended || calculator.Result() == shown, "RET returns what is shown");
 }
 
-/// What is typed into the box itself, as the window lets it in.
+/// What is typed into the box itself, as the window accepts it.
 void TypeIntoBox(FuzzedDataProvider& input, Calculator& calculator) {
     while (input.remaining_bytes() > 0) {
         calculator.FocusOn(Calculator::kBox);

@@ -7,7 +7,7 @@ using namespace halvek;
 
 namespace {
 
-/// Presses a key as a text box does: what passes takes the place of the selection.
+/// Presses a key as a text box does: an accepted character replaces the selection.
 void Press(TextField& box, char16_t letter, AmountSign sign) {
     auto key = static_cast<std::int16_t>(letter);
     PressCurrencyKey(box, key, sign);
@@ -22,7 +22,7 @@ void Press(TextField& box, char16_t letter, AmountSign sign) {
     CutDecimals(box, sign);
 }
 
-/// Digits and a point typed one behind the other: what has no room is not taken.
+/// Digits and a point typed one after the other: those without room are refused.
 void CheckTyping(FuzzedDataProvider& input) {
     TextField box;
     std::u16string whole, fraction;

@@ -28,7 +28,7 @@ inline std::optional<std::int64_t> CentsOf(std::u16string_view text) {
     }
     fraction.resize(std::max(fraction.size(), std::size_t{3}), u'0');
     const std::u16string digits = whole + fraction.substr(0, 2);
-    const std::size_t carry = fraction[2] >= u'5' ? 1 : 0;  // it may lead to one more digit
+    const std::size_t carry = fraction[2] >= u'5' ? 1 : 0;  // it may add a digit
     if (fraction.find(u'.') != fraction.npos || digits.size() + carry > 18) return std::nullopt;
     auto cents = static_cast<std::int64_t>(carry);
     std::int64_t place = 1;
@@ -60,7 +60,7 @@ inline bool Leave(TextField& box, AmountSign sign) {
     }
 }
 
-/// Leaves the field; what it shows then is the amount that it held, and stays so.
+/// Leaves the field, which must then show the amount that it held, and keep it.
 inline void CheckLeaving(TextField& box, AmountSign sign) {
     const std::u16string held = box.Text();
     const auto cents = CentsOf(held);

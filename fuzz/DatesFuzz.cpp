@@ -27,7 +27,7 @@ void CheckText(const std::u16string& text, TestMachine& machine) {
     Require(converted.empty() || Val(converted) <= 12, "no month above 12");
 }
 
-/// A second between the first and the last date, through every form that it has.
+/// Writes and reads a second between the first and the last date in every form that it has.
 void CheckSecond(DateTime when, TestMachine& machine) {
     using namespace std::chrono;
     const std::u16string text = DateTimeText(when);

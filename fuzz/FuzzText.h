@@ -22,30 +22,30 @@ inline std::u16string FuzzText(const std::uint8_t* data, std::size_t size) {
     return FromCodePage({reinterpret_cast<const char*>(data), size});
 }
 
-/// A text of some length from an input that holds more than one.
+/// A text of some length, from an input that holds several.
 inline std::u16string FuzzText(FuzzedDataProvider& input, std::size_t most) {
     const auto length = input.ConsumeIntegralInRange<std::size_t>(0, most);
     return FromCodePage(input.ConsumeBytesAsString(length));
 }
 
-/// What is left of an input.
+/// The rest of an input.
 inline std::u16string RestAsText(FuzzedDataProvider& input) {
     return FromCodePage(input.ConsumeRemainingBytesAsString());
 }
 
-/// A text of a few characters only: separators are frequent in it, and pieces often equal.
+/// A text made of a few characters only, so that separators are frequent and pieces often equal.
 inline std::u16string Narrowed(std::u16string text, std::u16string_view characters) {
     for (char16_t& character : text) character = characters[character % characters.size()];
     return text;
 }
 
-/// What is left of an input, narrowed in every other one.
+/// The rest of an input, made of few characters in every other one.
 inline std::u16string RestAsText(FuzzedDataProvider& input, std::u16string_view characters) {
     const bool isAny = input.ConsumeBool();
     return isAny ? RestAsText(input) : Narrowed(RestAsText(input), characters);
 }
 
-// What the library does at speed, done plainly, to compare with.
+// Plain versions of the library's fast functions, to compare with.
 
 inline std::u16string Folded(std::u16string text) {
     for (char16_t& character : text) character = FoldCase(character);
@@ -70,7 +70,7 @@ inline std::vector<std::u16string> Cut(std::u16string_view text, char16_t separa
     return pieces;
 }
 
-/// Ends the run, as a crash does, when something that must hold does not.
+/// Ends the run like a crash when a condition does not hold.
 inline void Require(bool holds, const char* what) {
     if (holds) return;
     std::fprintf(stderr, "does not hold: %s\n", what);

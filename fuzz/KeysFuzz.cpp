@@ -15,7 +15,8 @@ using namespace halvek;
 
 namespace {
 
-/// Items added and removed by key and by position, beside a list that is searched from its start.
+/// Adds and removes items by key and by position, and compares with a list that is searched from
+/// its start.
 void CheckCollection(FuzzedDataProvider& input) {
     using Item = std::pair<std::optional<std::u16string>, std::shared_ptr<int>>;
     KeyedCollection<int> collection;

@@ -12,7 +12,7 @@ using namespace halvek;
 
 namespace {
 
-/// Takes every line of the log and keeps none.
+/// Ignores every line of the log.
 class SilentMachine : public LocalMachine {
   public:
     bool TryAppend(const std::filesystem::path&, std::string_view, std::uintmax_t) override {

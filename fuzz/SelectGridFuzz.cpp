@@ -10,12 +10,12 @@ using namespace halvek;
 
 namespace {
 
-/// A dialog and its model, which a user's doings reach side by side.
+/// A dialog and its model, to which the user does the same things.
 class Play {
   public:
     explicit Play(FuzzedDataProvider& input) : input_(input) {
         Services::Install(&session_);
-        // A code with a comma in it could not be told from two in the box.
+        // In the box, a code with a comma in it would look like two.
         const SelectionRequest request{u"L", Narrowed(FuzzText(input, 150), u"::::\t\tABc d'1"),
                                        Narrowed(FuzzText(input, 20), u"ABc,,1 'x"),
                                        Narrowed(FuzzText(input, 2), u"ABc,")};

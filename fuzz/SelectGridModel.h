@@ -7,7 +7,8 @@
 
 namespace halvek {
 
-/// The rules of a selection dialog as one tells them: every look-up a scan, every text built anew.
+/// The rules of a selection dialog written plainly: every look-up is a scan, every text is built
+/// from scratch.
 struct SelectGridModel {
     std::vector<std::u16string> codes;  ///< of the entries that are shown, without blanks around
     std::vector<bool> ticks;
@@ -84,7 +85,7 @@ struct SelectGridModel {
         choice.clear();
     }
 
-    /// False for a code that no entry has; one that is ticked already stays so.
+    /// False for a code that no entry has. A ticked entry stays ticked.
     bool Tick(const std::u16string& code) {
         const auto found = std::find(codes.begin(), codes.end(), code);
         if (found == codes.end()) return false;

@@ -19,7 +19,8 @@ struct Entry {
 /// The entries of a list, each cut from its text by itself.
 std::vector<Entry> EntriesOf(const std::u16string& text, bool doNotIncludeDeleted) {
     std::vector<Entry> entries = {{u" ", u" *** ALL CODES *** "}};
-    const auto pieces = Cut(text + u':', u':');  // one too many: a list ends its last piece, too
+    const auto pieces =
+        Cut(text + u':', u':');  // one piece too many, since a list's last piece also ends in ":"
     std::size_t fieldCount = 0;
     for (std::size_t i = 1; i + 1 < pieces.size(); ++i) {
         const auto fields = Cut(pieces[i], u'\t');

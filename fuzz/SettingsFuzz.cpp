@@ -22,7 +22,7 @@ bool IsColor(std::u16string_view text) {
            text.find_first_not_of(u"0123456789", text.size() - digits) == text.npos;
 }
 
-/// What the server sends comes out again, wherever it can.
+/// What the server sends comes out again, where that is possible.
 void CheckText(const std::u16string& text) {
     UserPrefs prefs;
     Require(!prefs.PopulateSettings(text), "the result is always false");

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks that a library exports nothing but namespace halvek and that a host built against the
-# baseline in abi/ still runs with it. Both come from the release build, which keeps its debug
+# Checks that a library exports nothing but namespace halvek, and that a host built against the
+# baseline in abi/ still runs with it. Both were made by the release build, which keeps its debug
 # information.
 # Usage: abi.sh SOURCE-FOLDER LIBRARY WORK-FOLDER LIST-OF-HEADERS
 set -euo pipefail

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks that every room of the library includes only what it may touch, and that the library
-# without windows links nothing beyond the C and C++ run-time, and that every source names its
-# licence.
+# Checks that every room of the library includes only what it may touch, that the library without
+# windows links nothing beyond the C and C++ run-time, and that every source names its licence.
 # Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
 set -euo pipefail
 cd "$1"
@@ -32,13 +31,13 @@ wrong=$(grep -rE '#include <halvekutils/' halvekutils --include='*.h' --include=
         !($2 in floor) || !(to in floor) || ($2 != to && floor[to] >= floor[$2])')
 [ -z "$wrong" ] || fail "$wrong"
 
-# Inside core/ as well, whose files stand one upon another
+# Also inside core/, where includes run one way
 circle=$(grep -oE '#include <halvekutils/core/[A-Za-z]+' halvekutils/core/*.h halvekutils/core/*.cpp |
     sed -E 's,^halvekutils/core/([A-Za-z]+)\..*/,\1 ,' | tsort 2>&1 >/dev/null || true)
 [ -z "$circle" ] || fail "core/ includes in a circle: $circle"
 
-# Foreign headers: names without a dot are the standard library's or Qt's; names with .h are the
-# system's and the printers', and in one place the processor's
+# Foreign headers: names without a dot belong to the standard library or Qt; names with .h belong to
+# the system and the printers, and in one place to the processor
 foreign() {
     grep -rnE "#include <$1" halvekutils --include='*.h' --include='*.cpp' |
         grep -v '<halvekutils/' | grep -v '^halvekutils/base/CharacterBlock.h:.*<emmintrin.h>' |
@@ -50,8 +49,7 @@ done
 cups=$(grep -rn '#include <cups/' halvekutils | grep -v '^halvekutils/printers/' || true)
 [ -z "$cups" ] || fail "$cups"
 
-# Public headers: what the libraries offer to hosts stands nowhere else, and they and the demo
-# include no other headers of ours
+# Public headers: no other header exports anything, and they and the demo include only public ones
 exporting=$(grep -rl HALVEK_EXPORT halvekutils --include='*.h' | sed 's,^halvekutils/,,' |
     grep -vxFf "$public" || true)
 [ -z "$exporting" ] || fail "HALVEK_EXPORT in headers that are not public: $exporting"

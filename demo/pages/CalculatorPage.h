@@ -10,14 +10,14 @@
 
 namespace frontdesk {
 
-/// A field for an amount as a host has it, with the calculator behind a button.
+/// A field for an amount, as a host has it, with a button that opens the calculator.
 class CalculatorPage : public Page {
   public:
     explicit CalculatorPage(Desk& desk);
 
     void Play(Tour& tour) override;
 
-    /// Enters an amount, presses the button and gives what came back.
+    /// Enters an amount, presses the button and returns the result.
     QString CalculateFrom(const QString& amount);
 
   private:

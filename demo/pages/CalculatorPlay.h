@@ -6,8 +6,8 @@ namespace frontdesk {
 class CalculatorPage;
 class Tour;
 
-/// Works out amounts by keys and clicks, up to the limits of the display, and leaves the calculator
-/// in every way.
+/// Works out amounts by keys and clicks, up to the limits of the display, and closes the calculator
+/// in every possible way.
 void PlayCalculations(CalculatorPage& page, Tour& tour);
 
 }  // namespace frontdesk

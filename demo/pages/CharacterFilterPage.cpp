@@ -16,7 +16,7 @@ namespace frontdesk {
 
 namespace {
 
-/// A line of text holds control characters the way that results show them.
+/// The fields take control characters as results show them.
 QString Unescaped(QString text) {
     return text.replace("\\r", "\r").replace("\\n", "\n").replace("\\t", "\t");
 }
@@ -100,8 +100,8 @@ CallBox* MakeIsDateChar(Desk& desk) {
 
 CharacterFilterPage::CharacterFilterPage(Desk& desk)
     : Page("Character &filter",
-           "Keeps the server's separators and control characters out of what users type. A text "
-           "takes \\t, \\r and \\n for a tab, a carriage return and a line feed."),
+           "Keeps the server's separators and control characters out of what users type. In a "
+           "text, \\t, \\r and \\n stand for a tab, a carriage return and a line feed."),
       removeUnwantedChars_(MakeRemoveUnwantedChars(desk)),
       removeUnprintableChars_(MakeRemoveUnprintableChars(desk)),
       isAlpha_(MakeIsAlpha(desk)),

@@ -27,7 +27,7 @@ class CodesPage : public Page {
 
     void Build();
     void Clear();
-    /// Returns what the look-up gave, for the list of calls.
+    /// Returns the result of the look-up for the list of calls.
     QString LookUp();
     QString Fetch(const QString& key);
 

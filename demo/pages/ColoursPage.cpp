@@ -32,7 +32,7 @@ const char* const kTypes[] = {"New patient", "Follow-up", "Vaccination", "Labora
                               "Procedure",   "Telephone", "Blocked time"};
 constexpr int kTypeWidth = 220;
 
-/// A list of so many colours and the two that are never shown.
+/// A list of that many colours and the two that are never shown.
 StringArray Colours(int count) {
     constexpr int kStep = 7919 * 31;
     StringArray colours(1, count + 2);

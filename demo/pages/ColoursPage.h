@@ -21,7 +21,7 @@ class ColoursPage : public Page {
     enum class Opening { BesideButton, BesideCell, Centred };
 
     QLayout* MakeButtons();
-    /// Chooses a colour for the current type. Gives what came back.
+    /// Chooses a colour for the current type. Returns the result.
     QString Choose(Opening opening);
     QString Open(Opening opening);
     void Colour(int row, const QString& chosen);

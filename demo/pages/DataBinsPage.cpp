@@ -22,8 +22,8 @@ constexpr int kRowPadding = 8;
 
 DataBinsPage::DataBinsPage(Desk& desk)
     : Page("Data &bins",
-           "Texts that one window parks under a key and another fetches. Keys "
-           "are compared to the letter case."),
+           "Texts that one window stores under a key and another fetches. Letter "
+           "case of keys matters."),
       desk_(desk) {
     MakeTable();
     Body().addLayout(MakeFields());

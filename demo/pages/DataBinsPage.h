@@ -10,7 +10,7 @@
 
 namespace frontdesk {
 
-/// Texts parked under keys, with what the library says about every key that was used here.
+/// Texts stored under keys, with what the library returns for every key that was used here.
 class DataBinsPage : public Page {
   public:
     explicit DataBinsPage(Desk& desk);

@@ -46,7 +46,7 @@ CallBox* MakeConvertNumberToDate(Desk& desk) {
 }
 
 CallBox* MakeInitServerTime(Desk& desk) {
-    return new CallBox("The server tells its clock", "&InitServerTime",
+    return new CallBox("The server's clock", "&InitServerTime",
                        {{"Time from server", "11:59:30 PM"}},
                        [&desk](const QVariantList& arguments) {
                            const QString time = arguments[0].toString();
@@ -106,7 +106,7 @@ QGroupBox* DatesPage::MakeVisit() {
     return visit;
 }
 
-// The field may hold digits, 03071954; an empty one opens on a year that is closer than this one.
+// The field may hold digits, 03071954; an empty one opens on a likelier year than the current one.
 QString DatesPage::ChooseBirth(DateField& field) {
     QString day = ToQString(desk_.Library().ShowCalendarAndCalculateCoordinates(
         Beside(&field.Button()), field.Date(), QString(kBirthDefault), AsOwnerForm(this), true));

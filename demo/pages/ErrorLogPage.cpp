@@ -19,8 +19,8 @@ constexpr int kTailLines = 200;
 
 ErrorLogPage::ErrorLogPage(Desk& desk)
     : Page("&Error log",
-           "One line for every fault, with date, time and login name. The log is "
-           "put aside when it reaches a mebibyte."),
+           "One line for every fault, with date, time and login name. At one mebibyte "
+           "the log becomes an archive."),
       desk_(desk),
       tail_(MakeReadOnlyText()) {
     tail_->setAccessibleName("End of the error log");

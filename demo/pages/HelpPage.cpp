@@ -82,7 +82,7 @@ void HelpPage::AddFiles() {
     file_.addItem("The client's own, from InitHelp", QString());
     file_.addItem("One that is missing", damaged_.filePath("Missing.chm"));
     file_.addItem("One that is damaged", half.fileName());
-    file_.addItem("One that is no help file", SampleData::Folder() + "/codes.txt");
+    file_.addItem("One that is not a help file", SampleData::Folder() + "/codes.txt");
 }
 
 void HelpPage::ShowByNumber() {

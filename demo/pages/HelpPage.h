@@ -11,7 +11,7 @@
 
 namespace frontdesk {
 
-/// Opens the client's help, and files that are missing or damaged, by number and by topic.
+/// Opens the client's help, and missing or damaged files, by number and by topic.
 class HelpPage : public Page {
   public:
     explicit HelpPage(Desk& desk);

@@ -132,8 +132,7 @@ QTableWidget* MakeVisits() {
 
 HelpersPage::HelpersPage(Desk& desk)
     : Page("&Keys and controls",
-           "What a screen asks of the library for its controls, for the keys that are held and "
-           "for its window."),
+           "Helpers for a screen's controls and its window, and the keys that are held down."),
       desk_(desk),
       grid_(MakeVisits()),
       fill_(MakeFill(desk, combo_)),

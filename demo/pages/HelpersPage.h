@@ -19,8 +19,8 @@
 
 namespace frontdesk {
 
-/// What a host's screens do with their controls, keys and windows: captions that are highlighted,
-/// fonts, combo boxes, the keys that are held, look-up keys and a window without a close button.
+/// Helpers for a host's screens: highlighted captions, fonts, combo boxes, the keys that are held
+/// down, look-up keys and a window without a close button.
 class HelpersPage : public Page {
   public:
     explicit HelpersPage(Desk& desk);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kMaxCountdown = 86'400;
 constexpr int kMinChoiceWidth = 200;
-// A value that no enumeration has, to see what becomes of it.
+// A value that no enumeration has, to show how it is corrected.
 constexpr int kUnknownValue = 99;
 
 template <class Enum, std::size_t n>
@@ -31,7 +31,7 @@ QString TextOf(MbMsgBoxResult result) {
     return QString("%1 (%2)").arg(result).arg(NameOf(kResultNames, result));
 }
 
-/// The prompt as the text field and as the library part its lines.
+/// The prompt, with lines separated as in the text field and as in the library.
 QString WithLineFeeds(QString text) {
     return text.replace("\r\n", "\n");
 }

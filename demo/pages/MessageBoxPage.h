@@ -24,7 +24,7 @@ class MessageBoxPage : public Page {
     int HelpContext() const override { return kPaymentsTopic; }
     void Play(Tour& tour) override;
 
-    /// Enters the arguments, presses "Show" and gives the box's answer.
+    /// Enters the arguments, presses "Show" and returns the box's answer.
     halvek::MbMsgBoxResult ShowWith(const BoxArguments& arguments);
 
   private:

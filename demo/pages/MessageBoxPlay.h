@@ -6,8 +6,8 @@ namespace frontdesk {
 class MessageBoxPage;
 class Tour;
 
-/// Shows every button set, icon, background and font, texts at the limits of the layout and every
-/// way of ending a box.
+/// Shows every button set, icon, background and font and texts at the limits of the layout, and
+/// ends boxes in every possible way.
 void PlayMessageBoxes(MessageBoxPage& page, Tour& tour);
 
 }  // namespace frontdesk

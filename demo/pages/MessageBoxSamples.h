@@ -24,7 +24,7 @@ struct BoxArguments {
     std::int32_t closeAfterNSec = 0;
 };
 
-/// A message box worth seeing, under the name that the page lists it by.
+/// A message box worth seeing, and its name in the page's list.
 struct BoxSample {
     QString name;
     BoxArguments arguments;

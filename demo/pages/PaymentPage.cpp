@@ -44,8 +44,8 @@ bool EndsTyping(const QEvent& event) {
 
 PaymentPage::PaymentPage(Desk& desk)
     : Page("Pa&yment",
-           "Ordinary text boxes as currency fields: a bare number while it is typed, an amount "
-           "when the field is left. The adjustment may be negative; \"To\" must not be below "
+           "Ordinary text boxes as currency fields: a bare number while you type, an amount "
+           "when you leave the field. The adjustment may be negative; \"To\" must not be below "
            "\"From\"."),
       desk_(desk) {
     MakeCurrencyField(&from_);

@@ -16,7 +16,7 @@
 
 namespace frontdesk {
 
-/// Currency fields as a host has them: a payment to post, and a range of amounts to look for.
+/// Currency fields as a host has them: a payment to post, and a range of amounts to search for.
 class PaymentPage : public Page {
   public:
     explicit PaymentPage(Desk& desk);
@@ -30,7 +30,7 @@ class PaymentPage : public Page {
       public:
         void reject() override {}
     };
-    /// A field and what it held when it was left last.
+    /// A field and its text when it last lost the focus.
     struct Entry {
         const char* handler;
         QLineEdit* field;

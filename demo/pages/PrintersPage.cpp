@@ -58,7 +58,7 @@ constexpr Source kSources[] = {
 
 PrintersPage::PrintersPage(Desk& desk)
     : Page("&Printers",
-           "Every output device that a user may pick: the server's, from printers.txt, then the "
+           "Every output device that a user may choose: the server's, from printers.txt, then the "
            "workstation's."),
       desk_(desk),
       table_(MakeTable("Printers", kColumns)),
@@ -150,7 +150,7 @@ QString PrintersPage::FilteredWith(std::initializer_list<bool> exclude) {
 }
 
 void PrintersPage::Play(Tour& tour) {
-    // What the workstation has differs from one to the next, so it is left out of what is compared.
+    // Each workstation has other printers, so they are left out of the comparison.
     const struct {
         std::initializer_list<bool> exclude;
         const char* left;

@@ -35,7 +35,7 @@ class PrintersPage : public Page {
     void Clear();
     std::shared_ptr<halvek::PrintersCollection> Listed();
     void NoteFilter();
-    /// Sets the switches in their order and gives the descriptions that remain.
+    /// Sets the switches in their order and returns the descriptions that remain.
     QString FilteredWith(std::initializer_list<bool> exclude);
 
     static constexpr std::size_t kSwitches = 4;

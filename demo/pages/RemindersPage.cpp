@@ -32,8 +32,7 @@ QString YesNo(bool value) {
 }  // namespace
 
 RemindersPage::RemindersPage(Desk& desk)
-    : Page("Rem&inders",
-           "What the server, here reminders.txt, has to say when an account is opened."),
+    : Page("Rem&inders", "What the server, here reminders.txt, sends when an account is opened."),
       desk_(desk),
       data_(MakeReadOnlyLine()),
       titles_(MakeReadOnlyLine()),

@@ -43,7 +43,7 @@ QString RightsOf(const SecurityItem& item) {
 RightsPage::RightsPage(Desk& desk)
     : Page("&Rights",
            "What the signed-in user may do, built from rights.txt. A key that the server did not "
-           "send is made on its first look-up."),
+           "send is added by its first look-up."),
       desk_(desk),
       table_(MakeTable("Rights", kColumns)),
       found_(MakeReadOnlyLine()),

@@ -29,7 +29,7 @@ class RightsPage : public Page {
     void Clear();
     void LookUp();
     void ReportMissing(bool report);
-    /// Enters the key, looks it up and gives the answer.
+    /// Enters the key, looks it up and returns the answer.
     QString Answer(const QString& key);
 
     Desk& desk_;

@@ -18,7 +18,7 @@
 
 namespace frontdesk {
 
-/// A field of codes as a host has it, with the list that they are chosen from.
+/// A field of codes, as a host has it, with the list from which they are chosen.
 class SelectionPage : public Page {
   public:
     explicit SelectionPage(Desk& desk);
@@ -29,17 +29,17 @@ class SelectionPage : public Page {
 
     const std::vector<SelectionSample>& Samples() const { return samples_; }
 
-    /// The arguments as they stand.
+    /// The current arguments.
     SelectionArguments Entered() const;
     void Enter(const SelectionArguments& arguments);
     /// Enters the positions beside the button.
     void EnterPositions();
 
-    /// Presses the button beside the field of codes, or a key in the field. Gives what came back.
+    /// Presses the button beside the field of codes, or a key in the field. Returns the result.
     QString Choose();
     QString TypeIntoCodes(QChar letter);
 
-    /// The button that the list opens beside.
+    /// The button beside which the list opens.
     QWidget& Target() { return choose_; }
 
   private:

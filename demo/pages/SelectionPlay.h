@@ -6,8 +6,8 @@ namespace frontdesk {
 class SelectionPage;
 class Tour;
 
-/// Chooses codes from typical lists and lists at the limits by keys and clicks, types what is
-/// refused, and opens lists in every way.
+/// Chooses codes from typical and extreme lists by keys and clicks, types codes that are refused,
+/// and opens lists in every possible way.
 void PlaySelections(SelectionPage& page, Tour& tour);
 
 }  // namespace frontdesk

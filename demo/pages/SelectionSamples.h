@@ -43,25 +43,25 @@ struct SelectionArguments {
     QString typed = {};
     bool doNotIncludeDeleted = false;
     SelectionMember member = kSelectionGridBeside;
-    // In twips; -1 for not given.
+    // In twips; -1 means not given.
     int posLeft = -1;
     int posTopUp = -1;
     int posTopDown = -1;
 };
 
-/// A list worth seeing, under the name that the page offers it by.
+/// A list worth seeing, and its name on the page.
 struct SelectionSample {
     QString name;
     SelectionArguments arguments;
 };
 
-/// The practice's lists with what a visit may hold of them, and lists at the limits.
+/// The practice's lists with codes that a visit may hold, and extreme lists.
 std::vector<SelectionSample> SelectionSamples(const SampleData& data);
 
-/// Every code of a list in its order, parted by ",".
+/// Every code of a list in its order, separated by ",".
 QString AllCodes(const QString& allValues);
 
-/// The list of the limits: 100,000 patients, every tenth of them chosen.
+/// The largest list: 100,000 patients, every tenth of them chosen.
 SelectionArguments HugeSelection();
 
 }  // namespace frontdesk

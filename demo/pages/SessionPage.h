@@ -16,7 +16,8 @@
 
 namespace frontdesk {
 
-/// What InitUtils, InitPrefs, InitOtherSettings and the text properties hold, to see and to change.
+/// The values of InitUtils, InitPrefs, InitOtherSettings and the text properties, to see and to
+/// change.
 class SessionPage : public Page {
   public:
     explicit SessionPage(Desk& desk);

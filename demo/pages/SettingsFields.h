@@ -24,7 +24,7 @@ struct PropertyField {
 /// text lacks at the end.
 std::vector<PropertyField<halvek::UserPrefs>> MakeUserFields();
 
-/// Some of the practice's.
+/// Some of the practice's preferences.
 std::vector<PropertyField<halvek::SystemPrefs>> MakeSystemFields();
 
 /// The names of the settings text's fields.

@@ -55,7 +55,7 @@ QLayout* RowOf(std::initializer_list<QWidget*> buttons) {
 SettingsPage::SettingsPage(Desk& desk)
     : Page("Se&ttings",
            "The user's preferences, from settings.txt, and the one text in which the server keeps "
-           "them. Its fields are parted by ß."),
+           "them. Its fields are separated by ß."),
       desk_(desk) {
     auto* columns = new QHBoxLayout;
     columns->addLayout(MakeEditor(), 1);
@@ -190,7 +190,7 @@ void SettingsPage::Play(Tour& tour) {
     const auto line = [this](const char* name) { return findChild<QLineEdit*>(name); };
     tour.ExpectResult("the reserved setting", text_.item(12, kTextColumn)->text(), "r12ß");
     GetString();
-    // The form's top colour was not set; reading it for the editor stored its default.
+    // The form's top colour was not set, and the editor has read it, which stored its default.
     tour.ExpectResult("the settings text", Text(),
                       QString(sent).replace("ßß16314084", "ß9664091ß16314084"));
     line("LastPrinterUsed")->setText("Label printer");

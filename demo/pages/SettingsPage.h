@@ -12,7 +12,7 @@
 
 namespace frontdesk {
 
-/// An editor of the user's preferences beside the settings text that keeps them, and a few of the
+/// An editor for the user's preferences, beside the settings text that holds them, and a few of the
 /// practice's.
 class SettingsPage : public Page {
   public:
@@ -26,7 +26,7 @@ class SettingsPage : public Page {
     QLayout* MakeText();
     QLayout* MakeSystem();
 
-    /// The settings text as it stands in the list, and showing another.
+    /// The settings text in the list, and showing another.
     QString Text() const;
     void ShowText(const QString& text);
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::chrono::seconds kPatience(60);
 constexpr std::chrono::milliseconds kTick(15);
-// A new window has painted itself by then.
+// By then a new window has painted itself.
 constexpr int kTicksToSettle = 3;
 
 }  // namespace
@@ -62,7 +62,7 @@ void Tour::Tick() {
 }
 
 void Tour::RunStep(QWidget& dialog) {
-    // Counted before: a step may end the dialog at once.
+    // Counted first, because a step may end the dialog at once.
     const TourStep& step = steps_[nextStep_++];
     if (!step.run(dialog)) --nextStep_;
 }

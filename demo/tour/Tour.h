@@ -17,7 +17,7 @@
 
 namespace frontdesk {
 
-/// Plays the client without a person: answers dialogs through real events, takes pictures and
+/// Plays the client without a person: answers dialogs through real events, takes pictures, and
 /// writes every call with its result to results.txt in the tour's folder.
 ///
 ///     tour.Answer("delete a visit", {tour.Snapshot("delete"), PressKey("arrCmd_0", Qt::Key_Y)},
@@ -27,18 +27,18 @@ class Tour {
     /// Throws std::runtime_error when the folder cannot be written.
     Tour(const QString& folder, CallLog& calls);
 
-    /// Opens a dialog and takes the steps in it, or in a dialog that lies on top of it. The call
-    /// must end after the last step.
+    /// Opens a dialog and performs the steps in it, or in a dialog on top of it. The call must end
+    /// after the last step.
     void Answer(const QString& name, std::vector<TourStep> steps,
                 const std::function<void()>& open);
 
-    /// Takes a picture of the dialog, one image pixel for each of its own.
+    /// Takes a picture of the dialog, pixel for pixel.
     TourStep Snapshot(const QString& picture);
 
     /// Expects that something holds in the dialog.
     TourStep Check(const QString& what, std::function<bool(QWidget& dialog)> holds);
 
-    /// Takes a picture of a window outside of a dialog, when it has settled.
+    /// Takes a picture of a window outside a dialog, once it has settled.
     void Picture(QWidget& window, const QString& name);
 
     void Expect(bool met, const QString& what);
@@ -64,7 +64,7 @@ class Tour {
     QString dialogName_;
     std::vector<TourStep> steps_;
     std::size_t nextStep_ = 0;
-    QWidget* dialog_ = nullptr;  ///< the one on top, to recognise only
+    QWidget* dialog_ = nullptr;  ///< the one on top, only to recognise it
     int ticksOpen_ = 0;
     int dialogs_ = 0;
     int pictures_ = 0;

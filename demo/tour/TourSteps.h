@@ -8,15 +8,15 @@
 
 namespace frontdesk {
 
-/// One thing that the tour does in an open dialog.
+/// One step of the tour in an open dialog.
 struct TourStep {
-    /// Returns true when it is done; is called again a little later otherwise. May throw to end the
-    /// tour with a message.
+    /// Returns true when it is done; otherwise it is called again a little later. May throw to end
+    /// the tour with a message.
     std::function<bool(QWidget& dialog)> run;
 };
 
-// Widgets are named by their objectName; the empty name is the dialog itself. Events are posted as
-// the window system would.
+// Widgets are named by their objectName; the empty name means the dialog itself. Events are posted
+// as the window system would post them.
 
 /// Clicks a widget with the left mouse button.
 TourStep Click(const QString& widget, int times = 1);

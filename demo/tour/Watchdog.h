@@ -18,7 +18,7 @@ class Watchdog {
     Watchdog(const Watchdog&) = delete;
     Watchdog& operator=(const Watchdog&) = delete;
 
-    /// The step before is done, this one begins.
+    /// The previous step is done; this one begins.
     void Begin(const std::string& step);
 
   private:

@@ -16,7 +16,7 @@ namespace frontdesk {
 namespace {
 
 constexpr int kButtonWidth = 175;
-// The first text is the one that is cut, kept or searched, and the longest.
+// The first text, the one to cut, keep or search, is the longest.
 constexpr int kFirstStretch = 5;
 
 QWidget* MakeField(const QVariant& value) {

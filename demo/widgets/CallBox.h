@@ -15,7 +15,7 @@
 
 namespace frontdesk {
 
-/// One member of the library: its arguments to edit, a button that calls it and what it returned.
+/// One member of the library: its arguments, a button that calls it, and its result.
 class CallBox : public QGroupBox {
   public:
     /// An argument with its first value: a QString for a line of text, an int for a number, a
@@ -24,7 +24,7 @@ class CallBox : public QGroupBox {
         QString label;
         QVariant value;
     };
-    /// Makes the call with the arguments as they stand and gives the result to show.
+    /// Makes the call with the current arguments and returns the result to show.
     using Call = std::function<QString(const QVariantList& arguments)>;
 
     /// @param title  what the member does
@@ -32,7 +32,7 @@ class CallBox : public QGroupBox {
     CallBox(const QString& title, const QString& caption, std::initializer_list<Argument> arguments,
             Call call);
 
-    /// Enters the arguments from the left, presses the button and gives the result.
+    /// Enters the arguments from the left, presses the button and returns the result.
     QString CallWith(const QVariantList& arguments);
 
     QString MemberName() const { return button_->text().remove('&'); }

@@ -8,10 +8,11 @@
 
 namespace frontdesk {
 
-/// A colour of the library as Qt draws it; one of the desktop's scheme as its button face.
+/// A colour of the library as Qt draws it; a colour of the desktop's scheme becomes its button
+/// face.
 QColor ToQColor(halvek::Color color);
 
-/// A colour to look at and to change: a swatch with the decimal value beside it.
+/// A colour to see and to change: a swatch with the decimal value beside it.
 class ColorButton : public QPushButton {
   public:
     ColorButton();

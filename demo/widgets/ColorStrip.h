@@ -7,7 +7,7 @@
 
 namespace frontdesk {
 
-/// The colours of a palette in their order, for looking at; an unused slot is crossed out.
+/// The colours of a palette in their order, only to see; an unused slot is crossed out.
 class ColorStrip : public QWidget {
   public:
     ColorStrip();

@@ -10,10 +10,10 @@
 
 namespace frontdesk {
 
-/// A field for a date with the button that its calendar opens beside; Enter presses the button.
+/// A field for a date and a button, beside which the calendar opens; Enter presses the button.
 class DateField : public QWidget {
   public:
-    /// Opens the calendar and gives the chosen day, empty for none.
+    /// Opens the calendar and returns the chosen day, empty for none.
     using Choose = std::function<QString(DateField& field)>;
 
     DateField(const QString& name, Choose choose);
@@ -23,7 +23,7 @@ class DateField : public QWidget {
 
     QWidget& Button() { return button_; }
 
-    /// Presses the button and gives what came back.
+    /// Presses the button and returns the result.
     QString PressButton();
 
   private:

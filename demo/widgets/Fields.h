@@ -16,7 +16,7 @@
 
 namespace frontdesk {
 
-/// Ready-made controls that keyboard and screen readers reach: each has its accessible name.
+/// Ready-made controls for keyboard and screen readers: each has its accessible name.
 
 /// Adds a control under a label that is its buddy; "&" in the label marks the mnemonic.
 void AddRow(QFormLayout& form, const QString& label, QWidget* control);
@@ -24,10 +24,10 @@ void AddRow(QFormLayout& form, const QString& label, QWidget* control);
 QPushButton* MakeButton(const QString& caption, const std::function<void()>& pressed);
 QSpinBox* MakeNumber(int value, int least, int most);
 QLineEdit* MakeReadOnlyLine();
-/// In fixed pitch.
+/// In a fixed-pitch font.
 QPlainTextEdit* MakeReadOnlyText();
 
-/// A combo box of an enumeration's names; its data are the values.
+/// A combo box of an enumeration's names; the values are its data.
 template <class Enum, std::size_t n>
 QComboBox* MakeChoice(const Named<Enum> (&table)[n]) {
     auto* choice = new QComboBox;

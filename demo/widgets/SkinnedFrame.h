@@ -7,12 +7,12 @@
 
 namespace frontdesk {
 
-/// A part of a page in the colours of the practice's forms, whatever the desktop's are.
+/// A part of a page in the colours of the practice's forms instead of the desktop's.
 class SkinnedFrame : public QFrame {
   public:
     SkinnedFrame();
 
-    /// Takes over the colours given to InitPrefs.
+    /// Applies the colours given to InitPrefs.
     void SetColors(const halvek::Utils& library);
 };
 

@@ -11,7 +11,8 @@
 
 namespace frontdesk {
 
-/// A column over objects of the library: its heading, width in pixels and text of a row.
+/// A column of a table of the library's objects: its heading, its width in pixels and the text of a
+/// row.
 template <class T>
 struct Column {
     const char* heading;
@@ -19,15 +20,15 @@ struct Column {
     QString (*text)(const T& item);
 };
 
-/// How a flag stands in a table.
+/// How a table shows a flag.
 inline QString Tick(bool flag) {
     return flag ? "Yes" : QString();
 }
 
-/// Rows as in a list: chosen as a whole, in alternating colours, left by the tab key.
+/// Rows as in a list: selected as a whole, in alternating colours; the Tab key leaves the table.
 void StyleAsList(QTableView& table);
 
-/// A row of texts that are shown and not edited; returns its number.
+/// Adds a row of read-only texts; returns its number.
 int AddTableRow(QTableWidget& table, const QStringList& texts);
 
 template <class T, std::size_t n>

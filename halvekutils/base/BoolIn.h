@@ -6,7 +6,7 @@
 namespace halvek {
 
 /// A boolean argument that takes a bool and nothing else: a text, a number or a pointer, which
-/// would turn into true without a word, does not compile.
+/// would silently become true, does not compile.
 class BoolIn {
   public:
     /// The argument, from a bool only.

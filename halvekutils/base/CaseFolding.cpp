@@ -35,7 +35,7 @@ std::uint64_t FoldedOneByOne(std::uint64_t word) {
 std::uint64_t FoldedWord(std::uint64_t word) {
     constexpr std::uint64_t kEach = 0x0001000100010001;
     if ((word & kEach * 0xFF80) != 0) return FoldedOneByOne(word);
-    // Bit 7 of each character tells whether it lies at or behind a letter.
+    // Bit 7 of each character says whether it is at or after a letter.
     const std::uint64_t fromA = word + kEach * (0x80 - u'A');
     const std::uint64_t behindZ = word + kEach * (0x7F - u'Z');
     return word | (fromA & ~behindZ & kEach * 0x80) >> 2;  // 0x20 for each capital letter

@@ -27,9 +27,9 @@ constexpr char16_t FoldCase(char16_t character) {
 }
 
 // Four characters at a time: keys are compared and hashed for every record of the server's and for
-// every look-up, which one character at a time takes two to five times as long.
+// every look-up. One character at a time, this takes two to five times as long.
 
-/// True when the texts differ in letter case at the most.
+/// True when the texts differ in letter case at most.
 HALVEK_INTERNAL bool EqualFolded(std::u16string_view left, std::u16string_view right) noexcept;
 
 /// True when a text begins with another, letter case ignored.
@@ -41,7 +41,7 @@ inline bool EndsFolded(std::u16string_view text, std::u16string_view end) noexce
     return text.size() >= end.size() && EqualFolded(text.substr(text.size() - end.size()), end);
 }
 
-/// A hash under which texts that EqualFolded calls equal are equal.
+/// A hash that is the same for texts that EqualFolded calls equal.
 std::size_t HashFolded(std::u16string_view text) noexcept;
 
 }  // namespace halvek

@@ -11,7 +11,8 @@
 namespace halvek {
 
 // Without the processor's own instructions, cutting a text into pieces takes 4 to 10 times as long,
-// reading a selection list more than twice and filling a string array 1.3 to 1.5 times.
+// reading a selection list more than twice as long, and filling a string array 1.3 to 1.5 times as
+// long.
 
 /// How many characters the functions below look at together.
 inline constexpr std::size_t kBlockLength = 16;
@@ -57,7 +58,7 @@ std::uint32_t MaskOfOthers(const char16_t* block) noexcept {
     const auto* const halves = reinterpret_cast<const __m128i*>(block);
     // As bytes, where anything beyond Latin-1 becomes 0 or 255.
     const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(halves), _mm_loadu_si128(halves + 1));
-    // Moved so that the range starts at the least signed byte: all else lies above its end.
+    // Shifted so that the range starts at the smallest signed byte: all else lies above its end.
     const __m128i moved = _mm_sub_epi8(bytes, _mm_set1_epi8(static_cast<char>(kFirst + 128)));
     __m128i others = _mm_cmpgt_epi8(moved, _mm_set1_epi8(kLast - kFirst - 128));
     ((others = _mm_or_si128(others, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(kExcept)))), ...);

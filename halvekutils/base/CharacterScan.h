@@ -19,11 +19,11 @@ namespace halvek {
 template <std::size_t kCharacters>
 class CharacterScan {
   public:
-    /// What Next gives when there is no further position.
+    /// What Next returns when there is no further position.
     static constexpr std::size_t kNone = std::u16string_view::npos;
 
-    /// @param text  the text to be scanned; it outlives the scan
-    /// @param characters  the characters that are looked for
+    /// @param text  the text to scan; it outlives the scan
+    /// @param characters  the characters to look for
     template <class... Characters>
     explicit CharacterScan(std::u16string_view text, Characters... characters) noexcept
         : text_(text), characters_{characters...} {}
@@ -39,7 +39,7 @@ class CharacterScan {
         return position;
     }
 
-    /// Passes over some positions, or over all when there are fewer.
+    /// Skips some positions, or all when there are fewer.
     void Skip(std::size_t count) noexcept {
         while (true) {
             const auto here = static_cast<std::size_t>(std::popcount(mask_));
@@ -70,7 +70,7 @@ class CharacterScan {
 
     std::u16string_view text_;
     std::array<char16_t, kCharacters> characters_;
-    std::uint32_t mask_ = 0;  ///< the positions in the block that were not told yet
+    std::uint32_t mask_ = 0;  ///< the positions in the block not returned yet
     std::size_t block_ = 0;   ///< where the block starts
     std::size_t next_ = 0;    ///< where the block after it starts
 };
@@ -94,7 +94,7 @@ inline std::size_t CountOf(std::u16string_view text, char16_t character) noexcep
     return count;
 }
 
-/// How often two characters that differ stand side by side.
+/// How often two different characters stand side by side.
 inline std::size_t CountOfPair(std::u16string_view text, char16_t first, char16_t second) noexcept {
     constexpr std::size_t kMax = 0xFFFF;
     std::size_t count = 0;

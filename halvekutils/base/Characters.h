@@ -8,7 +8,7 @@
 
 namespace halvek {
 
-// The kinds of characters that texts are read by, and what is taken off the ends of a text.
+// The kinds of characters in texts, and functions that cut characters off their ends.
 
 /// True for the blank and TAB, the characters that a number may have around it.
 constexpr bool IsBlank(char16_t character) {
@@ -27,7 +27,7 @@ constexpr bool IsSign(char16_t character) {
     return character == u'-' || character == u'+';
 }
 
-/// Takes a character off the front of a text; false when the text starts with another.
+/// Removes a character from the front of a text; false when the text starts with another.
 constexpr bool TakeFront(std::u16string_view& text, char16_t character) {
     if (!text.starts_with(character)) return false;
     text.remove_prefix(1);

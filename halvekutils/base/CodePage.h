@@ -12,8 +12,8 @@ namespace halvek {
 
 /// Windows-1252, the code page of the server's texts and of the log files.
 ///
-/// Its five unassigned codes stand for the control characters of the same number, so that every
-/// byte comes back as it was. A character that the page lacks becomes the code of "?".
+/// Its five unassigned codes stand for the control characters of the same number, so every byte
+/// survives the round trip. A character that the page lacks becomes the code of "?".
 
 /// The code of a character, 0 to 255.
 std::uint8_t CodeOf(char16_t character) noexcept;

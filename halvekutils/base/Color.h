@@ -7,11 +7,11 @@ namespace halvek {
 
 /// A colour with red in the low byte, green in the next and blue in the third.
 ///
-/// A value with the top bit set names a colour of the desktop's own scheme; `kButtonFace` is the
-/// one that this library uses.
+/// A value with the top bit set names a colour of the desktop's own scheme; this library uses only
+/// `kButtonFace`.
 using Color = std::int32_t;
 
-/// The colour of these parts.
+/// The colour with these parts.
 constexpr Color Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return red | green << 8 | blue << 16;
 }
@@ -28,7 +28,7 @@ constexpr std::uint8_t BlueOf(Color color) {
     return static_cast<std::uint8_t>(color >> 16 & 0xFF);
 }
 
-/// True for a colour of the desktop's scheme, whose bytes are no red, green and blue.
+/// True for a colour of the desktop's scheme, whose bytes are not red, green and blue.
 constexpr bool IsSchemeColor(Color color) {
     return color < 0;
 }

@@ -29,7 +29,7 @@ bool IsTimeOfDay(const DateParts& parts) {
 }
 
 bool IsCalendarDay(const DateParts& parts) {
-    // The calendar types keep only the low bits, so the numbers are limited first.
+    // The calendar types keep only the low bits, so the numbers are checked first.
     if (parts.year < 100 || parts.year > 9999 || parts.month > 12 || parts.day > 31) return false;
     const std::chrono::year_month_day date(std::chrono::year(parts.year),
                                            std::chrono::month(parts.month),
@@ -87,7 +87,7 @@ constexpr char16_t kNumber = u'9';
 constexpr char16_t kWord = u'A';
 constexpr char16_t kEnd = 0;
 
-/// What a character starts: a number, a word, or the mark that it is; kEnd for any other.
+/// What a character starts: a number, a word, or a mark; kEnd for any other.
 constexpr char16_t KindOf(char16_t character) {
     if (IsDigit(character)) return kNumber;
     if (IsLetter(character)) return kWord;
@@ -100,7 +100,7 @@ struct Token {
     std::u16string_view text;
 };
 
-/// The parts of a text one after the other. The Take functions step on only when they return true.
+/// The parts of a text, one after the other. The Take functions advance only when they return true.
 class Tokens {
   public:
     /// False when the text has a character that no date has, or more parts than any date.
@@ -143,7 +143,7 @@ class Tokens {
   private:
     static constexpr std::size_t kMax = 12;  // 2004-03-07T02:05:09 PM
 
-    /// Numbers and words are runs of characters, a mark stands alone.
+    /// Numbers and words are runs of characters; a mark is a single one.
     static std::size_t EndOfToken(std::u16string_view text, std::size_t at) {
         const char16_t kind = KindOf(text[at++]);
         if (kind != kNumber && kind != kWord) return at;
@@ -175,7 +175,7 @@ bool ReadShort(Tokens& in, unsigned& number) {
     return in.TakeNumber(1, 2, number);
 }
 
-/// The mark between the parts of a date of digits: the one behind its first number.
+/// The mark between the parts of a date of digits: the one after its first number.
 char16_t DateMark(const Tokens& in) {
     return in.KindAhead(1) == u'-' ? u'-' : u'/';
 }
@@ -186,7 +186,7 @@ bool ReadMonthDayYear(Tokens& in, DateParts& parts) {
            in.Take(mark) && ReadYear(in, parts.year);
 }
 
-/// With a "T" behind the date a time has to follow.
+/// A "T" after the date must be followed by a time.
 bool ReadYearMonthDay(Tokens& in, DateParts& parts) {
     const char16_t mark = DateMark(in);
     return in.TakeNumber(4, 4, parts.year) && in.Take(mark) && ReadShort(in, parts.month) &&
@@ -217,7 +217,7 @@ bool ReadDate(Tokens& in, DateParts& parts) {
     return ReadMonthDayYear(in, parts);
 }
 
-/// Applies AM or PM, where the hour has to be 1 to 12.
+/// Applies AM or PM, which needs an hour from 1 to 12.
 bool ReadHalfOfDay(Tokens& in, int& hour) {
     const bool morning = in.TakeWord(u"am");
     if (!morning && !in.TakeWord(u"pm")) return true;

@@ -28,7 +28,7 @@ inline constexpr DateTime kFirstDateTime = detail::MidnightOf(100, 1, 1);
 inline constexpr DateTime kLastDateTime =
     detail::MidnightOf(9999, 12, 31) + std::chrono::days(1) - std::chrono::seconds(1);
 
-/// A date and time taken apart.
+/// The parts of a date and time.
 struct DateParts {
     int year = 0;        ///< 100 to 9999
     unsigned month = 0;  ///< 1 to 12
@@ -38,23 +38,23 @@ struct DateParts {
     int second = 0;      ///< 0 to 59
 };
 
-/// Puts a date and time together. Throws InvalidArgument for one that does not exist, such as
-/// February 30, or that lies outside the range.
+/// A date and time from its parts. Throws InvalidArgument when it does not exist, as February 30
+/// does not, or lies outside the range.
 HALVEK_EXPORT DateTime MakeDateTime(int year, unsigned month, unsigned day, int hour = 0,
                                     int minute = 0, int second = 0);
 
-/// Takes a date and time apart. Throws Overflow outside the range.
+/// The parts of a date and time. Throws Overflow outside the range.
 HALVEK_EXPORT DateParts PartsOf(DateTime when);
 
-/// "mm/dd/yyyy hh:mm:ss AM" or PM, always with two digits a part and four for the year; at midnight
-/// the date alone. Throws Overflow outside the range.
+/// "mm/dd/yyyy hh:mm:ss AM" or PM, always with two digits for each part and four for the year; at
+/// midnight, the date alone. Throws Overflow outside the range.
 HALVEK_EXPORT std::u16string DateTimeText(DateTime when);
 
-/// "mm/dd/yyyy", whatever the time. Throws Overflow outside the range.
+/// "mm/dd/yyyy", without the time. Throws Overflow outside the range.
 HALVEK_EXPORT std::u16string DateOnlyText(DateTime when);
 
-/// Reads a date, a date and time, or a time alone, which is then on the date of `today`. Gives
-/// nothing for any other text, for days that do not exist and outside the range.
+/// Reads a date, a date and time, or a time alone, which then belongs to the date of `today`.
+/// Returns nothing for any other text, for days that do not exist and for dates outside the range.
 ///
 ///     3/7/2004  03-07-04            month, day, year, with "/" or "-"
 ///     2004-03-07  2004/3/7          year first: it has four digits
@@ -63,9 +63,9 @@ HALVEK_EXPORT std::u16string DateOnlyText(DateTime when);
 ///     14:05  2:05 PM  02:05:09 pm   24-hour clock without AM or PM
 ///
 /// The time follows a date after a blank, or after "T" when the year comes first. A year of two
-/// digits is 2000-2029 for 00-29 and 1930-1999 for 30-99; one of three or four digits stands as it
-/// is. Further blanks or TABs between the parts and around the text do not matter. Every text that
-/// DateTimeText and DateOnlyText write is read back.
+/// digits is 2000-2029 for 00-29 and 1930-1999 for 30-99; one of three or four digits stays as it
+/// is. More blanks or TABs between the parts and around the text do not matter. Reads every text
+/// that DateTimeText and DateOnlyText write.
 HALVEK_EXPORT std::optional<DateTime> ParseDateTime(TextIn text, DateTime today);
 
 }  // namespace halvek

@@ -10,8 +10,8 @@
 
 namespace halvek {
 
-/// Steps through a collection by position and keeps the collection alive meanwhile, so that a loop
-/// survives a rebuild of the library's current collection and sees items added behind it.
+/// Steps through a collection by position and keeps the collection alive, so that a loop survives a
+/// rebuild of the library's current collection and sees items added at its end.
 template <class Collection>
 class Enumerator {
   public:
@@ -35,7 +35,7 @@ class Enumerator {
     }
     /// The same, without a result.
     void operator++(int) { ++position_; }
-    /// True behind the last item that the collection has at this moment.
+    /// True after the last item that the collection has at this moment.
     friend bool operator==(const Enumerator& at, std::default_sentinel_t) {
         return at.position_ > at.collection_->Count();
     }

@@ -7,7 +7,7 @@
 namespace halvek {
 
 /// What a pointer of any kind points to. Throws ObjectNotSet for null, and for a guarded pointer
-/// whose object is gone.
+/// whose object was destroyed.
 template <class Pointer>
 auto& Existing(const Pointer& object, TextIn what) {
     if (object == nullptr) throw RuntimeError(Fault::ObjectNotSet, what);

@@ -3,5 +3,5 @@
 
 /// @file
 
-/// Marks what the shared libraries offer to a host; everything else stays hidden.
+/// Marks what the shared libraries offer to hosts; everything else stays hidden.
 #define HALVEK_EXPORT [[gnu::visibility("default")]]

@@ -9,16 +9,16 @@
 
 namespace halvek {
 
-/// A keyed collection, the library's or a host's own: it knows how many items it holds, and fetches
-/// one by a key that is text.
+/// A keyed collection, the library's or a host's own: it counts its items and fetches one by a text
+/// key.
 template <class Collection>
 concept Fetchable = requires(Collection& coll, TextIn key) {
     { coll.Count() } -> std::integral;
     coll.Item(key);
 };
 
-/// True when the collection is given, is not empty and its Item fetches something under the key,
-/// with all that a fetch brings about. An Item that throws has found nothing.
+/// True when there is a collection, it is not empty and its Item succeeds for the key, with all
+/// side effects of a fetch. An Item that throws has found nothing.
 template <Fetchable Collection>
 bool ExistsInColl(const std::shared_ptr<Collection>& coll, TextIn key) {
     try {

@@ -3,6 +3,6 @@
 
 /// @file
 
-/// Marks what the library without windows offers to the one with windows, and to nobody else: the
-/// headers where it stands are not installed.
+/// Marks what the library without windows offers to the one with windows and to nobody else;
+/// headers that use it are not installed.
 #define HALVEK_INTERNAL [[gnu::visibility("default")]]

@@ -10,13 +10,13 @@ namespace halvek {
 
 namespace {
 
-/// How many slots hold so many items with one in eight left free.
+/// How many slots that many items need, with one in eight left free.
 std::size_t SlotsFor(std::size_t items) {
     constexpr std::size_t kFewest = 16;
     return std::bit_ceil(std::max(items + items / 7 + 1, kFewest));
 }
 
-/// What is equal is equal in folded form, too: the hash serves keys of both kinds.
+/// Equal keys are equal in folded form too, so one hash serves both kinds.
 std::uint32_t HashOf(std::u16string_view key) {
     return static_cast<std::uint32_t>(HashFolded(key));
 }

@@ -19,8 +19,9 @@ enum class KeyCase {
 
 /// The keys of a collection's items.
 ///
-/// Every item has a number from 0 and may have a key; an item without one differs from one under
-/// the empty key. Keys stand one after the other in one text, beside a hash table of the numbers.
+/// Every item has a number from 0 and may have a key; an item without a key differs from one under
+/// the empty key. The keys stand one after the other in one text, beside a hash table of the
+/// numbers.
 ///
 /// A table of our own, because look-ups by key are what hosts do most with lists of 100,000 codes:
 /// std::unordered_map and QHash, which allocate a node or a folded key each, take two to five times
@@ -30,7 +31,7 @@ class HALVEK_EXPORT KeyIndex {
     /// An index without items.
     explicit KeyIndex(KeyCase keyCase = KeyCase::Ignored) noexcept : keyCase_(keyCase) {}
 
-    /// What Find gives for a key that no item has.
+    /// What Find returns for a key that no item has.
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
     /// The number of the item under a key; kNone when there is none.
@@ -42,7 +43,7 @@ class HALVEK_EXPORT KeyIndex {
     /// The key of an item that has one, as it was added; valid until the index changes.
     std::u16string_view KeyOf(std::size_t number) const noexcept { return TextOf(keys_[number]); }
 
-    /// Makes room for items whose keys have so many characters together.
+    /// Makes room for that many items, and for that many characters in all their keys.
     void Reserve(std::size_t items, std::size_t characters);
 
     /// Gives the next item no key.
@@ -50,7 +51,7 @@ class HALVEK_EXPORT KeyIndex {
     /// Gives the next item a key; false, and nothing is added, when the key is taken.
     bool Add(std::u16string_view key);
 
-    /// Takes an item out; those after it move up by one.
+    /// Removes an item; those after it move up by one.
     void Remove(std::size_t number) noexcept;
 
   private:
@@ -71,9 +72,9 @@ class HALVEK_EXPORT KeyIndex {
     KeyCase keyCase_;
     std::vector<Key> keys_;
     std::u16string text_;
-    // A power of two of slots, at most 7 of 8 taken. A slot is 0 when it is free, else the item's
-    // number plus 1 and, in the bits that no number needs, those of the hash: they rule out most
-    // other keys without comparing them.
+    // The number of slots is a power of two, and at most 7 of 8 are taken. A free slot is 0; any
+    // other holds the item's number plus 1 and, in the bits that no number needs, bits of the hash,
+    // which rule out most other keys without comparing them.
     std::vector<std::uint32_t> slots_;
 };
 

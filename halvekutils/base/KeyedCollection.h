@@ -15,8 +15,8 @@ namespace halvek {
 
 /// An ordered collection of shared objects, reached by position from 1 or by a text key.
 ///
-/// Keys compare without regard to letter case. A key is optional, and an item without a key differs
-/// from one under the empty key. Look-ups by position and by key take constant time.
+/// Letter case of keys does not matter. A key is optional, and an item without a key differs from
+/// one under the empty key. Look-ups by position and by key take constant time.
 template <class T>
 class KeyedCollection {
   public:
@@ -26,7 +26,7 @@ class KeyedCollection {
     /// How many items there are.
     std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
-    /// Makes room for items whose keys have so many characters together.
+    /// Makes room for that many items, and for that many characters in all their keys.
     void Reserve(std::size_t items, std::size_t characters) {
         items_.reserve(items);
         keys_.Reserve(items, characters);

@@ -28,7 +28,7 @@ std::size_t SkipDigits(std::u16string_view text, std::size_t at) {
     return at;
 }
 
-/// Like SkipDigits from the start, but passes commas that stand between two digits.
+/// Like SkipDigits from the start, but also skips commas between two digits.
 std::size_t SkipGroupedDigits(std::u16string_view text) {
     std::size_t at = SkipDigits(text, 0);
     while (at > 0 && at + 1 < text.size() && text[at] == u',' && IsDigit(text[at + 1])) {
@@ -45,7 +45,7 @@ std::size_t SkipExponent(std::u16string_view text, std::size_t at) {
     return end > digits ? end : at;
 }
 
-/// Where a number without a sign ends whose whole digits end at `wholeEnd`; 0 when it has no digit.
+/// Where an unsigned number ends, given where its whole digits end; 0 when it has no digit.
 std::size_t NumberEnd(std::u16string_view text, std::size_t wholeEnd) {
     if (wholeEnd == text.size() || text[wholeEnd] != u'.') {
         return wholeEnd == 0 ? 0 : SkipExponent(text, wholeEnd);
@@ -62,7 +62,7 @@ std::int64_t ExponentOf(std::string_view exponent) {
     return std::clamp(value, -kFar, kFar);
 }
 
-/// The value of a number that from_chars found out of range: it does not say on which side.
+/// The value of a number that from_chars found out of range; from_chars does not say on which side.
 double BeyondRange(std::string_view number) {
     const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
     const std::size_t point = std::min(number.find('.'), mantissaEnd);
@@ -90,12 +90,12 @@ double ReadNumber(std::u16string_view number) {
     return ReadThrough(std::string(number.size(), '0').data(), number);
 }
 
-/// Subtracts instead of negating: 0 - 0 is no minus zero.
+/// Subtracts instead of negating: 0 - 0 is not minus zero.
 double WithSign(double magnitude, bool negative) {
     return negative ? 0 - magnitude : magnitude;
 }
 
-/// Takes the sign off, whichever end it is at; 0 when there is none.
+/// Removes the sign at either end; 0 when there is none.
 char16_t TakeSign(std::u16string_view& text) {
     if (text.empty()) return 0;
     const char16_t first = text.front();
@@ -111,8 +111,8 @@ char16_t TakeSign(std::u16string_view& text) {
     return 0;
 }
 
-/// Takes sign, "$" and parentheses off; true when they make the amount negative. A mark that is
-/// one too many stays in the text, which then is no number.
+/// Removes sign, "$" and parentheses; true when they make the amount negative. A mark too many
+/// stays in the text, which then is not a number.
 bool TakeMarks(std::u16string_view& text) {
     const bool dollar = TakeFront(text, u'$');
     bool negative = false;
@@ -171,7 +171,7 @@ std::int32_t RoundToInt32(double number) {
 }
 
 std::int32_t ToInt32(TextIn text) {
-    // Up to nine digits alone, as servers send a number, always fit.
+    // Up to nine digits and nothing else, as servers send numbers, always fit.
     constexpr std::size_t kFitting = 9;
     if (!text.empty() && text.size() <= kFitting && std::ranges::all_of(text, IsDigit)) {
         std::int32_t number = 0;
@@ -182,7 +182,7 @@ std::int32_t ToInt32(TextIn text) {
 }
 
 double RoundToCents(double number) {
-    // From here on doubles lie more than a hundredth apart, so two decimals tell them all apart.
+    // From here on doubles are more than a hundredth apart, so two decimals distinguish them all.
     constexpr double kNoThirdDecimal = 0x1p46;
     const double magnitude = std::abs(number);
     if (!(magnitude < kNoThirdDecimal)) return number;

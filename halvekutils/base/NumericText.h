@@ -10,24 +10,24 @@
 
 namespace halvek {
 
-// Numbers as text and back: always with "." for the point, whatever the locale. Every reading takes
-// time in proportion to the text, and no result is ever minus zero.
+// Numbers as text and back: always with "." for the point, whatever the locale. Reading takes time
+// in proportion to the text, and no result is ever minus zero.
 
-/// The value of the number that a text starts with: blanks skipped, a sign, digits with at most one
-/// point, an exponent; the longest such start counts and the rest is ignored.
+/// The value of the number that a text starts with, after blanks: a sign, digits with at most one
+/// point, an exponent. The longest such start counts; the rest is ignored.
 ///
-/// Nothing numeric gives 0 ("x", "", "nan"), as does a number too small for a double; one too large
-/// gives plus or minus infinity.
+/// A text that starts with no number gives 0 ("x", "", "nan"), and so does a number too small for a
+/// double; one too large gives plus or minus infinity.
 ///
 ///     Val(u" 12.5 mg") == 12.5;  Val(u"1e") == 1;  Val(u"1,234") == 1;
 double Val(TextIn text);
 
-/// The value of a text that is a number or an amount as a whole; nothing when it is neither.
+/// The value of a text that as a whole is a number or an amount; nothing for any other.
 ///
-/// Around it there may be blanks. A sign stands before or after, "$" in front, before or after the
-/// sign; parentheses instead of a sign make it negative. A comma is allowed between two digits of
-/// the whole part, wherever it groups them. There is at most one point and it needs a digit beside
-/// it; an exponent may follow. A number too large for a double is none.
+/// Blanks may surround it. A sign stands before or after it, "$" in front, before or after the
+/// sign; parentheses instead of a sign make it negative. Commas may stand between any two digits of
+/// the whole part. There is at most one point, with a digit beside it; an exponent may follow. A
+/// number too large for a double gives nothing.
 ///
 ///     ToNumber(u"$1,234.50") == 1234.5;  ToNumber(u"(5.00)") == -5;  ToNumber(u"5 mg") == nullopt;
 std::optional<double> ToNumber(TextIn text);
@@ -35,8 +35,8 @@ std::optional<double> ToNumber(TextIn text);
 /// True for a text that ToNumber reads.
 bool IsNumeric(TextIn text);
 
-/// The nearest integer, halves to the even one. Throws Overflow for what a 32-bit integer does not
-/// hold, NaN included.
+/// The nearest integer, halves to the even one. Throws Overflow for NaN and for a number outside 32
+/// bits.
 std::int32_t RoundToInt32(double number);
 
 /// The number that a text starts with, rounded by RoundToInt32, which may throw Overflow.
@@ -44,20 +44,20 @@ std::int32_t ToInt32(TextIn text);
 
 /// The number with two decimals, halves away from zero.
 ///
-/// What counts is the number as people see it, its shortest decimal text: 2.675 gives 2.68 although
-/// the double lies a little below. NaN, infinity and numbers without decimals stay as they are.
+/// Rounds the number as people see it, its shortest decimal text: 2.675 gives 2.68, although the
+/// double is a little less. NaN, infinity and numbers without decimals stay as they are.
 double RoundToCents(double number);
 
 /// The number with up to 15 significant digits and no trailing zeros: "0.5", "-12", "0".
 ///
-/// From 1E+15 on and below 0.0001 in exponent form, "1.5E+20". ToNumber reads all of these back,
+/// From 1E+15 on, and below 0.0001, in exponent form: "1.5E+20". ToNumber reads all of these back,
 /// except that the very largest doubles round up out of its range. "NaN", "Infinity" and
 /// "-Infinity" are not numeric.
 std::u16string NumberText(double number);
 
 /// The integer with all its digits.
 std::u16string IntegerText(std::int64_t number);
-/// The same, at the end of a text.
+/// Appends the same to a text.
 void AppendInteger(std::u16string& out, std::int64_t number);
 
 /// "True" or "False".

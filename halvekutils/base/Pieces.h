@@ -41,7 +41,7 @@ class Pieces {
         }
         /// The same, without a result.
         void operator++(int) { ++*this; }
-        /// True behind the last piece.
+        /// True after the last piece.
         friend bool operator==(const Iterator& at, std::default_sentinel_t) { return at.ended_; }
 
       private:
@@ -52,13 +52,13 @@ class Pieces {
         bool ended_ = false;
     };
 
-    /// @param text  the text to be cut; it outlives the pieces
+    /// @param text  the text to cut; it outlives the pieces
     /// @param separator  the character between two pieces
     Pieces(TextIn text, char16_t separator) : text_(text), separator_(separator) {}
 
     /// The first piece; there is always one.
     Iterator begin() const { return {text_, separator_}; }
-    /// Behind the last piece.
+    /// After the last piece.
     std::default_sentinel_t end() const { return {}; }
 
   private:

@@ -13,28 +13,28 @@ namespace halvek {
 
 /// The numbers of the run-time faults that this library raises.
 enum class Fault : std::int32_t {
-    InvalidArgument = 5,      ///< "Invalid argument": a value or key that is not taken
+    InvalidArgument = 5,      ///< "Invalid argument": a value or key that is not accepted
     Overflow = 6,             ///< "Overflow": a number or date that is out of range
     OutOfMemory = 7,          ///< "Out of memory"
     SubscriptOutOfRange = 9,  ///< "Subscript out of range": no such position or element
-    TypeMismatch = 13,        ///< "Type mismatch": a text that is no number or amount
+    TypeMismatch = 13,        ///< "Type mismatch": a text that is not a number or amount
     FileNotFound = 53,        ///< "File not found"
     DeviceError = 57,         ///< "Device error": damaged data, a printer or screen that fails
     FileAlreadyExists = 58,   ///< "File already exists"
-    DiskFull = 61,            ///< "Disk full", a quota that is used up as well
+    DiskFull = 61,            ///< "Disk full", also for a quota that is used up
     PermissionDenied = 70,    ///< "Permission denied"
     PathNotFound = 76,        ///< "Path not found": the folder is missing
-    ObjectNotSet = 91,        ///< "Object not set": a control that is gone, no session, no desktop
+    ObjectNotSet = 91,        ///< "Object not set": a destroyed control, no session, no desktop
     DuplicateKey = 457,       ///< "Key already in the collection"
 };
 
-/// A run-time fault: the only type that this library throws of its own.
+/// A run-time fault: the only exception type of this library's own.
 class HALVEK_EXPORT RuntimeError : public std::runtime_error {
   public:
     /// A fault with its standard description, such as "Subscript out of range".
     explicit RuntimeError(Fault fault);
 
-    /// A fault whose description goes on with ": " and what it was about, a file or a key.
+    /// A fault whose description continues with ": " and what it is about, a file or a key.
     RuntimeError(Fault fault, TextIn about);
 
     /// Copies share the description.
@@ -56,8 +56,9 @@ class HALVEK_EXPORT RuntimeError : public std::runtime_error {
     Fault fault_;
 };
 
-/// Any caught exception as a fault: a RuntimeError as it is, std::bad_alloc as OutOfMemory, a
-/// standard system error by its code, anything else as InvalidArgument with its own text.
+/// Turns a caught exception into a fault: a RuntimeError stays as it is, std::bad_alloc becomes
+/// OutOfMemory, a standard system error the fault for its code, and anything else InvalidArgument
+/// with its own text.
 HALVEK_EXPORT RuntimeError AsRuntimeError(const std::exception& caught);
 
 }  // namespace halvek

@@ -36,12 +36,12 @@ class HALVEK_EXPORT StringArray {
     std::u16string& operator[](std::int32_t index) { return elements_[Offset(index)]; }
     const std::u16string& operator[](std::int32_t index) const { return elements_[Offset(index)]; }
 
-    /// Adds an element behind the last. Throws SubscriptOutOfRange when unallocated.
+    /// Adds an element at the end. Throws SubscriptOutOfRange when unallocated.
     void Append(std::u16string element);
 
     /// The first element, for loops; an unallocated array has none.
     auto begin() const noexcept { return elements_.begin(); }
-    /// Behind the last element.
+    /// After the last element.
     auto end() const noexcept { return elements_.end(); }
 
     friend bool operator==(const StringArray&, const StringArray&) = default;

@@ -32,7 +32,7 @@ class HALVEK_EXPORT StringTable {
         return cells_[Offset(row, column)];
     }
 
-    /// Grows or shrinks the table at its last column; what stays keeps its contents.
+    /// Adds or removes columns at the end; the others keep their contents.
     void ResizeColumns(std::int32_t columns);
 
     friend bool operator==(const StringTable&, const StringTable&) = default;
@@ -41,7 +41,7 @@ class HALVEK_EXPORT StringTable {
     std::size_t Offset(std::int32_t row, std::int32_t column) const;
 
     std::int32_t rows_ = 0;
-    std::vector<std::u16string> cells_;  // column by column, so that columns come and go at the end
+    std::vector<std::u16string> cells_;  // column by column, as columns come and go at the end
 };
 
 }  // namespace halvek

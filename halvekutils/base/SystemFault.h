@@ -8,9 +8,9 @@
 
 namespace halvek {
 
-// Apart from RuntimeError.h, which every file includes: <filesystem> takes long to compile.
+// Not in RuntimeError.h, which every file includes, because <filesystem> takes long to compile.
 
-/// The fault that stands for a system error; its description names the file.
+/// The fault for a system error; its description names the file.
 RuntimeError SystemFault(std::error_code error, const std::filesystem::path& file);
 
 }  // namespace halvek

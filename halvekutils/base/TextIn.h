@@ -7,7 +7,7 @@
 
 namespace halvek {
 
-/// Anything that shows its 16-bit characters in place, as a QString does.
+/// Anything that gives access to its 16-bit characters in place, as a QString does.
 template <class T>
 concept Utf16Text = requires(const T& text) {
     requires sizeof(*text.utf16()) == sizeof(char16_t);

@@ -46,7 +46,7 @@ void AppendUtf16(std::u16string& out, char32_t point) {
     }
 }
 
-/// How many bytes a sequence with this lead byte has; 0 for a byte that cannot lead.
+/// How many bytes a sequence with this lead byte has; 0 for a byte that cannot be one.
 constexpr std::size_t SequenceLength(unsigned char lead) {
     if (lead < 0x80) return 1;
     if (lead >= 0xC2 && lead <= 0xDF) return 2;

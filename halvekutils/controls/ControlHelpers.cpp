@@ -16,11 +16,11 @@ namespace halvek {
 
 namespace {
 
-// Nothing on a screen is larger, and a text engine may choke on what is.
+// Nothing on a screen is larger, and a text engine may choke on a larger font.
 constexpr float kLargestFont = 2160;
 constexpr float kFontStep = 0.1F;
-// The sizes of a font that has fixed ones lie a few points apart. One that has not grown by 10 is
-// of a single size.
+// A font with fixed sizes has them a few points apart. A font that has not grown after 10 points
+// has a single size.
 constexpr int kMaxFontSteps = 100;
 
 struct GridFontCode {

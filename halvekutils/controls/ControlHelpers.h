@@ -11,8 +11,8 @@
 
 namespace halvek {
 
-// The rules behind the members of Utils of the same names, which document them for a host. Without
-// a control they throw ObjectNotSet.
+// The rules of the members of Utils with the same names, which document them for hosts. Without a
+// control they throw ObjectNotSet.
 
 void HighlightHeading(const std::shared_ptr<HeadingControl>& control, std::int16_t iBorderStyle,
                       Color back, Color fore);
@@ -21,7 +21,7 @@ HALVEK_INTERNAL bool SetFontProperties(const std::shared_ptr<ControlFont>& font,
                                        float fontSize);
 void GridSetFontObject(const std::shared_ptr<GridFont>& font, TextIn fontCode);
 
-/// Fetches each entry once at the most.
+/// Fetches each entry at most once.
 std::int32_t FindInCombo(const std::shared_ptr<ComboBox>& box, TextIn text, bool partialMatch,
                          bool matchCase);
 void FillCombo(const std::shared_ptr<ComboBox>& box, TextIn items, bool widen);

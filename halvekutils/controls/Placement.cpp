@@ -10,7 +10,7 @@ namespace halvek {
 
 namespace {
 
-// Sums of positions on a screen and lengths stay far inside 64 bits, whatever a host passes.
+// In 64 bits, sums of positions and lengths cannot overflow, whatever a host passes.
 using Twips = std::int64_t;
 
 /// One direction of the screen: a span that windows may use.

@@ -12,13 +12,13 @@ namespace halvek {
 
 class Desktop;
 
-/// The edge of a pop-up that a given left position fixes.
+/// Which edge of a pop-up a given left position sets.
 enum class PopupEdge : std::int32_t {
     Left,   ///< calendar and palette: its left edge lies on the target's left edge
     Right,  ///< selection list: its right edge lies on the target's right edge
 };
 
-/// Where a pop-up is asked to open, in twips on the screen. What is absent is not given.
+/// Where a pop-up should open, in twips on the screen. Each position may be absent.
 struct PopupAnchor {
     PopupEdge edge = PopupEdge::Left;           ///< which edge of the pop-up `left` is for
     std::optional<std::int32_t> left;           ///< where that edge of the pop-up lies
@@ -29,22 +29,22 @@ struct PopupAnchor {
     friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;
 };
 
-/// The anchor that a host's positions ask for, rounded to whole twips. A negative position, or one
-/// that is no number, is not given.
+/// The anchor for a host's positions, rounded to whole twips. A negative position, or NaN, counts
+/// as absent.
 HALVEK_EXPORT PopupAnchor AnchorAt(PopupEdge edge, float posLeft, float posTopUp, float posTopDown);
 
 /// The anchor of a pop-up beside a button or cell, on any screen. Throws ObjectNotSet when the
-/// target is gone.
+/// target is destroyed.
 HALVEK_EXPORT PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target);
 
-/// The usable part of the screen that the pop-up belongs on: the target's; else the one that holds
-/// the position; else the one that a new dialog opens on.
+/// The usable part of the pop-up's screen: the target's; otherwise the one that holds the position;
+/// otherwise the one on which a new dialog opens.
 HALVEK_EXPORT Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop);
 
 /// The top left corner of a pop-up of this outer size, wholly inside the usable part of a screen.
 ///
-/// It opens below its target when there is room, else above; where neither has room, on the side
-/// that has more, moved back into the screen. In a direction that is not given it is centred. A
+/// It opens below its target when there is room, otherwise above; when neither side has room, on
+/// the side that has more, moved back into the screen. Where a position is absent, it is centred. A
 /// pop-up larger than the screen keeps its top left corner on it.
 HALVEK_EXPORT Point PlacePopup(const PopupAnchor& anchor, Size outer, const Rect& screen);
 

@@ -8,15 +8,15 @@
 
 namespace halvek {
 
-/// A named piece of text that the host parks in its Utils object.
+/// A named piece of text that the host stores in its Utils object.
 ///
-/// Each property is plain storage: the setter keeps a copy, the getter returns one. Made by
-/// Utils::AddBin only.
+/// Each property is plain storage: the setter keeps a copy, the getter returns one. Only
+/// Utils::AddBin makes a bin.
 class HALVEK_EXPORT DataBin {
   public:
     ~DataBin();
 
-    /// The text that is parked.
+    /// The stored text.
     void BinData(TextIn value) { data_ = value; }
     std::u16string BinData() const { return data_; }
     /// The key given to Utils::AddBin.

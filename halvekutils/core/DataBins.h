@@ -8,9 +8,9 @@ namespace halvek {
 
 /// The bins of one Utils object, in the order in which they were added.
 ///
-/// A search compares keys exactly, while the collection refuses a key that differs from another in
-/// letter case only. So an exact match can only be the one bin that the collection holds under the
-/// key, and no search needs to walk the bins.
+/// A search compares keys exactly, while the collection refuses a key that differs from another
+/// only in letter case. So only the one bin that the collection holds under the key can match
+/// exactly, and no search needs to walk through the bins.
 class DataBins {
   public:
     DataBins();

@@ -119,12 +119,12 @@ void DebugConsole::AddLine(std::u16string_view line) {
 }
 
 void DebugConsole::Replace(std::u16string_view text) {
-    text_ = std::u16string(text);  // and so gives the memory of a huge line back
+    text_ = std::u16string(text);  // which also frees the memory of a huge line
     ++replacements_;
 }
 
-/// A line that comes while another is on its way to the log, from the log's own doing or during
-/// its failure's message, is not sent on: it might never end.
+/// A line that arrives while another is being sent to the log, from the log itself or during the
+/// message about its failure, is not sent on: that might never end.
 void DebugConsole::SendToFile(TextIn line) {
     if (sendingToFile_) return;
     sendingToFile_ = true;

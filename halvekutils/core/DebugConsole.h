@@ -15,7 +15,7 @@ struct Session;
 
 /// The debug console without its window: its text, its switches and its file.
 ///
-/// There is one in a process, made for the first line. A window shows it and forwards its events.
+/// A process has one, made for the first line. A window shows it and forwards its events.
 class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugConsole> {
   public:
     /// The console of the process. Throws when there is no memory for the first.
@@ -30,8 +30,8 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     // What the program writes
 
     /// Adds a line and shows the console. Dropped outside debug mode, where the desktop allows no
-    /// modeless windows, and while logging is stopped. What goes wrong is logged with "Can not
-    /// display Debug window".
+    /// modeless windows, and while logging is stopped. A fault is logged with "Can not display
+    /// Debug window".
     void ShowInDebug(TextIn strText) noexcept;
 
     /// Shows the console and empties it; does nothing outside debug mode.
@@ -42,7 +42,7 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     /// The lines, each ended by CR LF.
     const std::u16string& Text() const { return text_; }
 
-    /// Changes whenever the text is not just longer than it was.
+    /// Changes whenever the text changes in any way but by growing at its end.
     std::uint64_t Replacements() const { return replacements_; }
 
     /// Whether new lines are dropped.
@@ -66,9 +66,9 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     /// cmdClear and F7: empties the text.
     void Clear();
     /// Command1: appends the text to DEBUG.log in the component's own folder, in Windows-1252. A
-    /// failure is told to nobody.
+    /// failure is not reported.
     void SaveToFile() noexcept;
-    /// Command2: deletes that file. A failure is told to nobody.
+    /// Command2: deletes that file. A failure is not reported.
     void KillLogFile() noexcept;
 
   private:

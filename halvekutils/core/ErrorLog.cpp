@@ -39,7 +39,7 @@ void ResolvePaths(Session& session) {
     }
 }
 
-/// The log file; its path is made anew only when the name has changed.
+/// The log file; its path is made again only when the name has changed.
 const fs::path& LogPath(Session& session) {
     ResolvePaths(session);
     if (session.logPathName != session.errFileName) {
@@ -98,7 +98,7 @@ void PrepareFile(const Session& session, const fs::path& file) {
     if (!found.exists) return;
     if (!found.writable) machine.MakeWritable(file);
     if (found.length < kRotationLength) return;
-    // Of several processes that find the log full one rotates it; the others must not take its
+    // Of several processes that find the log full, one rotates it. The others must not take its
     // archive for an old one, nor the new log for the full one.
     machine.TryExclusive(file, [&] {
         if (machine.StateOf(file).length >= kRotationLength) Rotate(session, file);

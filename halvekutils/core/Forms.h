@@ -14,17 +14,17 @@ namespace halvek {
 
 class DebugConsole;
 
-/// How a message box stands on the screen.
+/// How a message box is shown.
 enum class Modality {
     Modal,     ///< the call waits for the answer
     Modeless,  ///< the call returns at once
 };
 
-/// Shows the windows of dialogs: one call for each dialog, given its rules.
+/// Shows the windows of dialogs, with one call for each dialog, which is given its rules.
 ///
-/// A modal show returns once the rules have ended; rules that are still open when the modal loop
-/// ends count as closed by the close box. A modeless show returns at once and keeps the rules until
-/// they end; a modal show of rules that are on the screen already goes on with them modally.
+/// A modal show returns once the rules have ended; if the modal loop ends first, the rules count as
+/// closed by the close box. A modeless show returns at once and keeps the rules until they end. A
+/// modal show of rules that are already on the screen continues them modally.
 class HALVEK_EXPORT Forms {
   public:
     virtual ~Forms();
@@ -38,7 +38,7 @@ class HALVEK_EXPORT Forms {
     /// Shows a colour palette, modally.
     virtual void Show(const std::shared_ptr<ColorPalette>& palette) = 0;
     /// Shows the debug console, modelessly and without taking the focus. Called for every line;
-    /// does nothing while it is shown.
+    /// does nothing while the console is shown.
     virtual void Show(const std::shared_ptr<DebugConsole>& console) = 0;
     /// Shows a selection dialog, modally.
     virtual void Show(const std::shared_ptr<SelectGrid>& grid) = 0;

@@ -8,7 +8,7 @@
 
 namespace halvek {
 
-/// The desktop that the library's dialogs open on: real windows or a script that answers.
+/// The desktop on which the library's dialogs open: real windows or a script that answers.
 ///
 /// One is installed at a time. Without one, everything but the dialogs works.
 class HALVEK_EXPORT Platform : public Desktop, public Forms {
@@ -25,14 +25,14 @@ class HALVEK_EXPORT Platform : public Desktop, public Forms {
 
     /// Makes this the installed platform, for derived classes that are ready to work.
     void Install();
-    /// Restores the platform that was installed before; at the start of a derived destructor.
+    /// Restores the previous platform; for the start of a derived destructor.
     void Uninstall() noexcept;
 
   private:
     Platform* before_ = nullptr;
 };
 
-/// Lets the library see another machine for a while: a stopped clock, a folder of a test's own.
+/// Gives the library another machine for a while, with a stopped clock or a test's own folder.
 ///
 ///     MyMachine machine;
 ///     UseMachine use(machine);

@@ -21,11 +21,11 @@ class SecurityItemsCollection;
 class Utils;
 
 /// The session: the values that all Utils objects and dialogs of the process share, and the error
-/// log and debug console that they write to. Lower rooms see it as Services.
+/// log and debug console that they write to. Lower rooms get it as Services.
 ///
-/// Values are empty, 0 or false until the start-up members of Utils fill them. Used on the host's
-/// user-interface thread only, and never destroyed, so that a host's own late destructors can
-/// still log. No host meets this header.
+/// Values are empty, 0 or false until the start-up members of Utils fill them. It is used on the
+/// host's user-interface thread only, and never destroyed, so that a host's late destructors can
+/// still log. This header is not installed.
 struct Session final : public Services {
     bool debugMode = false;
     std::u16string appName;
@@ -66,11 +66,10 @@ struct Session final : public Services {
     ///
     /// The line is the local date and time, the login name and the message, separated by tabs and
     /// ended by CR LF, in the bytes of Windows-1252. A failure beeps, shows a message in debug mode
-    /// and loses this line only.
+    /// and loses only this line.
     void LogError(TextIn message) noexcept override;
 
-    /// Adds a line to the debug console, which is made for the first one. What goes wrong is
-    /// logged.
+    /// Adds a line to the debug console, which the first line creates. A fault is logged.
     void ShowInDebug(TextIn text) noexcept override;
     /// Empties the debug console.
     void ClearDebug() noexcept;

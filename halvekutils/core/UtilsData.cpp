@@ -15,7 +15,7 @@ namespace halvek {
 
 namespace {
 
-/// Stands in where no desktop is installed or the installed one knows no printers.
+/// Used when no desktop is installed or the installed one has no printers.
 class NoPrinters : public PrinterSource {
   public:
     std::vector<PrinterConnection> Connections() override {
@@ -42,7 +42,8 @@ std::shared_ptr<UserPrefs> CopyOf(const UserPrefs& prefs) {
 
 void Utils::BuildCodesCollection(TextIn CodesData) {
     Guarded(OnFault::Quiet, u"BuildCodesCollection ", *this, [&] {
-        // The old collection goes first: a build that fails leaves a part, never the old one.
+        // The old collection goes first: a build that fails leaves part of the new one, never the
+        // old one.
         TheSession().codes = nullptr;
         const auto codes = CollectionBuilder::Codes();
         TheSession().codes = codes;

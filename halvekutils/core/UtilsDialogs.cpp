@@ -19,7 +19,7 @@
 
 namespace halvek {
 
-// A dialog is given Services::Current() and not TheSession(): it fails before the first InitUtils.
+// Dialogs get Services::Current(), not TheSession(), so that they fail before the first InitUtils.
 
 namespace {
 
@@ -29,8 +29,8 @@ float PositionOf(const std::optional<std::int32_t>& twips) {
     return twips ? static_cast<float>(*twips) : kNotGiven;
 }
 
-/// The anchor of a pop-up beside a target. Nothing is given, which centres the pop-up, without a
-/// target, or when it is gone, which is logged.
+/// The anchor of a pop-up beside a target. It is empty, which centres the pop-up, without a target
+/// and for a destroyed one, which is logged.
 PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTarget>& target) {
     PopupAnchor anchor;
     Guarded(OnFault::Beep, u"Error in Utils.CalculateCellCoordinates ", utils, [&] {
@@ -39,9 +39,9 @@ PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTa
     return anchor;
 }
 
-/// Repaints a host's form after a dialog; nothing for none and for one that is gone. A fault is
-/// logged with the prefix. The form is a copy that the dialog's call held: the host may have let go
-/// of its own meanwhile.
+/// Repaints a host's form after a dialog, unless there is none or it was destroyed. A fault is
+/// logged with the prefix. The dialog's call has held a copy of the pointer: the host may have
+/// released its own.
 void Refresh(Utils& utils, const char16_t* faultPrefix, std::shared_ptr<OwnerForm>&& form) {
     Guarded(OnFault::Quiet, faultPrefix, utils, [&] {
         if (form != nullptr && form->Exists()) form->Refresh();
@@ -193,8 +193,8 @@ void ShowModal(const std::shared_ptr<SelectGrid>& grid) {
     }
 }
 
-/// Shows a selection dialog as asked and returns what the members that open one return. The typed
-/// character is taken from the caller's variable.
+/// Shows a selection dialog and returns its result for the host. Clears the caller's variable of
+/// the typed character.
 std::u16string OpenSelection(Utils& utils, SelectionRequest request,
                              ByRef<std::u16string> typedCharacter,
                              std::shared_ptr<OwnerForm> formToRefresh) {
@@ -269,8 +269,8 @@ std::u16string Utils::ShowSelectionGrid(TextIn ListName, TextIn AllValues, TextI
 
 namespace {
 
-/// Opens help in the given file, or else in the stored one; false when there is no such file, which
-/// the user is told. What goes wrong after that is logged and does not change the result.
+/// Opens help in the given file, otherwise in the stored one; false, with a message to the user,
+/// when there is no such file. A later fault is logged and does not change the result.
 template <class Open>
 bool OpenHelp(Utils& utils, const char16_t* faultPrefix, TextIn location, const Open& open) {
     const auto self = utils.shared_from_this();

@@ -20,7 +20,7 @@ std::shared_ptr<Utils> Utils::CurrentUtils() {
     return TheSession().currentUtils;
 }
 
-// Start-up. Every argument is copied before the session changes: it may be a view of it.
+// Start-up. Every argument is copied before the session changes, since it may be a view into it.
 
 void Utils::InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
                       TextIn ExeFileStamp) {
@@ -59,7 +59,7 @@ void Utils::InitOtherSettings(Color HighlightBackColor, Color HighlightForeColor
     session.scrollBarWidth = ScrollBarWidth;
 }
 
-// Values of the component state
+// Values of the session
 
 std::u16string Utils::AppName() const {
     return TheSession().appName;

@@ -18,7 +18,10 @@ inline constexpr std::size_t kWholeDigits = 7;
 inline constexpr std::size_t kFractionDigits = 2;
 
 /// Whether the amounts of a field may be negative.
-enum class AmountSign { Unsigned, Signed };
+enum class AmountSign {
+    Unsigned,  ///< they may not
+    Signed,    ///< they may
+};
 
 /// The number with thousands commas and two decimals, halves rounded away from zero.
 ///

@@ -37,8 +37,8 @@ std::string CompiledHelp::ReadIfThere(TextIn path) {
     return archive_.Has(path) ? archive_.Read(path) : std::string();
 }
 
-/// Behind its version, #SYSTEM is a list of values: a 16-bit number that says what it is, a 16-bit
-/// length, and the value.
+/// After its version, #SYSTEM is a list of values, each with a 16-bit number that says what it is
+/// and a 16-bit length in front.
 void CompiledHelp::ReadSystem() {
     enum Number : std::uint16_t { kContentsFile = 0, kDefaultTopic = 2, kTitle = 3 };
     const std::string system = ReadIfThere(u"/#SYSTEM");
@@ -61,7 +61,7 @@ void CompiledHelp::ReadContents() {
     contents_ = ParseHelpContents(HelpTextOf(ReadIfThere(contentsPath_)));
 }
 
-/// #IVB is a list of pairs: a context number and where its topic stands in #STRINGS.
+/// #IVB is a list of pairs: a context number and the place of its topic in #STRINGS.
 std::optional<HelpTopic> CompiledHelp::TopicOfContext(std::int32_t contextId) {
     const std::string pairs = ReadIfThere(u"/#IVB");
     const std::uint64_t end = std::uint64_t{4} + NumberAt<std::uint32_t>(pairs, 0).value_or(0);

@@ -21,7 +21,7 @@ namespace halvek {
 ///     if (auto topic = help.TopicOfContext(100)) show(HelpTextOf(help.Read(topic->path)));
 class HALVEK_INTERNAL CompiledHelp {
   public:
-    /// Throws what HelpArchive throws for a file that cannot be read or is no help file.
+    /// Throws what HelpArchive throws for a file that cannot be read or is not a help file.
     explicit CompiledHelp(const std::filesystem::path& file);
     ~CompiledHelp();
     CompiledHelp(const CompiledHelp&) = delete;
@@ -29,7 +29,7 @@ class HALVEK_INTERNAL CompiledHelp {
 
     const std::filesystem::path& File() const { return archive_.File(); }
 
-    /// The title of the help window; the file's name when it gives none.
+    /// The title of the help window; the file's name when the file has no title.
     const std::u16string& Title() const { return title_; }
 
     /// The topic that the file opens with; an empty path when it has no page.
@@ -38,8 +38,8 @@ class HALVEK_INTERNAL CompiledHelp {
     /// Empty when the file has none.
     const std::vector<HelpContentsEntry>& Contents() const { return contents_; }
 
-    /// The topic of a context number; nothing when the file does not know the number. The topic
-    /// itself may be missing.
+    /// The topic of a context number; nothing when the file lacks the number. The topic itself may
+    /// be missing.
     std::optional<HelpTopic> TopicOfContext(std::int32_t contextId);
 
     bool Has(TextIn path) const { return archive_.Has(path); }

@@ -20,7 +20,7 @@ constexpr std::uint64_t kLargestObject = 0x100'0000;
 constexpr std::uint64_t kLargestDirectory = 0x400'0000;
 constexpr std::size_t kMaxObjects = 200'000;
 constexpr std::uint64_t kFrameLength = LzxDecoder::kFrameLength;
-// What a frame may take up when it does not compress at all.
+// The size of a frame that does not compress at all.
 constexpr std::uint64_t kMaxFrame = kFrameLength + 6144;
 constexpr std::uint64_t kMaxFramesInSpan = 512;
 
@@ -76,7 +76,7 @@ bool LiesIn(std::uint64_t start, std::uint64_t length, std::uint64_t all) {
 }  // namespace
 
 HelpArchive::HelpArchive(const std::filesystem::path& file) : file_(file) {
-    // Opening a pipe would wait for somebody to write to it.
+    // Opening a pipe would wait for a writer.
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error)) {
         if (error) throw SystemFault(error, file);
@@ -186,7 +186,7 @@ void HelpArchive::ReadControlData() {
     const auto window = NumberAt<std::uint32_t>(control, 0x10);
     const auto windowsInSpan = NumberAt<std::uint32_t>(control, 0x14);
     Check(windowsInSpan && control.compare(4, 4, "LZXC") == 0, kBadCompression);
-    // From the second version on lengths count frames.
+    // From the second version on, lengths count frames.
     const std::uint64_t unit = *version == 2 ? kFrameLength : 1;
     const std::uint64_t windowLength = *window * unit;
     Check(windowLength >= kFrameLength && windowLength <= kLargestObject, kBadCompression);

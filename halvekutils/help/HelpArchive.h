@@ -17,9 +17,9 @@ namespace halvek {
 
 /// The objects of a compiled help file, by their paths, as in "/images/logo.png".
 ///
-/// Every offset and length in the file is checked before it is used, and no object of more than
-/// 16 MB is read: a file that is cut off or damaged, or made to do harm, is a fault. Letter case in
-/// paths does not matter. Throws DeviceError, which names the file, unless it says otherwise.
+/// Every offset and length in the file is checked before it is used, and no object of more than 16
+/// MB is read, so a truncated, damaged or malicious file gives a fault. Letter case in paths does
+/// not matter. Members throw DeviceError, which names the file, unless they say otherwise.
 class HALVEK_INTERNAL HelpArchive {
   public:
     /// Opens a file and reads its directory.
@@ -35,7 +35,7 @@ class HALVEK_INTERNAL HelpArchive {
     /// The bytes of an object. Throws FileNotFound when there is no such object.
     std::string Read(TextIn path);
 
-    /// The first path in the directory's order that ends so; empty when none does.
+    /// The first path, in the directory's order, with this ending; empty when none has it.
     std::u16string FirstEndingIn(TextIn ending) const;
 
   private:
@@ -44,7 +44,7 @@ class HALVEK_INTERNAL HelpArchive {
         std::uint64_t start = 0;
         std::uint64_t length = 0;
     };
-    /// Where the spans of compressed data lie, each of which decompresses by itself.
+    /// Where the spans of compressed data are. Each span decompresses by itself.
     struct Compression {
         std::uint64_t contentStart = 0;
         std::uint64_t length = 0;  ///< of all data, decompressed

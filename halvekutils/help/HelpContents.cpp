@@ -20,7 +20,7 @@ class Tags {
   public:
     explicit Tags(std::u16string_view html) : rest_(html) {}
 
-    /// Goes on to the next tag; false when there is none.
+    /// Moves to the next tag; false when there is none.
     bool Next() {
         const std::size_t start = rest_.find(u'<');
         if (start == std::u16string_view::npos) return false;

@@ -20,8 +20,8 @@ struct HelpContentsEntry {
 
 /// Reads a table of contents, nested HTML lists of "text/sitemap" objects.
 ///
-/// Takes 20,000 entries at most, and what lies deeper than 32 lists as if it lay there. An entry is
-/// never more than one level deeper than the one before.
+/// Reads at most 20,000 entries; entries deeper than 32 lists count as 32 deep. An entry is never
+/// more than one level deeper than the one before.
 std::vector<HelpContentsEntry> ParseHelpContents(TextIn html);
 
 }  // namespace halvek

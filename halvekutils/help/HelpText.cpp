@@ -41,7 +41,7 @@ bool SaysUtf8(std::string_view bytes) {
     return false;
 }
 
-/// The character of a reference, as in "amp" or "#x20AC"; U+FFFD for one that is not known.
+/// The character of a reference, as in "amp" or "#x20AC"; U+FFFD for an unknown one.
 char16_t CharacterNamed(std::u16string_view name) {
     if (!name.starts_with(u'#')) {
         const auto* const found = std::ranges::find(kReferences, name, &Reference::name);
@@ -58,7 +58,7 @@ char16_t CharacterNamed(std::u16string_view name) {
         if (number >= base || value > 0xFFFF) return kReplacement;
         value = value * base + number;
     }
-    // What is no character of the 16-bit plane is rare in the titles of topics.
+    // Characters beyond the 16-bit plane are rare in the titles of topics.
     const bool isCharacter = value >= u' ' && value < 0xFFFE && (value < 0xD800 || value > 0xDFFF);
     return isCharacter ? static_cast<char16_t>(value) : kReplacement;
 }

@@ -34,7 +34,7 @@ HelpTopic ParseHelpTopic(TextIn text) {
     rest = rest.substr(0, rest.find(u'>'));
     if (rest.starts_with(u"::")) rest.remove_prefix(2);
     const std::size_t hash = rest.find(u'#');
-    // The names of a help file's own tables start with that character, those of topics never do.
+    // Names of a help file's own tables start with that character; names of topics never do.
     const std::u16string_view anchor =
         hash == std::u16string_view::npos ? std::u16string_view() : rest.substr(hash + 1);
     return {FromRoot(std::u16string(rest.substr(0, hash))), std::u16string(anchor)};

@@ -18,8 +18,8 @@ struct HelpTopic {
 
 /// Reads a topic as hosts and help files write it.
 ///
-/// Takes "::/late.htm", "/late.htm", "late.htm" and "billing\late.htm", each also with "#anchor" at
-/// the end and with ">window", which has no meaning here. The path is empty when none is named.
+/// Accepts "::/late.htm", "/late.htm", "late.htm" and "billing\late.htm", each also with "#anchor"
+/// at the end and with ">window", which is ignored. The path is empty when the text names none.
 HALVEK_INTERNAL HelpTopic ParseHelpTopic(TextIn text);
 
 }  // namespace halvek

@@ -8,7 +8,7 @@
 
 namespace halvek {
 
-/// The little-endian number at a place in some bytes; nothing when it does not lie within them.
+/// The little-endian number at a place in some bytes; nothing when it is not wholly within them.
 template <class Number>
 std::optional<Number> NumberAt(std::string_view bytes, std::uint64_t place) {
     if (place > bytes.size() || bytes.size() - place < sizeof(Number)) return std::nullopt;

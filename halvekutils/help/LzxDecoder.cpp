@@ -58,7 +58,7 @@ class LzxDecoder::Bits {
         return value;
     }
 
-    /// Goes on at whole bytes, behind at least one bit and at most 16.
+    /// Continues at whole bytes, after at least one bit and at most 16.
     void ToBytes() { next_ = (next_ / 16 + 1) * 16; }
 
     std::string_view Bytes(std::size_t count) {
@@ -178,8 +178,8 @@ void LzxDecoder::ReadCodes(Bits& in) {
     length_.Build();
 }
 
-/// Code lengths are told as what they differ by from those of the block before, in a code of their
-/// own that also has words for runs.
+/// Code lengths are stored as differences from those of the previous block, in a code of their own
+/// that also has words for runs.
 template <std::size_t symbols>
 void LzxDecoder::ReadLengths(Bits& in, Code<symbols>& code, std::size_t first, std::size_t last) {
     constexpr std::uint32_t kFewZeros = 17;
@@ -212,7 +212,7 @@ void LzxDecoder::ReadLengths(Bits& in, Code<symbols>& code, std::size_t first, s
     }
 }
 
-/// Until there is as much as wanted; a match may go on behind that, but not behind `most`.
+/// Decodes until there are `wanted` bytes; a match may run past that, but not past `most`.
 void LzxDecoder::Decode(Bits& in, std::size_t wanted, std::size_t most) {
     while (history_.size() < wanted) {
         const std::uint32_t symbol = main_.Read(in);
@@ -231,7 +231,7 @@ void LzxDecoder::Copy(Bits& in, std::uint32_t symbol, std::size_t most) {
     const std::size_t offset = MatchOffset(in, symbol / 8);
     if (offset == 0 || offset > window_ || offset > history_.size()) Fail();
     if (length > most - history_.size()) Fail();
-    // One by one: a match may overlap what it makes.
+    // Byte by byte: a match may overlap what it produces.
     while (length-- > 0) history_ += history_[history_.size() - offset];
 }
 
@@ -259,7 +259,7 @@ std::uint32_t LzxDecoder::ReadOffset(Bits& in, std::uint32_t slot) {
     return kSlotBases[slot] - 2 + value;
 }
 
-/// Programs are compressed with the targets of their calls as absolute addresses; this makes them
+/// Programs are compressed with absolute addresses as the targets of their calls; this makes them
 /// relative again.
 void LzxDecoder::TranslateCalls(std::string& frame) const {
     constexpr std::size_t kNoCallsAtEnd = 10;

@@ -9,20 +9,20 @@
 
 namespace halvek {
 
-/// Decompresses one span of LZX data, as compiled help files hold it: frames of 32 KB that build
-/// on each other. A new span needs a new decoder.
+/// Decompresses one span of LZX data, as in compiled help files: frames of 32 KB that build on each
+/// other. A new span needs a new decoder.
 ///
-/// The data is trusted in nothing: whatever the bytes are, a frame decodes or throws.
+/// The data is never trusted: whatever the bytes are, a frame decodes or throws.
 class LzxDecoder {
   public:
-    /// @param window  bytes that a match may reach back, a power of two from 32 KB to 2 MB; throws
-    ///     DeviceError for any other
+    /// @param window  how many bytes a match may reach back, a power of two from 32 KB to 2 MB;
+    ///     throws DeviceError for any other number
     explicit LzxDecoder(std::uint32_t window);
 
     static constexpr std::size_t kFrameLength = 0x8000;
 
-    /// The next frame, or of the last one the `length` bytes that it holds. Throws DeviceError when
-    /// the data is damaged.
+    /// The next frame; the last one holds only `length` bytes. Throws DeviceError when the data is
+    /// damaged.
     std::string Frame(std::string_view compressed, std::size_t length);
 
   private:
@@ -34,7 +34,7 @@ class LzxDecoder {
     static constexpr std::size_t kLengthSymbols = 249;
     static constexpr std::size_t kAlignedSymbols = 8;
     static constexpr std::size_t kPreSymbols = 20;
-    // A run of code lengths may go on behind the symbols that it is read for.
+    // A run of code lengths may extend past the symbols for which it is read.
     static constexpr std::size_t kMaxRunLength = 51;
 
     enum class Block : std::uint8_t { None, Verbatim, Aligned, Stored };
@@ -69,7 +69,7 @@ class LzxDecoder {
     std::uint32_t window_;
     std::size_t mainSymbols_;
     bool headerRead_ = false;
-    std::uint32_t translatedSize_ = 0;  ///< of the program that the calls are in; mostly 0, none
+    std::uint32_t translatedSize_ = 0;  ///< of the program that holds the calls; usually 0 for none
     std::array<std::uint32_t, 3> recent_ = {1, 1, 1};
     Block block_ = Block::None;
     std::uint32_t blockLeft_ = 0;

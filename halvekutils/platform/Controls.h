@@ -13,9 +13,11 @@
 
 namespace halvek {
 
-/// A window of the host's that a dialog is centred on and that is refreshed when the dialog ends.
+/// One of the host's windows, on which a dialog is centred and which is refreshed when the dialog
+/// ends.
 ///
-/// Lengths are twips on the screen, outer size. Passed as a shared pointer, null for none.
+/// Positions and sizes are twips on the screen, with the frame. Passed as a shared pointer, null
+/// for none.
 class HALVEK_EXPORT OwnerForm {
   public:
     virtual ~OwnerForm();
@@ -29,7 +31,7 @@ class HALVEK_EXPORT OwnerForm {
     /// The height.
     virtual std::int32_t Height() const = 0;
 
-    /// False once the window is gone; its other members then throw ObjectNotSet.
+    /// False once the window is destroyed; the other members then throw ObjectNotSet.
     virtual bool Exists() const = 0;
 
     /// Repaints the window.
@@ -41,7 +43,7 @@ class HALVEK_EXPORT OwnerForm {
     OwnerForm& operator=(const OwnerForm&) = default;
 };
 
-/// The button or the cell of a grid that a pop-up opens beside.
+/// The button or grid cell beside which a pop-up opens.
 ///
 /// Places are twips on the screen. A cell knows its grid, so one argument serves both. Passed as a
 /// shared pointer.
@@ -49,13 +51,13 @@ class HALVEK_EXPORT PopupTarget {
   public:
     virtual ~PopupTarget();
 
-    /// Where the target is seen.
+    /// Where the target is on the screen.
     virtual Rect Place() const = 0;
 
     /// The part of the target's screen that windows may use.
     virtual Rect Screen() const = 0;
 
-    /// False once the target is gone; its other members then throw ObjectNotSet.
+    /// False once the target is destroyed; the other members then throw ObjectNotSet.
     virtual bool Exists() const = 0;
 
   protected:
@@ -83,7 +85,7 @@ struct HeadingLook {
 
 /// The caption of a field, a label, option button or check box, that can be highlighted.
 ///
-/// Passed as a shared pointer. The members throw ObjectNotSet once the control is gone.
+/// Passed as a shared pointer. The members throw ObjectNotSet once the control is destroyed.
 class HALVEK_EXPORT HeadingControl {
   public:
     virtual ~HeadingControl();
@@ -100,7 +102,7 @@ class HALVEK_EXPORT HeadingControl {
 };
 
 /// The font of a control. Passed as a shared pointer. The members throw ObjectNotSet once the
-/// control is gone.
+/// control is destroyed.
 class HALVEK_EXPORT ControlFont {
   public:
     virtual ~ControlFont();
@@ -108,7 +110,8 @@ class HALVEK_EXPORT ControlFont {
     /// Sets the face.
     virtual void Name(TextIn face) = 0;
 
-    /// The size in points: what is asked for, and what the font really has, which may differ.
+    /// The size in points. The setter asks for a size; the getter returns the font's real one,
+    /// which may differ.
     virtual void Size(float points) = 0;
     virtual float Size() const = 0;
 
@@ -119,7 +122,7 @@ class HALVEK_EXPORT ControlFont {
 };
 
 /// The font of a grid. Passed as a shared pointer. The members throw ObjectNotSet once the grid is
-/// gone.
+/// destroyed.
 class HALVEK_EXPORT GridFont {
   public:
     virtual ~GridFont();
@@ -138,7 +141,7 @@ class HALVEK_EXPORT GridFont {
 };
 
 /// A combo box. Positions count from 0. Passed as a shared pointer. The members throw ObjectNotSet
-/// once the box is gone.
+/// once the box is destroyed.
 class HALVEK_EXPORT ComboBox {
   public:
     virtual ~ComboBox();
@@ -164,10 +167,10 @@ class HALVEK_EXPORT ComboBox {
     ComboBox& operator=(const ComboBox&) = default;
 };
 
-/// A text box of the host's whose keystrokes and text are looked after by the library.
+/// One of the host's text boxes, whose keystrokes and text the library looks after.
 ///
-/// Positions and lengths are counted in characters. Passed as a shared pointer; TextField is one
-/// without a window. A control that is gone throws ObjectNotSet.
+/// Positions and lengths count characters. Passed as a shared pointer; TextField is one without a
+/// window. The members throw ObjectNotSet once the control is destroyed.
 class HALVEK_EXPORT TextControl {
   public:
     virtual ~TextControl();
@@ -185,7 +188,8 @@ class HALVEK_EXPORT TextControl {
     virtual void SelLength(std::int32_t value) = 0;
     virtual std::int32_t SelLength() const = 0;
 
-    /// True when the user may not edit the text. A control that cannot be locked leaves this out.
+    /// True when the user may not edit the text. A control that cannot be locked need not override
+    /// this.
     virtual bool Locked() const;
 
   protected:

@@ -52,7 +52,7 @@ void Beep() noexcept {
     try {
         installedDesktop->Beep();
     } catch (const std::exception&) {
-        // A beep that fails has nobody to tell.
+        // There is nowhere to report a beep that fails.
     }
 }
 

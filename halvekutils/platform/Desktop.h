@@ -33,11 +33,10 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// The installed desktop, or null.
     static Desktop* Installed() noexcept;
 
-    /// Makes this the installed desktop; null for none. Returns the one that was installed before.
+    /// Makes this the installed desktop; null for none. Returns the previous one.
     static Desktop* Install(Desktop* desktop) noexcept;
 
-    /// Whether windows that are not modal may be shown, which the debug console is; true unless
-    /// overridden.
+    /// Whether modeless windows, such as the debug console, may be shown; true unless overridden.
     virtual bool AllowsModelessWindows() const;
 
     /// Sounds the system beep.
@@ -47,22 +46,22 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     virtual void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) = 0;
 
     /// Opens the help viewer on a compiled help file, at the topic of a context number, and returns
-    /// at once. A viewer that is open already is used again. What cannot be shown, a file that
-    /// cannot be read or a topic that is missing, the viewer tells the user; then it is thrown.
+    /// at once. A viewer that is already open is used again. When a file cannot be read or a topic
+    /// is missing, the viewer says so to the user and the fault is thrown.
     virtual void ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) = 0;
 
-    /// The same at a topic as hosts write it, see ParseHelpTopic; empty for the file's first page.
+    /// The same for a topic as hosts write it, see ParseHelpTopic; empty for the file's first page.
     virtual void ShowHelpTopic(const std::filesystem::path& file, TextIn topic) = 0;
 
-    /// The size of the screen that a new dialog opens on.
+    /// The size of the screen on which a new dialog opens.
     virtual Size ScreenSize() const = 0;
 
-    /// The part of that screen that windows may use; unless overridden as large as ScreenSize() and
-    /// at the origin.
+    /// The part of that screen that windows may use; unless overridden, of ScreenSize() at the
+    /// origin.
     virtual Rect ScreenRect() const;
 
-    /// The same of the screen that holds a point; of the one that a new dialog opens on when no
-    /// screen does.
+    /// The same for the screen that holds a point or, when none does, for the screen on which a new
+    /// dialog opens.
     virtual Rect ScreenRectAt(Point point) const;
 
     /// What the window frame of a dialog adds to its inner size.
@@ -71,12 +70,12 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// The modifier keys that are down at this moment; none unless overridden.
     virtual HeldKeys KeysHeld() const;
 
-    /// Takes the close button off a window, which refuses the user's close requests from then on.
-    /// Nothing for a number that no window of this process has.
+    /// Removes the close button of a window, which then refuses the user's close requests. Does
+    /// nothing when no window of this process has the number.
     /// @param window  the window's 32-bit id
     virtual void RemoveCloseButton(std::int32_t window);
 
-    /// A source for one build of the printers collection; null where the desktop knows no printers.
+    /// A source for one build of the printers collection; null when the desktop has no printers.
     virtual std::unique_ptr<PrinterSource> Printers();
 };
 

@@ -8,10 +8,10 @@
 
 namespace halvek {
 
-/// The life cycle of a dialog's rules: open from the start, then ended once, with a result.
+/// The life cycle of a dialog's rules: open from the start, ended once, with a result.
 ///
-/// The user ends it by a choice of its own kind or by Close; when its window goes away instead,
-/// Abandon ends it.
+/// The user ends it by making a choice or by Close; when its window goes away first, Abandon ends
+/// it.
 class HALVEK_EXPORT Dialog {
   public:
     virtual ~Dialog();
@@ -21,28 +21,29 @@ class HALVEK_EXPORT Dialog {
     /// False once the dialog has ended.
     bool IsOpen() const { return open_; }
 
-    /// Called after every change that the window shows, before every message that is raised, and
-    /// once when the dialog ends.
+    /// Called after every change that the window shows, before the rules raise a message, and once
+    /// when the dialog ends.
     std::function<void()> Changed;
 
-    /// The user closes the dialog without a choice: the close box, and Escape or a button that does
-    /// the same. A dialog without a close box stays open, one that has ended stays as it is.
+    /// The user closes the dialog without a choice, by the close box, Escape or a button that does
+    /// the same. A dialog without a close box stays open; a dialog that has ended stays as it is.
     void Close();
 
-    /// The window goes away with the dialog still open: the application quits or the owner is gone.
+    /// The window goes away while the dialog is still open: the application quits or the owner is
+    /// destroyed.
     void Abandon();
 
-    /// How the dialog was answered, in the form that its class gives; empty while it is open.
+    /// The dialog's result, as its class defines it; empty while it is open.
     const std::u16string& Result() const { return result_; }
 
   protected:
     Dialog();
 
-    /// Ends the dialog and tells the window.
+    /// Ends the dialog and notifies the window.
     void End(std::u16string result);
-    /// Tells the window of a change.
+    /// Notifies the window of a change.
     void NotifyChanged() const;
-    /// Hands the result over and leaves none.
+    /// Returns the result and leaves it empty.
     std::u16string TakeResult();
 
   private:

@@ -10,10 +10,10 @@
 
 namespace halvek {
 
-/// Whether a fault is heard as well.
+/// Whether a fault also beeps.
 enum class OnFault {
     Quiet,  ///< it is only logged
-    Beep,   ///< it is beeped and logged
+    Beep,   ///< it beeps and is logged
 };
 
 /// Runs `body`; when it throws, beeps if asked to and logs `prefix` followed by the fault's
@@ -22,9 +22,9 @@ enum class OnFault {
 ///     Guarded(OnFault::Beep, u"Error in Utils.AddBin ", services, [&] { ... });
 ///
 /// `log` is the session's Services, or anything else that has LogError, or a callable for a session
-/// that may not have begun.
-/// `prefix` is a text, or a callable that builds one once a fault has happened. A failure while the
-/// fault is reported, out of memory above all, is dropped: there is nowhere left to tell it.
+/// that may not have begun. `prefix` is a text, or a callable that builds one once a fault has
+/// happened. A failure while the fault is reported, usually out of memory, is dropped: there is
+/// nowhere left to report it.
 template <class Prefix, class Log, class Body>
 void Guarded(OnFault onFault, const Prefix& prefix, Log&& log, const Body& body) {
     try {
@@ -57,7 +57,7 @@ Result Guarded(OnFault onFault, const Prefix& prefix, Log&& log, Result neutral,
     return neutral;
 }
 
-/// Runs `body` and returns its result, or `neutral` when it throws; tells nobody.
+/// Runs `body` and returns its result, or `neutral` when it throws. The fault is not reported.
 template <class Result, class Body>
 Result Quietly(Result neutral, const Body& body) {
     try {

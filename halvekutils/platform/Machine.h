@@ -24,29 +24,30 @@ class HALVEK_EXPORT Machine {
     /// The local wall clock in whole seconds.
     virtual DateTime Now() = 0;
 
-    /// Lets time pass without handling any event.
+    /// Waits without handling any event.
     virtual void Sleep(std::chrono::milliseconds time);
 
-    /// The login name of the user the process acts for; empty when it cannot be found.
+    /// The login name of the user for whom the process acts; empty when it cannot be found.
     virtual std::u16string LoginName() = 0;
 
-    /// The component's own folder, for logs that the host gave no folder. It is created by the
-    /// first append to a file in it, and no other folder ever is.
+    /// The component's own folder, for logs without a folder of the host's. The first append to a
+    /// file in it creates it; no other folder is ever created.
     virtual std::filesystem::path OwnFolder() = 0;
 
-    /// What there is to know of a file before a line is written.
+    /// What the log needs to know about a file before it writes a line.
     struct FileState {
         bool exists = false;        ///< it is there, as a file or anything else
         bool writable = false;      ///< its owner may write
         std::uintmax_t length = 0;  ///< in bytes
     };
-    /// The state of a file; a missing one is no fault.
+    /// The state of a file; a missing file is not a fault.
     virtual FileState StateOf(const std::filesystem::path& file) = 0;
 
-    /// Adds write permission for the owner, no more.
+    /// Adds write permission for the owner, and nothing more.
     virtual void MakeWritable(const std::filesystem::path& file) = 0;
 
-    /// Renames a file. An existing file of the new name is a fault and stays as it is.
+    /// Renames a file. If a file of the new name exists, that is a fault and the file stays as it
+    /// is.
     virtual void Rename(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 
     /// Deletes a file, a read-only one too.
@@ -60,13 +61,13 @@ class HALVEK_EXPORT Machine {
     /// Adds bytes at the end of a regular file in one write, creating the file when it is missing.
     virtual void Append(const std::filesystem::path& file, std::string_view bytes) = 0;
 
-    /// Append, when there is nothing to be done before it: false, and nothing is written, unless
-    /// the file is there, regular, writable for its owner and shorter than `length` bytes.
+    /// Append, if nothing has to be done first: writes nothing and returns false unless the file
+    /// exists, is regular, writable for its owner and shorter than `length` bytes.
     virtual bool TryAppend(const std::filesystem::path& file, std::string_view bytes,
                            std::uintmax_t length) = 0;
 
-    /// Runs `action` unless another process is just now running one on the same file: false then,
-    /// and nothing is run. Never waits.
+    /// Runs `action`, unless another process is running one on the same file at that moment: then
+    /// returns false. Never waits.
     virtual bool TryExclusive(const std::filesystem::path& file,
                               const std::function<void()>& action);
 

@@ -7,8 +7,8 @@
 
 namespace halvek {
 
-/// A host's path, in which both kinds of slash part the folders. Throws PathNotFound for one with a
-/// zero character.
+/// A host's path, in which both kinds of slash separate folders. Throws PathNotFound for a path
+/// with a zero character.
 std::filesystem::path NativePath(TextIn path);
 
 }  // namespace halvek

@@ -11,17 +11,17 @@ namespace halvek {
 /// A printer as the workstation's network connections name it.
 struct PrinterConnection {
     std::u16string port;  ///< where it prints to
-    std::u16string name;  ///< as the user knows it
+    std::u16string name;  ///< the name that the user sees
 };
 
 /// A printer as the workstation's own printer list names it.
 struct InstalledPrinter {
-    std::u16string deviceName;  ///< as the user knows it
+    std::u16string deviceName;  ///< the name that the user sees
     std::u16string port;        ///< where it prints to
-    std::u16string driverName;  ///< make and model, where they are known
+    std::u16string driverName;  ///< make and model, when known
 };
 
-/// Where one build of the printers collection learns of the workstation's printers.
+/// Supplies one build of the printers collection with the workstation's printers.
 class HALVEK_EXPORT PrinterSource {
   public:
     virtual ~PrinterSource();

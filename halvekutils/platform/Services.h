@@ -9,7 +9,7 @@
 
 namespace halvek {
 
-/// What a feature may ask of the current session: its log, its switches and its colours.
+/// What a feature may use of the current session: its log, its switches and its colours.
 class HALVEK_INTERNAL Services {
   public:
     virtual ~Services();

@@ -6,8 +6,8 @@
 
 namespace halvek {
 
-/// A text control without a window: a text, a selection and a lock, for hosts whose own controls
-/// are of another kind, and for tests.
+/// A text control without a window: a text, a selection and a lock, for hosts with controls of
+/// another kind, and for tests.
 ///
 ///     auto box = std::make_shared<TextField>(u"12.5");
 ///     utils->OnCurrencyCtrValidate(box, cancel);
@@ -24,7 +24,7 @@ class HALVEK_INTERNAL TextField : public TextControl {
     void Text(TextIn value) override;
     std::u16string Text() const override { return text_; }
 
-    /// Positions and lengths beyond the text end where it ends.
+    /// Positions and lengths beyond the text are cut to its end.
     void SelStart(std::int32_t value) override;
     std::int32_t SelStart() const override { return selStart_; }
     void SelLength(std::int32_t value) override;

@@ -6,13 +6,13 @@
 
 namespace halvek {
 
-/// How many twips an inch has.
+/// The number of twips in an inch.
 inline constexpr std::int32_t kTwipsPerInch = 1440;
 
 /// The longest length that the library works with, 17 kilometres: sums of a few stay in range.
 inline constexpr std::int32_t kMaxTwips = 1'000'000'000;
 
-/// A computed length, cut off at the longest one.
+/// A computed length, limited to the longest one.
 constexpr std::int32_t LimitedTwips(std::int64_t twips) {
     return static_cast<std::int32_t>(twips < kMaxTwips ? twips : kMaxTwips);
 }

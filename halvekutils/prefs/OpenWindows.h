@@ -13,9 +13,9 @@ namespace halvek {
 
 class Services;
 
-/// The host's open windows, each by a type of the host's choice and its handle.
+/// The host's open windows. Each has a type, which the host chooses, and its handle.
 ///
-/// Indexes count from 1. Utils::OpenWindows hands out the one registry of its object.
+/// Indexes count from 1. Utils::OpenWindows returns the one registry of its object.
 ///
 ///     const auto windows = utils->OpenWindows();
 ///     windows->AddItem(u"Patient", static_cast<std::int32_t>(window.winId()));
@@ -24,7 +24,7 @@ class HALVEK_EXPORT OpenWindows {
   public:
     ~OpenWindows();
 
-    /// Forgets all windows.
+    /// Removes all windows.
     void ClearAll();
 
     /// The same as GetAll: every window, whatever its type.
@@ -41,11 +41,11 @@ class HALVEK_EXPORT OpenWindows {
     /// How many windows there are.
     std::int32_t Count() const;
 
-    /// Removes a window; those behind it move up by one.
+    /// Removes a window; those after it move up by one.
     /// @return false when there is no such window; logged unless the registry is empty
     bool RemoveItem(std::int32_t Index);
 
-    /// Adds a window at the end; one that is there already is added once more.
+    /// Adds a window at the end, also when it is in the registry already.
     /// @return false after a fault, which is logged
     bool AddItem(TextIn WinType, std::int32_t WinHandle);
 

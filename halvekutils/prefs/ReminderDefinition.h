@@ -13,7 +13,7 @@ namespace halvek {
 
 /// The reminders that the server sends for an account: titled tabs of text lines.
 ///
-/// A line that begins with "-" is meant to be highlighted; one that begins with "P-", in either
+/// A line that begins with "-" should be highlighted; a line that begins with "P-", in either
 /// letter case, is patient-specific. Lines keep these marks.
 ///
 ///     ReminderDefinition reminder;
@@ -29,15 +29,15 @@ class HALVEK_EXPORT ReminderDefinition {
 
     /// Reads a reminder; call it once for each object.
     ///
-    /// Tabs are parted by the character of code 231, their title and lines by that of code 230. The
-    /// character of code 163 ends the tabs; a "1" behind it asks for an alert.
+    /// Tabs are separated by the character of code 231, a tab's title and lines by that of code
+    /// 230. The character of code 163 ends the tabs; a "1" after it asks for an alert.
     void PopulateReminder(TextIn AcctNo, TextIn ReminderData);
 
     /// The lines of a tab, from element 1; element 0 is empty.
     ///
-    /// Tabs are counted from 1 as the reminder parts them, those without a title included, so the
-    /// number of a tab can differ from the position of its title. An object without data gives
-    /// element 0 alone, a tab that does not exist an unallocated array.
+    /// Tabs count from 1, including those without a title, so the number of a tab can differ from
+    /// the position of its title. An object without data returns element 0 alone; for a tab that
+    /// does not exist, the array is unallocated.
     StringArray TabData(std::int16_t TabNo) const;
 
     /// The titles in order, from element 1. A tab with an empty title has none here.

@@ -13,8 +13,8 @@ namespace halvek {
 
 /// The practice's settings, shared by the host and the library: Utils keeps the host's own object.
 ///
-/// Plain storage: each property returns what it was last given, empty, 0 or false at first. The
-/// library reads only the LookupKey and LookupKey1, in Utils::IsLookupKey and
+/// Plain storage: each property returns the value last set, and at first an empty text, 0 or false.
+/// The library reads only LookupKey and LookupKey1, in Utils::IsLookupKey and
 /// Utils::ConvertLookupKeyToSearchBy; its currency fields have digits of their own, and its colours
 /// and code delimiter come from Utils::InitOtherSettings.
 class HALVEK_EXPORT SystemPrefs {
@@ -30,7 +30,7 @@ class HALVEK_EXPORT SystemPrefs {
     void DefaultWindowsBackColor(Color value) { defaultWindowsBackColor_ = value; }
     Color DefaultWindowsBackColor() const { return defaultWindowsBackColor_; }
 
-    /// Digits of a currency amount behind the point.
+    /// Digits of a currency amount after the point.
     void CurrencyNumFract(std::int16_t value) { currencyNumFract_ = value; }
     std::int16_t CurrencyNumFract() const { return currencyNumFract_; }
 
@@ -45,7 +45,7 @@ class HALVEK_EXPORT SystemPrefs {
     void HighlightBackColor(Color value) { highlightBackColor_ = value; }
     Color HighlightBackColor() const { return highlightBackColor_; }
 
-    /// The factor that column widths are adjusted by.
+    /// The factor by which column widths are adjusted.
     void ColumnAdjust(double value) { columnAdjust_ = value; }
     double ColumnAdjust() const { return columnAdjust_; }
 

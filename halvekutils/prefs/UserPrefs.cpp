@@ -35,7 +35,7 @@ struct Text {
 
 void Reset(UserPrefs& prefs, const Text& row) {
     if (row.reset.empty()) {
-        (prefs.*row.member).clear();  // quicker than to assign an empty text
+        (prefs.*row.member).clear();  // faster than assigning an empty text
     } else {
         prefs.*row.member = row.reset;
     }
@@ -81,7 +81,7 @@ void Write(const UserPrefs& prefs, const Switch& row, std::u16string& out) {
     out += BooleanText(prefs.*row.member);
 }
 
-/// A switch that the settings hold as a level, on from 2.
+/// A switch that the settings hold as a level; 2 and above is on.
 struct Level {
     SwitchMember member;
 };
@@ -144,7 +144,7 @@ UserPrefs::UserPrefs() = default;
 UserPrefs::~UserPrefs() = default;
 
 bool UserPrefs::PopulateSettings(TextIn StrAllSettings) {
-    UserPrefs next;  // taken over whole, or not at all when memory runs out
+    UserPrefs next;  // replaces the old values as a whole, or not at all when memory runs out
     next.showAdvancedSettings_ = showAdvancedSettings_;
     Table::ForEachRow([&](const auto& row) { Reset(next, row); });
     std::array<TextIn, std::tuple_size_v<decltype(Table::kRows)>> fields;

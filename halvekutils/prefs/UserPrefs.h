@@ -14,8 +14,8 @@ namespace halvek {
 /// One user's preferences: colours, switches and a text for each screen of the host, which the
 /// server keeps as one settings text.
 ///
-/// The texts for the screens are the host's own; only the layout of the settings is known here. A
-/// new object holds empty texts, 0 and false until PopulateSettings. A colour of -1 is not set:
+/// The texts for the screens are the host's own; only the layout of the settings is known here.
+/// Until PopulateSettings, a new object holds empty texts, 0 and false. A colour of -1 is not set:
 /// reading it stores and returns its default.
 ///
 ///     UserPrefs prefs;
@@ -27,7 +27,7 @@ class HALVEK_EXPORT UserPrefs {
     UserPrefs();
     ~UserPrefs();
 
-    /// Whether the host offers its advanced settings. PopulateSettings keeps it where the text has
+    /// Whether the host offers its advanced settings. PopulateSettings keeps it when the text has
     /// no field for it.
     void ShowAdvancedSettings(BoolIn value) { showAdvancedSettings_ = value; }
     bool ShowAdvancedSettings() const { return showAdvancedSettings_; }
@@ -82,13 +82,15 @@ class HALVEK_EXPORT UserPrefs {
 
     /// Resets the settings and applies those of a settings text, field by field.
     ///
-    /// Fields are parted by the character of code 223. A text that ends early leaves the rest as
-    /// reset, as does a number that 32 bits do not hold; what follows field 30 is ignored.
-    /// LastPrinterUsed is not reset, and ShowAdvancedSettings only where the text has its field.
-    /// @return always false, whatever the text
+    /// Fields are separated by the character of code 223. If the text ends early, the other
+    /// settings stay reset; so does a field whose number does not fit into 32 bits. What follows
+    /// field 30 is ignored. LastPrinterUsed is not reset, and ShowAdvancedSettings only when the
+    /// text has its field.
+    /// @return always false
     bool PopulateSettings(TextIn StrAllSettings);
 
-    /// The settings text: 31 fields, colours as they are stored, so -1 for one that is not set.
+    /// The settings text: 31 fields, with colours as they are stored, so -1 for a colour that is
+    /// not set.
     std::u16string GetSettingsString() const;
 
     /// The background of fields that must be filled in; 16765560, an orange, when not set.
@@ -111,8 +113,8 @@ class HALVEK_EXPORT UserPrefs {
     /// The text of the demographics screen.
     void DemoFormData(TextIn value) { demoFormData_ = value; }
     std::u16string DemoFormData() const { return demoFormData_; }
-    /// The text of the AI screen. In a settings text it may stand between two "|", which are taken
-    /// off.
+    /// The text of the AI screen. In a settings text it may stand between two "|", which are
+    /// removed.
     void AIFormData(TextIn value) { aiFormData_ = value; }
     std::u16string AIFormData() const { return aiFormData_; }
     /// The text of the viewer.
@@ -130,7 +132,7 @@ class HALVEK_EXPORT UserPrefs {
     /// The text of the image screen.
     void ImageData(TextIn value) { imageData_ = value; }
     std::u16string ImageData() const { return imageData_; }
-    /// The type of document that is scanned.
+    /// The type of document to scan.
     void ScanningDocType(TextIn value) { scanningDocType_ = value; }
     std::u16string ScanningDocType() const { return scanningDocType_; }
     /// The folder of images.

@@ -49,8 +49,8 @@ Message QueuesRequest() {
     return request;
 }
 
-/// Sends the request and reads the answer, once. The library's own call for this would wait a
-/// second more, try again and, asked for a password, read one from the terminal.
+/// Sends the request and reads the answer, once. The call of libcups that does this would wait a
+/// second longer, try again and, when asked for a password, read one from the terminal.
 Message Exchange(http_t* connection, ipp_t* request) {
     httpClearFields(connection);
     httpSetField(connection, HTTP_FIELD_CONTENT_TYPE, "application/ipp");

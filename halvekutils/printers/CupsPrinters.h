@@ -10,8 +10,8 @@ namespace halvek {
 
 /// The queues of the print scheduler that the workstation is set up to use.
 ///
-/// Asks the scheduler once, at the first call, and answers both calls from that; one that does not
-/// answer within a second counts as not there. Make a new object for each build.
+/// Asks the scheduler once, at the first call, and answers both calls from its reply. A scheduler
+/// that does not answer within a second counts as absent. Make a new object for each build.
 class CupsPrinters : public PrinterSource {
   public:
     CupsPrinters();

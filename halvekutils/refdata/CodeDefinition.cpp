@@ -50,7 +50,7 @@ void CodeDefinition::Init(TextIn codeData) {
     includedInMenu_ = fields[kIncludedInMenu] == u"1";
     reportName_ = fieldOf(fields[kReportName]);
     sortByList_ = fieldOf(fields[kSortBy]);
-    // The second half stands right behind the first, parted as a list of two is.
+    // The second half directly follows the first, with the separator of a list of two between them.
     if (count > kSortBySecond) sortByList_.length += 1 + fields[kSortBySecond].size();
     if (count > kEntitySpecific) isEntitySpecific_ = IsOne(fields[kEntitySpecific]);
     if (count > kSystemCode) isSystemCode_ = IsOne(fields[kSystemCode]);

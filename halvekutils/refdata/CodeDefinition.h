@@ -10,9 +10,9 @@
 
 namespace halvek {
 
-/// One code table that the client knows: what it is called, how it is looked up, sorted and
-/// printed. Made by Utils::BuildCodesCollection only; the getters are empty or false where the
-/// record was too short.
+/// One code table of the client: what it is called, how it is looked up, sorted and printed. Only
+/// Utils::BuildCodesCollection makes one; if its record was too short, all getters are empty or
+/// false.
 class HALVEK_EXPORT CodeDefinition {
   public:
     ~CodeDefinition();
@@ -25,7 +25,7 @@ class HALVEK_EXPORT CodeDefinition {
     std::u16string ReportName() const { return TextOf(reportName_); }
     /// True when menus offer the table.
     bool IncludedInMenu() const { return includedInMenu_; }
-    /// One sort order, or two parted by the character of code 230.
+    /// One sort order, or two separated by the character of code 230.
     std::u16string SortByList() const { return TextOf(sortByList_); }
     /// True when there is a list to choose the table's codes from.
     bool CodeHasLookup() const { return codeHasLookup_; }

@@ -36,7 +36,7 @@ class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesC
 
     /// The first definition, for loops.
     Enumerator<const CodesCollection> begin() const;
-    /// Behind the last definition.
+    /// After the last definition.
     std::default_sentinel_t end() const { return {}; }
 
   private:

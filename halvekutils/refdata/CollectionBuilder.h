@@ -11,14 +11,14 @@
 
 namespace halvek {
 
-/// Makes and fills the collections that hosts only read: the one class that they let in. No host
-/// meets this header.
+/// Makes and fills the collections that hosts only read; no other class may. This header is not
+/// installed.
 struct CollectionBuilder {
     /// A collection without definitions.
     static std::shared_ptr<CodesCollection> Codes() { return CodesCollection::CreateEmpty(); }
 
     /// Adds the definitions of a codes data text. The first of two equal keys wins; the second is
-    /// logged. A definition without a key can be reached by position only.
+    /// logged. A definition without a key can be found by position only.
     static void Add(CodesCollection& codes, TextIn codesData, Services& services) {
         codes.AddRecords(codesData, services);
     }
@@ -29,8 +29,8 @@ struct CollectionBuilder {
         return SecurityItemsCollection::CreateEmpty(services);
     }
 
-    /// Adds the items of a security data text. Exactly "***" has none and switches full access on;
-    /// any other text switches it off.
+    /// Adds the items of a security data text. The text "***" adds none and switches full access
+    /// on; any other text switches it off.
     ///
     /// Items are separated by the character of code 230; the last character of each is its rights
     /// digit. The first of two equal keys wins; the second is logged.
@@ -38,8 +38,8 @@ struct CollectionBuilder {
         items.AddItems(securityData);
     }
 
-    /// Switches full access off for all collections of the process; what was granted to an item
-    /// before stays.
+    /// Switches full access off for all collections of the process; rights that an item already has
+    /// stay.
     static void EndFullAccess() noexcept { SecurityItemsCollection::EndFullAccess(); }
 
     /// A collection without printers.

@@ -8,7 +8,7 @@
 
 namespace halvek {
 
-/// What the printers collection is told of a printer; PrinterDefinition documents the fields.
+/// The fields of a printer; PrinterDefinition documents them.
 struct PrinterFields {
     bool isSerial = false;              ///< see IsSerial
     std::u16string printerID;           ///< see PrinterID
@@ -19,7 +19,7 @@ struct PrinterFields {
     std::u16string printerDriverName;   ///< see PrinterDriverName
 };
 
-/// An output device that a user may pick. Made by PrintersCollection only.
+/// An output device that a user may choose. Only PrintersCollection makes one.
 class HALVEK_EXPORT PrinterDefinition {
   public:
     ~PrinterDefinition();
@@ -34,11 +34,11 @@ class HALVEK_EXPORT PrinterDefinition {
     std::u16string PrinterType() const { return fields_.printerType; }
     /// The serial list's identifier, "S" for the spool; "1WIN", "2WIN", ... for the workstation's.
     std::u16string PrinterID() const { return fields_.printerID; }
-    /// True for every entry of the serial list, those that print to a file included.
+    /// True for every entry of the serial list, including those that print to a file.
     bool IsSerial() const { return fields_.isSerial; }
     /// Always 0: printers are numbered by their keys.
     std::int16_t NumberInOrder() const { return 0; }
-    /// The driver's name where the workstation's printer list gave one.
+    /// The driver's name, if the workstation's printer list gave one.
     std::u16string PrinterDriverName() const { return fields_.printerDriverName; }
 
   private:

@@ -15,8 +15,8 @@ namespace halvek {
 /// numbered by one counter that starts at 0.
 class PrinterListBuilder {
   public:
-    /// @param printers  the collection that is added to
-    /// @param source  where the workstation's printers are asked for
+    /// @param printers  the collection to which printers are added
+    /// @param source  supplies the workstation's printers
     /// @param services  the session whose log and special mode are used
     ///
     /// All three outlive the builder.
@@ -25,15 +25,15 @@ class PrinterListBuilder {
     PrinterListBuilder(const PrinterListBuilder&) = delete;
     PrinterListBuilder& operator=(const PrinterListBuilder&) = delete;
 
-    /// Adds the entries of the server's list. They are parted by tabs, their four fields by ":":
-    /// identifier, an ignored one, description, port. An entry with another number of fields beeps,
-    /// is logged and skipped. Throws DuplicateKey.
+    /// Adds the entries of the server's list. Tabs separate entries, ":" separates their four
+    /// fields: identifier, an ignored one, description, port. An entry with another number of
+    /// fields beeps, is logged and skipped. Throws DuplicateKey.
     void AddSerialPrinters(TextIn serialPrintersList);
 
     /// Adds the workstation's printers, from the source that the session's special mode chooses:
-    /// "printerlistold" the printer list, "printerlistnew" the connections. With neither word the
-    /// connections come first and the printer list stands in when they fail. Logs its failures;
-    /// what was added before one stays.
+    /// "printerlistold" means the printer list, "printerlistnew" the connections. With neither word
+    /// the connections come first, and the printer list is used when they fail. Failures are
+    /// logged; what was added before a failure stays.
     void AddWorkstationPrinters();
 
   private:

@@ -18,11 +18,11 @@ struct PrinterFilter {
     bool excludeSpool = true;     ///< the entry with the identifier "S"
     bool excludeFile = false;     ///< those that print to a file
     bool excludeWindows = false;  ///< the workstation's
-    bool excludeSerial = false;   ///< the server's, the spool and the files excepted
+    bool excludeSerial = false;   ///< the server's, except the spool and the files
 };
 
-/// The printers that a user may pick, the server's first, then the workstation's; read-only to the
-/// host.
+/// The printers that a user may choose, first the server's, then the workstation's; read-only to
+/// the host.
 ///
 /// Keys are a number followed by "KEY": from 0KEY in a collection that was built, from 1KEY in a
 /// filtered one.
@@ -44,11 +44,11 @@ class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<Pri
 
     /// The first printer, for loops.
     Enumerator<const PrintersCollection> begin() const;
-    /// Behind the last printer.
+    /// After the last printer.
     std::default_sentinel_t end() const { return {}; }
 
     /// Copies of the printers that pass the filter, in their order. The spool, the entry with the
-    /// identifier "S", is no serial printer to the filter, even where its type says so.
+    /// identifier "S", does not count as a serial printer, even when its type says so.
     std::shared_ptr<PrintersCollection> Filtered(const PrinterFilter& filter) const;
 
   private:

@@ -9,9 +9,9 @@
 
 namespace halvek {
 
-/// A protected item, a screen, a function or a report, and what the signed-in user may do with it.
+/// A protected item (a screen, a function or a report) and what the signed-in user may do with it.
 ///
-/// Made by SecurityItemsCollection only. A right once granted to an item is never taken back.
+/// Only SecurityItemsCollection makes one. A right once granted to an item is never revoked.
 class HALVEK_EXPORT SecurityItem {
   public:
     ~SecurityItem();
@@ -28,7 +28,7 @@ class HALVEK_EXPORT SecurityItem {
     /// True when the user may see it.
     bool AllowRead() const { return (rights_ & kRead) != 0; }
 
-    /// The item's key. Setting it leaves the key under which a collection holds the item.
+    /// The item's key. Setting it does not change the key under which a collection holds the item.
     void ItemKey(TextIn value) { itemKey_ = value; }
     std::u16string ItemKey() const { return itemKey_; }
 

@@ -93,7 +93,7 @@ void SecurityItemsCollection::Add(TextIn key, char16_t rightsDigit) {
 }
 
 void SecurityItemsCollection::ReportMissing(TextIn key) {
-    // The item is there: without memory for the report the look-up itself must not fail.
+    // The item exists: the look-up must not fail because memory runs out for the report.
     Quietly(false, [&] {
         const bool asked = services_.DebugMode() ||
                            services_.SpecialMode().find(u"check security") != std::u16string::npos;

@@ -18,9 +18,9 @@ class Services;
 
 /// The signed-in user's rights, as the server described them; read-only to the host.
 ///
-/// A key that the server did not send is no fault: its first look-up adds an item without rights,
-/// which later look-ups find. While full access is on, every look-up, in old collections too,
-/// grants all rights to the item that it returns.
+/// A key that the server did not send is not a fault: its first look-up adds an item without
+/// rights, which later look-ups find. While full access is on, every look-up grants all rights to
+/// the item that it returns, in old collections too.
 ///
 ///     saveButton.setEnabled(utils->GetSecurityItemsCollection()->Item(u"PATIENTS")->AllowModify());
 class HALVEK_EXPORT SecurityItemsCollection
@@ -41,12 +41,12 @@ class HALVEK_EXPORT SecurityItemsCollection
     /// a beep, in debug mode or when the special mode contains "check security".
     std::shared_ptr<SecurityItem> Item(TextIn key);
 
-    /// How many items there are, those that look-ups have added included.
+    /// How many items there are, including those that look-ups have added.
     std::int32_t Count() const;
 
     /// Steps through the items as they are: a loop looks nothing up and so grants nothing.
     Enumerator<const KeyedCollection<SecurityItem>> begin() const;
-    /// Behind the last item.
+    /// After the last item.
     std::default_sentinel_t end() const { return {}; }
 
   private:

@@ -27,7 +27,7 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     }
 }
 
-/// Plays the next answer of the queue on a dialog; a fault when the script holds none.
+/// Plays the next answer in the queue on a dialog; a fault when there is none.
 template <class Rules, class Answer>
 void Play(Rules& dialog, std::deque<Answer>& answers, std::u16string_view name, TextIn caption) {
     if (answers.empty()) {

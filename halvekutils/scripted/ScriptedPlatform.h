@@ -20,22 +20,23 @@ namespace halvek {
 /// A desktop that answers from a script, for tests without a person and without a display.
 ///
 /// Installed from its construction to its destruction. Each dialog takes the next answer of its
-/// kind, a function that plays the user on the dialog's rules; a dialog that its answer leaves open
-/// is closed as by its close box, and one without an answer is a fault. Every character is 100
-/// twips wide and every line 200 twips high at 10 points, in proportion at other sizes.
+/// kind, a function that plays the user on the dialog's rules. If the answer leaves the dialog
+/// open, it is closed as by its close box; a dialog without an answer is a fault. At 10 points
+/// every character is 100 twips wide and every line 200 twips high, and in proportion at other
+/// sizes.
 ///
 ///     ScriptedPlatform desktop;
 ///     desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
 ///     EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
 class HALVEK_EXPORT ScriptedPlatform : public Platform {
   public:
-    /// A message of the desktop's own that was shown.
+    /// One of the desktop's own messages that was shown.
     struct StockMessage {
         std::u16string text;   ///< what it said
         StockIcon icon;        ///< its icon
         std::u16string title;  ///< its title
     };
-    /// One call of a help member: by context number or else by topic.
+    /// One call of a help member, by context number or by topic.
     struct ShownHelp {
         std::filesystem::path file;             ///< the help file
         std::optional<std::int32_t> contextId;  ///< nothing for a call by topic
@@ -74,7 +75,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     /// The debug console with its text; null until something has shown it.
     const std::shared_ptr<DebugConsole>& Console() const { return console_; }
 
-    /// How often the system beep sounded.
+    /// How often the system beep has sounded.
     int Beeps() const { return beeps_; }
     /// The desktop's own messages that were shown, the oldest first; nobody has to close them.
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }

@@ -34,7 +34,7 @@ std::u16string JoinedWithout(std::u16string_view text, std::u16string_view leftO
     return codes;
 }
 
-/// True when two texts are the same; quick for texts as short as codes.
+/// True when two texts are the same; fast for texts as short as codes.
 bool IsSame(std::u16string_view left, std::u16string_view right) {
     constexpr std::size_t kWord = 4;
     if (left.size() != right.size()) return false;
@@ -67,7 +67,7 @@ CodePlace PlaceOfCode(std::u16string_view codes, std::u16string_view code) {
     return place;
 }
 
-/// Takes a code that stands there once out of joined codes, with one of the commas beside it.
+/// Removes a code that occurs once from joined codes, with one of the commas beside it.
 void Erase(std::u16string& codes, std::size_t start, std::size_t length) {
     if (start + length < codes.size()) {
         codes.erase(start, length + 1);

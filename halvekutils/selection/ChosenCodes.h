@@ -11,17 +11,18 @@
 
 namespace halvek {
 
-/// The box of typed codes as the rules want it. Positions count characters from 0.
+/// The box of typed codes, as the rules want it. Positions count characters from 0.
 struct TypedCodesBox {
     std::u16string text;        ///< what it holds
     std::int32_t caret = 0;     ///< how many characters stand before the caret
     std::int32_t selected = 0;  ///< how many characters after the caret are selected
-    bool enabled = true;        ///< what stands in a disabled box was not typed by the user
+    bool enabled = true;        ///< the user did not type the text of a disabled box
 };
 
-/// The chosen codes, joined by ",", and the box in which they stand until the user types there.
+/// The chosen codes, joined by ",", and the box that shows them until the user types in it.
 ///
-/// With a few thousand codes chosen, the two texts are long: while they are the same there is one.
+/// With a few thousand codes chosen both texts are long, so while they are the same only one is
+/// kept.
 class HALVEK_EXPORT ChosenCodes {
   public:
     /// The chosen codes.
@@ -31,23 +32,23 @@ class HALVEK_EXPORT ChosenCodes {
     /// Grows whenever the rules, not the user, change the box.
     std::uint32_t BoxVersion() const { return boxVersion_; }
 
-    // Choosing: the codes in the box, one more or less, become the choice and the box's text. Each
-    // is true when that empties a box that held something.
+    // Choosing: the codes in the box, with one more or one less, become the choice and the box's
+    // text. Each function is true when that empties a box that held something.
 
     /// Adds a code after the others.
     bool Add(std::u16string_view code);
-    /// Takes a code out, however often it stands there.
+    /// Removes a code, however often it occurs.
     bool Remove(std::u16string_view code);
     /// Chooses these codes and no other.
     bool Replace(const std::vector<std::u16string_view>& codes);
 
     // Typing
 
-    /// Puts a text into the box that leaves the choice alone.
+    /// Puts a text into the box without changing the choice.
     void Type(std::u16string text);
-    /// Puts caret and selection where the user has them, at the nearest place in the text.
+    /// Sets caret and selection to where the user has them, or to the nearest place in the text.
     void MoveCaret(std::int32_t caret, std::int32_t selected);
-    /// Puts caret and selection where the rules want them.
+    /// Sets caret and selection to where the rules want them.
     void Select(std::size_t start, std::size_t length);
     /// Selects a code that was refused, with the comma after it.
     void SelectCode(std::u16string_view code);
@@ -58,11 +59,11 @@ class HALVEK_EXPORT ChosenCodes {
 
     /// Makes room for codes of this length before the first is accepted.
     void Reserve(std::size_t length) { box_.text.reserve(length); }
-    /// Chooses nothing, with room for all that the box holds.
+    /// Clears the choice, with room for all that the box holds.
     void StartCheck();
     /// Adds a code of the box to the choice.
     void Accept(std::u16string_view code);
-    /// The last code is accepted.
+    /// Call after the last code.
     void EndCheck();
     /// Chooses nothing; the box stays as it is.
     void Clear();

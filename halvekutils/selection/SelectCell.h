@@ -25,7 +25,7 @@ inline FontSpec DescriptionFont() {
     return {u"tahoma", 7};
 }
 
-/// One cell of the grid, as it is drawn.
+/// One cell of the grid as it is drawn.
 struct SelectCell {
     /// What a cell is.
     enum class Kind {

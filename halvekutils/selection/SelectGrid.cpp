@@ -208,7 +208,7 @@ bool SelectGrid::RefuseForm(std::size_t start, std::size_t length) {
 }
 
 bool SelectGrid::MarkTypedCodes() {
-    // What may fail comes before the first mark goes.
+    // Whatever may fail comes before the first mark is cleared.
     list_.PrepareFind();
     codes_.StartCheck();
     ClearMarks();
@@ -234,7 +234,7 @@ SelectGrid::EntryCheck SelectGrid::CheckEntry(std::u16string_view code) {
             RefuseCode(code);
             return EntryCheck::Refused;
         }
-        // A code ticked already is in the choice already.
+        // A code that is already ticked is already in the choice.
         if (marks_[entry]) return EntryCheck::AcceptedBefore;
         codes_.Accept(code);
         marks_[entry] = true;
@@ -255,7 +255,7 @@ void SelectGrid::RefuseCode(std::u16string_view code) {
 
 void SelectGrid::Accept() {
     if (!IsOpen()) return;
-    // What may fail comes before the check.
+    // Whatever may fail comes before the check.
     std::u16string result;
     result.reserve(Box().text.size());
     if (CheckTypedCodes() && IsOpen()) Finish(std::move(result));

@@ -24,10 +24,10 @@ class Services;
 struct SelectionRequest {
     std::u16string listName;             ///< plain text, the caption
     std::u16string allValues;            ///< the server's list, see SelectionList
-    std::u16string selectedValues;       ///< the codes chosen so far, parted by ","
+    std::u16string selectedValues;       ///< the codes chosen so far, separated by ","
     std::u16string typedCharacter = {};  ///< what the user typed before the dialog opened
     bool doNotIncludeDeleted = false;    ///< leaves deleted entries out
-    PopupAnchor anchor = {};             ///< where it is asked to open
+    PopupAnchor anchor = {};             ///< where it should open
 };
 
 /// A message that the dialog raises while it is open.
@@ -49,19 +49,19 @@ struct SelectionMessage {
 /// A window draws the cells that are visible, mirrors the box and forwards its events. Faults are
 /// written to the log as "ERR in frmSelectGrid." and the routine's name; the dialog stays usable.
 ///
-/// The result is "CANCEL" when Cancelled(), else the chosen codes, separated by ",". After Close
-/// these are the ones that the caller gave.
+/// The result is "CANCEL" when Cancelled(), otherwise the chosen codes, separated by ","; after
+/// Close, the ones that the caller gave.
 class HALVEK_EXPORT SelectGrid : public Dialog {
   public:
     /// Shows a message and returns when the user has closed it.
     using MessageSink = std::function<void(const SelectionMessage&)>;
 
-    /// Reads the list; throws what goes wrong. Prepare comes next.
+    /// Reads the list; throws any fault. Call Prepare next.
     SelectGrid(SelectionRequest request, Services& session, MessageSink showMessage);
     ~SelectGrid() override;
 
     /// Ticks the incoming codes, with a message for each that the list lacks, and puts the typed
-    /// character into the box. To be called once, before the dialog is shown.
+    /// character into the box. Call it once, before the dialog is shown.
     void Prepare();
 
     // What the window shows
@@ -80,14 +80,14 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     std::u16string AccessibleText(std::int32_t row, std::int32_t column) const;
     /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return list_.LongestCodeLength(); }
-    /// Where the dialog is asked to open.
+    /// Where the dialog should open.
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
     /// The codes that are chosen so far.
     std::u16string_view Choice() const { return codes_.Text(); }
     /// The box of typed codes.
     const TypedCodesBox& Box() const { return codes_.Box(); }
-    /// Grows whenever the rules, not the user, change the box: the window then mirrors it.
+    /// Grows whenever the rules, not the user, change the box; the window then copies it.
     std::uint32_t BoxVersion() const { return codes_.BoxVersion(); }
 
     // The current cell
@@ -102,7 +102,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     /// A cell is clicked: row 0 accepts the choice as it is, any other toggles its entry and makes
     /// it current. A blank cell does nothing.
     void ClickCell(std::int32_t row, std::int32_t column);
-    /// Accepts the choice as it is, without a look at what was typed.
+    /// Accepts the choice as it is, without checking what was typed.
     void ClickHeader();
 
     /// The keys that the grid knows.
@@ -130,15 +130,15 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
         Entered,   ///< by the mouse, a key or a shortcut
         Restored,  ///< the window became active again, or put the focus back after a refusal
     };
-    /// The box has the focus: what it holds is checked when the user entered it, except the first
+    /// The box has got the focus. If the user entered it, its text is checked, except the first
     /// time after opening with a typed character.
     void FocusBox(BoxFocus how);
 
-    /// The comma key is released in the box: what it holds is checked and ticked.
+    /// The comma key is released in the box: its text is checked and ticked.
     void ReleaseComma();
 
-    /// The user wants to leave the box; false when what it holds is refused. Not to be asked by
-    /// Cancel, Escape and the close box.
+    /// The user wants to leave the box; false when its text is refused. Not for Cancel, Escape and
+    /// the close box.
     bool ValidateBox();
 
     /// Whether the user can type into the box; true at first.
@@ -146,14 +146,14 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
 
     // How it ends
 
-    /// OK, or Enter in the box: ends the dialog unless what the box holds is refused.
+    /// OK, or Enter in the box: ends the dialog, unless the box's text is refused.
     void Accept();
     /// True when the user accepted without a change.
     bool Cancelled() const { return cancelled_; }
 
-    /// The right edge that the dialog was asked for, in whole twips; -1 when none was given.
+    /// The right edge that the caller asked for, in whole twips; -1 when none was given.
     std::int32_t OriginalLeft() const { return request_.anchor.left.value_or(-1); }
-    /// The bottom edge that it was asked for above its target, likewise.
+    /// The bottom edge that the caller asked for above the target, likewise.
     std::int32_t OriginalTop() const { return request_.anchor.topUp.value_or(-1); }
 
   private:

@@ -40,7 +40,7 @@ void MeasureRows(SelectGridLayout& layout, const TextMeter& meter) {
     layout.headerHeight = layout.codeHeight - kRowPadding + kHeaderPadding;
 }
 
-/// The grid's height for whole bands in the space there is, at most for all of them.
+/// The grid's height: as many whole bands as there is space for, at most all of them.
 std::int32_t FitBands(SelectGridLayout& layout, std::int32_t bands, std::int32_t space,
                       std::int32_t besideBands) {
     const std::int32_t band = 2 * layout.codeHeight + layout.descriptionHeight;
@@ -60,7 +60,7 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
     const std::int32_t boxHeight = meter.TextHeight({}, CodeFont()) + kBoxPadding;
     const std::int32_t bars = 2 * content.gridBorder;
 
-    // Across: the bar is allowed for, whether the bands need it or not.
+    // Across: there is room for the bar, whether the bands need it or not.
     const std::int32_t besideColumns = 2 * kMargin + bars + content.scrollBarWidth;
     layout.columnWidth = ColumnWidth(content.longestCodeLength, meter, most.width - besideColumns);
     const std::int32_t columns = layout.columnWidth * SelectionList::kColumns;

@@ -26,7 +26,7 @@ struct SelectGridLayout {
     bool scrollsAcross = false;          ///< the screen is too narrow for ten readable columns
 };
 
-/// What a selection dialog's layout is made of besides the text meter.
+/// What a selection dialog's layout depends on besides the text meter.
 struct SelectGridContent {
     std::int32_t longestCodeLength = 0;
     std::int32_t rowCount = 0;  ///< of the grid, without the header
@@ -34,12 +34,12 @@ struct SelectGridContent {
     std::int32_t gridBorder = 15;  ///< the width of the grid's own border on each side
 };
 
-/// Lays a selection dialog out on a screen, for a window frame that adds `frame` to its inner size.
+/// Lays out a selection dialog on a screen, for a window frame that adds `frame` to its inner size.
 ///
-/// Columns are as wide as the longest code needs, and at least as wide as the description of the
-/// pseudo-entry. Ten of them fit on the screen; longer codes are cut off, but never so that fewer
-/// than eight characters show: then the grid scrolls across. The grid shows whole bands, all of
-/// them when the screen has room.
+/// Columns are as wide as the longest code, and at least as wide as the description of the
+/// pseudo-entry. Ten of them fit on the screen: longer codes are cut off. If fewer than eight
+/// characters would show, the grid scrolls across instead. The grid shows whole bands, all of them
+/// when the screen has room.
 HALVEK_INTERNAL SelectGridLayout LayOutSelectGrid(const SelectGridContent& content,
                                                   const TextMeter& meter, Size screen, Size frame);
 

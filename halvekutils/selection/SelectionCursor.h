@@ -13,7 +13,7 @@ namespace halvek {
 /// The keys that the grid of a selection dialog knows.
 enum class SelectionKey {
     Enter,     ///< OK
-    Space,     ///< ticks the current entry or takes its tick off
+    Space,     ///< ticks or unticks the current entry
     PageUp,    ///< as many bands up as are in view
     PageDown,  ///< as many bands down as are in view
     End,       ///< the last entry
@@ -24,17 +24,17 @@ enum class SelectionKey {
     Down,      ///< the band below
 };
 
-/// Where the keys stand in a selection list and how they move there: from one entry with a code to
-/// another, by keys or to what begins with typed letters.
+/// The current entry of a selection list and how it moves, from one entry with a code to another:
+/// by keys, or to an entry that begins with typed letters.
 class HALVEK_EXPORT SelectionCursor {
   public:
-    /// Stands on the pseudo-entry; on none when the list shows none. `list` outlives the cursor.
+    /// Starts on the pseudo-entry, or on none when the list shows none. `list` outlives the cursor.
     explicit SelectionCursor(const SelectionList& list);
 
     /// The current entry; 0 when the list shows none.
     std::int32_t Entry() const { return entry_; }
 
-    // Each is true when another entry became the current one.
+    // Each is true when the current entry has changed.
 
     /// Goes to an entry with a code.
     bool GoTo(std::int32_t entry);
@@ -44,7 +44,7 @@ class HALVEK_EXPORT SelectionCursor {
     bool Move(SelectionKey key, std::int32_t bandsOnPage);
     /// Goes to the next entry whose code or description begins with what was typed, letter case
     /// ignored.
-    /// @param letter  the character; one up to a blank moves nowhere
+    /// @param letter  the character; a blank or control character moves nowhere
     /// @param continues  it follows closely on the last one and is added to it
     bool TypeLetter(char16_t letter, bool continues);
 

@@ -23,7 +23,7 @@ std::u16string_view FirstField(std::u16string_view text) {
     return text.substr(0, CharacterScan(text, kFieldEnd, kEntryEnd).Next());
 }
 
-/// One piece of the list, told by the separators in it from left to right.
+/// One piece of the list, built from its separators from left to right.
 class Piece {
   public:
     void Start(std::size_t start) {

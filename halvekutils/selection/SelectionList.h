@@ -12,33 +12,34 @@
 
 namespace halvek {
 
-/// A code list as the server sends it, read in place: one text, and where each entry starts in it.
+/// A code list as the server sends it, read in place: one text and the start of each entry in it.
 ///
-/// Entries are parted by ":" and fields by TAB. The first piece is a header whose place the
-/// pseudo-entry takes that stands for all codes; in every later piece field 1 is the code, field 2
-/// the description and the last field "1" for a deleted entry. How many fields there are is told by
-/// the first piece after the header that is not empty. Empty pieces are entries, too.
+/// ":" separates entries, TAB separates fields. The first piece is a header; the pseudo-entry that
+/// stands for all codes takes its place. In every later piece field 1 is the code, field 2 the
+/// description, and the last field is "1" for a deleted entry. The first piece after the header
+/// that is not empty decides how many fields there are. Empty pieces are entries too.
 ///
 /// Entries are numbered from 1 and stand in bands of ten. The last entry is shown only when the
-/// entries before it do not fill their bands: it is usually the empty piece behind the last ":".
+/// entries before it do not fill their bands: it is usually the empty piece after the last ":".
 class HALVEK_EXPORT SelectionList {
   public:
-    static constexpr std::int32_t kColumns = 10;     ///< entries in a band
-    static constexpr std::int32_t kRowsPerBand = 3;  ///< tick, code, description
+    static constexpr std::int32_t kColumns = 10;     ///< how many entries a band has
+    static constexpr std::int32_t kRowsPerBand = 3;  ///< ticks, codes and descriptions
     static constexpr std::int32_t kAllCodes = 1;     ///< the number of the pseudo-entry
 
     /// @param allValues  the list as the server sends it
-    /// @param doNotIncludeDeleted  leaves deleted entries out; else they are kept and marked
+    /// @param doNotIncludeDeleted  true to leave out deleted entries; otherwise they are kept and
+    ///     marked
     SelectionList(std::u16string allValues, bool doNotIncludeDeleted);
 
     /// The number of entries, at least 1.
     std::int32_t Count() const { return static_cast<std::int32_t>(starts_.size()); }
-    /// The rows of the bands that are shown, three for each.
+    /// The number of rows of the bands that are shown, three for each.
     std::int32_t RowCount() const;
     /// The number of the last entry that is shown; 0 when no band is.
     std::int32_t LastShown() const { return lastShown_; }
 
-    // What an entry holds; the number is 1 to Count(). Views last as long as the list.
+    // What an entry holds; its number is 1 to Count(). Views stay valid as long as the list.
 
     /// The code of an entry.
     std::u16string_view Code(std::int32_t entry) const;
@@ -49,10 +50,10 @@ class HALVEK_EXPORT SelectionList {
     /// True for the pseudo-entry and for an entry whose code is not blank.
     bool HasCode(std::int32_t entry) const;
 
-    /// The first entry that is shown and whose code, without the blanks around it, is exactly this
-    /// one; 0 when there is none.
+    /// The first shown entry whose code, without the blanks around it, is exactly this one; 0 when
+    /// there is none.
     std::int32_t Find(std::u16string_view code) const;
-    /// Makes what Find needs, so that it cannot fail afterwards.
+    /// Prepares what Find needs, so that it cannot fail afterwards.
     void PrepareFind() const;
 
     /// The length of the longest code without the blanks around it.

@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 namespace {
 
 std::error_code LastError() {
-    // A user's quota is a full disk to everybody else.
+    // A user's full quota counts as a full disk.
     return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
@@ -46,7 +46,7 @@ class Descriptor {
 
     int Number() const { return number_; }
 
-    /// Closes the file now, where a full disk behind a network may still report itself.
+    /// Closes the file now, since a full disk on the network may only report itself here.
     bool Close() { return ::close(std::exchange(number_, -1)) == 0; }
 
   private:
@@ -72,8 +72,8 @@ std::optional<Account> EffectiveAccount() {
     return Account{FromUtf8(entry.pw_name), entry.pw_dir};
 }
 
-// Only regular files hold logs. Without O_NONBLOCK the open itself would wait for the other end of
-// a pipe that somebody put in the log's place.
+// Only regular files hold logs. Without O_NONBLOCK, open would wait for the other end of a pipe
+// that somebody has put in the log's place.
 constexpr int kAppendFlags = O_WRONLY | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
 
 int OpenForAppend(const fs::path& file) {
@@ -92,13 +92,13 @@ void RequireRegular(const Descriptor& open, const fs::path& file) {
     }
 }
 
-/// Takes the start of a line that found no room for its end out of the file again, unless another
-/// process has written behind it.
+/// Removes the start of a line whose end found no room, unless another process has written after
+/// it.
 void UndoPartialWrite(const Descriptor& open, std::size_t written) {
     const off_t end = ::lseek(open.Number(), 0, SEEK_CUR);
     struct stat status {};
     if (::fstat(open.Number(), &status) != 0 || status.st_size != end) return;
-    // Where even this fails, the line stays torn.
+    // If even this fails, the line stays torn.
     [[maybe_unused]] const int ignored =
         ::ftruncate(open.Number(), end - static_cast<off_t>(written));
 }
@@ -157,8 +157,8 @@ Machine::FileState LocalMachine::StateOf(const fs::path& file) {
 }
 
 void LocalMachine::MakeWritable(const fs::path& file) {
-    // Through an open file: a link that takes the log's place meanwhile must not pass the
-    // permission on to what it points to.
+    // Through an open file: if a link takes the log's place in the meantime, the permission must
+    // not go to its target.
     const Descriptor open(::open(file.c_str(), O_PATH | O_CLOEXEC | O_NOFOLLOW));
     if (open.Number() < 0) ThrowLastError(file);
     RequireRegular(open, file);
@@ -218,7 +218,7 @@ bool LocalMachine::TryAppend(const fs::path& file, std::string_view bytes, std::
 
 bool LocalMachine::TryExclusive(const fs::path& file, const std::function<void()>& action) {
     const Descriptor open(::open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    // A file system without locks leaves the processes uncoordinated.
+    // On a file system without locks the processes stay uncoordinated.
     if (open.Number() >= 0 && ::flock(open.Number(), LOCK_EX | LOCK_NB) != 0 &&
         errno == EWOULDBLOCK) {
         return false;

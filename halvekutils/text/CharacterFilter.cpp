@@ -30,7 +30,7 @@ constexpr CodeTable kUnwanted = [] {
     return table;
 }();
 
-// What the user reads. The tilde is forbidden here only: every filter lets it pass.
+// What the user reads. Only this message forbids the tilde: every filter lets it pass.
 constexpr std::u16string_view kForbidden = u"| : ^ ` ~";
 constexpr int kBackspace = 8;
 
@@ -40,7 +40,7 @@ struct Filter {
     std::u16string named{kForbidden};
 };
 
-/// False when the exceptions cannot be cut apart.
+/// False when the exceptions cannot be separated.
 bool ReadExceptions(TextIn strExceptions, Filter& filter) {
     if (strExceptions.empty()) return true;
     StringArray exceptions;
@@ -58,12 +58,12 @@ bool ReadExceptions(TextIn strExceptions, Filter& filter) {
     return true;
 }
 
-/// Calls `visit` with the position of each character that some filter may not keep as it is.
+/// Calls `visit` with the position of each character that some filter may change.
 template <class Visit>
 void ForEachSpecial(std::u16string_view text, const Visit& visit) {
     std::size_t at = 0;
     for (; at + kBlockLength <= text.size(); at += kBlockLength) {
-        // From the bar on: the two harmless characters behind it are rare.
+        // From the bar on: the two harmless characters after it are rare.
         std::uint32_t mask = MaskOfOthers<u' ', u'{', u':', u'^', u'`'>(text.data() + at);
         for (; mask != 0; mask &= mask - 1) {
             visit(at + static_cast<std::size_t>(std::countr_zero(mask)));
@@ -73,7 +73,7 @@ void ForEachSpecial(std::u16string_view text, const Visit& visit) {
 }
 
 /// The text with some characters replaced. `keeps(character, code)` is true for those that stay;
-/// `replace(code, out)` appends what stands for any other.
+/// `replace(code, out)` appends the replacement of any other.
 template <class Keeps, class Replace>
 std::u16string Replaced(TextIn text, const Keeps& keeps, const Replace& replace) {
     constexpr std::size_t kStep = 4096;  // small enough to be copied while it is in the cache
@@ -108,7 +108,7 @@ bool IsViewOf(std::u16string_view view, const std::u16string& owner) {
     return isUpTo(owner.data(), view.data()) && isUpTo(view.data(), owner.data() + owner.size());
 }
 
-/// Both texts for the debug console, which drops what comes outside debug mode.
+/// Both texts for the debug console, which drops lines outside debug mode.
 void TellDebugConsole(Services& session, TextIn strIN, TextIn result) {
     if (!session.DebugMode()) return;
     session.ShowInDebug(u"Invalid chars fnd and rmvd.\r\nstrIN:     " + strIN.Str() +

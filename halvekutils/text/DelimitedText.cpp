@@ -28,7 +28,7 @@ std::size_t CountAll(std::u16string_view text, std::u16string_view wanted) {
     return count;
 }
 
-/// A text with its delimiter appended, so that the last field needs no closing one.
+/// A text with its delimiter appended, so that the last field ends in one too.
 std::u16string Closed(std::u16string_view text, std::u16string_view delim) {
     std::u16string closed;
     closed.reserve(text.size() + delim.size());
@@ -95,13 +95,13 @@ std::u16string_view UpToLastDelimiter(std::u16string_view chunk, std::u16string_
     return last == kNone ? std::u16string_view() : chunk.substr(0, last + del.size());
 }
 
-/// Cuts the text into pieces; false when a chunk without a delimiter ends the work early.
+/// Cuts the text into pieces; stops and returns false at a chunk without a delimiter.
 bool CutIntoChunks(std::u16string_view text, std::size_t length, std::u16string_view del,
                    std::vector<std::u16string>& pieces) {
     const std::u16string_view first = UpToLastDelimiter(text.substr(0, length), del);
     pieces.emplace_back(first);
     if (first.empty()) return false;
-    // A first chunk that ends in its delimiter as it stands is stored twice: callers count on it.
+    // A first chunk that already ends in its delimiter is stored twice: callers rely on it.
     std::size_t start = EndsWithWhole(text.substr(0, length), del) ? 0 : first.size();
     while (start + 1 + length <= text.size()) {
         const std::u16string_view piece = UpToLastDelimiter(text.substr(start, length), del);
@@ -151,7 +151,7 @@ void SplitLeftRight(TextIn strSplit, TextIn delimiter, std::u16string& strLeft,
                     std::u16string& strRight) {
     const std::size_t at = strSplit.find(delimiter);
     if (at == kNone) return;
-    // Both parts before either is written: the text may be a view of an output.
+    // Both parts are copied before either is written: the text may be a view of an output.
     std::u16string left(strSplit.substr(0, at));
     std::u16string right(strSplit.substr(at + delimiter.size()));
     strLeft = std::move(left);

@@ -9,7 +9,7 @@
 
 namespace halvek {
 
-// The rules behind the members of Utils of the same names, which document them for a host.
+// The rules of the members of Utils with the same names, which document them for hosts.
 
 std::u16string SplitStr(TextIn strSplit, TextIn delim, std::int16_t intNum);
 bool StrToArr(TextIn str, TextIn del, StringArray& arr);

@@ -18,7 +18,7 @@ using std::chrono::seconds;
 constexpr DateTime kDayZero = detail::MidnightOf(1840, 12, 31);
 constexpr std::int64_t kSecondsInDay = 86'400;
 
-/// A day or second count. What lies beyond every date is cut off where it still does.
+/// A count of days or seconds, limited to a number that is still beyond every date.
 std::int64_t CountIn(TextIn text) {
     constexpr std::int64_t kFar = 1'000'000'000'000;
     std::int64_t count = 0;
@@ -39,13 +39,13 @@ DateTime Today(Machine& machine) {
     return std::chrono::floor<std::chrono::days>(machine.Now());
 }
 
-/// With a "0" in front of a single digit.
+/// Puts a "0" before a single digit.
 void AppendPadded(std::u16string& out, TextIn part) {
     const TextIn digits = Trimmed(part);
     out.append(digits.size() < 2 ? 2 - digits.size() : 0, u'0').append(digits);
 }
 
-/// The year in four digits where it has none or two; empty for one that no date has.
+/// The year in four digits, from one with none or two; empty for a year that no date has.
 std::u16string FullYear(TextIn year, Machine& machine) {
     if (year.size() == 1 || year.size() > 3) return year.Str();
     if (year.size() == 3) return {};

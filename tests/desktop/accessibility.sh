@@ -7,14 +7,14 @@ set -u
 here=$(dirname "$0")
 source "$here/desktop.sh"
 
-# Waits until the focus is told as a line of role, name and states. Usage: expect_focus LINE WAY
+# Waits until the focus is reported as a line of role, name and states. Usage: expect_focus LINE WAY
 expect_focus() {
     local told=$1
-    wait_until "\"$told\" is told to have the focus by $2" \
+    wait_until "\"$told\" is reported to have the focus after $2" \
         eval '[ "$(tail -n 1 "$work/heard")" = "$told" ]'
 }
 
-# Whether the screen holds what is told as a line. Usage: shows LINE
+# Whether the screen holds what a line describes. Usage: shows LINE
 shows() {
     /usr/bin/python3 "$here/hear.py" tree >"$work/shown" && grep -qxF -- "$1" "$work/shown"
 }
@@ -36,7 +36,7 @@ keys alt+w
 wait_for_window Visits
 expect_focus "push button|Yes|focused" "opening a message box"
 for line in "dialog|Visits|active" "text|Message|" "push button|No|"; do
-    shows "$line" || fail "a message box does not tell \"$line\""
+    shows "$line" || fail "a message box does not report \"$line\""
 done
 keys Tab
 expect_focus "push button|No|focused" Tab
@@ -50,6 +50,6 @@ expect_focus "text|Selected codes|focused" "opening a selection list"
 keys Tab Right
 expect_focus "table cell|MB, Medicare Part B, selected|focused,checked" "an arrow key"
 keys space
-wait_until "a code is told as no longer selected" shows "table cell|MB, Medicare Part B, not selected|focused"
+wait_until "a code is reported as no longer selected" shows "table cell|MB, Medicare Part B, not selected|focused"
 keys Escape
 finish

@@ -33,7 +33,7 @@ alt+m,5,0,alt+t 50 $50.00
 alt+t,5,0,Tab 50 $50.00
 ROWS
 keys alt+t 2 0 Tab
-wait_until "an amount below the lower one is told" eval '[ -n "$(active_window)" ] && ! is_active "$main"'
+wait_until "a message about an amount below the lower one" eval '[ -n "$(active_window)" ] && ! is_active "$main"'
 picture currency-range
 keys Return
 wait_until "the client is active again" is_active "$main"

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Sourced by the desktop tests: a private display with a window manager, a client on it, and real
-# keys and clicks. What was started ends with the test.
+# keys and clicks. All started programs end with the test.
 set -uo pipefail
 
 work=$(mktemp -d)
@@ -30,8 +30,8 @@ give_up() {
     exit 1
 }
 
-# Waits until a command succeeds. Patience is counted in tries, not in seconds: a busy machine makes
-# few of them. Usage: wait_until WHAT COMMAND...
+# Waits until a command succeeds. Counts tries instead of seconds, because a busy machine makes
+# fewer of them. Usage: wait_until WHAT COMMAND...
 wait_until() {
     local what=$1 tries=1000
     shift
@@ -47,8 +47,8 @@ start() {
     started+=($!)
 }
 
-# A display at 96 dots per inch with a window manager, on which Qt's pixels are so many as the scale
-# says. No key repeats when a slow machine lets it go late.
+# A display at 96 dots per inch with a window manager, at Qt's given scale. Keys do not repeat when
+# a slow machine releases them late.
 # Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
 start_desktop() {
     local manager=${1:-openbox} screen=${2:-1366x768} scale=${3:-1}
@@ -108,15 +108,15 @@ length_of() {
     xwininfo -id "$1" | sed -n "s/^ *$2: //p"
 }
 
-# Whether the window manager is told that a window may be closed.
+# Whether the window's hints say that it may be closed.
 may_close() {
     local flags functions
     IFS=', ' read -r flags functions _ < <(xprop -id "$1" _MOTIF_WM_HINTS | sed 's/.*= //')
     ((!(flags & 1) || functions & 0x20 || functions & 1))
 }
 
-# Asks the window manager to close a window and waits until it has dealt with that: it answers its
-# requests in order.
+# Asks the window manager to close a window and waits until it has done so: it answers requests in
+# order.
 request_close() {
     wmctrl -i -c "$1"
     wmctrl -i -r "$2" -b toggle,above
@@ -143,8 +143,8 @@ has_focus() {
     focus_moved && [[ "$(tail -n 1 "$focus")" == *"$1" ]]
 }
 
-# Shows a page by its menu. An open menu holds the keyboard, and the display may send the next keys
-# to it while it closes, where they are lost: so this waits until the page has come.
+# Shows a page through its menu. An open menu holds the keyboard, and keys sent while it closes may
+# go to it and be lost, so this waits until the page is shown.
 # Usage: choose_page KEYS...
 choose_page() {
     focused=$(wc -l <"$focus")

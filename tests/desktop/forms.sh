@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs the form tests on a real display, where a window manager frames, places and activates; not the
-# monkey, whom thousands of windows would keep waiting there.
+# Runs the form tests on a real display, where a window manager frames, places and activates
+# windows. Leaves out the monkey, whose thousands of windows would take too long there.
 # Usage: forms.sh TESTS
 set -u
 source "$(dirname "$0")/desktop.sh"

@@ -19,7 +19,7 @@ has_opened() {
 screen_sum() {
     cksum <"$work/Xvfb_screen0"
 }
-# Whether the screen is as it was when last asked: what opened before has painted itself.
+# Whether the screen is the same as at the last call: what opened before has been painted.
 is_resting() {
     local before=$seen
     seen=$(screen_sum)
@@ -55,7 +55,7 @@ step() {
     '>' | '@' | '~') picture "$look-$((++pictures))" ;;
     esac
 }
-# Takes steps that stand in lines, several in one parted by " ; ".
+# Takes steps from lines; " ; " separates several in one line.
 steps() {
     local keys sign text
     while read -r keys sign text; do
@@ -183,7 +183,7 @@ alt+t,Tab @ Do not include deleted entries ; space,alt+c,S > Insurance Types    
 P,comma,T,V ~
 alt+o = = "MB,MG,WC,MA,AM,SP,TV"
 alt+c,Tab,space > Insurance Types ; alt+F4 = ShowSelectionGrid
-# A forbidden character is told
+# A message names a forbidden character
 alt+s,f @ Services ; alt+p = RemoveUnprintableChars("line one\r\nline two\tand a tab") = "line one<13>
 alt+a = IsAlpha("Smith") = true
 alt+c = IsUnwantedChar(124) = true

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Kills the display under the demo client while a dialog is open: the client ends by Qt's own exit,
+# Kills the display under the demo client while a dialog is open: the client exits through Qt,
 # neither hangs nor crashes, and its error log holds whole lines. Usage: lost_display.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
@@ -19,10 +19,10 @@ while read -r keys title; do
     wait_until "the client ends without its display" has_ended "${started[-1]}"
     wait "${started[-1]}"
     status=$?
-    [ "$status" -eq 1 ] || fail "without its display behind $title the client ended with $status"
+    [ "$status" -eq 1 ] || fail "without its display under $title the client ended with $status"
     log=$(find "$work/.local" -name '*.log')
     if ! grep -q $'\tThe label printer is out of paper\r$' "$log" || grep -qv $'\r$' "$log"; then
-        fail "the error log of the client behind $title is torn"
+        fail "the error log of the client under $title is torn"
     fi
     rm -r "$record" "$work/.local"
 done <<'ROWS'

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Chooses colours in the demo client by real keys and clicks, and types on while lines come into
-# the debug console. Usage: palette.sh DEMO
+# Chooses colours in the demo client by real keys and clicks, and goes on typing while lines arrive
+# in the debug console. Usage: palette.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
 

@@ -95,7 +95,7 @@ open_list Return
 keys Tab space Return
 expect_choice "$all" "all codes by Space"
 
-# The character that opens the list goes on in its box.
+# The character that opens the list arrives in its box.
 open_list W
 keys C Return
 expect_choice MB,MG,WC "a character typed in the client"
@@ -113,7 +113,7 @@ expect_choice MB,MG "Escape after an invalid entry"
 open_list Return
 list=$window
 keys comma Q Q Return
-wait_until "the unknown code is told" has_active_title "Front Desk"
+wait_until "a message names the unknown code" has_active_title "Front Desk"
 ! is_active "$main" || fail "the message about an unknown code is missing"
 keys Return
 wait_until "the list is active again" is_active "$list"

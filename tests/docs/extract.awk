@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The samples of the pages as tests of a Host; those of testing.md are tests as they stand.
+# Turns the samples of the pages into tests of a Host; those of testing.md are tests already.
 FNR == 1 {
     page = FILENAME
     gsub(/.*\/|\.md$|-/, "", page)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Writes the reference, which any warning of doxygen's fails, and looks for what doxygen does not.
+# Writes the reference, fails on any warning of doxygen, and checks what doxygen does not.
 # Usage: reference.sh SOURCE-FOLDER BUILD-FOLDER
 set -euo pipefail
 rooms=$1/halvekutils
@@ -10,7 +10,7 @@ complain() { echo "$*" >&2; exit 1; }
 
 cmake --build "$2" --target docs
 
-# Members of Utils, by the lines that declare them
+# Members of Utils, from the lines that declare them
 members=$(sed -nE '/^  private:/q; s/^    [A-Za-z:][^(=]* ([A-Za-z_]+)\(.*/\1/p' "$rooms/core/Utils.h")
 [ "$(wc -w <<<"$members")" -gt 100 ]
 for member in $members; do
@@ -22,7 +22,7 @@ awk '/<memberdef/ { public = /prot="public"/ } /<name>/ { name = $0 } /<para>/ {
      /<enumvalue/ { told = 0 } /<\/enumvalue>/ && public && !told { print name; found = 1 }
      END { exit found }' "$xml"/*.xml >&2 || complain "values without a description"
 
-# What log lines begin with stands on the page of the log
+# The page of the log explains every beginning of a log line
 while IFS= read -r line; do
     grep -qF -- "$line" "$pages/error-log.md" || complain "not explained: $line"
 done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the Debian packages of a build folder, looks into them, installs them below a folder, and
-# runs there what they serve: a host's project that finds them by CMake and by pkg-config, the
-# program that the README shows, and the demo's tour. Needs no root.
+# Makes the Debian packages of a build folder, checks their contents, installs them below a folder
+# and uses them there: a host's project that finds them by CMake and by pkg-config, the program in
+# the README, and the demo's tour. Needs no root.
 # Usage: packages.sh SOURCE-FOLDER BUILD-FOLDER COMPILER
 set -euo pipefail
 source=$1
@@ -31,7 +31,7 @@ holds() {
         LC_ALL=C sort | diff - "$1.files" || { echo "$1 holds other files (>)"; exit 1; }
 }
 
-# The packages that a package depends on must be those named; our own in the very same version.
+# A package must depend on the named packages and no others; on our own in exactly the same version.
 depends() {
     local package=$1 found
     shift
@@ -95,7 +95,7 @@ read -ra windows < <(pkg-config --cflags --libs halvekutils-qt)
 ./core
 ./host
 
-# What only the library does, no host's compiler takes.
+# A host's compiler must refuse what only the library may do.
 doors=$source/tests/consumer/doors.cpp
 look() { "$compiler" -std=c++20 -fsyntax-only "$@" "$doors" "${core[@]}"; }
 look
@@ -105,7 +105,7 @@ for line in $(awk '/^#ifdef/ { inside = 1; next } /^#endif/ { inside = 0 } insid
     grep -q "doors.cpp:$line:" doors.log || { echo "open to hosts: $(sed -n "${line}p" "$doors")"; exit 1; }
 done
 
-# It reads its data below this root: here the session has another version.
+# The demo reads its data below this root, where the session has another version.
 sed -i 's/^ExeFileStamp=.*/ExeFileStamp=packaged/' "$root/usr/share/halvekutils-demo/session.txt"
 bash "$source/tests/tour.sh" "$root/usr/bin/halvekutils-demo" "$work/tour"
 grep -q 'InitUtils(.*"packaged")' tour/results.txt

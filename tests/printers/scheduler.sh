@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# A print scheduler of a test's own, for root and for an ordinary user: it listens on FOLDER/socket
-# only, keeps all of its files in FOLDER and asks nobody for a password.
+# A test's own print scheduler, for root and for ordinary users: it listens only on FOLDER/socket,
+# keeps all its files in FOLDER and never asks for a password.
 # Usage: scheduler.sh start FOLDER          becomes the scheduler; it ends with the caller
 #        scheduler.sh queues FOLDER COUNT   waits for it and adds the queues Queue1, Queue2, ...
 set -euo pipefail

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Plays the stories of stories.txt, which says how they read, to a host by real keys and clicks under
-# a window manager. No act is done before the one before has had its effect, and nothing waits for
-# time to pass. Usage: play.sh HOST [PART OF A NAME]
+# Plays the stories of stories.txt, which explains their notation, to a host by real keys and clicks
+# under a window manager. Each act waits for the effect of the previous one; nothing waits for time
+# to pass. Usage: play.sh HOST [PART OF A NAME]
 set -u
 here=$(dirname "$0")
 source "$here/../desktop/desktop.sh"
