@@ -186,8 +186,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Learns how far the server's clock is ahead of the workstation's; each object keeps its own.
     ///
-    /// @param TimeFromServer  date and time as ParseDateTime reads them, or a time of today; any
-    ///     other text changes nothing
+    /// @param TimeFromServer  date and time as ParseDateTime reads them, or a time of today; a comma
+    ///     may stand before the time and a fraction, which is dropped, behind the seconds. Any other
+    ///     text changes nothing and is shown in the debug console.
     ///
     /// Throws Overflow, and keeps what it knew, when the clocks are more than 68 years apart.
     void InitServerTime(TextIn TimeFromServer);
@@ -363,8 +364,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// Days that do not exist are not noticed. Without two slashes a text loses the slashes it has.
     /// @param strDate  the date; month, day and year in this order
-    /// @param bConvert  true from digits: empty for what is no number, a month above 12 and a year
-    ///     of three digits. No year is the current one, one of two digits is 1930 to 2029.
+    /// @param bConvert  true from digits: empty for what is not all digits, a month above 12 and a
+    ///     year of three digits. No year is the current one, one of two digits is 1930 to 2029.
     ///
     ///     utils->ConvertNumberToDate(u"3/5/2024", false);  // 03052024
     ///     utils->ConvertNumberToDate(u"030524", true);     // 03/05/2024

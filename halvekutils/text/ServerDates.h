@@ -26,7 +26,7 @@ std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
 /// a first slash and a further one, at its fourth character or later, loses the slashes it has.
 std::u16string DigitsOfDate(TextIn strDate);
 
-/// "03052024" as "03/05/2024"; "" for what is no number, a month above 12 and a year of three
+/// "03052024" as "03/05/2024"; "" for what is not all digits, a month above 12 and a year of three
 /// digits. No year is the current one; one of two digits is 1930 to 2029. Nothing else is checked.
 std::u16string DateOfDigits(TextIn strDate, Machine& machine);
 
@@ -35,6 +35,9 @@ std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert, Machine& machi
 
 /// How many seconds the server's clock is ahead of the machine's; nothing for a text that is no
 /// date or time. Throws Overflow beyond 32 bits.
+///
+/// Reads what ParseDateTime does, and beyond it a comma before the time and a fraction behind the
+/// seconds, which is dropped: "3/7/2024, 14:05:09.75".
 std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine);
 
 }  // namespace halvek
