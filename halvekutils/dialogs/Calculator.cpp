@@ -161,7 +161,7 @@ void Calculator::ChangeSign() {
 void Calculator::TakeBack() {
     if (!IsOpen() || numberDone_ || display_.empty() || HasExponent(display_)) return;
     display_.pop_back();
-    if (display_ == u"-") display_.clear();
+    if (display_.starts_with(u'-') && !IsNumeric(display_)) display_.clear();
     NotifyChanged();
 }
 
