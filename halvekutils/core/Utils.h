@@ -187,8 +187,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Stores how far the server's clock is ahead of the workstation's, for this object only.
     ///
-    /// @param TimeFromServer  date and time as ParseDateTime reads them, or a time of today; any
-    ///     other text changes nothing
+    /// @param TimeFromServer  date and time as ParseDateTime reads them, or a time of today; a
+    /// comma
+    ///     may stand before the time and a fraction, which is dropped, after the seconds. Any other
+    ///     text changes nothing and is shown in the debug console.
     ///
     /// Throws Overflow, and changes nothing, when the clocks are more than 68 years apart.
     void InitServerTime(TextIn TimeFromServer);
@@ -370,7 +372,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Does not check whether the day exists. A text with fewer than two slashes just loses them.
     /// @param strDate  the date; month, day and year in this order
     /// @param bConvert  false to convert to digits; true to convert from digits, which gives an
-    ///     empty text for one that is not a number, for a month above 12 and for a year of three
+    ///     empty text for one that is not all digits, for a month above 12 and for a year of three
     ///     digits. A missing year is the current one; a year of two digits is 1930 to 2029.
     ///
     ///     utils->ConvertNumberToDate(u"3/5/2024", false);  // 03052024

@@ -144,7 +144,8 @@ void Utils::AppDataFolderCommon(TextIn value) {
 void Utils::InitServerTime(TextIn TimeFromServer) {
     const std::optional<std::int32_t> offset =
         ServerClockOffset(TimeFromServer, *TheSession().machine);
-    if (offset) d_->serverClockOffset = *offset;
+    if (!offset) return ShowInDebug(u"InitServerTime: not a date: " + TimeFromServer.Str());
+    d_->serverClockOffset = *offset;
 }
 
 DateTime Utils::ServerTime() {

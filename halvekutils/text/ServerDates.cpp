@@ -17,6 +17,7 @@ using std::chrono::seconds;
 
 constexpr DateTime kDayZero = detail::MidnightOf(1840, 12, 31);
 constexpr std::int64_t kSecondsInDay = 86'400;
+constexpr std::u16string_view kDigits = u"0123456789";
 
 /// A count of days or seconds, limited to a number that is still beyond every date.
 std::int64_t CountIn(TextIn text) {
@@ -54,6 +55,25 @@ std::u16string FullYear(TextIn year, Machine& machine) {
     return date ? DateOnlyText(*date).substr(6) : std::u16string();
 }
 
+/// "hh:mm:ss.fff" without the fraction.
+void DropFraction(std::u16string& text) {
+    const std::size_t second = text.find(u':', text.find(u':') + 1);
+    const std::size_t point = text.find(u'.');
+    if (second == text.npos || point == text.npos || point - second != 3) return;
+    const std::size_t end = std::min(text.find_first_not_of(kDigits, point + 1), text.size());
+    if (end - point > 1) text.erase(point, end - point);
+}
+
+/// "mm/dd/yyyy, hh:mm" without the comma.
+void DropCommaBeforeTime(std::u16string& text) {
+    const std::size_t colon = text.find(u':');
+    if (colon == text.npos || colon == 0) return;
+    const std::size_t comma = text.find_last_not_of(u"0123456789 \t", colon - 1);
+    if (comma == text.npos || comma == 0 || text[comma] != u',') return;
+    const std::size_t date = text.find_last_not_of(u" \t", comma - 1);
+    if (date != text.npos && IsDigit(text[date])) text[comma] = u' ';
+}
+
 }  // namespace
 
 std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine) {
@@ -88,8 +108,8 @@ std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
     constexpr std::size_t kDayAt = 2;
     constexpr std::size_t kYearAt = 4;
     constexpr double kLastMonth = 12;
-    if (!IsNumeric(strDate)) return {};
     const TextIn digits = Trimmed(strDate);
+    if (digits.empty() || digits.find_first_not_of(kDigits) != TextIn::npos) return {};
     const TextIn month = digits.substr(0, kDayAt);
     const TextIn day = digits.substr(std::min(kDayAt, digits.size()), kYearAt - kDayAt);
     const std::u16string year = FullYear(digits.substr(std::min(kYearAt, digits.size())), machine);
@@ -107,7 +127,10 @@ std::u16string DateOfDigits(TextIn strDate, Machine& machine) {
 std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine) {
     using Limits = std::numeric_limits<std::int32_t>;
     const DateTime now = machine.Now();
-    const std::optional<DateTime> server = ParseDateTime(timeFromServer, now);
+    std::u16string text(timeFromServer);
+    DropFraction(text);
+    DropCommaBeforeTime(text);
+    const std::optional<DateTime> server = ParseDateTime(text, now);
     if (!server) return std::nullopt;
     const std::int64_t offset = (*server - now).count();
     if (offset < Limits::min() || offset > Limits::max()) throw RuntimeError(Fault::Overflow);

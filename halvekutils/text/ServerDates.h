@@ -26,13 +26,16 @@ std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
 /// lacks a first slash, or a second one at its fourth character or later, just loses its slashes.
 std::u16string DigitsOfDate(TextIn strDate);
 
-/// "03052024" as "03/05/2024"; empty for a text that is not a number, a month above 12 and a year
-/// of three digits. A missing year is the current one; a year of two digits is 1930 to 2029.
+/// "03052024" as "03/05/2024"; empty for a text that is not all digits, a month above 12 and a
+/// year of three digits. A missing year is the current one; a year of two digits is 1930 to 2029.
 /// Nothing else is checked.
 std::u16string DateOfDigits(TextIn strDate, Machine& machine);
 
 /// How many seconds the server's clock is ahead of the machine's; nothing for a text that is not a
 /// date or time. Throws Overflow beyond 32 bits.
+///
+/// Reads what ParseDateTime does, and beyond it a comma before the time and a fraction after the
+/// seconds, which is dropped: "3/7/2024, 14:05:09.75".
 std::optional<std::int32_t> ServerClockOffset(TextIn timeFromServer, Machine& machine);
 
 }  // namespace halvek

@@ -39,13 +39,23 @@ TEST_F(ServerDates, DaysAndSecondsAreDatesOverTheWholeRange) {
 
 TEST_F(ServerDates, EveryObjectKeepsItsServersClock) {
     utils_->InitServerTime(u"3/5/2024 09:08:33 AM");
-    for (const TextIn noDate : {u"", u"2/30/2024", u"nan"}) utils_->InitServerTime(noDate);
+    for (const TextIn noDate :
+         {u"", u"2/30/2024", u"nan", u"2024-03-05T09:08:34Z", u"3/5/2024 9:08:34+01:00", u", 9:08",
+          u"3/5/2024,, 9:08", u"3/5/2024 9:08.5", u"3/5/2024 9:08:34.", u"9:08:34.5.5"}) {
+        utils_->InitServerTime(noDate);
+    }
     EXPECT_EQ(FaultOf([&] { utils_->InitServerTime(u"3/24/2092"); }), 6);
     machine_.now = MakeDateTime(2024, 12, 31, 23, 58, 30);
     EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2025, 1, 1));
     EXPECT_EQ(Utils::Create()->ServerTime(), machine_.now);
     utils_->InitServerTime(u"11:58 PM");
     EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2024, 12, 31, 23, 58));
+    for (const TextIn clock : {u"3/7/2024, 2:05:09.75 PM", u"2024-03-07T14:05:09.999999",
+                               u"Mar 7, 2024 , 14:05:09", u"7 March, 2024 14:05:09.0"}) {
+        utils_->InitServerTime(u"11:58 PM");
+        utils_->InitServerTime(clock);
+        EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2024, 3, 7, 14, 5, 9));
+    }
 }
 
 TEST_F(ServerDates, DatesWithSlashesBecomeDigitsAndComeBack) {
@@ -55,7 +65,8 @@ TEST_F(ServerDates, DatesWithSlashesBecomeDigitsAndComeBack) {
                              u"123/4=1234", u"1//2024=12024", u"///=", u"="});
     ExpectResults(toDate, {u"03052024=03/05/2024", u"030529=03/05/2029", u"030530=03/05/1930",
                            u"0305=03/05/2024", u"022923=02/29/2023", u"13012024=", u"0305202=",
-                           u"03052-=", u"3/5/2024=", u"nan=", u"="});
+                           u"03052-=", u"3/5/2024=", u"nan=", u" 03052024 =03/05/2024",
+                           u"(03052024)=", u"1e100=", u"$3052024=", u"-3052024=", u"="});
 }
 
 }  // namespace

@@ -25,10 +25,7 @@ bool IsPassing(const QKeyEvent& event) {
 char16_t AmountCharacterOf(const QKeyEvent& event) {
     constexpr Qt::KeyboardModifiers kNoTyping = Qt::ControlModifier | Qt::MetaModifier;
     if (event.key() == Qt::Key_Backspace && !(event.modifiers() & kNoTyping)) return kBackspace;
-    const char16_t letter = TypedBy(event, kNoTyping);
-    // Where people write decimal commas the keypad has one instead of the point.
-    const bool isKeypadComma = letter == u',' && event.modifiers() & Qt::KeypadModifier;
-    return isKeypadComma ? u'.' : letter;
+    return TypedIntoAmountBy(event, kNoTyping);
 }
 
 }  // namespace halvek

@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: MIT
+#include "tests/CleanState.h"
+
+#include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/Utf8.h>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace halvek {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Names = std::set<std::string>;
+
+const std::string kFull(1'048'576, 'x');
+constexpr std::string_view kStampAndUser = "03/05/24 09:07:03 AM\tnina\t";
+constexpr char kArchive[] = "Error_2024_3_5_9_7_3.log";
+
+std::string Line(std::string_view message) {
+    return std::string(kStampAndUser).append(message).append("\r\n");
+}
+
+/// A file system of two mebibytes in a folder, which only the process that mounts it sees and which
+/// ends with it.
+class SmallDisk {
+  public:
+    explicit SmallDisk(fs::path folder) : folder_(std::move(folder)) {}
+
+    /// False without the right to mount, as in most containers.
+    bool Mount() const {
+        const std::string user = std::to_string(::geteuid());
+        const std::string group = std::to_string(::getegid());
+        if (::unshare(CLONE_NEWNS) != 0) {
+            if (::unshare(CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
+            WriteFile("/proc/self/uid_map", "0 " + user + " 1");
+            WriteFile("/proc/self/setgroups", "deny");
+            WriteFile("/proc/self/gid_map", "0 " + group + " 1");
+        }
+        return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+               ::mount("tmpfs", folder_.c_str(), "tmpfs", 0, "size=2m") == 0;
+    }
+
+    void Fill() const {
+        const int file = ::open(Filler().c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        const std::string page(4096, 'f');
+        while (::write(file, page.data(), page.size()) > 0) {
+        }
+        ::close(file);
+    }
+    void MakeRoom() const { fs::remove(Filler()); }
+
+    void MakeReadOnly(bool readOnly) const {
+        const unsigned long flags = MS_REMOUNT | (readOnly ? MS_RDONLY : 0);
+        EXPECT_EQ(::mount(nullptr, folder_.c_str(), nullptr, flags, nullptr), 0);
+    }
+
+  private:
+    fs::path Filler() const { return folder_ / "filler"; }
+
+    fs::path folder_;
+};
+
+/// Runs a test's body with a small disk on the folder, in a process of its own. What the body
+/// expects counts in the test, which is skipped where nothing may be mounted.
+template <class Body>
+void OnSmallDisk(const fs::path& folder, const Body& body) {
+    constexpr int kNoRight = 77;
+    std::fflush(nullptr);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        try {
+            const SmallDisk disk(folder);
+            if (!disk.Mount()) ::_exit(kNoRight);
+            body(disk);
+        } catch (const std::exception& caught) {
+            ADD_FAILURE() << caught.what();
+        }
+        std::fflush(nullptr);
+        ::_exit(::testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == kNoRight) {
+        GTEST_SKIP() << "a file system can be mounted neither by this user nor in a user namespace";
+    }
+    EXPECT_EQ(status, 0) << "the process on the small disk failed";
+}
+
+struct LogFaults : CleanState {
+    void Start(const fs::path& file, bool debugMode = false) {
+        utils_->InitUtils(FromUtf8(file.native()), u"Front Desk", u"test", debugMode, u"1");
+    }
+
+    /// How often the library beeps while it logs a line.
+    int BeepsAt(std::string_view line) {
+        const int before = desktop_.Beeps();
+        utils_->LogError(FromCodePage(line));
+        return desktop_.Beeps() - before;
+    }
+
+    const fs::path log_ = folder_ / "a.log";
+    std::shared_ptr<Utils> utils_ = Utils::Create();
+};
+
+TEST_F(LogFaults, AFullDiskLosesWholeLinesAndOnlyThoseEvenInARotation) {
+    OnSmallDisk(folder_.Path(), [&](const SmallDisk& disk) {
+        WriteFile(log_, "old\r\n");
+        Start(log_, true);
+        disk.Fill();
+        const std::string acrossPages(6000, 'l');
+        EXPECT_EQ(BeepsAt("fits behind it"), 0);
+        EXPECT_EQ(BeepsAt(acrossPages), 1);
+        EXPECT_EQ(ToUtf8(desktop_.StockMessages().back().text),
+                  "ERROR in LocalRef.LogError\r\nDisk full: " + log_.native());
+        EXPECT_EQ(BeepsAt("fits too"), 0);
+        EXPECT_EQ(ReadFile(log_), "old\r\n" + Line("fits behind it") + Line("fits too"));
+        disk.MakeRoom();
+        EXPECT_EQ(BeepsAt(acrossPages), 0);
+        EXPECT_TRUE(ReadFile(log_).ends_with(Line("fits too") + Line(acrossPages)));
+
+        WriteFile(log_, kFull);
+        disk.Fill();
+        EXPECT_EQ(BeepsAt("lost"), 1);
+        disk.MakeRoom();
+        EXPECT_EQ(BeepsAt("next"), 0);
+        EXPECT_EQ(ReadFile(log_), Line("next"));
+        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", kArchive}));
+        EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
+    });
+}
+
+TEST_F(LogFaults, AReadOnlyDiskStaysAsItIs) {
+    OnSmallDisk(folder_.Path(), [&](const SmallDisk& disk) {
+        WriteFile(log_, kFull);
+        WriteFile(folder_ / "error_1.log", "an archive");
+        Start(log_);
+        disk.MakeReadOnly(true);
+        EXPECT_EQ(BeepsAt("lost"), 2) << "for the clean-up and for the line";
+        EXPECT_TRUE(ReadFile(log_) == kFull);
+        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", "error_1.log"}));
+        disk.MakeReadOnly(false);
+        EXPECT_EQ(BeepsAt("next"), 0);
+        EXPECT_EQ(ReadFile(log_), Line("next"));
+        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", kArchive}));
+    });
+}
+
+TEST_F(LogFaults, WhatTakesTheLogsPlaceIsNeitherFollowedNorWaitedFor) {
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"folder", [&] { fs::create_directory(log_); }},
+        {"link", [&] { fs::create_symlink("other.log", log_); }},
+        {"link to nothing", [&] { fs::create_symlink("nowhere", log_); }},
+        {"pipe", [&] { ::mkfifo(log_.c_str(), 0600); }},
+        {"link to a device", [&] { fs::create_symlink("/dev/full", log_); }},
+    };
+    WriteFile(folder_ / "other.log", "kept");
+    for (const auto& [what, put] : rows) {
+        Start(log_);
+        EXPECT_EQ(BeepsAt("1"), 0);
+        fs::remove(log_);
+        put();
+        EXPECT_EQ(BeepsAt("lost"), 1) << what;
+        EXPECT_EQ(ReadFile(folder_ / "other.log"), "kept");
+        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", "other.log"})) << what;
+        fs::remove(log_);
+        EXPECT_EQ(BeepsAt("2"), 0);
+        EXPECT_EQ(ReadFile(log_), Line("2")) << what;
+    }
+    Start("/dev/full");
+    EXPECT_EQ(BeepsAt("lost"), 1);
+}
+
+TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
+    const std::pair<fs::path, fs::path> rows[] = {
+        {folder_ / "logs/a.log", folder_ / "logs/a.log"},
+        {"own.log", machine_.ownFolder / "own.log"},
+    };
+    fs::create_directory(folder_ / "logs");
+    for (const auto& [name, file] : rows) {
+        const bool own = name != file;
+        TheSession().logFolder.clear();
+        Start(name);
+        EXPECT_EQ(BeepsAt("1"), 0);
+        fs::remove_all(file.parent_path());
+        EXPECT_EQ(BeepsAt("2"), own ? 0 : 1) << name;
+        EXPECT_EQ(fs::exists(file.parent_path()), own) << name;
+        fs::create_directories(file.parent_path());
+        EXPECT_EQ(BeepsAt("3"), 0);
+        EXPECT_EQ(ReadFile(file), (own ? Line("2") : "") + Line("3")) << name;
+    }
+}
+
+TEST_F(LogFaults, ProcessesThatRotateOneLogAtOnceLoseNothing) {
+    constexpr int kProcesses = 4, kLines = 400, kRounds = 20;
+    const auto message = [](int process, int i) {
+        return std::to_string(process) + std::string(static_cast<std::size_t>(i), '.');
+    };
+    const std::string before = kFull.substr(10'000) + "\r\n";
+    for (int round = 0; round < kRounds; ++round) {
+        WriteFile(log_, before);
+        Start(log_);
+        std::array<int, 2> gate{};
+        ASSERT_EQ(::pipe(gate.data()), 0);
+        for (int process = 0; process < kProcesses; ++process) {
+            if (::fork() != 0) continue;
+            ::close(gate[1]);
+            char opened = 0;
+            int beeps = static_cast<int>(::read(gate[0], &opened, 1));  // waits for the start
+            for (int i = 0; i < kLines; ++i) beeps += BeepsAt(message(process, i));
+            ::_exit(beeps);
+        }
+        ::close(gate[0]);
+        ::close(gate[1]);
+        for (int status = 0; ::wait(&status) > 0;) EXPECT_EQ(status, 0);
+
+        ASSERT_EQ(NamesIn(folder_.Path()), (Names{"a.log", kArchive}));
+        const std::string archive = ReadFile(folder_ / kArchive);
+        EXPECT_TRUE(archive.starts_with(before));
+        std::istringstream written(archive.substr(before.size()) + ReadFile(log_));
+        Names lines;
+        int count = 0;
+        for (std::string line; std::getline(written, line); ++count) lines.insert(line + '\n');
+        EXPECT_EQ(count, kProcesses * kLines);
+        for (int i = 0; i < kProcesses * kLines; ++i) {
+            ASSERT_TRUE(lines.contains(Line(message(i / kLines, i % kLines)))) << i;
+        }
+        fs::remove(folder_ / kArchive);
+    }
+}
+
+TEST_F(LogFaults, AClockThatIsSetBackCostsNoLineAndNoOtherFile) {
+    WriteFile(folder_ / "notes.log", "kept");
+    WriteFile(log_, kFull);
+    Start(log_);
+    utils_->LogError(u"1");
+    machine_.now -= std::chrono::hours(1);
+    utils_->LogError(u"2");
+    EXPECT_EQ(ReadFile(log_), Line("1") + Line("2").replace(10, 1, "8"));
+    const DateTime archived = MakeDateTime(2024, 3, 5, 8, 7, 3);
+    for (const DateTime now : {archived, archived, MakeDateTime(1969, 12, 31)}) {
+        machine_.now = now;
+        WriteFile(log_, kFull);
+        EXPECT_EQ(BeepsAt("next"), 0) << "the archive of that second goes first";
+        const char* const archive =
+            now == archived ? "Error_2024_3_5_8_7_3.log" : "Error_1969_12_31_0_0_0.log";
+        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", "notes.log", archive}));
+        EXPECT_TRUE(ReadFile(folder_ / archive) == kFull);
+    }
+}
+
+TEST_F(LogFaults, AClockThatIsSetBackStopsNoCountdownAndNoCalendar) {
+    Start(log_);
+    utils_->InitServerTime(u"3/5/2024 10:07:03");
+    desktop_.OnMessageBox([&](MessageBox& box) {
+        for (int tick = 0; tick < 3; ++tick) {
+            EXPECT_TRUE(box.IsOpen());
+            machine_.now -= std::chrono::hours(24);
+            box.Tick();
+        }
+        EXPECT_FALSE(box.IsOpen());
+    });
+    EXPECT_EQ(utils_->ShowMsgBox(u"?", mbYesNo, mbNoIcon, u"", mbWhite, mb9, false, 3),
+              kClosedByCountdown);
+    EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2024, 3, 2, 10, 7, 3));
+    EXPECT_EQ(utils_->ConvertHDate(u",3600"), u"03/02/2024 01:00:00 AM");
+
+    machine_.now = MakeDateTime(1600, 1, 1);
+    desktop_.OnCalendar([](Calendar& days) { days.KeyDown(Calendar::Key::Enter); });
+    EXPECT_EQ(utils_->ShowCalendar(-1, -1, -1), u"01/01/1753");
+}
+
+}  // namespace
+}  // namespace halvek
