@@ -8,7 +8,7 @@ namespace halvek {
 
 std::u16string ForLeaving(TextIn text) {
     std::optional<std::u16string> bare = BareAmount(text, AmountSign::Signed);
-    if (!bare) return text.Str();
+    if (!bare) return IsTypedAmount(text, AmountSign::Signed) ? std::u16string() : text.Str();
     const bool hasPoint = bare->find(u'.') != bare->npos;
     if (!hasPoint && IsTypedAmount(*bare, AmountSign::Signed)) *bare += u'.';
     return *bare;

@@ -10,8 +10,8 @@
 
 namespace halvek {
 
-/// A readable amount in the form that no rule about digits without a point can misread; any other
-/// text as it is.
+/// A readable amount in the form that no rule about digits without a point can misread. What has no
+/// digit yet, a point alone say, is no amount: the empty text. Any other text as it is.
 HALVEK_INTERNAL std::u16string ForLeaving(TextIn text);
 
 /// What a field shows of an amount once it is left, "$1,234.50". Nothing for what is no amount, and

@@ -15,10 +15,11 @@ CurrencyLineEdit::CurrencyLineEdit(AmountSign sign, QWidget* parent) : QLineEdit
     } else {
         MakeCurrencyField(this);
     }
-    connect(this, &QLineEdit::textChanged, this, [this] {
-        const std::optional<std::int64_t> cents = Cents();
-        if (std::exchange(cents_, cents) != cents) Q_EMIT CentsChanged(cents);
-    });
+    connect(this, &QLineEdit::textChanged, this,
+            [this, known = std::optional<std::int64_t>()]() mutable {
+                const std::optional<std::int64_t> cents = Cents();
+                if (std::exchange(known, cents) != cents) Q_EMIT CentsChanged(cents);
+            });
 }
 
 CurrencyLineEdit::~CurrencyLineEdit() = default;

@@ -42,8 +42,6 @@ class HALVEK_EXPORT CurrencyLineEdit : public QLineEdit {
   private:
     QVariant CentsProperty() const;
     void SetCentsProperty(const QVariant& cents);
-
-    std::optional<std::int64_t> cents_;  ///< that the host knows of
 };
 
 }  // namespace halvek

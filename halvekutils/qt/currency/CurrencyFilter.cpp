@@ -49,6 +49,7 @@ CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr
     connect(&line, &QLineEdit::editingFinished, this, &CurrencyFilter::ShowAgain);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* now) { FocusMoved(now); });
+    CurrencyWatch::OfApplication();  // what a host installs from now on sees events before it
     Write(line, TextGiven(line.text()));
     if (line.hasFocus()) Enter(line);
 }
