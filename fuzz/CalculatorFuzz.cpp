@@ -69,7 +69,7 @@ void PlayKeys(FuzzedDataProvider& input, Calculator& calculator) {
                 calculator.KeyPress(input.ConsumeIntegral<std::uint8_t>());
                 break;
             case 2:
-                calculator.KeyDown(input.ConsumeIntegralInRange(0, 60));
+                calculator.KeyDown(input.ConsumeIntegralInRange(0, 130));
                 break;
             case 3:
                 calculator.Paste(Narrowed(FuzzText(input, 9), u"0123456789.eE+-$(,)"),
@@ -110,6 +110,7 @@ void TypeIntoBox(FuzzedDataProvider& input, Calculator& calculator) {
         if (key != u'\b') calculator.EditDisplay(before + key);
         if (key == u'\b')
             calculator.EditDisplay(before.substr(0, std::max(before.size(), std::size_t{1}) - 1));
+        Require(!calculator.NumberDone(), "an edit is part of a number");
     }
 }
 

@@ -26,6 +26,7 @@ constexpr int kBackspaceKey = 8;
 constexpr int kEnterKey = 13;
 constexpr int kEscapeKey = 27;
 constexpr int kDeleteKey = 46;
+constexpr int kF9Key = 120;
 constexpr int kKeypadZero = 96;
 constexpr int kUnknownButton = 99;
 
@@ -124,7 +125,7 @@ void Calculator::Press(int index) {
     const char16_t key = Caption(index).front();
     if (index >= kDivide && index <= kEquals) {
         Operate(key);
-        if (index == kEquals) focus_ = kReturn;
+        focus_ = index == kEquals ? kReturn : kEquals;
     } else {
         Flash(index);
         if (IsDigit(key)) AddDigit(key);
@@ -154,6 +155,14 @@ void Calculator::AddPoint() {
 
 void Calculator::ChangeSign() {
     display_ = ResultText(-1 * RoundToCents(Val(display_)));
+}
+
+/// A result is not taken back, nor a number whose exponent would be cut.
+void Calculator::TakeBack() {
+    if (!IsOpen() || numberDone_ || display_.empty() || HasExponent(display_)) return;
+    display_.pop_back();
+    if (display_.starts_with(u'-') && !IsNumeric(display_)) display_.clear();
+    NotifyChanged();
 }
 
 void Calculator::Clear() {
@@ -210,9 +219,7 @@ std::u16string Calculator::Compute(TextIn a, char16_t op, TextIn b) {
 bool Calculator::KeyPress(char16_t character) {
     if (!IsOpen()) return false;
     if (IsOperator(character)) {
-        Operate(character);
-        focus_ = character == u'=' ? kReturn : kEquals;
-        NotifyChanged();
+        Press(ButtonOf(character));
         return false;
     }
     if (focus_ != kBox) {
@@ -227,13 +234,22 @@ bool Calculator::KeyPress(char16_t character) {
 }
 
 bool Calculator::KeyDown(int keyCode) {
-    if (keyCode == kEscapeKey) {
-        Close();
-        return true;
+    switch (keyCode) {
+        case kEscapeKey:
+            Close();
+            return true;
+        case kF9Key:
+            Press(kChangeSign);
+            return true;
+        case kDeleteKey:
+            if (focus_ != kBox) Press(kClear);
+            return focus_ != kBox;
+        case kBackspaceKey:
+            if (focus_ != kBox) TakeBack();
+            return focus_ != kBox;
+        default:
+            return false;
     }
-    if (keyCode != kDeleteKey || focus_ == kBox) return false;
-    Press(kClear);
-    return true;
 }
 
 void Calculator::HookedKeyDown(int KeyCode) {
@@ -247,8 +263,9 @@ void Calculator::HookedKeyDown(int KeyCode) {
 }
 
 void Calculator::EditDisplay(TextIn text) {
-    if (!IsOpen() || text == display_) return;
+    if (!IsOpen()) return;
     display_ = text;
+    numberDone_ = false;
     NotifyChanged();
 }
 

@@ -67,7 +67,8 @@ class HALVEK_EXPORT Calculator : public Dialog {
 
     // What the user does
 
-    /// Presses button 0 to 18; any other number is only logged.
+    /// Presses button 0 to 18; any other number is only logged. An operator gives the focus to "=",
+    /// which gives it to RET, as they do when typed.
     void Press(int index);
 
     /// The user has moved the focus to a button or to kBox.
@@ -77,8 +78,9 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// is done with.
     bool KeyPress(char16_t character);
 
-    /// Escape (27) ends the calculator without a result, Delete (46) clears it unless the box has
-    /// the focus. False for any other key and for Delete in the box.
+    /// Escape (27) ends the calculator without a result, F9 (120) changes the sign. Unless the box
+    /// has the focus, Delete (46) clears, and Backspace (8) takes back the last character of a
+    /// number that is being entered. False for any other key, and for those two in the box.
     bool KeyDown(int keyCode);
 
     /// A key that the host's keyboard hook caught, by its virtual key code: the keypad (96 to 111),
@@ -87,7 +89,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// logged. Any key but a digit between two Enters makes the second one "=" again.
     void HookedKeyDown(int KeyCode);
 
-    /// The user has edited the text in the box.
+    /// The user has edited the text in the box; the next digit goes on with it.
     void EditDisplay(TextIn text);
 
     /// Takes a number or an amount over from the clipboard as if its digits were pressed, or in the
@@ -109,6 +111,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     void AddPoint();
     void StartNumber();
     void ChangeSign();
+    void TakeBack();
     void Clear();
     std::u16string PendingResult();
     void Flash(int index) const;

@@ -4,7 +4,7 @@
 # Usage: calendar.sh DEMO
 set -u
 source "$(dirname "$0")/desktop.sh"
-export LC_ALL=C  # weeks start on Monday
+export LC_ALL=C  # where weeks would start on Monday
 
 # Moves the client and opens the calendar of its visit on 3/7/2004, with keys; sets $window.
 open_calendar() {
@@ -58,11 +58,11 @@ done <<'ROWS'
 100 0 5,Next,ctrl+Prior,Right,KP_Enter 04/08/2003
 -445 0 t,Return TODAY
 100 -150 alt+F4
-905 0 21/51,click 03/09/2004
+905 0 21/51,click 03/15/2004
 905 600 20/6,click,21/18,click,Return 03/07/2004
 100 0 95/6,click,Return 04/07/2004
 100 0 64/6,click,50/62,1,9,9,9,Return,Return 03/07/1999
-100 0 7/29,click 02/23/2004
+100 0 7/29,click 02/29/2004
 100 0 50/95,click
 100 0 Return 03/07/2004
 100 0 50/50,50/95,Return

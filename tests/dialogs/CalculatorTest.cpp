@@ -33,13 +33,14 @@ struct Desk {
         if (word[0] == 'v') return calculator.Paste(FromUtf8(word.substr(2)));
         if (word == "box") return calculator.FocusOn(Calculator::kBox);
         if (word[0] == 'b') return calculator.Press(std::stoi(word.substr(1)));
-        if (word == "BS") return Type(8);
         if (word == "+-") return calculator.Press(Calculator::kChangeSign);
         if (word == "CLR") return calculator.Press(Calculator::kClear);
         if (word == "RET") return calculator.Press(Calculator::kReturn);
         if (word == "CLOSE") return calculator.Close();
-        if (word == "DEL" || word == "ESC") {
-            calculator.KeyDown(word == "DEL" ? 46 : 27);
+        static const std::map<std::string_view, int> kKeyCodes = {
+            {"BS", 8}, {"ESC", 27}, {"DEL", 46}, {"F9", 120}};
+        if (const auto key = kKeyCodes.find(word); key != kKeyCodes.end()) {
+            if (!calculator.KeyDown(key->second) && key->second == 8) Type(8);
         } else if (word[0] == '"') {
             for (std::size_t i = 1; i + 1 < word.size(); ++i) Type(static_cast<char16_t>(word[i]));
         } else {

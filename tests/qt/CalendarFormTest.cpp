@@ -12,9 +12,9 @@
 namespace halvek {
 namespace {
 
-/// On 3/5/2024, in the United States.
+/// On 3/5/2024, in Germany.
 struct CalendarFormTest : FormTest {
-    CalendarFormTest() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+    CalendarFormTest() { QLocale::setDefault(QLocale(QLocale::German)); }
     ~CalendarFormTest() override { QLocale::setDefault(QLocale::system()); }
 
     /// What the user's acts choose; a calendar that they leave open is closed.

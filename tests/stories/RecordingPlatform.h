@@ -21,8 +21,9 @@ class RecordingPlatform : public halvek::QtPlatform {
 
     using QtPlatform::Show;
     void Show(const std::shared_ptr<halvek::DebugConsole>& console) override {
-        const QStringList lines =
-            halvek::ToQString(console->Text()).split("\r\n", Qt::SkipEmptyParts);
-        if (!lines.isEmpty()) Record::Got("debug", lines.last());
+        console->Changed = [&shown = *console] {
+            const QString text = halvek::ToQString(shown.Text());
+            Record::Got("debug", text.section("\r\n", -1, -1, QString::SectionSkipEmpty));
+        };
     }
 };

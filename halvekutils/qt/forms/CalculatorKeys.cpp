@@ -15,8 +15,15 @@ namespace {
 
 /// The key code by which the rules know a key; 0 for a key they have no name for.
 int KeyCodeOf(const QKeyEvent& key) {
-    if (key.key() == Qt::Key_Escape) return 27;
-    return key.key() == Qt::Key_Delete ? 46 : 0;
+    constexpr struct {
+        Qt::Key key;
+        int code;
+    } kCodes[] = {
+        {Qt::Key_Backspace, 8}, {Qt::Key_Escape, 27}, {Qt::Key_Delete, 46}, {Qt::Key_F9, 120}};
+    for (const auto& row : kCodes) {
+        if (key.key() == row.key) return row.code;
+    }
+    return 0;
 }
 
 /// Whether a line edit would put the key's text in, as it does with Alt and a letter.
@@ -44,16 +51,18 @@ bool CalculatorKeys::Take(const QKeyEvent& key) {
         if (!IsInBox()) rules_.Press(rules_.Focus());
         return true;
     }
-    return rules_.KeyDown(KeyCodeOf(key)) || Type(key);
+    const char16_t digit = UnlockedDigitOf(key);
+    const char16_t typed = digit != 0 ? digit : TypedIntoAmountBy(key);
+    if (digit == 0 && rules_.KeyDown(KeyCodeOf(key))) return true;
+    if (typed == 0) return WouldBeInserted(key);
+    Type(typed);
+    return true;
 }
 
-bool CalculatorKeys::Type(const QKeyEvent& key) {
-    const char16_t typed = TypedBy(key);
-    if (typed == 0) return WouldBeInserted(key);
-    if (!rules_.KeyPress(typed)) return true;
-    if (!BoxIsFull()) return false;
-    QApplication::beep();
-    return true;
+void CalculatorKeys::Type(char16_t character) {
+    if (!rules_.KeyPress(character)) return;
+    if (BoxIsFull()) return QApplication::beep();
+    box_.insert(QChar(character));
 }
 
 bool CalculatorKeys::IsInBox() const {

@@ -14,7 +14,7 @@ class Calculator;
 class CalculatorKeys {
   public:
     /// `box` mirrors the display.
-    CalculatorKeys(Calculator& rules, const QLineEdit& box) : rules_(rules), box_(box) {}
+    CalculatorKeys(Calculator& rules, QLineEdit& box) : rules_(rules), box_(box) {}
 
     /// Whether the key is done with; any other goes on to the box.
     bool Take(const QKeyEvent& key);
@@ -22,13 +22,13 @@ class CalculatorKeys {
     void Paste(QClipboard::Mode mode);
 
   private:
-    bool Type(const QKeyEvent& key);
+    void Type(char16_t character);
     bool IsInBox() const;
     bool BoxIsFull() const;
     void Copy() const;
 
     Calculator& rules_;
-    const QLineEdit& box_;
+    QLineEdit& box_;
 };
 
 }  // namespace halvek

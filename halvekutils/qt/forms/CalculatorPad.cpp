@@ -62,6 +62,7 @@ FlashButton* CalculatorPad::MakeButton(int index, QWidget* form) {
     button->setMinimumSize(TwipsToPixels(kButtonWidth), TwipsToPixels(kButtonHeight));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button->setAutoDefault(false);
+    button->setFocusPolicy(Qt::TabFocus);  // the form says where a click leaves the focus
     button->installEventFilter(form);
     connect(button, &QPushButton::clicked, this, [this, index] {
         GuardEvent(u"frmCalculator.arrCmd_Click", [this, index] { rules_.Press(index); });

@@ -92,6 +92,8 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
       days_(findChild<QAbstractItemView*>(QLatin1String("qt_calendar_calendarview"))),
       yearEdit_(findChild<QSpinBox*>(QLatin1String("qt_calendar_yearedit"))) {
     setObjectName(QLatin1String("MonthView1"));
+    // In the language of the button below, with weeks from Sunday, whatever the desktop has
+    setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     SetFontProperties(FontOf(this), kFont, kFontSize);
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CalculatorBox.h>
 #include <halvekutils/qt/forms/CalculatorPad.h>
 #include <halvekutils/qt/forms/CalculatorStatus.h>
 #include <halvekutils/qt/forms/FlashButton.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
 
-#include <QFontMetrics>
-#include <QLineEdit>
 #include <QMouseEvent>
-#include <QSignalBlocker>
 
 namespace halvek {
 
@@ -21,23 +19,18 @@ namespace {
 constexpr std::int32_t kSpace = 90;
 constexpr std::int32_t kMargin = 180;
 
-// In points.
-constexpr std::int32_t kDisplayFont = 16;
-
-const char* const kLongestNumber = "-8.88888888888888E+888";
-
 }  // namespace
 
 frmCalculator::frmCalculator(const std::shared_ptr<Calculator>& rules, const Desktop& desktop)
     : DialogForm(rules, u"frmCalculator"),
       rules_(*rules),
       desktop_(desktop),
-      box_(new QLineEdit(this)),
+      box_(new CalculatorBox(rules_, this)),
       status_(new CalculatorStatus(this)),
       pad_(new CalculatorPad(rules_, this)),
       keys_(rules_, *box_) {
     setWindowTitle(tr("Calculator"));
-    BuildBox();
+    box_->installEventFilter(this);
     const int space = TwipsToPixels(kSpace);
     const int margin = TwipsToPixels(kMargin);
     status_->setSpacing(space);
@@ -56,24 +49,6 @@ frmCalculator::~frmCalculator() {
     rules_.Flashed = nullptr;
 }
 
-void frmCalculator::BuildBox() {
-    box_->setObjectName(QLatin1String("txtOutput"));
-    box_->setAccessibleName(tr("Display"));
-    box_->setAlignment(Qt::AlignRight);
-    box_->setFont(ToQFont({{}, kDisplayFont}));
-    const QFontMetrics metrics(box_->font());
-    const int around = metrics.averageCharWidth() * 2;
-    box_->setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);
-    // Nothing but keys and Ctrl+V, which the rules check, may put text into the box.
-    box_->setContextMenuPolicy(Qt::NoContextMenu);
-    box_->setAcceptDrops(false);
-    box_->setAttribute(Qt::WA_InputMethodEnabled, false);
-    box_->installEventFilter(this);
-    connect(box_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        GuardEvent(u"frmCalculator.txtOutput_Change", [&] { rules_.EditDisplay(text); });
-    });
-}
-
 QWidget* frmCalculator::FocusedControl() const {
     const int focus = rules_.Focus();
     return focus == Calculator::kBox ? static_cast<QWidget*>(box_) : pad_->Button(focus);
@@ -90,10 +65,7 @@ void frmCalculator::HookedKeyDown(int KeyCode) {
 }
 
 void frmCalculator::Refresh() {
-    if (const QString display = ToQString(rules_.Display()); box_->text() != display) {
-        const QSignalBlocker mirroring(box_);
-        box_->setText(display);
-    }
+    box_->Refresh();
     status_->Refresh(rules_);
     FocusedControl()->setFocus(Qt::OtherFocusReason);
     pad_->Announce();
@@ -105,7 +77,8 @@ bool frmCalculator::eventFilter(QObject* watched, QEvent* event) {
         rules_.FocusOn(pad_->IndexOf(watched));
         pad_->Announce();
     }
-    return (watched == box_ && BoxEvent(*event)) || DialogForm::eventFilter(watched, event);
+    const bool taken = watched == box_ ? BoxEvent(*event) : ButtonEvent(*event);
+    return taken || DialogForm::eventFilter(watched, event);
 }
 
 /// Whether the event is done with; any other goes on to the box.
@@ -118,6 +91,23 @@ bool frmCalculator::BoxEvent(QEvent& event) {
                static_cast<QMouseEvent&>(event).button() == Qt::MiddleButton) {
         GuardEvent(u"frmCalculator.txtOutput_MouseUp", [&] { keys_.Paste(QClipboard::Selection); });
         taken = true;
+    }
+    return taken;
+}
+
+/// Whether the event is done with; any other goes on to the button.
+bool frmCalculator::ButtonEvent(QEvent& event) {
+    bool taken = false;
+    if (event.type() == QEvent::KeyPress) {
+        // To a button the key would be an arrow.
+        GuardEvent(u"frmCalculator.Form_KeyPress", [&] {
+            auto& key = static_cast<QKeyEvent&>(event);
+            taken = UnlockedDigitOf(key) != 0 && keys_.Take(key);
+        });
+    } else if (event.type() == QEvent::MouseButtonPress) {
+        // Enter is to complete the operation, not to press the clicked button again.
+        rules_.FocusOn(Calculator::kEquals);
+        FocusedControl()->setFocus(Qt::MouseFocusReason);
     }
     return taken;
 }

@@ -9,6 +9,7 @@
 
 namespace halvek {
 
+class CalculatorBox;
 class CalculatorPad;
 class CalculatorStatus;
 
@@ -35,13 +36,13 @@ class frmCalculator : public DialogForm {
     void showEvent(QShowEvent* event) override;
 
   private:
-    void BuildBox();
     QWidget* FocusedControl() const;
     bool BoxEvent(QEvent& event);
+    bool ButtonEvent(QEvent& event);
 
     Calculator& rules_;
     const Desktop& desktop_;
-    QLineEdit* box_;
+    CalculatorBox* box_;
     CalculatorStatus* status_;
     CalculatorPad* pad_;
     CalculatorKeys keys_;

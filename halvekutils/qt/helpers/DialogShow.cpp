@@ -3,6 +3,8 @@
 #include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QGuiApplication>
+#include <QMouseEvent>
+#include <QWindow>
 
 #include <utility>
 
@@ -36,6 +38,7 @@ void DialogShow::End() {
     dialog_.hide();
     // Not every window manager gives the keyboard back.
     if (wasActive && owner_ != nullptr) owner_->activateWindow();
+    if (lastPress_) SwallowSecondClick(*std::exchange(lastPress_, std::nullopt));
     loop_.quit();
 }
 
@@ -54,22 +57,31 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     SetOwner(dialog_, owner);
     ShowArrowPointer();
     dialog_.installEventFilter(this);
+    placed_ = false;
     sinceShown_.start();
     dialog_.show();
+    dialog_.windowHandle()->installEventFilter(this);
     dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
     dialog_.activateWindow();
 }
 
-// Some window managers forget their frame when they place a new window. Where it came to stand is
-// told by the first move, and put right once.
 bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
-    constexpr qint64 kStillOpening = 500;
-    if (event->type() == QEvent::Move && dialog_.isVisible()) {
-        dialog_.removeEventFilter(this);
-        const bool opening = sinceShown_.elapsed() < kStillOpening;
-        if (opening && dialog_.frameGeometry().topLeft() != corner_) dialog_.move(corner_);
+    if (watched == &dialog_ && event->type() == QEvent::Move && dialog_.isVisible()) {
+        StandWhereAsked();
+    } else if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress) {
+        const auto& press = *static_cast<QMouseEvent*>(event);
+        lastPress_ = {press.button(), press.globalPosition().toPoint(), press.timestamp()};
     }
     return QObject::eventFilter(watched, event);
+}
+
+// Some window managers forget their frame when they place a new window. Where it came to stand is
+// told by the first move, and put right once.
+void DialogShow::StandWhereAsked() {
+    constexpr qint64 kStillOpening = 500;
+    if (std::exchange(placed_, true)) return;
+    const bool opening = sinceShown_.elapsed() < kStillOpening;
+    if (opening && dialog_.frameGeometry().topLeft() != corner_) dialog_.move(corner_);
 }
 
 void DialogShow::ShowArrowPointer() {

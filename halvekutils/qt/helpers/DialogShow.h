@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/qt/helpers/SecondClick.h>
+
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 namespace halvek {
 
@@ -28,6 +31,7 @@ class DialogShow : public QObject {
     void Modeless(const Place& place);
 
     /// The rules have ended: hides the dialog, makes its owner active again and lets Modal return.
+    /// The second click of a double click whose first has ended them is swallowed.
     void End();
 
   protected:
@@ -38,6 +42,7 @@ class DialogShow : public QObject {
     void Open(QWidget* owner, Qt::WindowModality modality, const Place& place);
     void ShowArrowPointer();
     void RestorePointer();
+    void StandWhereAsked();
 
     QDialog& dialog_;
     std::function<void()> abandon_;
@@ -45,6 +50,8 @@ class DialogShow : public QObject {
     QEventLoop loop_;
     QPoint corner_;
     QElapsedTimer sinceShown_;
+    bool placed_ = false;
+    std::optional<MousePress> lastPress_;  ///< in the dialog
     bool ended_ = false;
     bool pointerSaved_ = false;
 };

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CalculatorBox.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/Metrics.h>
+
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+// In points.
+constexpr std::int32_t kDisplayFont = 16;
+
+const char* const kLongestNumber = "-8.88888888888888E+888";
+
+}  // namespace
+
+CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form), rules_(rules) {
+    setObjectName(QLatin1String("txtOutput"));
+    setAccessibleName(tr("Display"));
+    setAlignment(Qt::AlignRight);
+    setFont(ToQFont({{}, kDisplayFont}));
+    const QFontMetrics metrics(font());
+    const int around = metrics.averageCharWidth() * 2;
+    setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);
+    // Nothing but keys and Ctrl+V, which the rules check, may put text into the box.
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        GuardEvent(u"frmCalculator.txtOutput_Change", [&] { rules_.EditDisplay(text); });
+    });
+}
+
+void CalculatorBox::Refresh() {
+    const QString display = ToQString(rules_.Display());
+    if (text() == display) return;
+    const QSignalBlocker mirroring(this);
+    setText(display);
+    if (rules_.NumberDone() && rules_.Focus() == Calculator::kBox) selectAll();
+}
+
+void CalculatorBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    isEntered_ = event->reason() == Qt::MouseFocusReason;
+}
+
+// A click selects the number that the next digit replaces, as Tab does. Beside the text, which
+// stands at the right, it means the end.
+void CalculatorBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    const bool isEntered = std::exchange(isEntered_, false);
+    if (hasSelectedText()) return;
+    if (isEntered && rules_.NumberDone()) {
+        selectAll();
+    } else if (IsLeftOfText(event->position().toPoint())) {
+        end(false);
+    }
+}
+
+bool CalculatorBox::IsLeftOfText(const QPoint& place) const {
+    const QRect caret = inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    return cursorPosition() == 0 && place.x() < caret.left();
+}
+
+}  // namespace halvek
