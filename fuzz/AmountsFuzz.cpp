@@ -28,6 +28,8 @@ void CheckPasting(const std::u16string& text, AmountSign sign) {
     Require(!bare || typed.has_value() == IsTypedAmount(*bare, sign), "what fits is taken");
     if (bare && CentsOf(*bare)) {
         TextField box(*bare + (bare->find(u'.') == bare->npos ? u"." : u""));
+        const auto cents = CentsOf(box.Text());
+        Require(!cents || CentsIn(text) == cents, "the cents are those of its digits");
         CheckLeaving(box, sign);
     }
     TextField box(text);
@@ -44,6 +46,8 @@ void CheckRange(std::int32_t low, std::int32_t high) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider input(data, size);
+    const auto cents = input.ConsumeIntegral<std::int64_t>();
+    Require(CentsIn(u'$' + FormatCents(cents)) == cents, "cents come back");
     CheckRange(input.ConsumeIntegral<std::int32_t>(), input.ConsumeIntegral<std::int32_t>());
     const AmountSign sign = input.ConsumeBool() ? AmountSign::Signed : AmountSign::Unsigned;
     CheckPasting(RestAsText(input, u"0159.,$-() "), sign);

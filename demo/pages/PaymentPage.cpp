@@ -28,7 +28,7 @@ QLabel* MakeColumnHeading(const QString& text) {
     return heading;
 }
 
-/// Whether an event ends the typing: the focus goes to another field, or Enter presses "Post".
+/// Whether an event ends the typing: the focus goes to another field, or Tab or Enter is pressed.
 bool EndsTyping(const QEvent& event) {
     if (event.type() == QEvent::FocusOut) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
@@ -37,7 +37,8 @@ bool EndsTyping(const QEvent& event) {
     }
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab ||
+           key == Qt::Key_Backtab;
 }
 
 }  // namespace
@@ -68,6 +69,8 @@ PaymentPage::PaymentPage(Desk& desk)
     post_.setAutoDefault(false);  // it stays the default button without the focus
     post_.setDefault(true);
     grid->setColumnStretch(grid->columnCount(), 1);
+    // On the application, since the fields are left before their own filters see an event
+    qApp->installEventFilter(this);
     Body().addWidget(&form_);
     Body().addStretch();
 }
@@ -77,13 +80,12 @@ void PaymentPage::AddEntry(QGridLayout& grid, const QString& label, Entry& entry
     auto* caption = new QLabel(label);
     caption->setBuddy(entry.field);
     entry.field->setAccessibleName(QString(label).remove('&'));
-    entry.field->setAlignment(Qt::AlignRight);
     entry.field->setFixedWidth(kFieldWidth);
     grid.addWidget(caption, row, 0);
     grid.addWidget(entry.field, row, 1);
     grid.addWidget(entry.before, row, 2);
     grid.addWidget(entry.after, row, 3);
-    entry.field->installEventFilter(this);
+    connect(entry.field, &QLineEdit::textEdited, this, [&entry] { entry.isLeft = false; });
     connect(entry.field, &QLineEdit::editingFinished, this, [this, &entry] { NoteLeft(entry); });
 }
 
@@ -95,6 +97,7 @@ bool PaymentPage::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PaymentPage::NoteLeaving(Entry& entry) {
+    if (entry.isLeft) return;  // by Tab, before the focus goes
     entry.before->setText(entry.field->text());
     entry.after->clear();
     entry.isLeft = true;

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Characters.h>
+#include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/currency/AmountText.h>
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
 #include <string_view>
+#include <system_error>
 
 namespace halvek {
 
 namespace {
 
 constexpr std::size_t kGroupDigits = 3;
+constexpr std::u16string_view kBlanks = u" \t\u00A0";
 constexpr std::u16string_view kAround = u" \t\r\n\u00A0";
 
 std::size_t LeadingDigits(std::u16string_view text) {
@@ -25,6 +29,13 @@ bool IsDigits(std::u16string_view text) {
 /// Takes the sign in front off; true for a "-".
 bool TakeSign(std::u16string_view& text) {
     return !TakeFront(text, u'+') && TakeFront(text, u'-');
+}
+
+/// Takes "$" and the blanks behind it off the front; true when it was there.
+bool TakeDollar(std::u16string_view& text) {
+    if (!TakeFront(text, u'$')) return false;
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return true;
 }
 
 /// Digits, or one to three digits and then groups of three behind commas.
@@ -122,6 +133,28 @@ std::u16string FormatAmount(TextIn text) {
     return Shown(*number, negative);
 }
 
+std::u16string FormatCents(std::int64_t cents) {
+    std::u16string text = IntegerText(cents);
+    const std::size_t sign = cents < 0 ? 1 : 0;
+    const std::size_t digits = text.size() - sign;
+    if (digits < kFractionDigits) text.insert(sign, kFractionDigits - digits, u'0');
+    text.insert(text.size() - kFractionDigits, 1, u'.');
+    return FormatAmount(text);
+}
+
+std::optional<std::int64_t> CentsIn(TextIn text) {
+    const std::optional<std::u16string> bare = BareAmount(text, AmountSign::Signed);
+    if (!bare) return std::nullopt;
+    std::string digits;
+    for (const char16_t character : FormatAmount(*bare)) {
+        if (character != u',' && character != u'.') digits += static_cast<char>(character);
+    }
+    std::int64_t cents = 0;
+    const auto end = digits.data() + digits.size();
+    const bool fits = std::from_chars(digits.data(), end, cents).ec == std::errc();
+    return fits ? std::optional(cents) : std::nullopt;
+}
+
 bool IsTypedAmount(TextIn text, AmountSign sign) {
     std::u16string_view rest = text;
     if (sign == AmountSign::Signed) TakeFront(rest, u'-');
@@ -135,7 +168,7 @@ bool IsTypedAmount(TextIn text, AmountSign sign) {
 std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign) {
     std::u16string_view rest = Trimmed(text, kAround);
 
-    const bool hasDollar = TakeFront(rest, u'$');
+    const bool hasDollar = TakeDollar(rest);
     bool negative = false;
     if (rest.starts_with(u'(') && rest.ends_with(u')')) {
         rest = rest.substr(1, rest.size() - 2);
@@ -143,7 +176,7 @@ std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign) {
     } else {
         negative = TakeSign(rest);
     }
-    if (!hasDollar) TakeFront(rest, u'$');
+    if (!hasDollar) TakeDollar(rest);
     if (negative && sign == AmountSign::Unsigned) return std::nullopt;
     const std::optional<Decimal> number = ReadDecimal(rest);
     if (!number) return std::nullopt;

@@ -5,12 +5,14 @@
 #include <halvekutils/base/TextIn.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
 namespace halvek {
 
-// Amounts as text. They are never turned into binary numbers: what was typed is what is shown.
+// Amounts as text, and as whole cents where a host counts. No fraction is ever binary: what was
+// typed is what is shown.
 
 /// The most digits before the point.
 inline constexpr std::size_t kWholeDigits = 7;
@@ -31,6 +33,17 @@ enum class AmountSign {
 ///     FormatAmount(u"1234.5") == u"1,234.50";  FormatAmount(u"-.005") == u"-0.01";
 HALVEK_EXPORT std::u16string FormatAmount(TextIn text);
 
+/// A number of cents as FormatAmount shows it.
+///
+///     FormatCents(123450) == u"1,234.50";  FormatCents(-5) == u"-0.05";
+HALVEK_EXPORT std::u16string FormatCents(std::int64_t cents);
+
+/// The cents of an amount that BareAmount can read, halves of a cent rounded away from zero;
+/// nothing for any other text, the empty one too, and for more cents than 64 bits hold.
+///
+///     CentsIn(u"$1,234.50") == 123450;  CentsIn(u"$-5.00") == -500;  !CentsIn(u"");
+HALVEK_EXPORT std::optional<std::int64_t> CentsIn(TextIn text);
+
 /// True for what a field may hold while it is typed into: a "-" where amounts have signs, up to
 /// seven digits, a point and up to two digits; each of these may still be missing.
 HALVEK_EXPORT bool IsTypedAmount(TextIn text, AmountSign sign);
@@ -39,15 +52,16 @@ HALVEK_EXPORT bool IsTypedAmount(TextIn text, AmountSign sign);
 /// any length.
 ///
 /// Around the text there may be blanks and line ends. "$" stands in front, before or after the
-/// sign; parentheses make a signed amount negative; commas part thousands. Nothing when the text
-/// cannot be read, or could be read in two ways as "1.234,50", "1,23" and "1 234" can.
+/// sign, and may have blanks behind it; parentheses make a signed amount negative; commas part
+/// thousands. Nothing when the text cannot be read, or could be read in two ways as "1.234,50",
+/// "1,23" and "1 234" can.
 ///
 ///     BareAmount(u"$1,234.50", AmountSign::Unsigned) == u"1234.50";
 ///     BareAmount(u"(5.00)", AmountSign::Signed) == u"-5.00";
 HALVEK_EXPORT std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign);
 
-/// What a field is to hold when the user's doing, a paste say, would make it hold this text: the
-/// text itself or the bare amount in it. Nothing when it cannot be read or has too many digits.
+/// The text a field holds after an edit (a paste, say) that yields `text`: the same or the bare
+/// amount in it. Nothing when it cannot be read or has too many digits.
 HALVEK_EXPORT std::optional<std::u16string> TypedAmount(TextIn text, AmountSign sign);
 
 }  // namespace halvek

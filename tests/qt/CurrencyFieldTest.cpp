@@ -44,17 +44,40 @@ struct CurrencyFieldTest : FormTest {
     QString posted_;
 };
 
-TEST_F(CurrencyFieldTest, WhatTheHostHasSetStaysUntilItIsEnteredAndLeft) {
-    for (const QString set : {"$1,234,567", "1,234,567", "123456700"}) {
+TEST_F(CurrencyFieldTest, WhatTheHostSetsIsShownAsAnAmountInOneChange) {
+    const QString rows(
+        "1234.5>$1,234.50>1234.50;$1,234,567>$1,234,567.00>1234567.00;123456700>$1,234,567.00>"
+        "1234567.00;-.005>$-0.01>-0.01;soon>soon>soon;>>");
+    for (const QString& row : rows.split(';')) {
         for (const bool isLocked : {false, true}) {
+            QStringList changes;
+            const auto noting = QObject::connect(&amount_, &QLineEdit::textChanged,
+                                                 [&](const QString& text) { changes += text; });
             amount_.setReadOnly(isLocked);
-            amount_.setText(set);
-            Type(amount_, "x");
-            EXPECT_EQ(amount_.selectedText(),
-                      isLocked ? set : QString(set).remove('$').remove(','));
+            amount_.setText(row.section('>', 0, 0));
+            QObject::disconnect(noting);
+            const QString shown = row.section('>', 1, 1);
+            EXPECT_EQ(amount_.text(), shown);
+            EXPECT_TRUE(changes.isEmpty() || changes == QStringList(shown));
+            if (shown == "soon") continue;  // leaving it is logged
+            amount_.setFocus();
+            EXPECT_EQ(amount_.selectedText(), isLocked ? shown : row.section('>', 2));
             plain_.setFocus();
-            EXPECT_EQ(amount_.text(), isLocked ? set : "$1,234,567.00");
+            EXPECT_EQ(amount_.text(), shown);
         }
+    }
+}
+
+TEST_F(CurrencyFieldTest, CentsComeBackAsTheyWereSet) {
+    const std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
+    for (const std::int64_t cents :
+         {std::int64_t{0}, std::int64_t{7}, std::int64_t{123450}, std::int64_t{999999999}, kMost,
+          -kMost - 1, std::int64_t{-5}}) {
+        SetCurrencyCents(&amount_, cents);
+        EXPECT_EQ(CurrencyCents(&amount_), cents) << amount_.text().toStdString();
+        amount_.setFocus();
+        EXPECT_EQ(CurrencyCents(&amount_), cents) << amount_.text().toStdString();
+        plain_.setFocus();
     }
 }
 

@@ -13,6 +13,7 @@
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -21,6 +22,8 @@
 using namespace halvek;
 
 namespace {
+
+constexpr std::int64_t kServiceCents = 300;
 
 /// Amounts in a table are typed into a currency field.
 class AmountDelegate : public QStyledItemDelegate {
@@ -72,7 +75,7 @@ void Desk::BuildFields() {
         const char* name;
     } rows[] = {{note_, "Note"}, {amount_, "Amount"}, {adjustment_, "Adjustment"},
                 {from_, "From"}, {to_, "To"},         {visit_, "Visit"},
-                {fee_, "Fee"}};
+                {fee_, "Fee"},   {total_, "Total"}};
     for (const auto& [field, name] : rows) {
         field->setObjectName(name);
         left_->addRow(name, field);
@@ -83,6 +86,9 @@ void Desk::BuildFields() {
     MakeCurrencyField(to_);
     CheckCurrencyRange(from_, to_, u"From", u"To");
     note_->setText("note");
+    connect(fee_, &CurrencyLineEdit::CentsChanged, this, [this](std::optional<std::int64_t> cents) {
+        SetCurrencyCents(total_, cents.value_or(0) + kServiceCents);
+    });
 }
 
 void Desk::BuildRecords() {
@@ -194,10 +200,17 @@ void Desk::BuildActions() {
     statusBar()->showMessage("Ready");
 }
 
+void Desk::SaveByItself() {
+    if (LeaveCurrencyFields(this)) Record::Got("saved", amount_->text());
+}
+
 void Desk::Load(const QString& field, const QString& text) {
-    if (field.contains('.')) {
-        auto* const line = findChild<QLineEdit*>(field.section('.', 0, 0));
-        line->setProperty(field.section('.', 1).toUtf8(), text.toLongLong());
+    if (field == "Autosave") {
+        QTimer::singleShot(0, this, [this] { SaveByItself(); });
+    } else if (field == "Fee.cents") {
+        fee_->setProperty("cents", text);
+    } else if (field.endsWith(".cents")) {
+        SetCurrencyCents(findChild<QLineEdit*>(field.section('.', 0, 0)), text.toLongLong());
     } else if (field == "Payments") {
         payments_.setData(payments_.index(0, 0), text);
     } else if (field == "Fee") {

@@ -26,10 +26,12 @@ class Desk : public QMainWindow {
     explicit Desk(std::shared_ptr<halvek::Utils> utils);
 
     /// Sets the text of a field, of the record's fee or of the first payment in the table, as a
-    /// program does that loads them.
+    /// program does that loads them; "FIELD.cents" sets an amount. "Autosave" saves without the
+    /// user's doing.
     void Load(const QString& field, const QString& text);
 
   private:
+    void SaveByItself();
     void BuildFields();
     void BuildRecords();
     void BuildDialogButtons();
@@ -48,6 +50,7 @@ class Desk : public QMainWindow {
     QLineEdit* const to_ = new QLineEdit;
     QLineEdit* const visit_ = new QLineEdit;
     QLineEdit* const note_ = new QLineEdit;
+    QLineEdit* const total_ = new QLineEdit;  ///< of the fee and the service
     halvek::CurrencyLineEdit* const fee_ = new halvek::CurrencyLineEdit;
     QStandardItemModel fees_;
     QDataWidgetMapper mapper_;

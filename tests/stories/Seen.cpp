@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Seen.h"
 
+#include <halvekutils/qt/CurrencyField.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -56,6 +58,10 @@ QString PartOf(const QWidget& control, const QString& part) {
     if (part == "caret" && line != nullptr) return QString::number(line->cursorPosition());
     if (part == "aligned" && line != nullptr) {
         return line->alignment() & Qt::AlignRight ? "right" : "left";
+    }
+    if (part == "cents" && line != nullptr) {
+        const auto cents = halvek::CurrencyCents(line);
+        return cents ? QString::number(*cents) : QString();
     }
     if (part == "right") {
         return QString::number(control.screen()->geometry().right() -

@@ -3,13 +3,14 @@
 
 #include <halvekutils/currency/AmountText.h>
 #include <halvekutils/currency/CurrencyEvents.h>
+#include <halvekutils/qt/currency/CurrencyRange.h>
 
 #include <QLineEdit>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <memory>
+#include <utility>
 
 class QDropEvent;
 class QKeyEvent;
@@ -21,18 +22,11 @@ class Utils;
 /// Attaches the handlers of currency fields to a line edit, which owns it.
 ///
 /// The handlers work on a copy of the field's four values. What they make of it goes back into the
-/// line edit as one change, which is one step for undo and one signal for the host.
+/// line edit.
 class CurrencyFilter : public QObject {
     Q_OBJECT
 
   public:
-    /// The lower field of a range, and what a message calls both.
-    struct Range {
-        QPointer<QLineEdit> from;
-        QString lblMin;
-        QString lblMax;
-    };
-
     CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
     ~CurrencyFilter() override;
 
@@ -42,37 +36,64 @@ class CurrencyFilter : public QObject {
     /// The filter of a line edit; null when it is no currency field.
     static CurrencyFilter* Of(const QLineEdit& line);
 
-    void CheckRange(Range range) { range_ = std::move(range); }
+    /// The line edit; null once it is being destroyed.
+    QLineEdit* Line() const;
+    AmountSign Sign() const { return sign_; }
 
+    void CheckRange(CurrencyRange range) { range_ = std::move(range); }
+    const CurrencyRange& Range() const { return range_; }
+
+    /// What the line edit is to show of a text that the host sets, or has set.
+    QString TextGiven(const QString& text);
+
+    /// Shows and validates what was edited; false when the field must not be left.
+    bool Leave(QLineEdit& line);
+
+    /// Sees the line edit's events before any other filter does; true when none must see them.
+    bool FilterFirst(QLineEdit& line, const QEvent& event);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    class ApplicationFilter;
-
     bool Filter(QLineEdit& line, QEvent& event);
-    bool FilterApplication(QLineEdit& line, const QObject& watched, const QEvent& event);
+    void GetFocus(QLineEdit& line, Qt::FocusReason reason);
     bool PressKey(QLineEdit& line, const QKeyEvent& event);
-    bool Type(QLineEdit& line, char16_t letter);
-    bool Insert(QLineEdit& line, const QString& piece);
     void Drop(QLineEdit& line, QDropEvent& event);
+    void Enter(QLineEdit& line);
+    void MakeBare(QLineEdit& line);
+    void Write(QLineEdit& line, const QString& text);
+    QString TextShown(const QString& text) const;
+
+    // Leaving, in CurrencyLeaving.cpp
     void FocusMoved(const QWidget* now);
     bool LoseFocus(QLineEdit& line, Qt::FocusReason reason);
-
-    void Enter(QLineEdit& line);
-    bool Leave(QLineEdit& line);
     bool MayLeave(QLineEdit& line);
-    void EndEditing();
-    void MakeBare(QLineEdit& line);
+    void LeaveUnasked(QLineEdit& line);
+    void Show(QLineEdit& line);
+    void Refuse(QLineEdit& line);
+    void EndEditing(QLineEdit& line);
+    void HandBack(QLineEdit& line);
+    void HandBackSoon();
+    void ShowAgain();
 
     AmountSign sign_;
     CurrencyEvents events_;
     std::shared_ptr<Utils> utils_;  ///< kept alive for the host
-    std::unique_ptr<ApplicationFilter> applicationFilter_;
-    Range range_;
-    bool editing_ = false;  ///< entered and not left yet
+    CurrencyRange range_;
+    QString given_;              ///< by the host, and not edited since
+    QString entered_;            ///< the bare number that the user found
+    bool editing_ = false;       ///< entered and not left yet
+    bool isLeft_ = false;        ///< left while it keeps the focus
+    bool isUnasked_ = false;     ///< left for a button that needs no valid fields
+    bool isHandedBack_ = false;  ///< holds what was given, for a delegate to commit
+    bool isWriting_ = false;
     bool wasLocked_ = false;
     bool clickSelects_ = false;
-    bool refusesPress_ = false;
 };
+
+/// True while a field is being left: what its message does to the focus concerns no field.
+bool IsAnyFieldBeingLeft();
+
+/// True when the focus is lost or got in a way that is no leaving: to another window, or a menu.
+bool EditingGoesOn(Qt::FocusReason reason);
 
 }  // namespace halvek

@@ -25,7 +25,8 @@ bool IsPassing(const QKeyEvent& event) {
 char16_t AmountCharacterOf(const QKeyEvent& event) {
     constexpr Qt::KeyboardModifiers kNoTyping = Qt::ControlModifier | Qt::MetaModifier;
     if (event.key() == Qt::Key_Backspace && !(event.modifiers() & kNoTyping)) return kBackspace;
-    return TypedIntoAmountBy(event, kNoTyping);
+    const char16_t typed = TypedIntoAmountBy(event, kNoTyping);
+    return typed != 0 ? typed : UnlockedDigitOf(event);
 }
 
 }  // namespace halvek

@@ -11,7 +11,7 @@ inline constexpr char16_t kBackspace = 8;
 bool IsPassing(const QKeyEvent& event);
 
 /// The character that a key types into a currency field, Backspace included; 0 for a command or an
-/// editing key.
+/// editing key. Keys of the keypad type what stands on them, whether numbers are locked or not.
 char16_t AmountCharacterOf(const QKeyEvent& event);
 
 }  // namespace halvek

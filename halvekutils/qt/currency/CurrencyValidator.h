@@ -1,31 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/currency/AmountText.h>
-
 #include <QLineEdit>
 #include <QString>
 #include <QValidator>
 
+#include <optional>
+
 namespace halvek {
 
-/// Judges every text that the user's doing would give a currency field, on whichever way: keys,
-/// menus, the clipboard, drops, input methods. A refusal changes nothing and leaves no trace in the
-/// history of changes.
+class CurrencyFilter;
+
+/// Judges every text that an edit would give a currency field, on whichever way: keys, menus, the
+/// clipboard, drops, input methods. A refusal changes nothing and leaves no trace in the history of
+/// changes. A text that the host sets becomes what the field shows of it before anybody sees it.
 class CurrencyValidator : public QValidator {
     Q_OBJECT
 
   public:
-    CurrencyValidator(QLineEdit& line, AmountSign sign, QObject* parent);
+    /// @param field  of the line edit, the owner
+    CurrencyValidator(QLineEdit& line, CurrencyFilter& field);
 
     State validate(QString& text, int& caret) const override;
 
   private:
     bool DeletesFromInvalidText(const QString& text) const;
+    void Rewrite(QString& text, int& caret, const QString& better) const;
 
     QLineEdit& line_;
-    AmountSign sign_;
+    CurrencyFilter& field_;
     QString shown_;
+    mutable std::optional<QString> rewritten_;  ///< comes back at once, to be judged as well
 };
 
 }  // namespace halvek
