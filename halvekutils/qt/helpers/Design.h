@@ -30,6 +30,9 @@ void SpaceOut(QLayout& layout);
 /// How well two colours are told apart, from 1 to 21; 3 does for lines, 4.5 for text.
 double Contrast(const QColor& one, const QColor& other);
 
+/// The least contrast of two colours that a host has chosen; below it nobody can read the text.
+inline constexpr double kLeastHostContrast = 2;
+
 /// The first colour where it stands out from the ground, else black or white.
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
 

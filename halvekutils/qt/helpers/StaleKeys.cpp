@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/StaleKeys.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace halvek {
+
+namespace {
+
+/// The key on the keyboard, whatever a modifier makes of it; events that programs send name none.
+quint32 PlaceOf(const QKeyEvent& key) {
+    const quint32 scanCode = key.nativeScanCode();
+    return scanCode != 0 ? scanCode : static_cast<quint32>(key.key());
+}
+
+}  // namespace
+
+// On the application: accelerators are asked for at the control before the window hears of the key.
+StaleKeys::StaleKeys(QWidget& window) : QObject(&window), window_(window) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool StaleKeys::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::WindowActivate && watched == &window_) pressedHere_.clear();
+    if (type != QEvent::KeyPress && type != QEvent::ShortcutOverride) return false;
+    if (!IsOfWindow(watched)) return false;
+    bool dropped = false;
+    GuardEvent(u"StaleKeys.KeyPress",
+               [&] { dropped = Drops(*static_cast<const QKeyEvent*>(event)); });
+    if (dropped) event->accept();
+    return dropped;
+}
+
+bool StaleKeys::IsOfWindow(const QObject* receiver) const {
+    if (receiver->isWidgetType()) {
+        return static_cast<const QWidget*>(receiver)->window() == &window_;
+    }
+    return receiver == window_.windowHandle();
+}
+
+bool StaleKeys::Drops(const QKeyEvent& key) {
+    const quint32 place = PlaceOf(key);
+    if (key.isAutoRepeat()) return !pressedHere_.contains(place);
+    pressedHere_.insert(place);
+    return false;
+}
+
+}  // namespace halvek
