@@ -135,6 +135,12 @@ TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
           QKeyCombination(Qt::Key_Y), QKeyCombination(Qt::AltModifier | Qt::Key_Y)}) {
         const auto repeat = [&](QDialog& box) {
             for (int i = 0; i < 3; ++i) {
+                // Not marked as repeated: two events of the same time.
+                for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+                    QKeyEvent event(type, held.key(), held.keyboardModifiers());
+                    event.setTimestamp(static_cast<quint64>(100 + i));
+                    QCoreApplication::sendEvent(box.windowHandle(), &event);
+                }
                 qt_handleKeyEvent(box.windowHandle(), QEvent::KeyPress, held.key(),
                                   held.keyboardModifiers(), QStringLiteral("y"), true);
                 EXPECT_TRUE(box.isVisible()) << held.toCombined();

@@ -31,16 +31,18 @@ QPalette MessagePalette(const MessageBoxColors& colors, const QPalette& desktop)
 
 QPalette MessageButtonPalette(const MessageBoxColors& colors, const QPalette& desktop) {
     QPalette palette = desktop;
-    // Said for each role, since what is not would come from the form: arrows are drawn as text.
-    const QColor text = desktop.color(QPalette::ButtonText);
-    for (const auto role : {QPalette::WindowText, QPalette::Text}) palette.setColor(role, text);
-    if (!colors.buttonFace || IsSchemeColor(*colors.buttonFace)) return palette;
-    palette.setColor(QPalette::Button, ToQColor(*colors.buttonFace, desktop));
-    for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text}) {
-        palette.setColor(role, Qt::black);
+    if (colors.buttonFace && !IsSchemeColor(*colors.buttonFace)) {
+        palette.setColor(QPalette::Button, ToQColor(*colors.buttonFace, desktop));
+        palette.setColor(QPalette::ButtonText, Qt::black);
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
+        palette.setColor(QPalette::Highlight, OnLightFace(desktop.color(QPalette::Highlight)));
     }
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
-    palette.setColor(QPalette::Highlight, OnLightFace(desktop.color(QPalette::Highlight)));
+    // Arrows are drawn as text, and the form's would come through a role that is not said.
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            palette.setColor(group, role, palette.color(group, QPalette::ButtonText));
+        }
+    }
     return palette;
 }
 

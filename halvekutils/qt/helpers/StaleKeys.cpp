@@ -27,11 +27,17 @@ StaleKeys::StaleKeys(QWidget& window) : QObject(&window), window_(window) {
 bool StaleKeys::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::WindowActivate && watched == &window_) pressedHere_.clear();
-    if (type != QEvent::KeyPress && type != QEvent::ShortcutOverride) return false;
-    if (!IsOfWindow(watched)) return false;
+    const bool isPress = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
+    if ((!isPress && type != QEvent::KeyRelease) || !IsOfWindow(watched)) return false;
     bool dropped = false;
-    GuardEvent(u"StaleKeys.KeyPress",
-               [&] { dropped = Drops(*static_cast<const QKeyEvent*>(event)); });
+    GuardEvent(u"StaleKeys.KeyPress", [&] {
+        const auto& key = *static_cast<const QKeyEvent*>(event);
+        if (isPress) {
+            dropped = Drops(key);
+        } else {
+            released_ = {PlaceOf(key), key.timestamp()};
+        }
+    });
     if (dropped) event->accept();
     return dropped;
 }
@@ -44,10 +50,17 @@ bool StaleKeys::IsOfWindow(const QObject* receiver) const {
 }
 
 bool StaleKeys::Drops(const QKeyEvent& key) {
-    const quint32 place = PlaceOf(key);
-    if (key.isAutoRepeat()) return !pressedHere_.contains(place);
-    pressedHere_.insert(place);
+    if (IsRepeated(key)) return !pressedHere_.contains(PlaceOf(key));
+    pressedHere_.insert(PlaceOf(key));
     return false;
+}
+
+// X11 tells a repetition as a release and a press at the same time. Qt marks them only if both have
+// arrived when it looks at the first, which they seldom have in a window that has just opened.
+bool StaleKeys::IsRepeated(const QKeyEvent& key) const {
+    if (key.isAutoRepeat()) return true;
+    return key.timestamp() != 0 && released_.place == PlaceOf(key) &&
+           released_.time == key.timestamp();
 }
 
 }  // namespace halvek

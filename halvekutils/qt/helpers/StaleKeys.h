@@ -24,8 +24,15 @@ class StaleKeys : public QObject {
   private:
     bool IsOfWindow(const QObject* receiver) const;
     bool Drops(const QKeyEvent& key);
+    bool IsRepeated(const QKeyEvent& key) const;
+
+    struct Release {
+        quint32 place = 0;  ///< the key on the keyboard
+        quint64 time = 0;
+    };
 
     QWidget& window_;
+    Release released_;
     QSet<quint32> pressedHere_;
 };
 
