@@ -7,8 +7,10 @@ namespace halvek {
 
 /// A colour with red in the low byte, green in the next and blue in the third.
 ///
-/// A value with the top bit set names a colour of the desktop's own scheme; this library uses only
-/// `kButtonFace`.
+/// A value with the top bit set names a colour of the desktop's own scheme, whose number from 0 to
+/// 24 stands in the other bits: 5 for the background of windows, 8 for the text on it, 13 and 14
+/// for what is highlighted. `kButtonFace`, which is 15, also stands for a number that has no
+/// colour.
 using Color = std::int32_t;
 
 /// The colour with these parts.

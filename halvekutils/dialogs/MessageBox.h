@@ -93,6 +93,10 @@ class HALVEK_EXPORT MessageBox : public Dialog {
 
     /// Whether the box is going to close itself.
     bool CountdownRunning() const { return IsOpen() && countdownRunning_; }
+    /// How many seconds the countdown takes in all; 0 without one.
+    std::int32_t CountdownSeconds() const { return countdownTotal_; }
+    /// How many of them are left.
+    std::int32_t SecondsLeft() const { return countdownTotal_ - countdownElapsed_; }
 
     // What the user does
 
@@ -103,7 +107,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     enum class KeyAction {
         None,     ///< the key goes on to the button
         Handled,  ///< the key is done with
-        Copy,     ///< CopyText goes to the clipboard
+        Copy,     ///< what is selected goes to the clipboard, or else CopyText
     };
     /// The keys held down with another, which add up.
     enum KeyModifier : unsigned {
@@ -114,7 +118,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     };
 
     /// A key pressed while a button has the focus. Key codes of letters are those of their
-    /// capitals, Escape is 27. Returns Copy when the text of the box is to go to the clipboard.
+    /// capitals, Escape is 27. Returns Copy when a text of the box is to go to the clipboard.
     KeyAction KeyDown(int keyCode, unsigned modifiers);
 
     /// A character typed where no control has the focus: Enter (13) and Escape (27) close the box.

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/MessageBoxButtons.h>
 #include <halvekutils/dialogs/MessageBoxLayout.h>
+#include <halvekutils/platform/Design.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace halvek {
 
 namespace {
 
 // The form as designed.
-constexpr std::int32_t kMessageTop = 120;
+constexpr std::int32_t kMessageTop = design::kMargin;
 constexpr std::int32_t kMessageLeftWithIcon = 690;
 constexpr std::int32_t kMessageLeftAlone = 400;
-constexpr std::int32_t kButtonFrameHeight = 705;
-constexpr Size kButton = {1300, 420};
 constexpr std::int32_t kButtonTop = 135;
+constexpr std::int32_t kButtonBottom = 150;
 constexpr Rect kIcon = {150, 280, 480, 480};
 constexpr std::int32_t kLabelLeft = 105;
 constexpr std::int32_t kLabelTop = 45;
@@ -25,12 +26,14 @@ constexpr std::int32_t kScrollMargin = 30;
 constexpr std::size_t kMeasuredLength = 1000;
 constexpr std::size_t kMeasuredSingleLine = 10'000;
 
+// A line that folds is about this long, which reads well.
+constexpr std::int32_t kReadableLength = 90;
+constexpr std::u16string_view kTypicalLetters = u"the quick brown fox jumps over a lazy dog ";
+
 constexpr std::int32_t kFormMargin = 800;
-constexpr std::int32_t kMessageMargin = 420;
 constexpr std::int32_t kLeastMessageWidth = 4600;
 constexpr std::int32_t kLeastMessageHeight = 800;
 constexpr std::int32_t kMostMessageHeight = 8600;
-constexpr std::int32_t kButtonGap = 80;
 
 bool IsMultiLine(TextIn prompt) {
     return prompt.find(u"\r\n") != std::u16string_view::npos;
@@ -45,27 +48,52 @@ std::int32_t Slack(std::int32_t textHeight) {
     return textHeight > 5000 ? 700 : 100;
 }
 
-Size MultiLineLabel(const MessageBoxContent& content, const TextMeter& meter, Size screen) {
-    const TextIn measured = content.prompt.substr(0, kMeasuredLength);
-    const std::int32_t width = meter.TextWidth(measured, content.font) + 120;
-    const std::int32_t height = meter.TextHeight(content.prompt, content.font);
-    return {std::min(width, screen.width * 4 / 5), height + Slack(height)};
+std::int32_t WidestLabel(Size screen) {
+    return screen.width * 4 / 5;
 }
 
-/// One line that would not fit on the screen, wrapped at the width that several lines may have.
-Size WrappedLineLabel(const MessageBoxContent& content, const TextMeter& meter, Size screen) {
-    const std::int32_t width = screen.width * 4 / 5;
+Size FoldedLabel(const MessageBoxContent& content, const TextMeter& meter, std::int32_t width) {
     const std::int32_t height = meter.WrappedHeight(content.prompt, content.font, width);
     return {width, height + Slack(height)};
 }
 
-Size LabelSize(const MessageBoxContent& content, const TextMeter& meter, Size screen) {
-    if (IsMultiLine(content.prompt)) return MultiLineLabel(content, meter, screen);
+Size MultiLineLabel(const MessageBoxContent& content, const TextMeter& meter, Size screen) {
+    const TextIn measured = content.prompt.substr(0, kMeasuredLength);
+    const std::int32_t width = meter.TextWidth(measured, content.font) + 120;
+    if (width > WidestLabel(screen)) return FoldedLabel(content, meter, WidestLabel(screen));
+    const std::int32_t height = meter.TextHeight(content.prompt, content.font);
+    return {width, height + Slack(height)};
+}
+
+std::int32_t ReadableWidth(const FontSpec& font, const TextMeter& meter) {
+    return meter.TextWidth(kTypicalLetters, font) * kReadableLength /
+           static_cast<std::int32_t>(kTypicalLetters.size());
+}
+
+/// The sizes that suit a prompt, the best one first.
+std::vector<Size> LabelSizes(const MessageBoxContent& content, const TextMeter& meter,
+                             Size screen) {
+    if (IsMultiLine(content.prompt)) return {MultiLineLabel(content, meter, screen)};
     const std::int32_t width = SingleLineWidth(content, meter);
-    if (width + kMessageMargin + kFormMargin > screen.width) {
-        return WrappedLineLabel(content, meter, screen);
+    if (width + MessageBoxLayout::kTextMargin + kFormMargin <= screen.width) {
+        return {{width, meter.TextHeight(content.prompt, content.font)}};
     }
-    return {width, meter.TextHeight(content.prompt, content.font)};
+    const std::int32_t widest = WidestLabel(screen);
+    const std::int32_t readable = std::min(ReadableWidth(content.font, meter), widest);
+    return {FoldedLabel(content, meter, readable), FoldedLabel(content, meter, widest)};
+}
+
+/// The size of each button of a set: the widest caption fits into the desktop's font.
+Size ButtonSize(ButtonsChoice buttons, const TextMeter& meter) {
+    Size widest;
+    for (const MbMsgBoxResult result : ButtonSetOf(buttons).results) {
+        const std::u16string_view caption = CaptionOf(result);
+        if (caption.empty()) continue;
+        const std::u16string_view shown = caption.substr(1);  // without the accelerator's mark
+        widest.width = std::max(widest.width, meter.TextWidth(shown, DesktopFont()));
+        widest.height = std::max(widest.height, meter.TextHeight(shown, DesktopFont()));
+    }
+    return design::ButtonFor(widest);
 }
 
 /// The form's outer height after its limits, which apply in this order: a height just above 9300
@@ -75,46 +103,55 @@ std::int32_t LimitHeight(std::int32_t height) {
     return std::min(height, 8870);
 }
 
-/// The left edges of the buttons in a frame of this width.
-std::array<std::int32_t, 3> ButtonLefts(int count, std::int32_t frame) {
-    const std::int32_t width = kButton.width;
+/// The left edges of buttons of this width in a frame.
+std::array<std::int32_t, 3> ButtonLefts(int count, std::int32_t width, std::int32_t frame) {
     if (count == 1) return {frame / 2 - width / 2};
     if (count == 2) {
-        const std::int32_t first = frame / 2 - width - kButtonGap / 2;
-        return {first, first + width + kButtonGap};
+        const std::int32_t first = frame / 2 - width - design::kGap / 2;
+        return {first, first + width + design::kGap};
     }
     const std::int32_t gap = (frame - 3 * width) / 4;
     const std::int32_t middle = width + 2 * gap;
-    const std::int32_t pull = std::max(gap - kButtonGap, 0);
+    const std::int32_t pull = std::max(gap - design::kGap, 0);
     return {middle - width - gap + pull, middle, middle + width + gap - pull};
 }
 
-void PlaceFrames(MessageBoxLayout& layout, bool hasIcon, Size label) {
+/// How wide a message frame is at least: buttons with large captions want more than usual.
+std::int32_t LeastMessageWidth(int buttonCount, Size button) {
+    const std::int32_t form = buttonCount * button.width + (buttonCount + 1) * design::kGap;
+    return std::max(kLeastMessageWidth, form - kFormMargin);
+}
+
+void PlaceFrames(MessageBoxLayout& layout, const MessageBoxContent& content, Size label,
+                 Size button) {
+    const std::int32_t least = LeastMessageWidth(ButtonCount(content.buttons), button);
     Rect& message = layout.messageFrame;
-    message.left = hasIcon ? kMessageLeftWithIcon : kMessageLeftAlone;
+    message.left = content.hasIcon ? kMessageLeftWithIcon : kMessageLeftAlone;
     message.top = kMessageTop;
-    message.width = label.width + kMessageMargin;
-    if (message.width < kLeastMessageWidth) {
-        message.width = kLeastMessageWidth;
-        label.width = kLeastMessageWidth;
+    message.width = label.width + MessageBoxLayout::kTextMargin;
+    if (message.width < least) {
+        message.width = least;
+        label.width = least;
     }
     message.height = std::clamp(label.height + 90, kLeastMessageHeight, kMostMessageHeight);
     layout.label = {kLabelLeft, kLabelTop, label.width, label.height};
-    layout.buttonFrame = {message.left, message.Bottom(), message.width, kButtonFrameHeight};
+    layout.form.width = message.width + kFormMargin;
+    layout.buttonFrame = {0, message.Bottom(), layout.form.width,
+                          kButtonTop + button.height + kButtonBottom};
 }
 
 void PlaceForm(MessageBoxLayout& layout, Size screen, Size frame) {
     const std::int32_t height = LimitHeight(layout.buttonFrame.Bottom() + frame.height);
-    layout.form = {layout.messageFrame.width + kFormMargin, std::min(height, screen.height)};
+    layout.form.height = std::min(height, screen.height);
     layout.inner = {layout.form.width, layout.form.height - frame.height};
     Rect& buttons = layout.buttonFrame;
     buttons.top = std::min(buttons.top, layout.inner.height - buttons.height);
 }
 
-void PlaceButtons(MessageBoxLayout& layout, int count) {
-    const auto lefts = ButtonLefts(count, layout.buttonFrame.width);
+void PlaceButtons(MessageBoxLayout& layout, int count, Size button) {
+    const auto lefts = ButtonLefts(count, button.width, layout.buttonFrame.width);
     for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i) {
-        layout.buttons[i] = Rect{lefts[i], kButtonTop, kButton.width, kButton.height};
+        layout.buttons[i] = Rect{lefts[i], kButtonTop, button.width, button.height};
     }
 }
 
@@ -141,18 +178,29 @@ void PlaceText(MessageBoxLayout& layout, bool hasButtons, std::int32_t textHeigh
     layout.scrollButtons[1] = {left, kScrollMargin, kScrollButton.width, kScrollButton.height};
 }
 
+MessageBoxLayout LayOutAround(Size label, const MessageBoxContent& content, const TextMeter& meter,
+                              Size screen, Size frame) {
+    MessageBoxLayout layout;
+    const int buttonCount = ButtonCount(content.buttons);
+    const Size button = ButtonSize(content.buttons, meter);
+    PlaceFrames(layout, content, label, button);
+    PlaceForm(layout, screen, frame);
+    PlaceButtons(layout, buttonCount, button);
+    PlaceText(layout, buttonCount > 0,
+              meter.WrappedHeight(content.prompt, content.font, layout.ViewWidth()));
+    if (content.hasIcon) layout.icon = kIcon;
+    return layout;
+}
+
 }  // namespace
 
 MessageBoxLayout LayOutMessageBox(const MessageBoxContent& content, const TextMeter& meter,
                                   Size screen, Size frame) {
     MessageBoxLayout layout;
-    const int buttonCount = ButtonCount(content.buttons);
-    PlaceFrames(layout, content.hasIcon, LabelSize(content, meter, screen));
-    PlaceForm(layout, screen, frame);
-    PlaceButtons(layout, buttonCount);
-    PlaceText(layout, buttonCount > 0,
-              meter.WrappedHeight(content.prompt, content.font, layout.label.width));
-    if (content.hasIcon) layout.icon = kIcon;
+    for (const Size label : LabelSizes(content, meter, screen)) {
+        layout = LayOutAround(label, content, meter, screen, frame);
+        if (!layout.canScroll) break;
+    }
     return layout;
 }
 

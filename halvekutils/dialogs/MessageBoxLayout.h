@@ -25,6 +25,11 @@ struct MessageBoxLayout {
     bool canScroll = false;                      ///< whether the scroll buttons show
     std::int32_t viewHeight = 0;                 ///< how much of the label shows
     std::int32_t scrollRange = 0;                ///< how far the text can move up, to its last line
+
+    /// What the message frame keeps free beside the text, with the scroll buttons in it.
+    static constexpr std::int32_t kTextMargin = 420;
+    /// The width at which the text folds: a label of the least width is wider than its view.
+    std::int32_t ViewWidth() const { return messageFrame.width - kTextMargin; }
 };
 
 /// What a message box's layout is made of besides the text meter.

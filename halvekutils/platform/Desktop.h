@@ -42,7 +42,7 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// Sounds the system beep.
     virtual void Beep() = 0;
 
-    /// Shows the desktop's own message box with an OK button; returns when it is closed.
+    /// Shows a message of the library's own with an OK button; returns when it is closed.
     virtual void ShowStockMessage(TextIn text, StockIcon icon, TextIn title) = 0;
 
     /// Opens the help viewer on a compiled help file, at the topic of a context number, and returns

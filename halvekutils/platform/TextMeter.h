@@ -12,11 +12,16 @@ namespace halvek {
 /// A font as the dialogs' rules choose it.
 struct FontSpec {
     std::u16string face;      ///< empty for the desktop's own interface face
-    std::int32_t points = 9;  ///< the size
+    std::int32_t points = 9;  ///< the size; 0 for the desktop's own
     bool bold = false;        ///< a bold font
 
     friend bool operator==(const FontSpec&, const FontSpec&) = default;
 };
+
+/// The font of the desktop's own buttons.
+inline FontSpec DesktopFont() {
+    return {u"", 0};
+}
 
 /// Measures text in a font. Lines end at CR LF, LF or CR; all lengths are twips.
 class HALVEK_EXPORT TextMeter {

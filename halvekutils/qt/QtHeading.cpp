@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/HeadingBorder.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
@@ -29,8 +30,13 @@ QString SheetOfHost(const QWidget& widget) {
 }
 
 QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palette) {
-    const QColor fore = ToQColor(look.fore, palette);
-    const QString back = look.back ? ToQColor(*look.back, palette).name() : QStringLiteral("none");
+    QColor fore = ToQColor(look.fore, palette);
+    QString back = QStringLiteral("none");
+    if (look.back) {
+        const QColor ground = ToQColor(*look.back, palette);
+        fore = design::Visible(fore, ground, design::kLeastHostContrast);
+        back = ground.name();
+    }
     const bool isLabel = kind == HeadingKind::Label;
     return QStringLiteral(
                "%1 { background: %2; color: %3; %4}\n"

@@ -4,6 +4,7 @@
 #include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/StockMessage.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
 #include <halvekutils/qt/forms/frmColor.h>
@@ -14,13 +15,11 @@
 #include <halvekutils/qt/helpers/CloseBox.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/PlainTextLayout.h>
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QFontMetricsF>
-#include <QMessageBox>
 #include <QScreen>
-#include <QTextDocument>
 #include <QThread>
 
 #include <algorithm>
@@ -52,12 +51,6 @@ void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
     QFont::insertSubstitution(wanted, QFontDatabase::systemFont(closest).family());
 }
 
-QString WithPlainLineEnds(TextIn text) {
-    return ToQString(text)
-        .replace(QLatin1String("\r\n"), QLatin1String("\n"))
-        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
-}
-
 }  // namespace
 
 struct QtPlatform::Private {
@@ -83,30 +76,17 @@ QtPlatform::~QtPlatform() {
 }
 
 std::int32_t QtPlatform::TextWidth(TextIn text, const FontSpec& font) const {
-    const QFontMetricsF metrics(ToQFont(font));
-    double widest = 0;
-    for (const QString& line : WithPlainLineEnds(text).split(QLatin1Char('\n'))) {
-        widest = std::max(widest, metrics.horizontalAdvance(line));
-    }
-    return PixelsToTwips(std::ceil(widest));
+    return PixelsToTwips(std::ceil(PlainTextLayout(ToQString(text), ToQFont(font)).Width()));
 }
 
 std::int32_t QtPlatform::TextHeight(TextIn text, const FontSpec& font) const {
-    const auto lines = WithPlainLineEnds(text).count(QLatin1Char('\n')) + 1;
-    const double spacing = QFontMetricsF(ToQFont(font)).lineSpacing();
-    return PixelsToTwips(std::ceil(static_cast<double>(lines) * spacing));
+    return PixelsToTwips(std::ceil(PlainTextLayout(ToQString(text), ToQFont(font)).Height()));
 }
 
 std::int32_t QtPlatform::WrappedHeight(TextIn text, const FontSpec& font,
                                        std::int32_t width) const {
-    const QString shown = ToQString(text);
-    QTextDocument document;
-    document.setDocumentMargin(0);
-    document.setDefaultFont(ToQFont(font));
-    document.setDefaultTextOption(WrappingOf(shown));
-    document.setPlainText(shown);
-    document.setTextWidth(TwipsToPixels(width));
-    return PixelsToTwips(std::ceil(document.size().height()));
+    PlainTextLayout layout(ToQString(text), ToQFont(font));
+    return PixelsToTwips(std::ceil(layout.FoldedHeight(TwipsToPixels(width))));
 }
 
 void QtPlatform::Beep() {
@@ -114,14 +94,7 @@ void QtPlatform::Beep() {
 }
 
 void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
-    QMessageBox box;
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToQString(text));
-    box.setWindowTitle(ToWindowTitle(title));
-    box.setIcon(icon == StockIcon::Critical ? QMessageBox::Critical : QMessageBox::NoIcon);
-    box.setAttribute(Qt::WA_QuitOnClose, false);
-    SetOwner(box, CurrentOwner());
-    box.exec();
+    frmMessageBox(MakeStockMessage(text, icon, title, *this)).ShowModal();
 }
 
 void QtPlatform::ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) {

@@ -11,7 +11,6 @@ namespace {
 
 constexpr Color kHeaderBackground = Rgb(250, 212, 135);
 constexpr Color kDescriptionBackground = Rgb(235, 235, 235);
-constexpr Color kDeletedText = Rgb(255, 0, 0);
 constexpr Color kAllCodesText = Rgb(0, 0, 255);
 
 std::u16string ToolTipOf(std::u16string_view text) {

@@ -16,6 +16,9 @@ namespace halvek {
 /// The description of the entry that stands for all codes.
 inline constexpr std::u16string_view kAllCodesName = u" *** ALL CODES *** ";
 
+/// The colour of a deleted entry.
+inline constexpr Color kDeletedText = Rgb(255, 0, 0);
+
 /// The font of the check and code rows.
 inline FontSpec CodeFont() {
     return {u"tahoma", 8};
@@ -49,6 +52,9 @@ struct SelectCell {
     std::optional<Color> textColor;   ///< nothing for the desktop's own
     Alignment alignment = Alignment::Left;  ///< where the text stands
     FontSpec font;                          ///< of the text
+
+    /// Whether the text is struck out: not everybody tells a deleted entry by its colour.
+    bool IsStruckOut() const { return textColor == kDeletedText; }
 };
 
 /// A cell of the grid: row 0 is the header, columns run from 1 to 10.

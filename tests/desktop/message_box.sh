@@ -28,7 +28,7 @@ click_second_button() {
     local width height
     width=$(length_of "$1" Width)
     height=$(length_of "$1" Height)
-    click "$1" $(((690 + (width * 15 - 800) / 2 + 40 + 650) / 15)) $((height - 24))
+    click "$1" $(((width * 15 / 2 + 40 + 650) / 15)) $((height - 24))
 }
 
 start_desktop

@@ -89,9 +89,11 @@ TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
         {Letters(36), true, {7600, 200}, 8820},
         {Letters(60) + u"\n" + Letters(9), false, {6600, 400}, 7820},
         {Letters(181), false, {18700, 200}, 19920},
-        {Letters(182), false, {16000, 500}, 17220},  // would be wider than the screen
+        {Letters(182), false, {9000, 700}, 10220},      // would be wider than the screen
+        {Letters(9000), false, {16000, 12100}, 17220},  // and here too high as well
         {u"head\r\n" + Letters(41), true, {4220, 500}, 5440},
-        {u"head\r\n" + Letters(159), false, {16000, 500}, 17220},
+        {u"head\r\n" + Letters(158), false, {15920, 500}, 17140},
+        {u"head\r\n" + Letters(161), false, {16000, 700}, 17220},           // folds
         {Lines(167) + u"\r\n" + Letters(100), false, {4600, 34300}, 5400},  // behind 1000
     };
     desktop_.SetScreenSize({20000, 11520});
@@ -168,7 +170,7 @@ TEST_F(MessageBoxTest, ScrollingStopsAtBothEnds) {
 
 TEST_F(MessageBoxTest, ButtonsStandInTheMiddleOfTheirFrame) {
     const std::pair<ButtonsChoice, std::array<std::int32_t, 3>> rows[] = {
-        {mbOkOnly, {4860}}, {mbYesNo, {4170, 5550}}, {mbYesNoHelp, {3480, 4860, 6240}}};
+        {mbOkOnly, {5260}}, {mbYesNo, {4570, 5950}}, {mbYesNoHelp, {3880, 5260, 6640}}};
     for (const auto& [buttons, lefts] : rows) {
         const MessageBoxLayout layout = LayOut(Letters(100), buttons);
         for (std::size_t i = 0; i < 3; ++i) {

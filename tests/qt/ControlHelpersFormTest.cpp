@@ -62,6 +62,17 @@ TEST_F(ControlHelpersFormTest, HighlightsShowOnAnyFormAndGoAgain) {
     }
 }
 
+TEST_F(ControlHelpersFormTest, AHighlightWhoseColorsAreAlikeIsReadable) {
+    QLabel label("IIII");
+    label.setFont(QFont("Tahoma", 24));
+    const Color colors[][2] = {{kBlack, kBlack}, {kWhite, kWhite}, {kButtonFace, kButtonFace}};
+    for (const auto& [back, fore] : colors) {
+        utils_->InitOtherSettings(back, fore, u"", 1, 0);
+        utils_->HighlightHeading(AsHeading(&label));
+        EXPECT_TRUE(Shows(label.grab(), back == kBlack ? Qt::white : Qt::black, 80)) << back;
+    }
+}
+
 TEST_F(ControlHelpersFormTest, ComboBoxesAreFilledAndSearched) {
     QComboBox box;
     const std::pair<TextIn, int> fillings[] = {{u"A:B:", 2}, {u":", 1}, {u"", 0}};

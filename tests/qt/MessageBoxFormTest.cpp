@@ -8,9 +8,13 @@
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/helpers/Design.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextEdit>
@@ -124,6 +128,59 @@ TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
     }
 }
 
+// Dropped, whatever it would do: what the keyboard repeats of a key that was down before the box.
+TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
+    for (const QKeyCombination held :
+         {QKeyCombination(Qt::Key_Return), QKeyCombination(Qt::Key_Space),
+          QKeyCombination(Qt::Key_Y), QKeyCombination(Qt::AltModifier | Qt::Key_Y)}) {
+        const auto repeat = [&](QDialog& box) {
+            for (int i = 0; i < 3; ++i) {
+                // Not marked as repeated: two events of the same time.
+                for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+                    QKeyEvent event(type, held.key(), held.keyboardModifiers());
+                    event.setTimestamp(static_cast<quint64>(100 + i));
+                    QCoreApplication::sendEvent(box.windowHandle(), &event);
+                }
+                qt_handleKeyEvent(box.windowHandle(), QEvent::KeyPress, held.key(),
+                                  held.keyboardModifiers(), QStringLiteral("y"), true);
+                EXPECT_TRUE(box.isVisible()) << held.toCombined();
+            }
+            EXPECT_TRUE(Find<QTimer>(box, "tmrUnload").isActive());
+            PressKey(box, held);
+        };
+        EXPECT_EQ(Answer(mbYesNo, repeat, u"Go on?", u"Visit", 9), mbYes) << held.toCombined();
+    }
+}
+
+TEST_F(MessageBoxFormTest, CopyTakesTheSelectionOrElseTheMessage) {
+    QClipboard& clipboard = *QApplication::clipboard();
+    const auto copy = [&](QDialog& box) {
+        auto& text = Find<QTextEdit>(box, "lblText");
+        const auto choose = [&](int action) {
+            QContextMenuEvent ask(QContextMenuEvent::Mouse, {}, text.mapToGlobal(QPoint(4, 4)));
+            QCoreApplication::sendEvent(text.viewport(), &ask);
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            ASSERT_EQ(menu->actions().size(), 2);
+            EXPECT_EQ(menu->actions()[0]->isEnabled(), text.textCursor().hasSelection());
+            menu->actions()[action]->trigger();
+            menu->close();
+        };
+        const QString message = "Visit\r\n\r\nfirst\r\nline\r\n\r\nOK   Cancel";
+        choose(1);
+        EXPECT_EQ(clipboard.text(), message);
+        QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, text.mapTo(&box, QPoint(4, 4)));
+        PressKey(box, Qt::ControlModifier | Qt::Key_C);
+        EXPECT_EQ(clipboard.text(), "first");
+        choose(1);
+        EXPECT_EQ(clipboard.text(), message);
+        choose(0);
+        EXPECT_EQ(clipboard.text(), "first");
+        PressKey(box, Qt::Key_C);
+    };
+    EXPECT_EQ(Answer(mbOkCancel, copy, Lines(2)), mbCancel);
+}
+
 TEST_F(MessageBoxFormTest, OnlyControlCCopies) {
     QClipboard& clipboard = *QApplication::clipboard();
     for (const QKeyCombination other :
@@ -191,8 +248,13 @@ TEST_F(MessageBoxFormTest, ACountdownTicksOnceASecondAndAKeyStopsIt) {
 
     for (const auto key : {Qt::Key_Q, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_Shift}) {
         const auto stop = [&](QDialog& box) {
+            EXPECT_TRUE(Find(box, "Countdown").isVisible());
+            EXPECT_EQ(box.accessibleDescription(),
+                      "Go on?\nCloses by itself after 3 seconds; any key stops it");
             PressKey(box, key);
             EXPECT_FALSE(Find<QTimer>(box, "tmrUnload").isActive()) << key;
+            EXPECT_FALSE(Find(box, "Countdown").isVisible());
+            EXPECT_EQ(box.accessibleDescription(), "Go on?");
             PressKey(box, Qt::Key_N);
         };
         EXPECT_EQ(Answer(mbYesNo, stop, u"Go on?", u"Visit", 3), mbNo);
@@ -317,6 +379,55 @@ TEST_F(MessageBoxFormTest, TheFocusIsSeenFromTheBeginning) {
         });
         EXPECT_EQ(utils_->ShowMsgBox(u"Go on?", mbYesNo, mbNoIcon, u"", background), mbNo);
     }
+}
+
+/// How well the darkest and the lightest point of a picture are told apart.
+double ContrastIn(const QImage& picture) {
+    QColor darkest(Qt::white);
+    QColor lightest(Qt::black);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor point = picture.pixelColor(x, y);
+            if (point.lightness() < darkest.lightness()) darkest = point;
+            if (point.lightness() > lightest.lightness()) lightest = point;
+        }
+    }
+    return design::Contrast(darkest, lightest);
+}
+
+TEST_F(MessageBoxFormTest, TextOfAnyColorsIsReadable) {
+    const auto scheme = [](std::uint32_t number) {
+        return static_cast<Color>(0x80000000 + number);
+    };
+    const std::pair<Color, Color> rows[] = {{kBlack, kBlack},         {kWhite, kWhite},
+                                            {scheme(5), scheme(8)},   {scheme(13), scheme(14)},
+                                            {scheme(2), scheme(9)},   {scheme(24), scheme(23)},
+                                            {scheme(15), scheme(15)}, {-1, -1}};
+    for (const auto& [skin, text] : rows) {
+        utils_->InitPrefs(StringArray(), skin, text, 0, 0);
+        const User user([](QDialog& box) {
+            EXPECT_GE(ContrastIn(Find(box, "lblText").grab().toImage()), 2);
+            PressKey(box, Qt::Key_O);
+        });
+        EXPECT_EQ(utils_->ShowMsgBox(u"Go on?", mbOkOnly, mbNoIcon, u"", mbSkinColor), mbOK);
+    }
+    const QPalette& palette = QApplication::palette();
+    EXPECT_EQ(ToQColor(scheme(5), palette), palette.color(QPalette::Base));
+    EXPECT_EQ(ToQColor(scheme(25), palette), palette.color(QPalette::Button));
+}
+
+TEST_F(MessageBoxFormTest, AMessageOfTheLibrarysOwnIsABoxLikeAnyOther) {
+    TheSession() = Session();
+    Services::Install(nullptr);
+    const User user([](QDialog& box) {
+        EXPECT_EQ(box.objectName(), "frmMessageBox");
+        EXPECT_EQ(box.windowTitle(), "Front Desk");
+        EXPECT_EQ(Find<QTextEdit>(box, "lblText").toPlainText(), "File <b> is not found.");
+        EXPECT_EQ(Find(box, "Image1").accessibleName(), "Critical");
+        PressKey(box, Qt::Key_Escape);
+    });
+    desktop_.ShowStockMessage(u"File <b> is not found.", StockIcon::Critical, u"Front Desk");
+    EXPECT_TRUE(user.HasActed());
 }
 
 TEST_F(MessageBoxFormTest, EveryControlHasANameAndARole) {

@@ -242,6 +242,19 @@ QString ColourOf(const QImage& image) {
     return "";
 }
 
+/// Whether a picture shows a red line, as long as no letter is wide.
+bool HasRedLine(const QImage& image) {
+    constexpr int kWiderThanALetter = 12;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0, length = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            length = pixel.red() > 150 && pixel.red() > 2 * pixel.green() ? length + 1 : 0;
+            if (length > kWiderThanALetter) return true;
+        }
+    }
+    return false;
+}
+
 TEST_F(SelectGridFormTest, FixedColoursHoldOnADarkDesktopToo) {
     const QPalette light = QApplication::palette();
     QPalette dark(QColor(50, 50, 50), QColor(30, 30, 30));
@@ -254,6 +267,7 @@ TEST_F(SelectGridFormTest, FixedColoursHoldOnADarkDesktopToo) {
             const QImage image = seen.grid.viewport()->grab(place).toImage();
             EXPECT_EQ(image.pixelColor(2, image.height() - 4), QColor(235, 235, 235));
             EXPECT_EQ(ColourOf(image), colour) << entry;
+            EXPECT_EQ(HasRedLine(image), entry == 3) << "deleted entries are struck out";
         }
     });
     QApplication::setPalette(light);

@@ -3,6 +3,7 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/StaleKeys.h>
 
 #include <QCloseEvent>
 #include <QPushButton>
@@ -17,6 +18,7 @@ DialogForm::DialogForm(std::shared_ptr<Dialog> rules, const char16_t* name)
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    new StaleKeys(*this);
 }
 
 DialogForm::~DialogForm() {

@@ -17,7 +17,8 @@ namespace halvek {
 /// they have ended.
 ///
 /// It has a title bar with a close box and no QObject parent, and never keeps the application
-/// running. Whatever QDialog would make of a key is left to the rules.
+/// running. Whatever QDialog would make of a key is left to the rules; a key that was held down
+/// when it opened does nothing.
 class DialogForm : public QDialog {
     Q_OBJECT
 

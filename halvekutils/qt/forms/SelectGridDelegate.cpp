@@ -40,7 +40,9 @@ void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
                   const QColor& color) {
     const QRect inner = area.adjusted(kTextMargin, 0, -kTextMargin, 0);
     const QString text = ToQString(std::u16string_view(cell.text).substr(0, kMaxShown));
-    painter.setFont(ToQFont(cell.font));
+    QFont font = ToQFont(cell.font);
+    font.setStrikeOut(cell.IsStruckOut());
+    painter.setFont(font);
     painter.setPen(color);
     const bool centred = cell.alignment == SelectCell::Alignment::Centre;
     painter.drawText(

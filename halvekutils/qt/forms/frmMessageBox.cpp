@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/dialogs/MessageBoxButtons.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/forms/CountdownLine.h>
 #include <halvekutils/qt/forms/MessageIcons.h>
+#include <halvekutils/qt/forms/MessagePalette.h>
+#include <halvekutils/qt/forms/MessageText.h>
 #include <halvekutils/qt/forms/frmMessageBox.h>
 #include <halvekutils/qt/helpers/CloseBox.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTextEdit>
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace halvek {
@@ -44,13 +45,6 @@ unsigned ModifiersOf(const QKeyEvent& event) {
     return modifiers;
 }
 
-/// The colour of the focus, dark enough for a light button though the desktop may be dark.
-QColor OnLightFace(const QColor& highlight) {
-    constexpr int kMostLightness = 100;
-    return QColor::fromHsl(highlight.hslHue(), highlight.hslSaturation(),
-                           std::min(highlight.lightness(), kMostLightness));
-}
-
 QFrame* MakeFrame(QWidget* parent, const char* name, const Rect& place) {
     auto* const frame = new QFrame(parent);
     frame->setObjectName(QLatin1String(name));
@@ -64,18 +58,22 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
     : DialogForm(box, u"frmMessageBox"),
       box_(std::move(box)),
       textFrame_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
-      buttonFrame_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)) {
+      buttonFrame_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)),
+      countdownLine_(new CountdownLine(this)) {
     if (!box_->HasCloseBox()) RemoveCloseBox(*this);
     const Size inner = box_->Layout().inner;
     setFixedSize(TwipsToPixels(inner.width), TwipsToPixels(inner.height));
-    const QPalette desktop = palette();
-    ApplyColors(desktop);  // before the parts, which take their palettes when they are made
+    const QPalette buttonColors = MessageButtonPalette(box_->Colors(), palette());
+    // Before the parts, which take their palettes when they are made.
+    setPalette(MessagePalette(box_->Colors(), palette()));
     BuildText();
-    BuildButtons(ButtonPalette(desktop));
-    BuildScrollButtons(ButtonPalette(desktop));
+    BuildButtons(buttonColors);
+    BuildScrollButtons(buttonColors);
     BuildIcon();
+    countdownLine_->setFixedWidth(width());
     countdown_.setObjectName(QLatin1String("tmrUnload"));
     countdown_.setInterval(kOneSecond);
+    Describe();
     connect(&countdown_, &QTimer::timeout, this,
             [this] { GuardEvent(u"frmMessageBox.tmrUnload_Timer", [this] { box_->Tick(); }); });
 }
@@ -89,29 +87,10 @@ void frmMessageBox::BuildIcon() {
 }
 
 void frmMessageBox::BuildText() {
-    const MessageBoxLayout& layout = box_->Layout();
-    text_ = new QTextEdit(textFrame_);
-    text_->setObjectName(QLatin1String("lblText"));
-    text_->setAccessibleName(tr("Message"));
-    text_->setReadOnly(true);
-    text_->setUndoRedoEnabled(false);
-    text_->setFocusPolicy(Qt::NoFocus);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    text_->setFrameShape(QFrame::NoFrame);
-    text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text_->document()->setDocumentMargin(0);
-    text_->setFont(ToQFont(box_->Font()));
-    Rect place = layout.label;
-    place.height = layout.viewHeight;
-    text_->setGeometry(ToQRect(place));
-    text_->setWordWrapMode(WrappingOf(ToQString(box_->Prompt())).wrapMode());
-    text_->setPlainText(ToQString(box_->Prompt()));
-    text_->viewport()->installEventFilter(this);
+    text_ = new MessageText(*box_, textFrame_);
     connect(text_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
         GuardEvent(u"frmMessageBox.lblText_Scroll", [this, value] { TextScrolled(value); });
     });
-    setAccessibleDescription(ToQString(box_->Prompt()).left(kDescriptionLength));
 }
 
 void frmMessageBox::BuildButtons(const QPalette& colors) {
@@ -119,10 +98,9 @@ void frmMessageBox::BuildButtons(const QPalette& colors) {
     for (int i = 0; i < 3; ++i) {
         const auto& place = box_->Layout().buttons[static_cast<std::size_t>(i)];
         if (!place) continue;
-        auto* const button = new QPushButton(ToQString(box_->ButtonCaption(i)), buttonFrame_);
-        button->setObjectName(QStringLiteral("arrCmd_%1").arg(i));
-        button->setAccessibleName(button->text().remove(QLatin1Char('&')));
-        button->setAutoDefault(false);
+        auto* const button = design::NewButton(qPrintable(QStringLiteral("arrCmd_%1").arg(i)),
+                                               ToQString(box_->ButtonCaption(i)), buttonFrame_);
+        button->setFont(ToQFont(DesktopFont()));
         button->setPalette(colors);
         button->setGeometry(ToQRect(*place));
         button->installEventFilter(this);
@@ -154,29 +132,6 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
     }
 }
 
-void frmMessageBox::ApplyColors(const QPalette& desktop) {
-    const MessageBoxColors colors = box_->Colors();
-    const QColor background = ToQColor(colors.background, desktop);
-    const QColor text =
-        colors.text ? ToQColor(*colors.text, desktop) : desktop.color(QPalette::ButtonText);
-    QPalette scheme = desktop;
-    for (const auto role : {QPalette::Window, QPalette::Base}) scheme.setColor(role, background);
-    for (const auto role : {QPalette::WindowText, QPalette::Text}) scheme.setColor(role, text);
-    setPalette(scheme);
-}
-
-QPalette frmMessageBox::ButtonPalette(const QPalette& desktop) const {
-    QPalette buttons = desktop;
-    const auto face = box_->Colors().buttonFace;
-    if (face && !IsSchemeColor(*face)) {
-        buttons.setColor(QPalette::Button, ToQColor(*face, desktop));
-        buttons.setColor(QPalette::ButtonText, Qt::black);
-        buttons.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
-        buttons.setColor(QPalette::Highlight, OnLightFace(desktop.color(QPalette::Highlight)));
-    }
-    return buttons;
-}
-
 QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
     const Size form = box_->Layout().form;
     const QSize outer(TwipsToPixels(form.width), TwipsToPixels(form.height));
@@ -190,10 +145,18 @@ void frmMessageBox::Refresh() {
     setWindowTitle(ToWindowTitle(box_->Caption()));
     if (box_->CountdownRunning() != countdown_.isActive()) {
         box_->CountdownRunning() ? countdown_.start() : countdown_.stop();
+        Describe();
     }
+    countdownLine_->Follow(*box_);
     text_->verticalScrollBar()->setValue(ScrolledPixels());
     scrollButtons_[0]->setEnabled(!AtLastLine());
     scrollButtons_[1]->setEnabled(box_->ScrollOffset() < 0);
+}
+
+void frmMessageBox::Describe() {
+    const QString prompt = ToQString(box_->Prompt()).left(kDescriptionLength);
+    const QString countdown = CountdownText(*box_);
+    setAccessibleDescription(countdown.isEmpty() ? prompt : prompt + QLatin1Char('\n') + countdown);
 }
 
 bool frmMessageBox::AtLastLine() const {
@@ -213,10 +176,6 @@ void frmMessageBox::TextScrolled(int pixels) {
 }
 
 bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && watched == text_->viewport()) {
-        wheelEvent(static_cast<QWheelEvent*>(event));
-        return true;
-    }
     if (event->type() != QEvent::KeyPress) return DialogForm::eventFilter(watched, event);
     auto* const key = static_cast<QKeyEvent*>(event);
     for (int i = 0; i < 3; ++i) {
@@ -235,7 +194,7 @@ bool frmMessageBox::ButtonKey(int index, const QKeyEvent& event) {
         return true;
     }
     const MessageBox::KeyAction action = box_->KeyDown(KeyCodeOf(event), ModifiersOf(event));
-    if (action == MessageBox::KeyAction::Copy) Copy();
+    if (action == MessageBox::KeyAction::Copy) text_->Copy();
     Refresh();
     return action != MessageBox::KeyAction::None || ScrollKey(event.key());
 }
@@ -266,16 +225,13 @@ std::int32_t frmMessageBox::LineHeight() const {
     return PixelsToTwips(text_->fontMetrics().lineSpacing());
 }
 
-void frmMessageBox::Copy() const {
-    QGuiApplication::clipboard()->setText(ToQString(box_->CopyText()));
-}
-
 // Reached by keys that no button took. QDialog would end the box on Escape; the rules decide here.
 void frmMessageBox::keyPressEvent(QKeyEvent* event) {
     GuardEvent(u"frmMessageBox.Form_KeyPress", [this, event] {
         if (KeyCodeOf(*event) == 'C' && ModifiersOf(*event) == MessageBox::kControl) {
             box_->KeyDown('C', MessageBox::kControl);
-            Copy();
+            text_->Copy();
+            Refresh();
         } else if (IsEnter(*event)) {
             box_->FormKeyPress(13);
         } else if (event->key() == Qt::Key_Escape) {

@@ -11,10 +11,12 @@
 
 class QFrame;
 class QPushButton;
-class QTextEdit;
 class QToolButton;
 
 namespace halvek {
+
+class CountdownLine;
+class MessageText;
 
 /// The window of a message box.
 class frmMessageBox : public DialogForm {
@@ -37,21 +39,20 @@ class frmMessageBox : public DialogForm {
     void BuildText();
     void BuildButtons(const QPalette& colors);
     void BuildScrollButtons(const QPalette& colors);
-    void ApplyColors(const QPalette& desktop);
-    QPalette ButtonPalette(const QPalette& desktop) const;
     void BuildIcon();
+    void Describe();
     bool AtLastLine() const;
     int ScrolledPixels() const;
     void TextScrolled(int pixels);
     bool ButtonKey(int index, const QKeyEvent& event);
     bool ScrollKey(int key);
     std::int32_t LineHeight() const;
-    void Copy() const;
 
     std::shared_ptr<MessageBox> box_;
     QFrame* textFrame_;
     QFrame* buttonFrame_;
-    QTextEdit* text_ = nullptr;
+    CountdownLine* countdownLine_;
+    MessageText* text_ = nullptr;
     std::array<QPushButton*, 3> buttons_{};
     std::array<QToolButton*, 2> scrollButtons_{};
     QTimer countdown_{this};

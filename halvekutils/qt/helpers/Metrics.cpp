@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QScreen>
 
+#include <iterator>
+
 namespace halvek {
 
 namespace {
@@ -13,6 +15,47 @@ namespace {
 double LogicalDpi() {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 96.0 : screen->logicalDotsPerInch();
+}
+
+struct SchemeRow {
+    QPalette::ColorRole role;
+    QPalette::ColorGroup group = QPalette::Active;
+};
+
+// The colours of a desktop's scheme, in the order of their numbers.
+constexpr SchemeRow kScheme[] = {
+    {QPalette::Midlight},                             // scroll bar
+    {QPalette::Dark},                                 // desktop
+    {QPalette::Highlight},                            // active caption
+    {QPalette::Highlight, QPalette::Inactive},        // inactive caption
+    {QPalette::Window},                               // menu
+    {QPalette::Base},                                 // window
+    {QPalette::WindowText},                           // window frame
+    {QPalette::WindowText},                           // menu text
+    {QPalette::Text},                                 // window text
+    {QPalette::HighlightedText},                      // caption text
+    {QPalette::Button},                               // active border
+    {QPalette::Button, QPalette::Inactive},           // inactive border
+    {QPalette::Dark},                                 // application's workspace
+    {QPalette::Highlight},                            // highlight
+    {QPalette::HighlightedText},                      // highlighted text
+    {QPalette::Button},                               // button face
+    {QPalette::Dark},                                 // button shadow
+    {QPalette::WindowText, QPalette::Disabled},       // disabled text
+    {QPalette::ButtonText},                           // button text
+    {QPalette::HighlightedText, QPalette::Inactive},  // inactive caption text
+    {QPalette::Light},                                // button highlight
+    {QPalette::Shadow},                               // dark shadow
+    {QPalette::Midlight},                             // light edge
+    {QPalette::ToolTipText},                          // tool tip text
+    {QPalette::ToolTipBase},                          // tool tip
+};
+
+/// A colour of the desktop's scheme; the button face for a number that names none.
+QColor SchemeColor(Color color, const QPalette& palette) {
+    const auto number = static_cast<std::uint32_t>(color) & 0x7FFFFFFF;
+    if (number >= std::size(kScheme)) return palette.color(QPalette::Button);
+    return palette.color(kScheme[number].group, kScheme[number].role);
 }
 
 }  // namespace
@@ -37,7 +80,7 @@ Rect ToRect(const QRect& rect) {
 QFont ToQFont(const FontSpec& font) {
     QFont result = QApplication::font();
     if (!font.face.empty()) result.setFamily(ToQString(font.face));
-    result.setPointSize(font.points);
+    if (font.points > 0) result.setPointSize(font.points);
     result.setBold(font.bold);
     return result;
 }
@@ -56,7 +99,7 @@ QTextOption WrappingOf(const QString& text) {
 }
 
 QColor ToQColor(Color color, const QPalette& palette) {
-    if (IsSchemeColor(color)) return palette.color(QPalette::Button);
+    if (IsSchemeColor(color)) return SchemeColor(color, palette);
     return QColor(RedOf(color), GreenOf(color), BlueOf(color));
 }
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <halvekutils/platform/Design.h>
+
+#include <QColor>
+#include <QPalette>
+
+#include <initializer_list>
+
+class QLayout;
+class QPainter;
+class QPushButton;
+class QRectF;
+class QString;
+class QWidget;
+
+/// The look that all windows share; lengths are logical pixels.
+namespace halvek::design {
+
+inline constexpr double kRingWidth = 2;  ///< of the ring around what has the focus
+inline constexpr double kCorner = 3;     ///< the radius of rounded corners
+
+int Margin();
+int Gap();
+
+/// Gives a layout the margin around it and the gap between its parts.
+void SpaceOut(QLayout& layout);
+
+/// How well two colours are told apart, from 1 to 21; 3 does for lines, 4.5 for text.
+double Contrast(const QColor& one, const QColor& other);
+
+/// The least contrast of two colours that a host has chosen; below it nobody can read the text.
+inline constexpr double kLeastHostContrast = 2;
+
+/// The first colour where it stands out from the ground, else black or white.
+QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
+
+/// A colour between two: `share` per cent of the first.
+QColor Blended(const QColor& one, const QColor& other, int share);
+
+/// Draws the ring just inside the area.
+void PaintRing(QPainter& painter, const QRectF& area, const QColor& color);
+
+/// A push button of the family: with the ring when it has the focus, never pressed by an Enter
+/// that is meant for something else.
+QPushButton* NewButton(const char* name, const QString& caption, QWidget* parent = nullptr);
+
+/// Makes buttons that stand together as wide and as high as the widest of their captions asks.
+void MakeAlike(std::initializer_list<QPushButton*> buttons);
+
+}  // namespace halvek::design

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace halvek {
+
+/// The ring on top of a button that has the focus; some styles show a focus by a line that nobody
+/// sees.
+class FocusRing : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Goes with the button.
+    explicit FocusRing(QWidget& button);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+}  // namespace halvek
