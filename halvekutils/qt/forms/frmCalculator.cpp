@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/CalculatorStatus.h>
 #include <halvekutils/qt/forms/FlashButton.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
@@ -17,12 +18,7 @@ namespace halvek {
 
 namespace {
 
-// In twips.
-constexpr std::int32_t kSpace = 90;
-constexpr std::int32_t kMargin = 180;
-
-// In points.
-constexpr std::int32_t kDisplayFont = 16;
+constexpr double kDisplayFont = 1.8;  // times the desktop's
 
 const char* const kLongestNumber = "-8.88888888888888E+888";
 
@@ -38,13 +34,10 @@ frmCalculator::frmCalculator(const std::shared_ptr<Calculator>& rules, const Des
       keys_(rules_, *box_) {
     setWindowTitle(tr("Calculator"));
     BuildBox();
-    const int space = TwipsToPixels(kSpace);
-    const int margin = TwipsToPixels(kMargin);
-    status_->setSpacing(space);
-    pad_->setSpacing(space);
+    status_->setSpacing(design::Gap());
+    pad_->setSpacing(design::Gap());
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(space);
+    design::SpaceOut(*column);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(box_);
     column->addLayout(status_);
@@ -60,7 +53,7 @@ void frmCalculator::BuildBox() {
     box_->setObjectName(QLatin1String("txtOutput"));
     box_->setAccessibleName(tr("Display"));
     box_->setAlignment(Qt::AlignRight);
-    box_->setFont(ToQFont({{}, kDisplayFont}));
+    box_->setFont(design::ScaledFont(kDisplayFont));
     const QFontMetrics metrics(box_->font());
     const int around = metrics.averageCharWidth() * 2;
     box_->setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);
