@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/DateText.h>
+#include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
@@ -94,7 +95,11 @@ void DebugConsole::Clear() {
     NotifyChanged();
 }
 
-void DebugConsole::SaveToFile() noexcept {
+std::u16string DebugConsole::LogFile() const noexcept {
+    return Quietly(std::u16string(), [&] { return FromUtf8(FileOf(*session_.machine).native()); });
+}
+
+bool DebugConsole::SaveToFile() noexcept {
     const auto save = [&] {
         const std::u16string stamp = DateTimeText(session_.machine->Now());
         std::u16string saved(stamp);
@@ -102,11 +107,11 @@ void DebugConsole::SaveToFile() noexcept {
         session_.machine->Append(FileOf(*session_.machine), ToCodePage(saved));
         return true;
     };
-    Quietly(false, save);
+    return Quietly(false, save);
 }
 
-void DebugConsole::KillLogFile() noexcept {
-    Quietly(false, [&] {
+bool DebugConsole::KillLogFile() noexcept {
+    return Quietly(false, [&] {
         session_.machine->Delete(FileOf(*session_.machine));
         return true;
     });

@@ -52,6 +52,9 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     /// Whether the window stays above all others.
     bool KeptOnTop() const { return keptOnTop_; }
 
+    /// The path of DEBUG.log; empty when it cannot be told.
+    std::u16string LogFile() const noexcept;
+
     /// Called after every change.
     std::function<void()> Changed;
 
@@ -65,11 +68,11 @@ class HALVEK_EXPORT DebugConsole : public std::enable_shared_from_this<DebugCons
     void KeepOnTop(bool keep);
     /// cmdClear and F7: empties the text.
     void Clear();
-    /// Command1: appends the text to DEBUG.log in the component's own folder, in Windows-1252. A
-    /// failure is not reported.
-    void SaveToFile() noexcept;
-    /// Command2: deletes that file. A failure is not reported.
-    void KillLogFile() noexcept;
+    /// Command1: appends the text to DEBUG.log in the component's own folder, in Windows-1252.
+    /// Returns false on a failure, which is not reported further.
+    bool SaveToFile() noexcept;
+    /// Command2: deletes that file. Returns false on a failure, which is not reported further.
+    bool KillLogFile() noexcept;
 
   private:
     bool MayShow() const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/dialogs/ColorName.h>
 #include <halvekutils/dialogs/ColorPalette.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
@@ -46,7 +47,8 @@ const PaletteCell& ColorPalette::CellAt(int cell) const {
 
 std::u16string ColorPalette::CellName(int cell) const {
     const PaletteCell& shown = CellAt(cell);
-    return u"Color " + IntegerText(shown.index) + u": " + IntegerText(shown.color);
+    return ColorName(shown.color) + u", " + IntegerText(shown.index) + u" (" +
+           ColorHex(shown.color) + u')';
 }
 
 void ColorPalette::Click(int cell) {

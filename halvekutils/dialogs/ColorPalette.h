@@ -58,7 +58,7 @@ class HALVEK_EXPORT ColorPalette : public Dialog {
     /// The cell that the keys have moved to.
     int Current() const { return current_; }
 
-    /// What a tool tip and a screen reader say of a cell: "Color 7: 255".
+    /// What a tool tip and a screen reader say of a cell: "light pink, 8 (#FFB6C1)".
     std::u16string CellName(int cell) const;
 
     /// Where the palette is asked to open.

@@ -12,6 +12,7 @@ namespace {
 constexpr Size kCell = {600, 600};
 constexpr std::int32_t kFrameBorder = 50;
 constexpr std::int32_t kFrameBorders = 2 * kFrameBorder;
+// A cell has room around its swatch; with it the margin is that of the other windows.
 constexpr std::int32_t kMargin = 90;
 
 }  // namespace
@@ -32,17 +33,21 @@ std::int32_t PaletteHeight(int rows) {
     return LimitedTwips(std::int64_t{rows} * kCell.height + kFrameBorders);
 }
 
-ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth, Size screen,
-                                      Size frame) {
+ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
+                                      std::int32_t lineHeight, Size screen, Size frame) {
     ColorPaletteLayout layout;
-    const std::int32_t space = screen.height - frame.height - 2 * kMargin - kFrameBorders;
+    const std::int32_t space =
+        screen.height - frame.height - lineHeight - 3 * kMargin - kFrameBorders;
     layout.rowsOnPage = std::clamp(space / kCell.height, 1, std::max(rows, 1));
     layout.scrolls = rows > layout.rowsOnPage;
     layout.frame = {kMargin, kMargin,
                     ColorPalette::kColumns * kCell.width + kFrameBorders +
                         (layout.scrolls ? scrollBarWidth : 0),
                     PaletteHeight(layout.rowsOnPage)};
-    layout.inner = {layout.frame.Right() + kMargin, layout.frame.Bottom() + kMargin};
+    const std::int32_t side = kMargin + kFrameBorder;
+    layout.name = {side, layout.frame.Bottom() + kMargin / 2, layout.frame.Right() - side,
+                   lineHeight};
+    layout.inner = {layout.frame.Right() + kMargin, layout.name.Bottom() + kMargin};
     layout.form = {layout.inner.width + frame.width, layout.inner.height + frame.height};
     return layout;
 }

@@ -13,14 +13,16 @@ struct ColorPaletteLayout {
     Size form;             ///< with the window's frame
     Size inner;            ///< without it
     Rect frame;            ///< Frame2, in the form
+    Rect name;             ///< the line that names the current cell, in the form
     int rowsOnPage = 1;    ///< the rows of cells that are in view
     bool scrolls = false;  ///< whether there are more rows than are in view
 };
 
-/// Lays a palette of so many rows out on a screen, for a window frame that adds `frame` to its
-/// inner size. Rows that do not fit are scrolled to.
+/// Lays a palette of so many rows, and a line of text of some height below them, out on a screen,
+/// for a window frame that adds `frame` to its inner size. Rows that do not fit are scrolled to.
 HALVEK_INTERNAL ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
-                                                      Size screen, Size frame);
+                                                      std::int32_t lineHeight, Size screen,
+                                                      Size frame);
 
 /// Where a cell, numbered from 1, lies in Frame2 before scrolling.
 HALVEK_INTERNAL Rect PaletteCellPlace(int cell);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/platform/Design.h>
 #include <halvekutils/selection/SelectGrid.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 #include <halvekutils/selection/SelectionList.h>
@@ -11,9 +12,10 @@ namespace halvek {
 
 namespace {
 
-constexpr std::int32_t kMargin = 120;
-constexpr std::int32_t kGap = 90;
-constexpr Size kButton = {1215, 375};
+using design::kButton;
+using design::kGap;
+using design::kMargin;
+
 constexpr std::int32_t kBoxPadding = 150;
 constexpr std::int32_t kCellPadding = 150;
 constexpr std::int32_t kRowPadding = 60;

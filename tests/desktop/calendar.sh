@@ -44,7 +44,7 @@ start_client "$1"
 choose_page alt+s a
 
 # LEFT TOP of the client, so that its button lies at every edge of the screen; STEPS; DAY. The
-# month's name is at 6 of the height, the names of the days at 18, the button at 95.
+# month's name is at 6 of the height, the names of the days at 18, the button at 75 of the width and 91 of the height.
 while read -r left top steps day; do
     open_calendar
     picture "calendar-$left-$top"
@@ -63,8 +63,8 @@ done <<'ROWS'
 100 0 95/6,click,Return 04/07/2004
 100 0 64/6,click,50/62,1,9,9,9,Return,Return 03/07/1999
 100 0 7/29,click 02/29/2004
-100 0 50/95,click
+100 0 75/91,click
 100 0 Return 03/07/2004
-100 0 50/50,50/95,Return
+100 0 50/50,75/91,Return
 ROWS
 finish

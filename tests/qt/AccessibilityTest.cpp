@@ -73,7 +73,8 @@ TEST_F(AccessibilityTest, EveryControlOfADialogIsCalledWhatItIsAndReachedByTab) 
          "qt_calendar_nextmonth Button Next month (Page Down); "
          "qt_calendar_monthbutton ButtonMenu March; qt_calendar_yearbutton Button 2004; "
          "qt_calendar_calendarview Table Sunday, March 7, 2004; Cell Sun; Cell Mon; Cell Tue; "
-         "Cell Wed; Cell Thu; Cell Fri; Cell Sat; Command1 Button Close Calendar > "
+         "Cell Wed; Cell Thu; Cell Fri; Cell Sat; cmdToday Button Today; Command1 Button Close "
+         "Calendar > "
          "qt_calendar_calendarview Command1"},
         {[&] { utils_->Calculate(u"7"); },
          "frmCalculator Dialog Calculator; txtOutput EditableText Display; arrCmd_7 Button 7; "
@@ -87,8 +88,8 @@ TEST_F(AccessibilityTest, EveryControlOfADialogIsCalledWhatItIsAndReachedByTab) 
          "arrCmd_6 arrCmd_13 arrCmd_16 arrCmd_1 arrCmd_2 arrCmd_3 arrCmd_14 arrCmd_0 arrCmd_11 "
          "arrCmd_10 arrCmd_15"},
         {[&] { utils_->ShowColor(); },
-         "frmColor Dialog Color Palette; txtPalette_1 Button Color 1: 1000; "
-         "txtPalette_2 Button Color 2: 2000; txtPalette_3 Button Color 3: 3000 > "
+         "frmColor Dialog Color Palette; txtPalette_1 Button red, 1 (#E80300); "
+         "txtPalette_2 Button red, 2 (#D00700); txtPalette_3 Button red, 3 (#B80B00) > "
          "txtPalette_1 txtPalette_2 txtPalette_3"},
         {[&] { utils_->ShowSelection(u"Codes", u"H:A\tAlpha\t0:B\tBeta\t1:", u"B"); },
          "frmSelectGrid Dialog Codes    [Total: 2]; txtSelect EditableText Selected codes; "

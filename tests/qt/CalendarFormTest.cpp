@@ -48,12 +48,12 @@ TEST_F(CalendarFormTest, TheMarkedDayFollowsTheMonthAndYearAndIsToldInFull) {
         {year, {Qt::Key_Return}, "Sunday, February 28, 1999"},
         {year, {Qt::Key_2, Qt::Key_Escape}, "Sunday, February 28, 1999"},
         {year, {Qt::Key_Return, Qt::Key_T}, "Tuesday, March 5, 2024, today"},
+        {"qt_calendar_nextmonth", {}, "Friday, April 5, 2024"},
+        {"cmdToday", {}, "Tuesday, March 5, 2024, today"},
     };
     const auto act = [&](QDialog& dialog) {
-        const QRect month = Find(dialog, "MonthView1").geometry();
-        const QRect close = Find(dialog, "Command1").geometry();
-        EXPECT_EQ(month | close, dialog.rect());
-        EXPECT_EQ(month.height() + close.height(), dialog.height());
+        EXPECT_TRUE(dialog.rect().contains(Find(dialog, "MonthView1").geometry() |
+                                           Find(dialog, "Command1").geometry()));
         for (const auto& [part, keys, told] : steps) {
             if (Find(dialog, part).isVisible()) Click(dialog, Find(dialog, part));
             Keys(keys)(dialog);

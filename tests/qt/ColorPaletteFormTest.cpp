@@ -37,8 +37,8 @@ TEST_F(ColorPaletteFormTest, EveryCellIsNamedAndStandsOutFromItsFrame) {
         QWidget& cell = Find(dialog, "txtPalette_7");
         EXPECT_EQ(cell.pos(), QPoint(3, 43));
         auto* const accessible = QAccessible::queryAccessibleInterface(&cell);
-        EXPECT_EQ(cell.toolTip(), "Color 7: 7");
-        EXPECT_EQ(accessible->text(QAccessible::Name), "Color 7: 7");
+        EXPECT_EQ(cell.toolTip(), "black, 7 (#070000)");
+        EXPECT_EQ(accessible->text(QAccessible::Name), "black, 7 (#070000)");
         for (const QColor frame : {QColor(7, 0, 0), QColor(Qt::white)}) {  // the first as the cell
             dialog.setPalette(QPalette(Qt::gray, frame));
             const QColor outline = cell.grab().toImage().pixelColor(4, cell.height() / 2);

@@ -3,6 +3,7 @@
 
 #include <halvekutils/core/DebugConsole.h>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -36,6 +37,21 @@ TEST_F(DebugConsoleFormTest, TheNewestLineShowsHoweverManyOrLongTheyAre) {
     EXPECT_TRUE(EndsWith("<<<<<CLEARED>>>>>>a<0><27>\tb\n"));
 }
 
+TEST_F(DebugConsoleFormTest, PaintsEveryLineThoughTheProgramNeverReturnsToItsEvents) {
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));
+    struct Counter : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int paints = 0;
+    } counter;
+    text_->viewport()->installEventFilter(&counter);
+    for (int i = 0; i < 100; ++i) utils_->ShowInDebug(QString::number(i));
+    EXPECT_GE(counter.paints, 100);
+    EXPECT_TRUE(text_->viewport()->rect().contains(text_->cursorRect()));
+}
+
 TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
     const User user([&](QDialog& dialog) {
         utils_->ShowInDebug(u"one two");
@@ -49,6 +65,10 @@ TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
         PressKey(*window_, Qt::CTRL | Qt::Key_F);
         QTest::keyClicks(&Find<QLineEdit>(*window_, "txtFind"), "TWO");
         EXPECT_EQ(text_->textCursor().selectedText(), "two");
+        utils_->ShowInDebug(u"three");
+        EXPECT_EQ(text_->textCursor().selectedText(), "two");
+        Click(*window_, Find(*window_, "Command1"));
+        EXPECT_TRUE(Find<QLabel>(*window_, "lblStatus").text().endsWith("/DEBUG.log"));
         PressKey(*window_, Qt::Key_F7);
         EXPECT_TRUE(Soon([&] { return text_->toPlainText().isEmpty(); }));
         PressKey(dialog, Qt::Key_Return);

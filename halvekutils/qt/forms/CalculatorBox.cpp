@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorBox.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
-#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QFocusEvent>
 #include <QFontMetrics>
@@ -15,8 +15,7 @@ namespace halvek {
 
 namespace {
 
-// In points.
-constexpr std::int32_t kDisplayFont = 16;
+constexpr double kDisplayFont = 1.8;  // times the desktop's
 
 const char* const kLongestNumber = "-8.88888888888888E+888";
 
@@ -26,7 +25,7 @@ CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form)
     setObjectName(QLatin1String("txtOutput"));
     setAccessibleName(tr("Display"));
     setAlignment(Qt::AlignRight);
-    setFont(ToQFont({{}, kDisplayFont}));
+    setFont(design::ScaledFont(kDisplayFont));
     const QFontMetrics metrics(font());
     const int around = metrics.averageCharWidth() * 2;
     setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);

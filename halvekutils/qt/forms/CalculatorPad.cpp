@@ -2,7 +2,9 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorPad.h>
 #include <halvekutils/qt/forms/FlashButton.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <algorithm>
@@ -17,8 +19,9 @@ namespace {
 constexpr std::int32_t kButtonWidth = 840;
 constexpr std::int32_t kButtonHeight = 720;
 
-// In points.
-constexpr std::int32_t kButtonFont = 13;
+constexpr double kButtonFont = 1.4;  // times the desktop's
+constexpr int kPrimaryTone = 130;    // per cent
+constexpr int kTint = 16;            // per cent of the highlight in what is no digit
 
 /// The buttons as they lie before the user; the tab key follows them. One that stands in two rows
 /// is as high as both.
@@ -29,10 +32,41 @@ constexpr int kFace[4][5] = {
     {0, Calculator::kPoint, Calculator::kChangeSign, Calculator::kPlus, Calculator::kReturn},
 };
 
-/// What screen readers and tool tips call the buttons after the digits.
-constexpr const char* kNames[] = {"change sign", "point",  "divide", "multiply",         "minus",
-                                  "plus",        "equals", "clear",  "return the result"};
+/// What screen readers and tool tips call the buttons after the digits, and the keys that press
+/// them.
+constexpr struct {
+    const char* name;
+    const char* key;
+} kNames[] = {
+    {"change sign", ""}, {"point", "."},      {"divide", "/"},
+    {"multiply", "*"},   {"minus", "-"},      {"plus", "+"},
+    {"equals", "="},     {"clear", "Delete"}, {"return the result", "Enter"},
+};
 static_assert(Calculator::kChangeSign + std::size(kNames) == Calculator::kButtonCount);
+
+/// Digits are as the desktop's buttons are, what acts on numbers is tinted, and the button that
+/// ends it all stands out.
+QPalette Tone(int index, QPalette colors) {
+    const QColor highlight = colors.color(QPalette::Highlight);
+    const QColor face = colors.color(QPalette::Button);
+    if (index == Calculator::kReturn) {
+        const QColor text = colors.color(QPalette::HighlightedText);
+        // Styles lighten the upper part of a button; light text has to be read there, too.
+        const bool isDark = text.lightness() > highlight.lightness();
+        colors.setColor(QPalette::Button, isDark ? highlight.darker(kPrimaryTone) : highlight);
+        colors.setColor(QPalette::ButtonText, design::Visible(text, highlight, 4.5));
+    } else if (index >= Calculator::kDivide) {
+        colors.setColor(QPalette::Button, design::Blended(highlight, face, kTint));
+    }
+    return colors;
+}
+
+QSize ButtonSize(const QFontMetrics& metrics) {
+    const int widest =
+        metrics.horizontalAdvance(ToQString(Calculator::Caption(Calculator::kReturn)));
+    return {std::max(TwipsToPixels(kButtonWidth), widest + metrics.height()),
+            std::max(TwipsToPixels(kButtonHeight), metrics.height() * 2)};
+}
 
 }  // namespace
 
@@ -53,16 +87,19 @@ FlashButton* CalculatorPad::MakeButton(int index, QWidget* form) {
     auto* const button = new FlashButton(ToCaption(Calculator::Caption(index)), form);
     button->setObjectName(QStringLiteral("arrCmd_%1").arg(index));
     if (index >= Calculator::kChangeSign) {
-        button->setAccessibleName(tr(kNames[index - Calculator::kChangeSign]));
-        button->setToolTip(button->accessibleName());
+        const auto& [name, key] = kNames[index - Calculator::kChangeSign];
+        button->setAccessibleName(tr(name));
+        button->setToolTip(*key == 0 ? tr(name) : QStringLiteral("%1 (%2)").arg(tr(name), tr(key)));
     } else {
         button->setAccessibleName(button->text());
     }
-    button->setFont(ToQFont({{}, kButtonFont}));
-    button->setMinimumSize(TwipsToPixels(kButtonWidth), TwipsToPixels(kButtonHeight));
+    button->setFont(design::ScaledFont(kButtonFont));
+    button->SetTone(Tone(index, form->palette()));
+    button->setMinimumSize(ButtonSize(button->fontMetrics()));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::TabFocus);  // the form says where a click leaves the focus
+    new FocusRing(*button);
     button->installEventFilter(form);
     connect(button, &QPushButton::clicked, this, [this, index] {
         GuardEvent(u"frmCalculator.arrCmd_Click", [this, index] { rules_.Press(index); });

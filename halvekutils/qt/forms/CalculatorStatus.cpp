@@ -2,6 +2,7 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/CalculatorStatus.h>
+#include <halvekutils/qt/helpers/Design.h>
 
 #include <QLabel>
 
@@ -9,32 +10,45 @@ namespace halvek {
 
 namespace {
 
+constexpr double kFont = 0.9;  // of the desktop's
+constexpr int kGrey = 70;      // per cent of the text's colour
+
 void ShowValue(QLabel& label, const std::u16string& text) {
     label.setText(ToQString(text));
     label.setAccessibleDescription(label.text());
 }
 
+QLabel* MakeLabel(QWidget* form, const QString& text = {}) {
+    auto* const label = new QLabel(text, form);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(design::ScaledFont(kFont));
+    QPalette colors = form->palette();
+    const QColor ground = colors.color(QPalette::Window);
+    const QColor grey = design::Blended(colors.color(QPalette::WindowText), ground, kGrey);
+    colors.setColor(QPalette::WindowText, design::Visible(grey, ground, 4.5));
+    label->setPalette(colors);
+    return label;
+}
+
 }  // namespace
 
 CalculatorStatus::CalculatorStatus(QWidget* form)
-    : accumulator_(Add(form, "lblMEM", tr("MEM"), 0, 0, 3)),
-      lastOperator_(Add(form, "lblOp", tr("last operator"), 1, 0)),
-      numberDone_(Add(form, "lblNumDone", tr("number done"), 1, 2)) {
-    for (const int column : {1, 3}) setColumnStretch(column, 1);
+    : accumulator_(Add(form, "lblMEM", tr("MEM"), 3)),
+      lastOperator_(Add(form, "lblOp", tr("last operator"), 0)),
+      numberDone_(Add(form, "lblNumDone", tr("number done"), 0)) {
+    lastOperator_->setMinimumWidth(lastOperator_->fontMetrics().horizontalAdvance(u'+') * 2);
+    numberDone_->setMinimumWidth(
+        numberDone_->fontMetrics().horizontalAdvance(QLatin1String("False")));
 }
 
-QLabel* CalculatorStatus::Add(QWidget* form, const char* name, const QString& caption, int row,
-                              int column, int columns) {
-    auto* const value = new QLabel(form);
+QLabel* CalculatorStatus::Add(QWidget* form, const char* name, const QString& caption,
+                              int stretch) {
+    auto* const value = MakeLabel(form);
     value->setObjectName(QLatin1String(name));
-    value->setTextFormat(Qt::PlainText);
-    QFont font = value->font();
-    font.setBold(true);
-    value->setFont(font);
     value->setAccessibleName(caption);
-    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    addWidget(new QLabel(caption, form), row, column);
-    addWidget(value, row, column + 1, 1, columns);
+    if (stretch > 0) value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWidget(MakeLabel(form, caption));
+    addWidget(value, stretch);
     return value;
 }
 

@@ -3,14 +3,14 @@
 
 #include <halvekutils/dialogs/Calculator.h>
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 
 class QLabel;
 
 namespace halvek {
 
-/// The lines below the calculator's display: left operand, last operator, number done.
-class CalculatorStatus : public QGridLayout {
+/// The line below the calculator's display: left operand, last operator, number done.
+class CalculatorStatus : public QHBoxLayout {
     Q_OBJECT
 
   public:
@@ -19,8 +19,7 @@ class CalculatorStatus : public QGridLayout {
     void Refresh(const Calculator& rules);
 
   private:
-    QLabel* Add(QWidget* form, const char* name, const QString& caption, int row, int column,
-                int columns = 1);
+    QLabel* Add(QWidget* form, const char* name, const QString& caption, int stretch);
 
     QLabel* accumulator_;
     QLabel* lastOperator_;

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
-#include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QTextCursor>
 
-#include <algorithm>
 #include <string_view>
 
 namespace halvek {
@@ -13,8 +11,6 @@ namespace halvek {
 namespace {
 
 constexpr int kPoints = 9;
-constexpr int kInterval = 40;  // milliseconds between repaints
-constexpr qint64 kBurst = 10;
 
 /// A line is laid out as a whole: one of megabytes would hold the program up.
 constexpr int kMaxLineLength = 1000;
@@ -51,13 +47,6 @@ QString Shown(std::u16string_view text) {
 
 }  // namespace
 
-bool RepaintBudget::Take() {
-    const qint64 now = clock_.elapsed();
-    if (spentUntil_ > now + kBurst * kInterval) return false;
-    spentUntil_ = std::max(spentUntil_, now) + kInterval;
-    return true;
-}
-
 DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     : QPlainTextEdit(parent), console_(console) {
     setObjectName(QLatin1String("txtDebug"));
@@ -68,26 +57,10 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     setTabChangesFocus(true);
     setUndoRedoEnabled(false);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    later_.setSingleShot(true);
-    connect(&later_, &QTimer::timeout, this, [this] {
-        GuardEvent(u"frmDebug.txtDebug", [this] {
-            ShowText();
-            sinceLater_.start();
-        });
-    });
-}
-
-bool DebugTextView::IsCurrent() const {
-    return replacements_ == console_.Replacements() && shown_ == console_.Text().size();
 }
 
 void DebugTextView::Refresh() {
-    if (later_.isActive() || IsCurrent()) return;
-    if (!budget_.Take()) {
-        const bool justShown = sinceLater_.isValid() && !sinceLater_.hasExpired(kInterval);
-        later_.start(justShown ? kInterval : 0);
-        return;
-    }
+    if (replacements_ == console_.Replacements() && shown_ == console_.Text().size()) return;
     ShowText();
     repaint();
 }
@@ -103,7 +76,7 @@ void DebugTextView::ShowText() {
     end.movePosition(QTextCursor::End);
     end.insertText(Shown(text.substr(shown_)));
     shown_ = text.size();
-    moveCursor(QTextCursor::End);
+    if (!textCursor().hasSelection()) moveCursor(QTextCursor::End);
 }
 
 }  // namespace halvek

@@ -3,31 +3,18 @@
 
 #include <halvekutils/core/DebugConsole.h>
 
-#include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include <cstddef>
 #include <cstdint>
 
 namespace halvek {
 
-/// Lets a burst of repaints through and then so many a second.
-class RepaintBudget {
-  public:
-    RepaintBudget() { clock_.start(); }
-
-    bool Take();
-
-  private:
-    QElapsedTimer clock_;
-    qint64 spentUntil_ = 0;
-};
-
 /// txtDebug: shows the console's text, the newest line in view.
 ///
-/// A line shows at once, also while the program is too busy for its event loop. When thousands come
-/// in a second they show many at a time, the last as soon as the event loop goes on.
+/// Every line is painted as it comes, also while the program is too busy for its event loop: what a
+/// job that hangs wrote last is what is looked for. What is selected, as a word that was found is,
+/// stays selected and in view.
 class DebugTextView : public QPlainTextEdit {
     Q_OBJECT
 
@@ -38,15 +25,11 @@ class DebugTextView : public QPlainTextEdit {
     void Refresh();
 
   private:
-    bool IsCurrent() const;
     void ShowText();
 
     const DebugConsole& console_;
     std::uint64_t replacements_ = 0;
     std::size_t shown_ = 0;  ///< characters of the console's text
-    RepaintBudget budget_;
-    QTimer later_;
-    QElapsedTimer sinceLater_;
 };
 
 }  // namespace halvek

@@ -18,8 +18,13 @@ FlashButton::FlashButton(const QString& caption, QWidget* parent) : QPushButton(
     connect(&timer_, &QTimer::timeout, this, &FlashButton::EndFlash);
 }
 
+void FlashButton::SetTone(const QPalette& tone) {
+    tone_ = tone;
+    setPalette(tone);
+}
+
 void FlashButton::Flash() {
-    QPalette white;
+    QPalette white = tone_;
     white.setColor(QPalette::Button, Qt::white);
     white.setColor(QPalette::ButtonText, Qt::black);
     setPalette(white);
@@ -28,7 +33,7 @@ void FlashButton::Flash() {
 
 void FlashButton::EndFlash() {
     timer_.stop();
-    setPalette(QPalette());
+    setPalette(tone_);
 }
 
 }  // namespace halvek

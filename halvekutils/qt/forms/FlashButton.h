@@ -13,12 +13,16 @@ class FlashButton : public QPushButton {
   public:
     FlashButton(const QString& caption, QWidget* parent);
 
+    /// The colours that it has when it does not flash.
+    void SetTone(const QPalette& tone);
+
     /// Turns white; a flash that is still to be seen starts anew.
     void Flash();
     /// Gives the old background back, as time does too.
     void EndFlash();
 
   private:
+    QPalette tone_;
     QTimer timer_{this};
 };
 

@@ -2,6 +2,7 @@
 #include <halvekutils/controls/ControlHelpers.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/forms/MonthView.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTextCharFormat>
@@ -49,12 +51,19 @@ constexpr char16_t kFont[] = u"Tahoma";
 constexpr float kFontSize = 7;  // points
 
 // What QCalendarWidget calls its parts.
+constexpr char kBar[] = "qt_calendar_navigationbar";
 constexpr char kPreviousMonth[] = "qt_calendar_prevmonth";
 constexpr char kNextMonth[] = "qt_calendar_nextmonth";
 constexpr char kMonthButton[] = "qt_calendar_monthbutton";
 
 constexpr int kDaysInWeek = 7;
-constexpr int kRows = 7;  // six weeks below the names of the days
+constexpr int kRows = 7;          // six weeks below the names of the days
+constexpr int kRowHeight = 26;    // pixels
+constexpr int kColumnWidth = 34;  // pixels
+
+// In per cent of the text's colour.
+constexpr int kWeekend = 75;
+constexpr int kOtherMonth = 50;
 
 const QDate kEpoch(1970, 1, 1);
 
@@ -65,18 +74,36 @@ Calendar::Day ToDay(QDate date) {
     return Calendar::Day(std::chrono::days(kEpoch.daysTo(date)));
 }
 
-/// Nearly half way from one colour to the other.
-QColor Blended(const QColor& text, const QColor& base) {
-    const auto mixed = [](int from, int to) { return (from * 55 + to * 45) / 100; };
-    return QColor(mixed(text.red(), base.red()), mixed(text.green(), base.green()),
-                  mixed(text.blue(), base.blue()));
-}
-
 /// Arrows that are seen on the bar above the days.
 QPalette WithArrowsOnBar(QPalette colors) {
     colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
     return colors;
 }
+
+/// Draws the mark of a button's menu in the middle of its right end and large enough to be seen.
+class MenuMark : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* button) const override {
+        if (element != PE_IndicatorArrowDown || button == nullptr) {
+            QProxyStyle::drawPrimitive(element, option, painter, button);
+            return;
+        }
+        const int size = std::max(button->fontMetrics().height() * 2 / 3, 7) | 1;
+        const QPointF centre(button->width() - size, button->height() / 2.0);
+        const QPointF corners[] = {centre + QPointF(-size / 2.0, -size / 4.0),
+                                   centre + QPointF(size / 2.0, -size / 4.0),
+                                   centre + QPointF(0, size / 4.0)};
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(button->palette().color(QPalette::WindowText));
+        painter->drawPolygon(corners, 3);
+        painter->restore();
+    }
+};
 
 /// The key as it acts: where text runs from right to left, the days do too.
 int Mirrored(int key, bool rightToLeft) {
@@ -113,15 +140,21 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
 }
 
 void MonthView::MakeDaysReadable() {
-    // Red weekends would be hard to read on a dark desktop, as would pale days of other months.
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
     QPalette colors = palette();
-    const QColor faded = Blended(colors.color(QPalette::Text), colors.color(QPalette::Base));
-    colors.setColor(QPalette::Disabled, QPalette::Text, faded);
+    const auto faded = [&](int share) {
+        return design::Blended(colors.color(QPalette::Text), colors.color(QPalette::Base), share);
+    };
+    // Red weekends would be hard to read on a dark desktop, as would pale days of other months.
+    QTextCharFormat weekend;
+    weekend.setForeground(faded(kWeekend));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
+    colors.setColor(QPalette::Disabled, QPalette::Text, faded(kOtherMonth));
     days_->setPalette(colors);
     // In so small a font they would be hard to hit, too.
-    const int free = fontMetrics().height() * 2 / 3;
-    setMinimumSize(minimumSizeHint() + QSize(kDaysInWeek * free, kRows * free));
+    const int bar = findChild<QWidget*>(QLatin1String(kBar))->sizeHint().height();
+    const int frame = 2 * static_cast<QFrame*>(days_)->frameWidth();
+    setMinimumSize(kDaysInWeek * std::max(kColumnWidth, fontMetrics().height() * 2),
+                   kRows * std::max(kRowHeight, fontMetrics().height()) + frame + bar);
 }
 
 void MonthView::MakeArrow(const char* part, Qt::ArrowType arrow) {
@@ -137,6 +170,9 @@ void MonthView::WidenMonthButton() {
     for (const QAction* const month : button->menu()->actions()) {
         widest = std::max(widest, button->fontMetrics().horizontalAdvance(month->text()));
     }
+    auto* const mark = new MenuMark;
+    mark->setParent(button);
+    button->setStyle(mark);
     button->setMinimumWidth(widest + 2 * button->fontMetrics().height());
     button->setPalette(WithArrowsOnBar(palette()));
 }

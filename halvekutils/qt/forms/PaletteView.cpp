@@ -2,6 +2,7 @@
 #include <halvekutils/dialogs/ColorPaletteLayout.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/PaletteView.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
@@ -31,10 +32,8 @@ constexpr PaletteKey kKeys[] = {
 };
 
 // Around a swatch, in pixels: room for the ring, the ring and a gap inside it.
-constexpr double kRingInset = 1.5;
-constexpr double kRingWidth = 2;
+constexpr double kRingInset = 0.5;
 constexpr double kSwatchInset = 4.5;
-constexpr double kCorner = 3;
 constexpr int kOutlineOpacity = 140;
 
 bool Chooses(ColorPalette::Key key) {
@@ -62,13 +61,12 @@ void PaletteCellButton::paintEvent(QPaintEvent*) {
         QRectF(rect()).adjusted(kSwatchInset, kSwatchInset, -kSwatchInset, -kSwatchInset);
     painter.setPen(outline);
     painter.setBrush(ToQColor(color_, palette()));
-    painter.drawRoundedRect(swatch, kCorner, kCorner);
+    painter.drawRoundedRect(swatch, design::kCorner, design::kCorner);
     if (!hasFocus()) return;
-    painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset), kCorner + 2,
-        kCorner + 2);
+    const QColor ring =
+        design::Visible(palette().color(QPalette::Highlight), palette().color(QPalette::Window));
+    design::PaintRing(
+        painter, QRectF(rect()).adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset), ring);
 }
 
 void PaletteCellButton::keyPressEvent(QKeyEvent* event) {

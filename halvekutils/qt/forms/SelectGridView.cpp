@@ -2,6 +2,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
@@ -115,6 +116,7 @@ SelectGridView::SelectGridView(SelectGrid& rules, QWidget* parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     // A click moves the focus only when it may, see mousePressEvent.
     setFocusPolicy(Qt::TabFocus);
+    viewport()->setPalette(design::Paper(palette()));
     setModel(&model_);
 }
 
@@ -226,12 +228,18 @@ void SelectGridView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect entry = visualRect(current);
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 3));
-        painter.drawRect(entry.adjusted(1, 1, -2, -2));
+        design::PaintRing(painter, entry,
+                          design::Visible(palette().color(QPalette::Highlight), Qt::white));
     } else {
-        painter.setPen(palette().color(QPalette::Mid));
+        painter.setPen(Qt::gray);
         painter.drawRect(entry.adjusted(0, 0, -1, -1));
     }
+}
+
+// One sheet: the colours that the entries have by the rules ask for white around them.
+void SelectGridView::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+    option->palette = design::Paper(option->palette);
 }
 
 }  // namespace halvek

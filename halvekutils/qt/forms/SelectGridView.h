@@ -64,6 +64,7 @@ class SelectGridView : public QTableView {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
 
   private:
     bool TypeLetter(const QKeyEvent& event);

@@ -4,6 +4,7 @@
 #include <halvekutils/qt/forms/CalculatorStatus.h>
 #include <halvekutils/qt/forms/FlashButton.h>
 #include <halvekutils/qt/forms/frmCalculator.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
@@ -12,14 +13,6 @@
 #include <QMouseEvent>
 
 namespace halvek {
-
-namespace {
-
-// In twips.
-constexpr std::int32_t kSpace = 90;
-constexpr std::int32_t kMargin = 180;
-
-}  // namespace
 
 frmCalculator::frmCalculator(const std::shared_ptr<Calculator>& rules, const Desktop& desktop)
     : DialogForm(rules, u"frmCalculator"),
@@ -31,13 +24,10 @@ frmCalculator::frmCalculator(const std::shared_ptr<Calculator>& rules, const Des
       keys_(rules_, *box_) {
     setWindowTitle(tr("Calculator"));
     box_->installEventFilter(this);
-    const int space = TwipsToPixels(kSpace);
-    const int margin = TwipsToPixels(kMargin);
-    status_->setSpacing(space);
-    pad_->setSpacing(space);
+    status_->setSpacing(design::Gap());
+    pad_->setSpacing(design::Gap());
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(space);
+    design::SpaceOut(*column);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(box_);
     column->addLayout(status_);

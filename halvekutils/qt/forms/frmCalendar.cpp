@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/MonthView.h>
 #include <halvekutils/qt/forms/frmCalendar.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
@@ -14,14 +15,21 @@ namespace halvek {
 frmCalendar::frmCalendar(const std::shared_ptr<Calendar>& rules, const Desktop& desktop)
     : DialogForm(rules, u"frmCalendar"),
       month_(new MonthView(*rules, this)),
-      closeButton_(new QPushButton(tr("Close Calendar"), this)) {
+      todayButton_(design::NewButton("cmdToday", tr("Today"), this)),
+      closeButton_(design::NewButton("Command1", tr("Close Calendar"), this)) {
     setAccessibleName(tr("Calendar"));
     // No title; an empty one would become the application's name.
     setWindowTitle(QStringLiteral(" "));
-    closeButton_->setFont(ToQFont({u"Tahoma", 8}));
-    closeButton_->setObjectName(QLatin1String("Command1"));
-    closeButton_->setAccessibleName(closeButton_->text());
-    closeButton_->setAutoDefault(false);
+    for (QPushButton* const button : {todayButton_, closeButton_}) {
+        button->setFont(ToQFont({u"Tahoma", 8}));
+    }
+    design::MakeAlike({todayButton_, closeButton_});
+    // The key T does the same among the days, where the focus stays.
+    todayButton_->setFocusPolicy(Qt::NoFocus);
+    todayButton_->setToolTip(tr("Today (T)"));
+    connect(todayButton_, &QPushButton::clicked, this, [&calendar = *rules] {
+        GuardEvent(u"frmCalendar.cmdToday_Click", [&] { calendar.KeyDown(Calendar::Key::Today); });
+    });
     connect(closeButton_, &QPushButton::clicked, this, [&calendar = *rules] {
         GuardEvent(u"frmCalendar.Command1_Click", [&] { calendar.Close(); });
     });
@@ -35,10 +43,14 @@ frmCalendar::frmCalendar(const std::shared_ptr<Calendar>& rules, const Desktop& 
 /// Returns the size with the frame.
 Size frmCalendar::LayOut(const Desktop& desktop) {
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    design::SpaceOut(*column);
     column->addWidget(month_);
-    column->addWidget(closeButton_);
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(design::Gap());
+    buttons->addWidget(todayButton_);
+    buttons->addStretch();
+    buttons->addWidget(closeButton_);
+    column->addLayout(buttons);
     setFixedSize(sizeHint());
     const Size frame = desktop.FrameSize();
     return {PixelsToTwips(width()) + frame.width, PixelsToTwips(height()) + frame.height};

@@ -32,6 +32,7 @@ class frmCalendar : public DialogForm {
     void FollowPointer(const QWidget& over);
 
     MonthView* month_;
+    QPushButton* todayButton_;
     QPushButton* closeButton_;
     std::optional<QPoint> pointerRestsAt_;  ///< until it first moves
 };

@@ -6,23 +6,43 @@
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QStyle>
 
 namespace halvek {
 
+namespace {
+
+constexpr const char* kLongestName = "light orange, 100 (#DDDDDD)";
+
+}  // namespace
+
 frmColor::frmColor(const std::shared_ptr<ColorPalette>& rules, const Desktop& desktop)
-    : DialogForm(rules, u"frmColor"), cells_(new PaletteView(*rules, this)) {
+    : DialogForm(rules, u"frmColor"),
+      rules_(*rules),
+      cells_(new PaletteView(*rules, this)),
+      name_(new QLabel(this)) {
     setWindowTitle(ToWindowTitle(ColorPalette::kCaption));
     const Rect screen = ScreenOf(rules->Anchor(), desktop);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, cells_);
+    const QFontMetrics line = name_->fontMetrics();
+    const int room = ToQRect(PaletteCellPlace(ColorPalette::kColumns)).right();
+    const bool oneLine = line.horizontalAdvance(tr(kLongestName)) <= room;
     const ColorPaletteLayout layout = LayOutColorPalette(
-        rules->RowCount(), PixelsToTwips(bar), {screen.width, screen.height}, desktop.FrameSize());
+        rules->RowCount(), PixelsToTwips(bar), PixelsToTwips(line.height() * (oneLine ? 1 : 2)),
+        {screen.width, screen.height}, desktop.FrameSize());
     setFixedSize(TwipsToPixels(layout.inner.width), TwipsToPixels(layout.inner.height));
+    name_->setObjectName(QLatin1String("lblName"));
+    name_->setTextFormat(Qt::PlainText);
+    name_->setWordWrap(true);
+    name_->setGeometry(ToQRect(layout.name));
     cells_->ApplyLayout(layout);
     OpenAt(rules->Anchor(), layout.form, desktop);
 }
 
 void frmColor::Refresh() {
+    const QString name = ToQString(rules_.CellName(rules_.Current()));
+    name_->setText(name);
     cells_->FollowCurrent();
 }
 

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QLabel;
+
 namespace halvek {
 
 class PaletteView;
@@ -24,7 +26,9 @@ class frmColor : public DialogForm {
     void showEvent(QShowEvent* event) override;
 
   private:
+    const ColorPalette& rules_;
     PaletteView* cells_;
+    QLabel* name_;
 };
 
 }  // namespace halvek

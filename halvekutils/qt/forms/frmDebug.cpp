@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/forms/frmDebug.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/StatusLabel.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -22,7 +25,6 @@ namespace halvek {
 namespace {
 
 constexpr QSize kSize(640, 320);
-constexpr int kMargin = 6;
 
 /// Whether the program is about to end because its last window was closed. A window that is shown
 /// then would keep it alive.
@@ -42,6 +44,7 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
       hostWindow_(QApplication::activeWindow()),
       txtDebug_(new DebugTextView(*console_, this)),
       findBar_(new FindBar(*txtDebug_, tr("Find"), this)),
+      lblStatus_(new StatusLabel("lblStatus", this)),
       chkNoLog_(MakeBox("chkNoLog", tr("STOP logging"), &DebugConsole::StopLogging)),
       chkToFile_(MakeBox("chkToFile", tr("All goes to file"), &DebugConsole::SendAllToFile)),
       Check1_(MakeBox("Check1", tr("Keep on top"), &DebugConsole::KeepOnTop)) {
@@ -49,6 +52,8 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
     setWindowTitle(tr("DEBUG"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    lblStatus_->setWordWrap(true);
+    lblStatus_->hide();
     BuildLayout();
     BuildShortcuts();
     PlaceInCorner(desktop);
@@ -76,31 +81,54 @@ QCheckBox* frmDebug::MakeBox(const char* name, const QString& caption,
 }
 
 template <class Act>
-QPushButton* frmDebug::MakeButton(const char* name, const QString& caption, Act act) {
-    auto* const button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(caption);
+QPushButton* frmDebug::MakeButton(const char* name, const QString& caption, const Act& act) {
+    QPushButton* const button = design::NewButton(name, caption);
     connect(button, &QPushButton::clicked, this,
-            [this, act] { GuardEvent(u"frmDebug.Command_Click", [&] { ((*console_).*act)(); }); });
+            [act] { GuardEvent(u"frmDebug.Command_Click", act); });
     return button;
 }
 
 void frmDebug::BuildLayout() {
-    QPushButton* const clear = MakeButton("cmdClear", tr("Clear"), &DebugConsole::Clear);
-    clear->setToolTip(tr("Clear (F7)"));
-    auto* const bar = new QHBoxLayout;
-    for (QWidget* const box : {chkNoLog_, chkToFile_, Check1_}) bar->addWidget(box);
-    bar->addStretch();
-    bar->addWidget(clear);
-    bar->addWidget(MakeButton("Command1", tr("Save to File"), &DebugConsole::SaveToFile));
-    bar->addWidget(MakeButton("Command2", tr("Kill log file"), &DebugConsole::KillLogFile));
+    auto* const boxes = new QHBoxLayout;
+    boxes->setSpacing(design::Margin());
+    for (QWidget* const box : {chkNoLog_, chkToFile_, Check1_}) boxes->addWidget(box);
+    boxes->addStretch();
     auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kMargin);
-    rows->addLayout(bar);
+    design::SpaceOut(*rows);
+    rows->addLayout(boxes);
     rows->addWidget(txtDebug_, 1);
     rows->addWidget(findBar_);
+    rows->addWidget(lblStatus_);
+    rows->addLayout(MakeButtonRow());
     OutlineBoxes();
+}
+
+QLayout* frmDebug::MakeButtonRow() {
+    QPushButton* const clear = MakeButton("cmdClear", tr("Clear"), [this] { console_->Clear(); });
+    QPushButton* const save = MakeButton("Command1", tr("Save to File"), [this] {
+        Tell(console_->SaveToFile(), tr("Saved to %1"));
+    });
+    QPushButton* const kill = MakeButton("Command2", tr("Kill log file"), [this] {
+        Tell(console_->KillLogFile(), tr("Deleted %1"));
+    });
+    const QString file = ToQString(console_->LogFile());
+    clear->setToolTip(tr("Clear (F7)"));
+    save->setToolTip(ToToolTip(tr("Adds the lines to %1").arg(file)));
+    kill->setToolTip(ToToolTip(tr("Deletes %1").arg(file)));
+    design::MakeAlike({clear, save, kill});
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(design::Gap());
+    row->addStretch();
+    row->addWidget(clear);
+    row->addWidget(save);
+    row->addSpacing(3 * design::Margin());  // not to be hit in place of the others
+    row->addWidget(kill);
+    return row;
+}
+
+void frmDebug::Tell(bool done, const QString& what) {
+    lblStatus_->setVisible(done);
+    lblStatus_->Tell(done ? what.arg(ToQString(console_->LogFile())) : QString());
 }
 
 void frmDebug::OutlineBoxes() {

@@ -10,12 +10,14 @@
 #include <memory>
 
 class QCheckBox;
+class QLayout;
 class QPushButton;
 
 namespace halvek {
 
 class DebugTextView;
 class FindBar;
+class StatusLabel;
 
 /// The window of the debug console: shows its rules and forwards its events.
 ///
@@ -46,7 +48,9 @@ class frmDebug : public QWidget {
     void BuildShortcuts();
     QCheckBox* MakeBox(const char* name, const QString& caption, void (DebugConsole::*set)(bool));
     template <class Act>
-    QPushButton* MakeButton(const char* name, const QString& caption, Act act);
+    QPushButton* MakeButton(const char* name, const QString& caption, const Act& act);
+    QLayout* MakeButtonRow();
+    void Tell(bool done, const QString& what);
     void OutlineBoxes();
     void PlaceInCorner(const Desktop& desktop);
     void KeepUsable();
@@ -57,6 +61,7 @@ class frmDebug : public QWidget {
     QPointer<QWidget> hostWindow_;
     DebugTextView* txtDebug_;
     FindBar* findBar_;
+    StatusLabel* lblStatus_;
     QCheckBox* chkNoLog_;
     QCheckBox* chkToFile_;
     QCheckBox* Check1_;

@@ -3,6 +3,7 @@
 #include <halvekutils/qt/forms/SelectGridView.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 #include <halvekutils/qt/forms/frmSelectGrid.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/selection/SelectGridLayout.h>
@@ -16,11 +17,8 @@ namespace {
 
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption,
                         const QString& toolTip) {
-    auto* const button = new QPushButton(caption, parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+    QPushButton* const button = design::NewButton(name, caption, parent);
     button->setToolTip(toolTip);
-    button->setAutoDefault(false);
     // A click leaves the focus where it is: OK checks the box itself, and Cancel does not.
     button->setFocusPolicy(Qt::TabFocus);
     return button;

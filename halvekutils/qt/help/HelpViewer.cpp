@@ -3,7 +3,9 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/help/HelpBrowser.h>
+#include <halvekutils/qt/help/HelpIcons.h>
 #include <halvekutils/qt/help/HelpViewer.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
@@ -35,7 +37,6 @@ namespace {
 
 constexpr QSize kOrdinarySize(920, 640);
 constexpr int kContentsWidth = 240;
-constexpr int kMargin = 4;
 constexpr int kAddressRole = Qt::UserRole;
 constexpr std::array kZooms = {50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
@@ -75,7 +76,7 @@ HelpViewer::HelpViewer()
     auto* const page = new QWidget;
     auto* const pageColumn = new QVBoxLayout(page);
     pageColumn->setContentsMargins(0, 0, 0, 0);
-    pageColumn->setSpacing(0);
+    pageColumn->setSpacing(design::Gap());
     for (QWidget* const part :
          {static_cast<QWidget*>(browser_), notice_, static_cast<QWidget*>(find_)}) {
         pageColumn->addWidget(part);
@@ -86,11 +87,14 @@ HelpViewer::HelpViewer()
     columns->setStretchFactor(1, 1);
     columns->setSizes({kContentsWidth, kOrdinarySize.width() - kContentsWidth});
     columns->setChildrenCollapsible(false);
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kMargin);
-    rows->addWidget(MakeTools());
-    rows->addWidget(columns, 1);
+    setContextMenuPolicy(Qt::NoContextMenu);  // would hide the tools
+    MakeTools();
+    auto* const body = new QWidget;
+    auto* const rows = new QVBoxLayout(body);
+    const int margin = design::Margin();
+    rows->setContentsMargins(margin, 0, margin, margin);
+    rows->addWidget(columns);
+    setCentralWidget(body);
     setTabOrder(trvContents_, browser_);
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         GuardEvent(u"HelpViewer.Link_Click", [&] { Follow(link); });
@@ -99,6 +103,7 @@ HelpViewer::HelpViewer()
         GuardEvent(u"HelpViewer.PageShown", [this] {
             notice_->hide();
             MarkInContents();
+            ShowTitle();
         });
     });
     connect(browser_, &HelpBrowser::ZoomAsked, this,
@@ -125,7 +130,7 @@ QAction* HelpViewer::MakeAction(const char* name, const QString& caption, const 
     return action;
 }
 
-QWidget* HelpViewer::MakeTools() {
+void HelpViewer::MakeTools() {
     QAction* const back =
         MakeAction("actBack", tr("Back"), QStringLiteral("Alt+Left; Backspace; Back"),
                    [this] { browser_->backward(); });
@@ -143,9 +148,11 @@ QWidget* HelpViewer::MakeTools() {
     MakeAction("actFindPrevious", tr("Find previous"), QStringLiteral("Shift+F3; Ctrl+Shift+G"),
                [this] { find_->Find(true); });
     MakeAction("actClose", tr("Close"), QStringLiteral("Ctrl+W"), [this] { close(); });
-    back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    home_->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+    back->setIcon(HelpIcon(HelpPicture::Back));
+    forward->setIcon(HelpIcon(HelpPicture::Forward));
+    home_->setIcon(HelpIcon(HelpPicture::Home));
+    showContents_->setIcon(HelpIcon(HelpPicture::Contents));
+    find->setIcon(HelpIcon(HelpPicture::Find));
     for (QAction* const action : {back, forward}) action->setEnabled(false);
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
@@ -158,9 +165,14 @@ QWidget* HelpViewer::MakeTools() {
                                [this] { ChangeZoom(0); });
     ordinarySize_->setToolTip(tr("Ordinary size (Ctrl+0)"));
 
+    smaller->setIcon(HelpIcon(HelpPicture::Smaller));
+    larger->setIcon(HelpIcon(HelpPicture::Larger));
+
     auto* const tools = new QWidget;
     auto* const row = new QHBoxLayout(tools);
-    row->setContentsMargins(0, 0, 0, 0);
+    const int margin = design::Margin();
+    row->setContentsMargins(margin, margin, margin, design::Gap());
+    row->setSpacing(design::Gap());
     for (QAction* const action : {back, forward, home_, showContents_, find}) {
         row->addWidget(ButtonOf(action));
     }
@@ -168,7 +180,7 @@ QWidget* HelpViewer::MakeTools() {
     for (QAction* const action : {smaller, ordinarySize_, larger}) {
         row->addWidget(ButtonOf(action));
     }
-    return tools;
+    setMenuWidget(tools);
 }
 
 QWidget* HelpViewer::MakeNotice() {
@@ -228,12 +240,20 @@ void HelpViewer::Open(const std::filesystem::path& file) {
         description = AsRuntimeError(caught).Description();
     }
     browser_->SetHelp(help_, description);
-    setWindowTitle(help_ == nullptr ? tr("Help") : ToWindowTitle(help_->Title()));
+    ShowTitle();
     home_->setEnabled(help_ != nullptr);
     FillContents();
     if (fault == nullptr) return;
     BringForward();
     std::rethrow_exception(fault);
+}
+
+/// The page's heading, then the file's.
+void HelpViewer::ShowTitle() {
+    const QString file = help_ == nullptr ? tr("Help") : ToQString(help_->Title());
+    const QString page = browser_->documentTitle();
+    const bool isTold = page.isEmpty() || page == file;
+    setWindowTitle(ToWindowTitle(isTold ? file : tr("%1 - %2").arg(page, file)));
 }
 
 void HelpViewer::ShowPage(const HelpTopic& topic) {
@@ -287,12 +307,12 @@ bool HelpViewer::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) {
         GuardEvent(u"HelpViewer.Blocked", [this] { StayAboveDialogs(); });
     }
-    return QWidget::event(event);
+    return QMainWindow::event(event);
 }
 
 void HelpViewer::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
-        QWidget::keyPressEvent(event);
+        QMainWindow::keyPressEvent(event);
     } else if (find_->isVisible()) {
         find_->Close();
     } else {

@@ -4,8 +4,8 @@
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/help/CompiledHelp.h>
 
+#include <QMainWindow>
 #include <QUrl>
-#include <QWidget>
 
 #include <cstdint>
 #include <filesystem>
@@ -27,7 +27,7 @@ class HelpBrowser;
 ///
 /// It is modeless and lies beside whatever the host shows: a modal dialog does not block it. It
 /// opens no address outside of its file.
-class HelpViewer : public QWidget {
+class HelpViewer : public QMainWindow {
     Q_OBJECT
 
   public:
@@ -48,7 +48,8 @@ class HelpViewer : public QWidget {
   private:
     QAction* MakeAction(const char* name, const QString& caption, const QString& keys,
                         const std::function<void()>& run);
-    QWidget* MakeTools();
+    void MakeTools();
+    void ShowTitle();
     QWidget* MakeNotice();
 
     void Open(const std::filesystem::path& file);

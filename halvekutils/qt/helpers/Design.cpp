@@ -3,6 +3,7 @@
 #include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
+#include <QApplication>
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -55,6 +56,26 @@ QColor Blended(const QColor& one, const QColor& other, int share) {
     };
     return QColor(mixed(one.red(), other.red()), mixed(one.green(), other.green()),
                   mixed(one.blue(), other.blue()));
+}
+
+QPalette Paper(QPalette desktop) {
+    for (const auto role : {QPalette::Base, QPalette::Light}) desktop.setColor(role, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText}) {
+        desktop.setColor(role, Qt::black);
+    }
+    desktop.setColor(QPalette::Window, QColor(0xEF, 0xEF, 0xEF));
+    desktop.setColor(QPalette::Mid, QColor(0xB8, 0xB8, 0xB8));
+    return desktop;
+}
+
+QFont ScaledFont(double factor) {
+    QFont font = QApplication::font();
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * factor);
+    } else {
+        font.setPixelSize(qRound(font.pixelSize() * factor));
+    }
+    return font;
 }
 
 void PaintRing(QPainter& painter, const QRectF& area, const QColor& color) {

@@ -4,6 +4,7 @@
 #include <halvekutils/platform/Design.h>
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 
 #include <initializer_list>
@@ -38,6 +39,12 @@ QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
 
 /// A colour between two: `share` per cent of the first.
 QColor Blended(const QColor& one, const QColor& other, int share);
+
+/// Light paper with black text, for what has fixed light colours on any desktop.
+QPalette Paper(QPalette desktop);
+
+/// The desktop's own font, so many times as large.
+QFont ScaledFont(double factor);
 
 /// Draws the ring just inside the area.
 void PaintRing(QPainter& painter, const QRectF& area, const QColor& color);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/StatusLabel.h>
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QToolButton>
+#include <QPushButton>
 
 #include <utility>
 
@@ -17,15 +18,11 @@ namespace {
 constexpr int kMaxWordLength = 200;
 
 template <class Press>
-QToolButton* MakeButton(const char* name, const QString& caption, const QString& toolTip,
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& toolTip,
                         const Press& press) {
-    auto* const button = new QToolButton;
-    button->setObjectName(QLatin1String(name));
-    button->setText(caption);
+    QPushButton* const button = design::NewButton(name, caption);
     button->setToolTip(toolTip);
-    button->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
-    button->setFocusPolicy(Qt::StrongFocus);
-    QObject::connect(button, &QToolButton::clicked, button,
+    QObject::connect(button, &QPushButton::clicked, button,
                      [press] { GuardEvent(u"FindBar.Click", press); });
     return button;
 }
@@ -33,25 +30,31 @@ QToolButton* MakeButton(const char* name, const QString& caption, const QString&
 }  // namespace
 
 FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
-    : QFrame(parent), text_(std::move(text)), txtFind_(new QLineEdit), lblFind_(new QLabel) {
+    : QWidget(parent),
+      text_(std::move(text)),
+      txtFind_(new QLineEdit),
+      lblFind_(new StatusLabel("lblFind")) {
     setObjectName(QLatin1String("FindBar"));
     txtFind_->setObjectName(QLatin1String("txtFind"));
     txtFind_->setAccessibleName(prompt);
     txtFind_->setPlaceholderText(prompt);
     txtFind_->setMaxLength(kMaxWordLength);
     txtFind_->setClearButtonEnabled(true);
-    lblFind_->setObjectName(QLatin1String("lblFind"));
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(4, 4, 4, 4);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(design::Gap());
     row->addWidget(txtFind_, 1);
-    row->addWidget(MakeButton("cmdFindPrevious", tr("Pre&vious"), tr("Previous (Shift+F3)"),
-                              [this] { Find(true); }));
-    row->addWidget(
-        MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { Find(false); }));
-    row->addWidget(lblFind_);
-    row->addStretch(1);
-    row->addWidget(
-        MakeButton("cmdFindClose", tr("Close"), tr("Close (Escape)"), [this] { Close(); }));
+    QPushButton* const previous = MakeButton("cmdFindPrevious", tr("Pre&vious"),
+                                             tr("Previous (Shift+F3)"), [this] { Find(true); });
+    QPushButton* const next =
+        MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { Find(false); });
+    QPushButton* const close =
+        MakeButton("cmdFindClose", tr("Close"), tr("Close (Escape)"), [this] { Close(); });
+    design::MakeAlike({previous, next, close});
+    row->addWidget(previous);
+    row->addWidget(next);
+    row->addWidget(lblFind_, 1);
+    row->addWidget(close);
     connect(txtFind_, &QLineEdit::textEdited, this,
             [this] { GuardEvent(u"FindBar.txtFind_Change", [this] { FindTyped(); }); });
     connect(txtFind_, &QLineEdit::returnPressed, this,
@@ -105,7 +108,7 @@ bool FindBar::FindFrom(const QTextCursor& cursor, bool backwards) {
 }
 
 void FindBar::ShowOutcome(bool found) {
-    lblFind_->setText(found ? QString() : tr("Not found"));
+    lblFind_->Tell(found ? QString() : tr("Not found"));
     txtFind_->setAccessibleDescription(lblFind_->text());
 }
 
@@ -113,7 +116,7 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         Close();
     } else {
-        QFrame::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
     }
 }
 

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFrame>
 #include <QString>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QWidget>
 
 #include <functional>
 
-class QLabel;
 class QLineEdit;
 
 namespace halvek {
 
+class StatusLabel;
+
 /// A line below a text that finds words in it, letter case ignored; hidden until it is asked for.
-class FindBar : public QFrame {
+class FindBar : public QWidget {
     Q_OBJECT
 
   public:
@@ -58,7 +59,7 @@ class FindBar : public QFrame {
 
     Searched text_;
     QLineEdit* txtFind_;
-    QLabel* lblFind_;
+    StatusLabel* lblFind_;
 };
 
 }  // namespace halvek

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+
+namespace halvek {
+
+/// What the pictures on the help viewer's tools show.
+enum class HelpPicture { Back, Forward, Home, Contents, Find, Smaller, Larger };
+
+/// A picture painted at the size it is asked for, so it is crisp at every scale; pale when
+/// disabled.
+QIcon HelpIcon(HelpPicture picture);
+
+}  // namespace halvek

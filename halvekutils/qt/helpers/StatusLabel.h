@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+namespace halvek {
+
+/// A line that says how something went; screen readers say it at once.
+class StatusLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit StatusLabel(const char* name, QWidget* parent = nullptr);
+
+    void Tell(const QString& text);
+};
+
+}  // namespace halvek
