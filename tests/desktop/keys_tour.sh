@@ -12,8 +12,12 @@ pictures=100  # so that their names sort
 is_noted() {
     grep -qF -- "$1" <(tail -n +"$((answered + 1))" "$record")
 }
+# Whether another window than the client's is active, whose title starts with a text; that of a help
+# page ends with it.
 has_opened() {
-    has_active_title "$1" && ! is_active "$main"
+    local title
+    title=$(xdotool getactivewindow getwindowname 2>/dev/null)
+    [[ "$title" == "$1"* || "$title" == *" - $1" ]] && ! is_active "$main"
 }
 # The whole screen, as the display keeps it in memory.
 screen_sum() {
