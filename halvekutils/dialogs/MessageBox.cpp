@@ -16,7 +16,7 @@ namespace {
 constexpr int kEnter = 13;
 constexpr int kEscape = 27;
 constexpr std::int32_t kScrollStep = 200;
-constexpr std::int32_t kLongestCountdown = 2'147'483'640;
+constexpr std::int32_t kMaxCountdownSeconds = 2'147'483'640;
 constexpr std::u16string_view kFixedFace = u"Courier New";
 
 struct FontRow {
@@ -86,7 +86,7 @@ MessageBox::MessageBox(MessageBoxRequest request, const Services& session, const
     layout_ = LayOutMessageBox({request_.prompt, font_, set_->choice, Picture() != 0}, desktop,
                                desktop.ScreenSize(), desktop.FrameSize());
     if (request_.closeAfterNSec >= 1) {
-        countdownTotal_ = std::min(request_.closeAfterNSec, kLongestCountdown);
+        countdownTotal_ = std::min(request_.closeAfterNSec, kMaxCountdownSeconds);
         countdownRunning_ = true;
     }
 }

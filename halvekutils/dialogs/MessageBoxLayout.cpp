@@ -31,9 +31,9 @@ constexpr std::int32_t kReadableLength = 90;
 constexpr std::u16string_view kTypicalLetters = u"the quick brown fox jumps over a lazy dog ";
 
 constexpr std::int32_t kFormMargin = 800;
-constexpr std::int32_t kLeastMessageWidth = 4600;
-constexpr std::int32_t kLeastMessageHeight = 800;
-constexpr std::int32_t kMostMessageHeight = 8600;
+constexpr std::int32_t kMinMessageWidth = 4600;
+constexpr std::int32_t kMinMessageHeight = 800;
+constexpr std::int32_t kMaxMessageHeight = 8600;
 
 bool IsMultiLine(TextIn prompt) {
     return prompt.find(u"\r\n") != std::u16string_view::npos;
@@ -119,7 +119,7 @@ std::array<std::int32_t, 3> ButtonLefts(int count, std::int32_t width, std::int3
 /// How wide a message frame is at least: buttons with large captions want more than usual.
 std::int32_t LeastMessageWidth(int buttonCount, Size button) {
     const std::int32_t form = buttonCount * button.width + (buttonCount + 1) * design::kGap;
-    return std::max(kLeastMessageWidth, form - kFormMargin);
+    return std::max(kMinMessageWidth, form - kFormMargin);
 }
 
 void PlaceFrames(MessageBoxLayout& layout, const MessageBoxContent& content, Size label,
@@ -133,7 +133,7 @@ void PlaceFrames(MessageBoxLayout& layout, const MessageBoxContent& content, Siz
         message.width = least;
         label.width = least;
     }
-    message.height = std::clamp(label.height + 90, kLeastMessageHeight, kMostMessageHeight);
+    message.height = std::clamp(label.height + 90, kMinMessageHeight, kMaxMessageHeight);
     layout.label = {kLabelLeft, kLabelTop, label.width, label.height};
     layout.form.width = message.width + kFormMargin;
     layout.buttonFrame = {0, message.Bottom(), layout.form.width,

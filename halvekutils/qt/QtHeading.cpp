@@ -34,7 +34,7 @@ QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palet
     QString back = QStringLiteral("none");
     if (look.back) {
         const QColor ground = ToQColor(*look.back, palette);
-        fore = design::Visible(fore, ground, design::kLeastHostContrast);
+        fore = design::Visible(fore, ground, design::kMinHostContrast);
         back = ground.name();
     }
     const bool isLabel = kind == HeadingKind::Label;

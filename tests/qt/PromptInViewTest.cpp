@@ -100,8 +100,8 @@ class PromptInViewTest : public FormTest {
 
 /// The pixels that a text can have on this screen: the form grows up to a limit.
 int RoomOf(const Desktop& desk, const frmMessageBox& form) {
-    constexpr std::int32_t kMostForm = 8850;
-    const std::int32_t outer = std::min(kMostForm, desk.ScreenSize().height);
+    constexpr std::int32_t kMaxForm = 8850;
+    const std::int32_t outer = std::min(kMaxForm, desk.ScreenSize().height);
     const std::int32_t around =
         desk.FrameSize().height + form.Box()->Layout().buttonFrame.height + 165;
     return TwipsToPixels(outer - around) - 1;

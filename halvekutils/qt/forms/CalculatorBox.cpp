@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kDisplayFont = 1.8;  // times the desktop's
 
-const char* const kLongestNumber = "-8.88888888888888E+888";
+const char* const kWidestNumber = "-8.88888888888888E+888";
 
 }  // namespace
 
@@ -28,7 +28,7 @@ CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form)
     setFont(design::ScaledFont(kDisplayFont));
     const QFontMetrics metrics(font());
     const int around = metrics.averageCharWidth() * 2;
-    setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);
+    setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kWidestNumber)) + around);
     // Nothing but keys and Ctrl+V, which the rules check, may put text into the box.
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);

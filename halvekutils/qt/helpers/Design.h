@@ -32,7 +32,7 @@ void SpaceOut(QLayout& layout);
 double Contrast(const QColor& one, const QColor& other);
 
 /// The least contrast of two colours that a host has chosen; below it nobody can read the text.
-inline constexpr double kLeastHostContrast = 2;
+inline constexpr double kMinHostContrast = 2;
 
 /// The first colour where it stands out from the ground, else black or white.
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
