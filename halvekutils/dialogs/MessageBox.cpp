@@ -41,7 +41,7 @@ FontSpec FontOf(FontSizeChoice choice, bool bold) {
     return font;
 }
 
-// The letters that can press a button; a key of any other letter presses none.
+// The letters that can press a button.
 constexpr std::u16string_view kAcceleratorLetters = u"ACINORYSDH";
 
 char16_t AcceleratorLetter(int keyCode) {
@@ -165,7 +165,7 @@ MessageBox::KeyAction MessageBox::KeyDown(int keyCode, unsigned modifiers) {
 
 void MessageBox::FormKeyPress(int keyAscii) {
     const bool closes = keyAscii == kEnter || keyAscii == kEscape;
-    // Where a button shows it has the focus, and no key reaches the form itself.
+    // A visible button has the focus, so no key reaches the form itself.
     if (IsOpen() && closes && ButtonCount(set_->choice) == 0) CloseWith({});
 }
 

@@ -29,7 +29,7 @@ CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form)
     const QFontMetrics metrics(font());
     const int around = metrics.averageCharWidth() * 2;
     setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kWidestNumber)) + around);
-    // Nothing but keys and Ctrl+V, which the rules check, may put text into the box.
+    // Only keys and Ctrl+V, which the rules check, may put text into the box.
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
     setAttribute(Qt::WA_InputMethodEnabled, false);
@@ -51,8 +51,8 @@ void CalculatorBox::focusInEvent(QFocusEvent* event) {
     isEntered_ = event->reason() == Qt::MouseFocusReason;
 }
 
-// A click selects the number that the next digit replaces, as Tab does. Beside the text, which
-// stands at the right, it means the end.
+// A click selects the number that the next digit replaces, as Tab does. A click beside the text,
+// which is on the right, puts the caret at the end.
 void CalculatorBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     const bool isEntered = std::exchange(isEntered_, false);

@@ -9,7 +9,7 @@ namespace halvek {
 
 namespace {
 
-/// The colour of the focus, dark enough for a light button though the desktop may be dark.
+/// The colour of the focus, dark enough for a light button even on a dark desktop.
 QColor OnLightFace(const QColor& highlight) {
     constexpr int kMaxLightness = 80;
     return QColor::fromHsl(highlight.hslHue(), highlight.hslSaturation(),
@@ -37,7 +37,7 @@ QPalette MessageButtonPalette(const MessageBoxColors& colors, const QPalette& de
         palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
         palette.setColor(QPalette::Highlight, OnLightFace(desktop.color(QPalette::Highlight)));
     }
-    // Arrows are drawn as text, and the form's would come through a role that is not said.
+    // Arrows are drawn as text; a role that is not set would take the form's colour.
     for (const auto role : {QPalette::WindowText, QPalette::Text}) {
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
             palette.setColor(group, role, palette.color(group, QPalette::ButtonText));
