@@ -32,7 +32,7 @@ class CurrencyFilter : public QObject {
     /// Attaches a new filter, which replaces the one before.
     static CurrencyFilter& Attach(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
 
-    /// The filter of a line edit; null when it is no currency field.
+    /// The filter of a line edit; null when it is not a currency field.
     static CurrencyFilter* Of(const QLineEdit& line);
 
     /// The line edit; null once it is being destroyed.

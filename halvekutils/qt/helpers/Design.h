@@ -34,7 +34,7 @@ double Contrast(const QColor& one, const QColor& other);
 /// The least contrast of two colours chosen by a host; below it nobody can read the text.
 inline constexpr double kMinHostContrast = 2;
 
-/// The first colour where it stands out from the ground, else black or white.
+/// The first colour if its contrast with the ground suffices, else black or white.
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
 
 /// A colour between two: `share` per cent of the first.
