@@ -19,8 +19,8 @@
 
 namespace halvek {
 
-/// The component as a new process finds it, before the first InitUtils, on a machine and a desktop
-/// of the test's own.
+/// The component as in a new process, before the first InitUtils, on the test's own machine and
+/// desktop.
 class CleanState : public ::testing::Test {
   protected:
     CleanState() {

@@ -7,7 +7,7 @@
 
 namespace halvek {
 
-/// The number of the fault that the action raises; 0 when it raises none.
+/// The number of the fault that the action throws; 0 when it throws none.
 template <class Action>
 std::int32_t FaultOf(const Action& action) {
     try {

@@ -11,9 +11,9 @@
 
 namespace halvek {
 
-/// The help file of the sources in the folder help, compiled with chmcmd of the package fp-utils:
-/// a first page in Windows-1252, a second one in UTF-8, made so long here that it does not fit into
-/// one compressed span unless it is given fewer lines, and a picture.
+/// The help file made from the folder help, compiled with chmcmd of the package fp-utils: a first
+/// page in Windows-1252, a second one in UTF-8 and a picture. By default the second page gets so
+/// many lines that it does not fit into one compressed span.
 class HelpFile {
   public:
     explicit HelpFile(int lines = 4000) {
@@ -32,7 +32,7 @@ class HelpFile {
     static std::filesystem::path Source(std::string_view name) {
         return std::filesystem::path(HALVEK_HELP_SOURCES) / name;
     }
-    /// Another file beside it, which holds these bytes.
+    /// Another file beside it, with these bytes.
     std::filesystem::path Beside(std::string_view bytes) const {
         WriteFile(folder_ / "bad.chm", bytes);
         return folder_ / "bad.chm";

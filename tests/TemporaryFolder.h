@@ -14,7 +14,7 @@
 
 namespace halvek {
 
-/// A new folder that goes away, with all that is in it, at the end of the scope.
+/// A new folder, deleted with its contents at the end of the scope.
 class TemporaryFolder {
   public:
     TemporaryFolder() {

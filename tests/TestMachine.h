@@ -9,7 +9,7 @@
 
 namespace halvek {
 
-/// The local machine with a stopped clock, a user and an own folder of the test's choice.
+/// The local machine with a stopped clock, and a user and a folder chosen by the test.
 class TestMachine : public LocalMachine {
   public:
     explicit TestMachine(std::filesystem::path own) : ownFolder(std::move(own)) {}

@@ -22,7 +22,7 @@ fi
 
 gunzip -c "$source/abi/$name.abi.gz" >"$old"
 "$source/scripts/dump-abi" "$library" "$4" >"$new"
-# Without debug information there would be nothing to compare.
+# Without debug information there is nothing to compare.
 grep -q '<function-decl .* elf-symbol-id=' "$new"
 if ! abidiff --no-added-syms "$old" "$new"; then
     echo "Hosts built with an earlier $name may break."

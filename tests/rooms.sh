@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT
-# Checks that every room of the library includes only what it may touch, that the library without
-# windows links nothing beyond the C and C++ run-time, and that every source names its licence.
-# Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
+# SPDX-License-Identifier: MIT Checks that every room of the library includes only what it may, that
+# the library without windows links nothing beyond the C and C++ run-time, and that every source
+# names its licence. Usage: rooms.sh SOURCE-FOLDER LIBRARY LIST-OF-PUBLIC-HEADERS
 set -euo pipefail
 cd "$1"
 library=$2
@@ -34,7 +33,7 @@ wrong=$(grep -rE '#include <halvekutils/' halvekutils --include='*.h' --include=
 # Also inside core/, where includes run one way
 circle=$(grep -oE '#include <halvekutils/core/[A-Za-z]+' halvekutils/core/*.h halvekutils/core/*.cpp |
     sed -E 's,^halvekutils/core/([A-Za-z]+)\..*/,\1 ,' | tsort 2>&1 >/dev/null || true)
-[ -z "$circle" ] || fail "core/ includes in a circle: $circle"
+[ -z "$circle" ] || fail "core/ has circular includes: $circle"
 
 # Foreign headers: names without a dot belong to the standard library or Qt; names with .h belong to
 # the system and the printers, and in one place to the processor

@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT
-# Plays the demo's tour without a display and checks what it leaves.
-# Usage: tour.sh DEMO FOLDER
+# SPDX-License-Identifier: MIT Plays the demo's tour without a display and checks the files it
+# leaves. Usage: tour.sh DEMO FOLDER
 set -euo pipefail
 demo=$1
 folder=$2

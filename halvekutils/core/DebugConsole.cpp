@@ -11,7 +11,7 @@ namespace halvek {
 
 namespace {
 
-constexpr std::size_t kMostCharacters = 30'000;
+constexpr std::size_t kMaxCharacters = 30'000;
 constexpr std::u16string_view kLineBreak = u"\r\n";
 constexpr std::u16string_view kCleared = u"<<<<<CLEARED>>>>>>";
 constexpr std::u16string_view kStopped = u"<<<<<LOG STOPPED>>>>>";
@@ -57,7 +57,7 @@ void DebugConsole::ShowInDebug(TextIn strText) noexcept {
         const std::u16string line(strText);
         Platform::Installed().Show(shared_from_this());
         if (loggingStopped_) return;
-        if (text_.size() > kMostCharacters) Replace(kCleared);
+        if (text_.size() > kMaxCharacters) Replace(kCleared);
         if (session_.debugMode) AddLine(line);
         if (allGoesToFile_) SendToFile(line);
     });

@@ -8,11 +8,11 @@
 
 namespace halvek {
 
-/// What to tell the user about a range whose upper amount is below its lower one; nothing when the
-/// range is in order.
+/// The message for a range whose upper amount is below its lower one; nothing when the range is in
+/// order.
 ///
-/// Amounts are compared in single precision. One that is 0 or no number is in order with any other;
-/// throws Overflow for one that single precision does not hold.
+/// Amounts are compared in single precision. Zero or a non-number passes. Throws Overflow for an
+/// amount beyond single precision.
 std::optional<std::u16string> RangeComplaint(TextIn strMin, TextIn strMax, TextIn lblMin,
                                              TextIn lblMax);
 

@@ -26,19 +26,19 @@ bool IsDigits(std::u16string_view text) {
     return std::ranges::all_of(text, IsDigit);
 }
 
-/// Takes the sign in front off; true for a "-".
+/// Removes a leading sign; true for a "-".
 bool TakeSign(std::u16string_view& text) {
     return !TakeFront(text, u'+') && TakeFront(text, u'-');
 }
 
-/// Takes "$" and the blanks behind it off the front; true when it was there.
+/// Removes a leading "$" and the blanks after it; true when it was there.
 bool TakeDollar(std::u16string_view& text) {
     if (!TakeFront(text, u'$')) return false;
     text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
     return true;
 }
 
-/// Digits, or one to three digits and then groups of three behind commas.
+/// Digits, or one to three digits and then groups of three, each after a comma.
 bool IsWhole(std::u16string_view text) {
     std::size_t digits = LeadingDigits(text);
     if (digits == text.size()) return true;
@@ -76,7 +76,7 @@ bool RoundsUp(const Decimal& number) {
     return number.fraction.size() > kFractionDigits && number.fraction[kFractionDigits] >= u'5';
 }
 
-/// The hundredths of a number and one more, all digits.
+/// The number in hundredths plus one, as digits.
 std::u16string NextHundredth(const Decimal& number) {
     std::u16string digits(1, u'0');
     AppendDigits(digits, number.whole);

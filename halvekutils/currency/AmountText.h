@@ -11,8 +11,8 @@
 
 namespace halvek {
 
-// Amounts as text, and as whole cents where a host counts. No fraction is ever binary: what was
-// typed is what is shown.
+// Amounts as text, and as whole cents where a host counts. No fraction is ever binary, so a field
+// shows exactly what the user typed.
 
 /// The most digits before the point.
 inline constexpr std::size_t kWholeDigits = 7;
@@ -27,8 +27,8 @@ enum class AmountSign {
 
 /// The number with thousands commas and two decimals, halves rounded away from zero.
 ///
-/// Takes digits with at most one point, a sign in front, and commas that part the whole digits into
-/// thousands; anything else is a TypeMismatch. Zero has no sign.
+/// Takes digits with at most one point, a leading sign, and commas between thousands; anything else
+/// is a TypeMismatch. Zero has no sign.
 ///
 ///     FormatAmount(u"1234.5") == u"1,234.50";  FormatAmount(u"-.005") == u"-0.01";
 HALVEK_EXPORT std::u16string FormatAmount(TextIn text);
@@ -44,17 +44,15 @@ HALVEK_EXPORT std::u16string FormatCents(std::int64_t cents);
 ///     CentsIn(u"$1,234.50") == 123450;  CentsIn(u"$-5.00") == -500;  !CentsIn(u"");
 HALVEK_EXPORT std::optional<std::int64_t> CentsIn(TextIn text);
 
-/// True for what a field may hold while it is typed into: a "-" where amounts have signs, up to
-/// seven digits, a point and up to two digits; each of these may still be missing.
+/// True for a text that a field may hold while the user types: a "-" where amounts have signs, up
+/// to seven digits, a point and up to two digits; each of these may still be missing.
 HALVEK_EXPORT bool IsTypedAmount(TextIn text, AmountSign sign);
 
-/// The bare number that a text from elsewhere stands for, with "-" in front of a negative one; of
-/// any length.
+/// The bare number in a text from elsewhere, of any length; a negative one starts with "-".
 ///
-/// Around the text there may be blanks and line ends. "$" stands in front, before or after the
-/// sign, and may have blanks behind it; parentheses make a signed amount negative; commas part
-/// thousands. Nothing when the text cannot be read, or could be read in two ways as "1.234,50",
-/// "1,23" and "1 234" can.
+/// The text may have blanks and line ends around it, a "$" before or after the sign, blanks after
+/// the "$", and commas between thousands; parentheses make a signed amount negative. Nothing when
+/// the text cannot be read, or can be read in two ways: "1.234,50", "1,23", "1 234".
 ///
 ///     BareAmount(u"$1,234.50", AmountSign::Unsigned) == u"1234.50";
 ///     BareAmount(u"(5.00)", AmountSign::Signed) == u"-5.00";

@@ -40,7 +40,7 @@ void Handle(const EventName& name, AmountSign sign, Services& session,
 
 }  // namespace
 
-// The arguments are copies: what a control runs on a change may end the caller's own pointer.
+// The arguments are copies: a control's change handler may destroy the caller's own pointer.
 
 void CurrencyEvents::PressKey(std::shared_ptr<TextControl> ctr, std::int16_t& keyAscii) const {
     Handle(kKeyPress, sign_, session_, ctr,

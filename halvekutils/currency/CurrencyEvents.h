@@ -26,11 +26,11 @@ class HALVEK_INTERNAL CurrencyEvents {
     void PressKey(std::shared_ptr<TextControl> ctr, std::int16_t& keyAscii) const;
     /// Cuts what follows the point to two characters.
     void Change(std::shared_ptr<TextControl> ctr) const;
-    /// Makes a shown amount a bare number, and selects it.
+    /// Turns a shown amount into a bare number and selects it.
     void Enter(std::shared_ptr<TextControl> ctr) const;
     /// Shows the amount formatted; `cancel` becomes false for an empty field.
     void Leave(std::shared_ptr<TextControl> ctr, bool& cancel) const;
-    /// Tells the user when `strMax` is below `strMin`, empties the control and makes `cancel` true.
+    /// When `strMax` is below `strMin`: shows a message, empties the control and sets `cancel`.
     void CheckRange(std::shared_ptr<TextControl> ctr, TextIn strMin, TextIn strMax, TextIn lblMin,
                     TextIn lblMax, bool& cancel) const;
 

@@ -18,7 +18,8 @@ bool HasMinus(const std::u16string& text) {
     return text.find(u'-') != text.npos;
 }
 
-/// Where "$" is taken off: the first character goes, unless that would be a sign or a digit.
+/// Where the mark of a shown amount is: in front when the text starts with "$" or a blank, else at
+/// its first "$".
 std::size_t MarkOf(const std::u16string& text) {
     const bool startsWithMark = text.front() == u'$' || text.front() == u' ';
     return startsWithMark ? 0 : text.find(u'$');

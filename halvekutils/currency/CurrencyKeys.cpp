@@ -17,7 +17,7 @@ void WriteAndGoToEnd(TextControl& ctr, const std::u16string& text) {
     ctr.SelStart(LengthOf(text));
 }
 
-/// What the rules see of a control: its number without "$", blanks around it and its sign.
+/// A control's text as the rules see it: without "$", surrounding blanks and sign.
 struct Entry {
     Entry(const TextControl& ctr, AmountSign amountSign)
         : shown(ctr.Text()), text(BareText(shown)), number(text) {
@@ -26,7 +26,7 @@ struct Entry {
         number = Without(text, u'-');
     }
 
-    std::u16string shown;  ///< as it stands in the control
+    std::u16string shown;  ///< as the control has it
     std::u16string text;
     std::u16string number;
     std::u16string sign;  ///< "-" or empty
@@ -44,7 +44,7 @@ bool IsCaretAtEnd(const TextControl& ctr, const Entry& entry) {
     return BareText(entry.shown.substr(0, caret)).size() >= entry.text.size();
 }
 
-/// What passes must not land in front of the sign.
+/// A key that passes must not land before the sign.
 void PutCaretBehindSign(TextControl& ctr, const Entry& entry) {
     if (entry.sign.empty() || !entry.text.starts_with(u'-')) return;
     const auto behind = static_cast<std::int32_t>(entry.shown.find(u'-') + 1);
@@ -62,7 +62,7 @@ bool HasNoRoom(const std::u16string& number, bool caretAtEnd) {
     return fraction >= kFractionDigits && caretAtEnd;
 }
 
-// Each of these gives whether the control is to insert the key.
+// Each returns whether the control inserts the key.
 
 bool PressDigit(TextControl& ctr, const Entry& entry, char16_t digit) {
     if (ctr.SelLength() > 0) return true;

@@ -10,12 +10,12 @@
 
 namespace halvek {
 
-/// A readable amount in the form that no rule about digits without a point can misread. What has no
-/// digit yet, a point alone say, is no amount: the empty text. Any other text as it is.
+/// Rewrites a readable amount so that no rule about digits without a point misreads it. A text
+/// without a digit (a lone point, say) becomes empty; any other text stays as it is.
 HALVEK_INTERNAL std::u16string ForLeaving(TextIn text);
 
-/// What a field shows of an amount once it is left, "$1,234.50". Nothing for what is no amount, and
-/// for the empty text.
+/// The amount as a field shows it once it is left: "$1,234.50". Nothing for an empty text or a text
+/// that is not an amount.
 HALVEK_INTERNAL std::optional<std::u16string> ShownAmount(TextIn text, AmountSign sign);
 
 }  // namespace halvek

@@ -35,7 +35,7 @@ struct HookedKey {
     int button;
 };
 
-// Backspace deliberately leaves the display alone: all that it does is to be logged.
+// Backspace deliberately leaves the display alone; it is only logged.
 constexpr HookedKey kHookedKeys[] = {
     {106, Calculator::kMultiply},     {107, Calculator::kPlus},
     {109, Calculator::kMinus},        {110, Calculator::kPoint},
@@ -55,7 +55,8 @@ bool HoldsPoint(std::u16string_view text) {
     return text.find(u'.') != text.npos;
 }
 
-/// A number in exponent form stands alone: a character behind it would change it beyond reason.
+/// A number in exponent form takes no more characters: one more could change it by orders of
+/// magnitude.
 bool HasExponent(std::u16string_view text) {
     return text.find_first_of(u"eE") != text.npos;
 }
@@ -72,7 +73,7 @@ int ButtonOf(char16_t op) {
     return Calculator::kDivide + static_cast<int>(kOperators.find(op));
 }
 
-/// A number that is no longer one as text is too large to go on with.
+/// A result whose text no longer reads as a number is too large to calculate with.
 std::u16string ResultText(double number) {
     const std::u16string text = NumberText(number);
     return IsNumeric(text) ? text : std::u16string(kError);
@@ -88,7 +89,7 @@ TextIn WithoutLineEnds(TextIn text) {
     return text;
 }
 
-/// A number of any notation as the characters that enter it; empty for what is no number.
+/// The keystrokes that enter a number in any notation; empty for a non-number.
 std::u16string Keystrokes(TextIn text) {
     const auto number = ToNumber(text);
     if (!number) return {};
@@ -157,7 +158,7 @@ void Calculator::ChangeSign() {
     display_ = ResultText(-1 * RoundToCents(Val(display_)));
 }
 
-/// A result is not taken back, nor a number whose exponent would be cut.
+/// Does nothing to a result, or to a number whose exponent it would cut.
 void Calculator::TakeBack() {
     if (!IsOpen() || numberDone_ || display_.empty() || HasExponent(display_)) return;
     display_.pop_back();
@@ -254,7 +255,7 @@ bool Calculator::KeyDown(int keyCode) {
 
 void Calculator::HookedKeyDown(int KeyCode) {
     if (IsMainDigit(KeyCode)) return;
-    // A digit between two Enters leaves the second one armed.
+    // A digit between two Enters does not disarm the second.
     if (IsKeypadDigit(KeyCode)) return Press(KeyCode - kKeypadZero);
     const bool armed = std::exchange(enterArmed_, KeyCode == kEnterKey);
     if (KeyCode == kEnterKey) return Press(armed ? kReturn : kEquals);

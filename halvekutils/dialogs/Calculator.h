@@ -21,10 +21,10 @@ class Services;
 /// It works from left to right: each operator completes the one before. The display shows a result
 /// with two decimals, the accumulator keeps it unrounded. An empty display, and any other that
 /// shows no number, counts as 0 in an operation. A division by zero gives "ERROR", and so does a
-/// result beyond the range of numbers. RET ends it with what is shown as its result.
+/// result beyond the range of numbers. RET ends it; the result is the number shown.
 class HALVEK_EXPORT Calculator : public Dialog {
   public:
-    /// The buttons behind the digits, which are the buttons 0 to 9.
+    /// The buttons after the digits, which are buttons 0 to 9.
     enum Button : int {
         kChangeSign = 10,  ///< "+ -"
         kPoint,            ///< "."
@@ -38,7 +38,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     };
     /// How many buttons there are.
     static constexpr int kButtonCount = 19;
-    /// Stands for the box of the display where a button's number says who has the focus.
+    /// The number of the display's box, where a button's number says what has the focus.
     static constexpr int kBox = -1;
     /// How many characters can be typed. A result is shown whole, however long it is.
     static constexpr std::size_t kMaxLength = 15;
@@ -74,8 +74,8 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// The user has moved the focus to a button or to kBox.
     void FocusOn(int control) { focus_ = control; }
 
-    /// A character is typed where the focus is. True when it goes into the box as it is; any other
-    /// is done with.
+    /// A character is typed where the focus is. True when the box must insert it; false when the
+    /// calculator has dealt with it.
     bool KeyPress(char16_t character);
 
     /// Escape (27) ends the calculator without a result, F9 (120) changes the sign. Unless the box
@@ -92,16 +92,15 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// The user has edited the text in the box; the next digit goes on with it.
     void EditDisplay(TextIn text);
 
-    /// Takes a number or an amount over from the clipboard as if its digits were pressed, or in the
-    /// place of what is selected in the box; beeps when it is none or does not fit.
+    /// Enters a number or an amount from the clipboard as if its digits were pressed, or replaces
+    /// the selection in the box. Beeps when the text is not a number or does not fit.
     /// @param text  what the clipboard holds
     /// @param start, selected  the selected characters, counted from 0
     void Paste(TextIn text, std::size_t start = 0, std::size_t selected = 0);
     /// The number shown, for the clipboard; empty with a beep when none is shown.
     std::u16string Copy();
 
-    /// Completes the operation that is pending and starts another: "+", "-", "*", "/", or "=" for
-    /// none.
+    /// Completes the pending operation and starts another: "+", "-", "*", "/", or "=" for none.
     void Operate(char16_t op);
     /// The result of one operation on the values of two texts.
     std::u16string Compute(TextIn a, char16_t op, TextIn b);

@@ -29,7 +29,7 @@ year_month MonthOf(Calendar::Day day) {
     return date.year() / date.month();
 }
 
-/// The day of a text, when it is one that can be chosen.
+/// The day in a text, if the calendar can choose it.
 std::optional<Calendar::Day> ReadDay(TextIn text, DateTime now) {
     const std::optional<DateTime> when = ParseDateTime(text, now);
     if (!when || !CanBeChosen(DayOf(*when))) return std::nullopt;

@@ -16,7 +16,7 @@ namespace halvek {
 /// What a calendar is asked to show.
 struct CalendarRequest {
     std::u16string dateToShow = {};   ///< the date that it opens on, see ParseDateTime
-    std::u16string defaultDate = {};  ///< shown in its stead when that is no date; empty for today
+    std::u16string defaultDate = {};  ///< shown if dateToShow is not a date; empty for today
     bool needsConversions = false;    ///< the date to show may be digits, see DateOfDigits
     PopupAnchor anchor = {};          ///< where it is asked to open
 };
@@ -36,7 +36,7 @@ class HALVEK_EXPORT Calendar : public Dialog {
     /// The last day that can be chosen, 12/31/9999.
     static constexpr Day kLastDay = Day(std::chrono::year(9999) / 12 / 31);
 
-    /// `machine` tells what day it is.
+    /// `machine` gives today's date.
     Calendar(const CalendarRequest& request, Machine& machine);
     ~Calendar() override;
 
@@ -51,10 +51,10 @@ class HALVEK_EXPORT Calendar : public Dialog {
 
     // What the user does
 
-    /// Marks a day without choosing it; the nearest that can be chosen.
+    /// Marks a day without choosing it, or the nearest one that can be chosen.
     void Mark(Day day);
 
-    /// Goes to another month, to the marked day of the month or else the last.
+    /// Goes to another month and marks the same day there, or else the last.
     void ShowMonth(int year, unsigned month);
 
     /// The keys that the calendar knows.
@@ -76,7 +76,7 @@ class HALVEK_EXPORT Calendar : public Dialog {
     /// A key pressed in the calendar.
     void KeyDown(Key key);
 
-    /// Chooses a day. One that cannot be chosen does nothing.
+    /// Chooses a day. Does nothing for a day outside the range.
     void ClickDay(Day day);
 
   private:

@@ -42,7 +42,7 @@ double HueOf(double red, double green, double blue, double most, double spread) 
 
 std::u16string ColorName(Color color) {
     constexpr double kFull = 255;
-    constexpr double kGreyish = 12;  // per cent of the most that a colour of its lightness can have
+    constexpr double kGreyish = 12;  // per cent of the highest chroma at this lightness
     const double red = RedOf(color);
     const double green = GreenOf(color);
     const double blue = BlueOf(color);

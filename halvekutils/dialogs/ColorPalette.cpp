@@ -103,7 +103,7 @@ int ColorPalette::Moved(Key key, int rowsOnPage) const {
     }
 }
 
-/// Straight down or up, as far as there are rows; a last row that is too short is met at its end.
+/// Straight down or up, as far as there are rows; in a last row that is too short, to its end.
 int ColorPalette::MovedDown(int rows) const {
     const int row = (current_ - 1) / kColumns;
     const int target = std::clamp(row + rows, 0, RowCount() - 1);

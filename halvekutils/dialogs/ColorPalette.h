@@ -37,12 +37,12 @@ class HALVEK_EXPORT ColorPalette : public Dialog {
     /// How many cells a row has.
     static constexpr int kColumns = 6;
 
-    /// Shows entry 1 of the list, then, of entry 2 to the last but two, all above -1; the others
-    /// are unused slots.
+    /// Shows entry 1 of the list, then every entry above -1 from the second to the last but two;
+    /// the others are unused slots.
     ///
-    /// An entry that is no number is black. One of the entries from 2 on that no 32-bit integer
-    /// holds is logged and left out. Throws SubscriptOutOfRange when there is no entry 1, Overflow
-    /// when it is such a number.
+    /// An entry that is not a number is black. From entry 2 on, a number beyond 32 bits is logged
+    /// and left out. Throws SubscriptOutOfRange when there is no entry 1, Overflow when entry 1 is
+    /// beyond 32 bits.
     ColorPalette(const StringArray& colors, const PopupAnchor& anchor, Services& session);
     ~ColorPalette() override;
 
@@ -52,7 +52,7 @@ class HALVEK_EXPORT ColorPalette : public Dialog {
     const std::vector<PaletteCell>& Cells() const { return cells_; }
     /// How many cells there are, at least 1.
     int CellCount() const { return static_cast<int>(cells_.size()); }
-    /// How many rows there are, the last one perhaps in part.
+    /// How many rows there are, the last of which may be short.
     int RowCount() const { return (CellCount() + kColumns - 1) / kColumns; }
 
     /// The cell that the keys have moved to.
@@ -67,7 +67,7 @@ class HALVEK_EXPORT ColorPalette : public Dialog {
     // What the user does
 
     /// Clicks a cell: the palette ends with its colour. Throws SubscriptOutOfRange for a cell that
-    /// there is not.
+    /// does not exist.
     void Click(int cell);
 
     /// The keys that the palette knows.

@@ -12,7 +12,7 @@ namespace {
 constexpr Size kCell = {600, 600};
 constexpr std::int32_t kFrameBorder = 50;
 constexpr std::int32_t kFrameBorders = 2 * kFrameBorder;
-// A cell has room around its swatch; with it the margin is that of the other windows.
+// A cell has room around its swatch, which adds up to the other windows' margin.
 constexpr std::int32_t kMargin = 90;
 
 }  // namespace

@@ -18,8 +18,8 @@ struct ColorPaletteLayout {
     bool scrolls = false;  ///< whether there are more rows than are in view
 };
 
-/// Lays a palette of so many rows, and a line of text of some height below them, out on a screen,
-/// for a window frame that adds `frame` to its inner size. Rows that do not fit are scrolled to.
+/// Lays out a palette with a line of text below its rows on a screen, for a window frame that adds
+/// `frame` to its inner size. Rows that do not fit scroll.
 HALVEK_INTERNAL ColorPaletteLayout LayOutColorPalette(int rows, std::int32_t scrollBarWidth,
                                                       std::int32_t lineHeight, Size screen,
                                                       Size frame);

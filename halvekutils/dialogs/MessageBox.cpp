@@ -16,7 +16,7 @@ namespace {
 constexpr int kEnter = 13;
 constexpr int kEscape = 27;
 constexpr std::int32_t kScrollStep = 200;
-constexpr std::int32_t kLongestCountdown = 2'147'483'640;
+constexpr std::int32_t kMaxCountdownSeconds = 2'147'483'640;
 constexpr std::u16string_view kFixedFace = u"Courier New";
 
 struct FontRow {
@@ -41,7 +41,7 @@ FontSpec FontOf(FontSizeChoice choice, bool bold) {
     return font;
 }
 
-// The letters that can press a button; a key of any other letter presses none.
+// The letters that can press a button.
 constexpr std::u16string_view kAcceleratorLetters = u"ACINORYSDH";
 
 char16_t AcceleratorLetter(int keyCode) {
@@ -86,7 +86,7 @@ MessageBox::MessageBox(MessageBoxRequest request, const Services& session, const
     layout_ = LayOutMessageBox({request_.prompt, font_, set_->choice, Picture() != 0}, desktop,
                                desktop.ScreenSize(), desktop.FrameSize());
     if (request_.closeAfterNSec >= 1) {
-        countdownTotal_ = std::min(request_.closeAfterNSec, kLongestCountdown);
+        countdownTotal_ = std::min(request_.closeAfterNSec, kMaxCountdownSeconds);
         countdownRunning_ = true;
     }
 }
@@ -165,7 +165,7 @@ MessageBox::KeyAction MessageBox::KeyDown(int keyCode, unsigned modifiers) {
 
 void MessageBox::FormKeyPress(int keyAscii) {
     const bool closes = keyAscii == kEnter || keyAscii == kEscape;
-    // Where a button shows it has the focus, and no key reaches the form itself.
+    // A visible button has the focus, so no key reaches the form itself.
     if (IsOpen() && closes && ButtonCount(set_->choice) == 0) CloseWith({});
 }
 

@@ -33,17 +33,16 @@ struct MessageBoxRequest {
     std::shared_ptr<OwnerForm> owner = nullptr;  ///< centred on and refreshed; null for none
 };
 
-/// The colours of a message box; one that is absent is the desktop's own.
+/// The colours of a message box; an absent one is the desktop's own.
 struct MessageBoxColors {
     Color background;                 ///< of the form, both frames and the text's background
     std::optional<Color> text;        ///< of the prompt
     std::optional<Color> buttonFace;  ///< of the buttons
 };
 
-/// The font that a choice stands for: mb9 for 0 and for what lies above the list, any other value
-/// as it is.
+/// The font that a choice means: mb9 for 0 and for values above the list, any other value as it is.
 HALVEK_EXPORT FontSizeChoice NormalizedFontSize(FontSizeChoice fontSize);
-/// The background that a choice stands for: mbWhite for what lies outside the list.
+/// The background that a choice means: mbWhite for a value outside the list.
 HALVEK_EXPORT ColorChoice NormalizedBackground(ColorChoice background);
 
 /// The rules of one message box, without a window: what it shows, what its keys and buttons do and
@@ -60,7 +59,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
 
     /// The text of the box.
     TextIn Prompt() const { return request_.prompt; }
-    /// The title bar's text, with the countdown while one has run.
+    /// The title bar's text, with the countdown once it has started.
     TextIn Caption() const { return caption_; }
     /// The caption of button 0, 1 or 2; empty for a hidden one.
     std::u16string_view ButtonCaption(int index) const;
@@ -88,10 +87,10 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     /// The title, the text and the buttons as one text for the clipboard.
     std::u16string CopyText() const;
 
-    /// The box stands on the screen and its show has returned: the owner is refreshed.
+    /// Call when the box is on the screen and Show has returned: refreshes the owner.
     void ShownModeless();
 
-    /// Whether the box is going to close itself.
+    /// Whether the box will close itself.
     bool CountdownRunning() const { return IsOpen() && countdownRunning_; }
     /// How many seconds the countdown takes in all; 0 without one.
     std::int32_t CountdownSeconds() const { return countdownTotal_; }
@@ -107,7 +106,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     enum class KeyAction {
         None,     ///< the key goes on to the button
         Handled,  ///< the key is done with
-        Copy,     ///< what is selected goes to the clipboard, or else CopyText
+        Copy,     ///< the selection goes to the clipboard, or else CopyText
     };
     /// The keys held down with another, which add up.
     enum KeyModifier : unsigned {
@@ -118,7 +117,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     };
 
     /// A key pressed while a button has the focus. Key codes of letters are those of their
-    /// capitals, Escape is 27. Returns Copy when a text of the box is to go to the clipboard.
+    /// capitals, Escape is 27. Returns Copy when the window must copy text to the clipboard.
     KeyAction KeyDown(int keyCode, unsigned modifiers);
 
     /// A character typed where no control has the focus: Enter (13) and Escape (27) close the box.

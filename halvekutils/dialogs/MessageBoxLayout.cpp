@@ -31,9 +31,9 @@ constexpr std::int32_t kReadableLength = 90;
 constexpr std::u16string_view kTypicalLetters = u"the quick brown fox jumps over a lazy dog ";
 
 constexpr std::int32_t kFormMargin = 800;
-constexpr std::int32_t kLeastMessageWidth = 4600;
-constexpr std::int32_t kLeastMessageHeight = 800;
-constexpr std::int32_t kMostMessageHeight = 8600;
+constexpr std::int32_t kMinMessageWidth = 4600;
+constexpr std::int32_t kMinMessageHeight = 800;
+constexpr std::int32_t kMaxMessageHeight = 8600;
 
 bool IsMultiLine(TextIn prompt) {
     return prompt.find(u"\r\n") != std::u16string_view::npos;
@@ -116,15 +116,15 @@ std::array<std::int32_t, 3> ButtonLefts(int count, std::int32_t width, std::int3
     return {middle - width - gap + pull, middle, middle + width + gap - pull};
 }
 
-/// How wide a message frame is at least: buttons with large captions want more than usual.
-std::int32_t LeastMessageWidth(int buttonCount, Size button) {
+/// The least width of a message frame; wide captions raise it.
+std::int32_t MinMessageWidth(int buttonCount, Size button) {
     const std::int32_t form = buttonCount * button.width + (buttonCount + 1) * design::kGap;
-    return std::max(kLeastMessageWidth, form - kFormMargin);
+    return std::max(kMinMessageWidth, form - kFormMargin);
 }
 
 void PlaceFrames(MessageBoxLayout& layout, const MessageBoxContent& content, Size label,
                  Size button) {
-    const std::int32_t least = LeastMessageWidth(ButtonCount(content.buttons), button);
+    const std::int32_t least = MinMessageWidth(ButtonCount(content.buttons), button);
     Rect& message = layout.messageFrame;
     message.left = content.hasIcon ? kMessageLeftWithIcon : kMessageLeftAlone;
     message.top = kMessageTop;
@@ -133,7 +133,7 @@ void PlaceFrames(MessageBoxLayout& layout, const MessageBoxContent& content, Siz
         message.width = least;
         label.width = least;
     }
-    message.height = std::clamp(label.height + 90, kLeastMessageHeight, kMostMessageHeight);
+    message.height = std::clamp(label.height + 90, kMinMessageHeight, kMaxMessageHeight);
     layout.label = {kLabelLeft, kLabelTop, label.width, label.height};
     layout.form.width = message.width + kFormMargin;
     layout.buttonFrame = {0, message.Bottom(), layout.form.width,
@@ -155,8 +155,8 @@ void PlaceButtons(MessageBoxLayout& layout, int count, Size button) {
     }
 }
 
-/// Places what depends on the wrapped text: wrapped lines are taller than the label was measured,
-/// and scrolling reaches the last of them.
+/// Places the parts that depend on the wrapped text, which is taller than the label that was
+/// measured: scrolling must reach its last line.
 void PlaceText(MessageBoxLayout& layout, bool hasButtons, std::int32_t textHeight) {
     Rect& label = layout.label;
     const std::int32_t below = hasButtons ? layout.buttonFrame.height : 0;

@@ -26,13 +26,13 @@ struct MessageBoxLayout {
     std::int32_t viewHeight = 0;                 ///< how much of the label shows
     std::int32_t scrollRange = 0;                ///< how far the text can move up, to its last line
 
-    /// What the message frame keeps free beside the text, with the scroll buttons in it.
+    /// The width beside the text in the message frame, scroll buttons included.
     static constexpr std::int32_t kTextMargin = 420;
     /// The width at which the text folds: a label of the least width is wider than its view.
     std::int32_t ViewWidth() const { return messageFrame.width - kTextMargin; }
 };
 
-/// What a message box's layout is made of besides the text meter.
+/// What a message box's layout depends on besides the text meter.
 struct MessageBoxContent {
     TextIn prompt;                     ///< the text
     FontSpec font;                     ///< its font
@@ -40,7 +40,7 @@ struct MessageBoxContent {
     bool hasIcon = false;              ///< whether there is a picture
 };
 
-/// Lays a message box out on a screen, for a window frame that adds `frame` to its inner size.
+/// Lays out a message box on a screen, for a window frame that adds `frame` to its inner size.
 HALVEK_EXPORT MessageBoxLayout LayOutMessageBox(const MessageBoxContent& content,
                                                 const TextMeter& meter, Size screen, Size frame);
 

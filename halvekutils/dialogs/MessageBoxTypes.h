@@ -23,7 +23,7 @@ enum ButtonsChoice : std::int32_t {
 /// How a message box was answered.
 enum MbMsgBoxResult : std::int32_t {
     mbOK = 1,        ///< OK; also a box without buttons that was closed
-    mbCancel = 2,    ///< Cancel, or the close box or Escape where there is such a button
+    mbCancel = 2,    ///< Cancel, or the close box or Escape of a box that has Cancel
     mbAbort = 3,     ///< Abort
     mbRetry = 4,     ///< Retry
     mbIgnore = 5,    ///< Ignore
@@ -61,8 +61,8 @@ enum ColorChoice : std::int32_t {
     mbSkinColor = 3,  ///< the colours given to Utils::InitPrefs
 };
 
-/// The font of a message box's text. 0 and values above the list become mb9; a negative value
-/// leaves the font as it is designed.
+/// The font of a message box's text. 0 and values above the list become mb9; a negative value keeps
+/// the font as designed.
 enum FontSizeChoice : std::int32_t {
     mb8 = 1,   ///< 8 points
     mb9 = 2,   ///< 9 points, the default

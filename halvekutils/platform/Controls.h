@@ -179,7 +179,7 @@ class HALVEK_EXPORT TextControl {
     virtual void Text(TextIn value) = 0;
     virtual std::u16string Text() const = 0;
 
-    /// How many characters stand before the caret, or before the selection. Setting it ends the
+    /// How many characters are before the caret, or before the selection. Setting it ends the
     /// selection.
     virtual void SelStart(std::int32_t value) = 0;
     virtual std::int32_t SelStart() const = 0;

@@ -9,10 +9,10 @@
 /// The measures that all windows share, in twips. `qt/helpers/Design.h` has the rest of their look.
 namespace halvek::design {
 
-inline constexpr std::int32_t kMargin = 120;  ///< between a window's edge and what it holds
-inline constexpr std::int32_t kGap = 80;      ///< between things that stand together
+inline constexpr std::int32_t kMargin = 120;  ///< between a window's edge and its contents
+inline constexpr std::int32_t kGap = 80;      ///< between neighbouring parts
 
-/// The least size of a push button, and the room that its caption has around it in all.
+/// The least size of a push button, and the total room around its caption.
 inline constexpr Size kButton = {1300, 420};
 inline constexpr Size kAroundCaption = {360, 150};
 

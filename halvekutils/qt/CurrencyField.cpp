@@ -11,7 +11,7 @@ namespace halvek {
 
 namespace {
 
-/// The filter of a line edit, which becomes a currency field if it is none.
+/// The filter of a line edit; makes the line edit a currency field if it is not one yet.
 CurrencyFilter& FieldOf(QLineEdit& line) {
     CurrencyFilter* const field = CurrencyFilter::Of(line);
     return field != nullptr ? *field : CurrencyFilter::Attach(line, AmountSign::Unsigned, nullptr);

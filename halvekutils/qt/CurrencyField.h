@@ -15,25 +15,25 @@ namespace halvek {
 
 class Utils;
 
-/// Makes an ordinary line edit a currency field: with the focus it holds a bare number of up to
-/// seven digits and two decimals, all selected at first; left, it shows "$1,234.50".
+/// Makes an ordinary line edit a currency field. With the focus it holds a bare number of up to
+/// seven digits and two decimals, all selected at first; once left, it shows "$1,234.50".
 ///
-/// Whatever the user does is judged by the text that would result; what is refused beeps. A paste,
-/// a drop or an input method may bring an amount in any clear form, "$1,234.50" or " 12 "; what
-/// could be read in two ways or has too many digits changes nothing. A text that the host sets
-/// while the field is not typed in is shown as an amount; one that is no amount stays as it is. A
-/// read-only field is locked.
+/// The field accepts or refuses each edit by the text that would result; a refusal beeps. A paste,
+/// a drop or an input method may bring an amount in any clear form, "$1,234.50" or " 12 "; a text
+/// that can be read in two ways or has too many digits changes nothing. A text that the host sets
+/// while nobody types in the field is shown as an amount, or as it is if it is not one. A read-only
+/// field is locked.
 ///
-/// Enter, and the buttons, shortcuts and menus of the window see the field as it is when left; the
-/// amount is then selected, since the next key replaces it. Buttons that reject or help in a
-/// QDialogButtonBox leave it unchecked, and so do controls and actions of any kind that a host
-/// marks by the property "causesValidation" = false. The window's mere deactivation does not count.
-/// The delegate of a table or a QDataWidgetMapper commits what is shown, and what it has set itself
-/// when the user has not changed it.
+/// Enter and the window's buttons, shortcuts and menus leave the field before they act; the amount
+/// is then selected, and the next key replaces it. Buttons that reject or help in a
+/// QDialogButtonBox leave it unchecked, and so do controls and actions that a host marks with the
+/// property "causesValidation" = false. Deactivating the window does not leave the field. The
+/// delegate of a table or a QDataWidgetMapper commits the shown amount, or the text it has set
+/// itself if the user has not changed it.
 ///
 /// The field replaces the line edit's validator and input mask, and widens a maximum length that
-/// leaves no room for an amount; it is aligned to the right unless it is centered. It may be made
-/// before or after the line edit is shown, and anew.
+/// leaves no room for an amount; it is aligned to the right unless it is centered. Call it before
+/// or after the line edit is shown, and again to replace the field.
 /// @param line  the line edit; null does nothing
 /// @param utils  kept alive as long as the field; null for none
 ///
@@ -55,11 +55,12 @@ HALVEK_EXPORT void MakeSignedCurrencyField(QLineEdit* line, std::shared_ptr<Util
 HALVEK_EXPORT void CheckCurrencyRange(QLineEdit* from, QLineEdit* to, TextIn lblMin, TextIn lblMax);
 
 /// Leaves the currency fields of a window, as a move of the focus would: they show their amounts
-/// and check their ranges. For what saves without a click or a shortcut that the fields see by
-/// themselves: a timer, a slot that a host calls on its own.
+/// and check their ranges. For code that saves without a click or a shortcut, which the fields
+/// would see: a timer, a slot that a host calls itself.
 ///
 /// @param window  the window, or any widget in it; null leaves no field
-/// @return  false when a field must not be left: a message has told why, and it has the focus
+/// @return  false when a field refuses to be left: a message has said why, and the field has the
+/// focus
 ///
 /// @code
 /// QObject::connect(save, &QAction::triggered, window, [=] {
@@ -70,11 +71,11 @@ HALVEK_EXPORT bool LeaveCurrencyFields(QWidget* window);
 
 /// The amount of a currency field in cents, as it would be shown if the field were left now.
 ///
-/// @return  nothing when the field is empty or holds no amount, and for null
+/// @return  nothing for null and for a field that is empty or does not hold an amount
 HALVEK_EXPORT std::optional<std::int64_t> CurrencyCents(const QLineEdit* line);
 
-/// Shows an amount of cents in a currency field, however large; a field that is typed in shows it
-/// as a bare number at the next key.
+/// Shows an amount of cents in a currency field, however large; a field that the user types in
+/// turns it into a bare number at the next key.
 ///
 /// @param line  the field; an ordinary line edit is made one for amounts that are not negative,
 ///              null does nothing

@@ -37,7 +37,7 @@ QVariant CurrencyLineEdit::CentsProperty() const {
     return cents ? QVariant(static_cast<qlonglong>(*cents)) : QVariant();
 }
 
-/// A text is taken as well, since models may hold numbers so; a fraction is not.
+/// Accepts a text too, since models may hold numbers as texts; refuses a fraction.
 void CurrencyLineEdit::SetCentsProperty(const QVariant& cents) {
     const QString text = cents.toString();
     if (text.isEmpty()) return SetCents(std::nullopt);

@@ -21,8 +21,8 @@ namespace halvek {
 
 namespace {
 
-// From here on Qt's defaults make people wait: a box measures all its entries for its own width,
-// and some styles make room for all of them when it drops down.
+// From this many entries on Qt's defaults make people wait: a box measures every entry to find its
+// own width, and some styles make room for all of them when it drops down.
 constexpr int kManyItems = 1000;
 constexpr int kWidthForMany = 20;  // in characters
 
@@ -36,8 +36,8 @@ void OpenFastWithMany(QComboBox& box) {
     box.setMinimumContentsLength(std::max(box.minimumContentsLength(), kWidthForMany));
 }
 
-/// Measures texts as the sum of their characters: close to the truth where characters join or
-/// overlap, exact elsewhere, and a hundred times as fast.
+/// Measures a text as the sum of its characters: a good estimate where characters join or overlap,
+/// exact elsewhere, and a hundred times as fast.
 class CharacterWidths {
   public:
     explicit CharacterWidths(const QFont& font) : metrics_(font) {
@@ -67,7 +67,7 @@ int WidestItem(const QComboBox& box) {
     return static_cast<int>(std::ceil(std::min(widest, 1e6)));
 }
 
-/// What the box and its arrow need around a text.
+/// The width of a box around a text of this width, arrow included.
 int BoxWidth(const QComboBox& box, int text) {
     QStyleOptionComboBox option;
     option.initFrom(&box);
@@ -100,7 +100,7 @@ class WidgetComboBox : public ComboBox {
         QStringList texts;
         texts.reserve(static_cast<qsizetype>(items.size()));
         for (const TextIn item : items) texts << ToQString(item);
-        Box().setCurrentIndex(-1);  // the last that the host hears: no entry is chosen
+        Box().setCurrentIndex(-1);  // the last signal that the host gets: no entry is chosen
         QComboBox& box = Box();
         const QSignalBlocker silent(box);
         box.clear();

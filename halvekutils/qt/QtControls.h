@@ -24,21 +24,21 @@ HALVEK_EXPORT std::shared_ptr<OwnerForm> AsOwnerForm(QWidget* window);
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QWidget* widget);
 
 /// A cell of a grid or list as such a target: the part of it that the view shows. Null for a null
-/// view. The target is gone when the view is, or the cell's row or column.
+/// view. The target ends with the view, the row or the column of the cell.
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell);
 
 // Controls for the members of Utils that work on them; null for null. Each may be destroyed at any
 // time.
 
 /// The caption of a field, for HighlightHeading: a QLabel, QRadioButton or QCheckBox; any other
-/// widget is one that is left as it is.
+/// widget stays as it is.
 ///
-/// The look outweighs the palettes and style sheets that the host has set; what these say of other
-/// things, fonts and margins above all, stays. Text on disabled controls is paler.
+/// The heading's colours override the host's palettes and style sheets; everything else in these,
+/// fonts and margins above all, still applies. Text on disabled controls is paler.
 HALVEK_EXPORT std::shared_ptr<HeadingControl> AsHeading(QWidget* control);
 
-/// A widget's font, for SetFontProperties. It reports the size that the screen shows, which is one
-/// of whole pixels: 6.75 for 7 points at 96 dots per inch.
+/// A widget's font, for SetFontProperties. It reports the size on the screen, which is in whole
+/// pixels: 6.75 for 7 points at 96 dots per inch.
 HALVEK_EXPORT std::shared_ptr<ControlFont> FontOf(QWidget* widget);
 
 /// The font of a grid's cells and headers, for GridSetFontObject.

@@ -14,9 +14,9 @@ namespace halvek {
 
 namespace {
 
-// A style sheet, because it outweighs a palette and the host may have one itself. Our rules follow
-// the host's own behind a mark. Each condition weighs a sixteenth of a name, so this many outweigh
-// whatever rule a host writes.
+// A style sheet, because the host may have one, which would override a palette. Our rules follow
+// the host's own after a mark. Each condition weighs a sixteenth of a name, so this many override
+// any rule that a host writes.
 constexpr char kProperty[] = "halvekHeading";
 constexpr QLatin1String kCondition("[halvekHeading=\"true\"]");
 constexpr int kConditions = 64;
@@ -24,7 +24,7 @@ constexpr QLatin1String kMark("\n/* heading */\n");
 
 QString SheetOfHost(const QWidget& widget) {
     const QString sheet = widget.styleSheet().section(kMark, 0, 0);
-    // Declarations without a selector cannot stand beside rules.
+    // A style sheet cannot mix rules with declarations that have no selector.
     const bool isBare = !sheet.trimmed().isEmpty() && !sheet.contains(QLatin1Char('{'));
     return isBare ? QStringLiteral("* {%1}").arg(sheet) : sheet;
 }
@@ -34,7 +34,7 @@ QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palet
     QString back = QStringLiteral("none");
     if (look.back) {
         const QColor ground = ToQColor(*look.back, palette);
-        fore = design::Visible(fore, ground, design::kLeastHostContrast);
+        fore = design::Visible(fore, ground, design::kMinHostContrast);
         back = ground.name();
     }
     const bool isLabel = kind == HeadingKind::Label;
@@ -48,8 +48,8 @@ QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palet
         .arg(fore.blue());
 }
 
-/// Lets the mark of an option button or check box stand out: it is drawn in the colour of the text,
-/// on a background of its own.
+/// Draws the mark of an option button or check box in the colour of the text, on a background of
+/// its own.
 void KeepMarkReadable(QWidget& control, const QColor& text) {
     const bool isTextDark = qGray(text.rgb()) < 128;
     if (isTextDark == (control.palette().color(QPalette::Base).value() < 128)) {

@@ -45,7 +45,7 @@ Rect UsableRect(const QScreen* screen) {
     return ToRect(screen->availableGeometry());
 }
 
-/// Names an installed face for one that the dialogs ask for and the desktop may lack.
+/// Substitutes an installed face for one that the dialogs use and the desktop may lack.
 void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
     if (QFontDatabase::hasFamily(wanted)) return;
     QFont::insertSubstitution(wanted, QFontDatabase::systemFont(closest).family());
@@ -121,7 +121,7 @@ Rect QtPlatform::ScreenRectAt(Point point) const {
 }
 
 Size QtPlatform::FrameSize() const {
-    // A window manager tells what its frames add only of windows that are on the screen.
+    // A window manager reports frame sizes only for windows on the screen.
     const QWidget* const owner = CurrentOwner();
     if (owner == nullptr) return kTypicalFrame;
     const QSize added = owner->frameGeometry().size() - owner->geometry().size();
@@ -160,7 +160,7 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
     auto form = std::make_unique<frmMessageBox>(box);
     frmMessageBox* const window = form.get();
     d_->modeless.push_back(std::move(form));
-    // Later, not at once: the window is still at work when it says that it has ended.
+    // Later, not at once: the window is still running the code that emits this.
     QObject::connect(
         window, &frmMessageBox::Ended, window,
         [this, window] {

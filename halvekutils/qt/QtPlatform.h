@@ -12,8 +12,8 @@ namespace halvek {
 
 /// The Qt desktop: shows the library's dialogs as real windows.
 ///
-/// A host writes one after its QApplication, to live until it leaves main; it is the installed
-/// platform meanwhile. Use it on the user-interface thread.
+/// A host creates one in main, after its QApplication; it is the installed platform until it is
+/// destroyed. Use it on the user-interface thread.
 ///
 ///     QApplication app(argc, argv);
 ///     QtPlatform desktop;

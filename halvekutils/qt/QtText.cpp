@@ -17,7 +17,7 @@ QString ToToolTip(TextIn text) {
 }
 
 QString ToWindowTitle(TextIn text) {
-    // A display server drops its connection, and the program with it, over a title of megabytes.
+    // A title of megabytes makes the display server drop the connection, which ends the program.
     constexpr std::size_t kMaxShown = 2000;
     return ToQString(text.substr(0, kMaxShown))
         .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));

@@ -14,10 +14,10 @@ namespace halvek {
 /// The library's texts as a QString. The other way needs no call: a QString passes as a TextIn.
 HALVEK_EXPORT QString ToQString(TextIn text);
 
-/// The same, shown literally by a tool tip, which would read markup in it otherwise.
+/// The same, escaped for a tool tip, which would otherwise read markup in it.
 HALVEK_EXPORT QString ToToolTip(TextIn text);
 
-/// The same, shown literally in a window's title bar, where "[*]" would stand for a mark. Cut at
+/// The same, shown literally in a window's title bar, where "[*]" would be a placeholder. Cut at
 /// 2000 characters, more than any screen shows.
 HALVEK_EXPORT QString ToWindowTitle(TextIn text);
 

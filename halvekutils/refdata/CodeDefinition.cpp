@@ -11,7 +11,7 @@ namespace halvek {
 namespace {
 
 constexpr char16_t kFieldSeparator = 230;
-constexpr std::size_t kLeastFields = 6;
+constexpr std::size_t kMinFields = 6;
 
 enum FieldNumber : std::size_t {
     kDescription,
@@ -39,7 +39,7 @@ CodeDefinition::~CodeDefinition() = default;
 void CodeDefinition::Init(TextIn codeData) {
     std::array<TextIn, kFieldCount> fields;
     const std::size_t count = CutInto(fields, codeData, kFieldSeparator);
-    if (count < kLeastFields) return;
+    if (count < kMinFields) return;
     const auto fieldOf = [&](const TextIn& text) {
         return Field{static_cast<std::size_t>(text.data() - codeData.data()), text.size()};
     };

@@ -21,9 +21,8 @@ namespace halvek {
 ///
 /// Installed from its construction to its destruction. Each dialog takes the next answer of its
 /// kind, a function that plays the user on the dialog's rules. If the answer leaves the dialog
-/// open, it is closed as by its close box; a dialog without an answer is a fault. At 10 points
-/// every character is 100 twips wide and every line 200 twips high, and in proportion at other
-/// sizes.
+/// open, the close box closes it; a dialog without an answer is a fault. At 10 points every
+/// character is 100 twips wide and every line 200 twips high; other sizes are in proportion.
 ///
 ///     ScriptedPlatform desktop;
 ///     desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
@@ -69,7 +68,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     /// The answers that no dialog has taken yet.
     std::size_t AnswersLeft() const;
-    /// The boxes that are on the screen modelessly.
+    /// The modeless boxes on the screen.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
     /// The debug console with its text; null until something has shown it.
@@ -77,7 +76,7 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     /// How often the system beep has sounded.
     int Beeps() const { return beeps_; }
-    /// The desktop's own messages that were shown, the oldest first; nobody has to close them.
+    /// The desktop's own messages that were shown, the oldest first; they close by themselves.
     const std::vector<StockMessage>& StockMessages() const { return stockMessages_; }
     /// The calls of the help members, the oldest first.
     const std::vector<ShownHelp>& HelpShown() const { return helpShown_; }

@@ -51,7 +51,7 @@ struct CodePlace {
     bool twice = false;
 };
 
-/// Where a code stands among codes that are joined without blanks.
+/// Where a code is in a text of codes joined without blanks.
 CodePlace PlaceOfCode(std::u16string_view codes, std::u16string_view code) {
     CodePlace place;
     CharacterScan commas(codes, u',');

@@ -14,9 +14,9 @@ namespace halvek {
 /// The box of typed codes, as the rules want it. Positions count characters from 0.
 struct TypedCodesBox {
     std::u16string text;        ///< what it holds
-    std::int32_t caret = 0;     ///< how many characters stand before the caret
+    std::int32_t caret = 0;     ///< how many characters are before the caret
     std::int32_t selected = 0;  ///< how many characters after the caret are selected
-    bool enabled = true;        ///< the user did not type the text of a disabled box
+    bool enabled = true;        ///< text in a disabled box was not typed by the user
 };
 
 /// The chosen codes, joined by ",", and the box that shows them until the user types in it.

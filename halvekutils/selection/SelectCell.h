@@ -13,7 +13,7 @@
 
 namespace halvek {
 
-/// The description of the entry that stands for all codes.
+/// The description of the entry for all codes.
 inline constexpr std::u16string_view kAllCodesName = u" *** ALL CODES *** ";
 
 /// The colour of a deleted entry.
@@ -38,7 +38,7 @@ struct SelectCell {
         Description,  ///< the description of an entry
         Plain,        ///< nothing
     };
-    /// Where the text stands in the cell.
+    /// Where the text is in the cell.
     enum class Alignment {
         Left = 0,    ///< at the left edge
         Centre = 1,  ///< in the middle
@@ -50,10 +50,10 @@ struct SelectCell {
     std::u16string toolTip;           ///< empty for none
     std::optional<Color> background;  ///< nothing for the desktop's own
     std::optional<Color> textColor;   ///< nothing for the desktop's own
-    Alignment alignment = Alignment::Left;  ///< where the text stands
+    Alignment alignment = Alignment::Left;  ///< where the text is
     FontSpec font;                          ///< of the text
 
-    /// Whether the text is struck out: not everybody tells a deleted entry by its colour.
+    /// Whether the text is struck out: not everybody can see a deleted entry's colour.
     bool IsStruckOut() const { return textColor == kDeletedText; }
 };
 
@@ -65,11 +65,11 @@ struct CellPlace {
     friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
 
-/// The band in which an entry stands, counted from 0.
+/// The band of an entry, counted from 0.
 constexpr std::int32_t BandOf(std::int32_t entry) {
     return (entry - 1) / SelectionList::kColumns;
 }
-/// The column in which an entry stands, 1 to 10.
+/// The column of an entry, 1 to 10.
 constexpr std::int32_t ColumnOf(std::int32_t entry) {
     return (entry - 1) % SelectionList::kColumns + 1;
 }

@@ -208,7 +208,7 @@ bool SelectGrid::RefuseForm(std::size_t start, std::size_t length) {
 }
 
 bool SelectGrid::MarkTypedCodes() {
-    // Whatever may fail comes before the first mark is cleared.
+    // Everything that may fail comes before the first mark is cleared.
     list_.PrepareFind();
     codes_.StartCheck();
     ClearMarks();
@@ -255,7 +255,7 @@ void SelectGrid::RefuseCode(std::u16string_view code) {
 
 void SelectGrid::Accept() {
     if (!IsOpen()) return;
-    // Whatever may fail comes before the check.
+    // Everything that may fail comes before the check.
     std::u16string result;
     result.reserve(Box().text.size());
     if (CheckTypedCodes() && IsOpen()) Finish(std::move(result));

@@ -83,7 +83,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     /// Where the dialog should open.
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
-    /// The codes that are chosen so far.
+    /// The codes chosen so far.
     std::u16string_view Choice() const { return codes_.Text(); }
     /// The box of typed codes.
     const TypedCodesBox& Box() const { return codes_.Box(); }
@@ -94,7 +94,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
 
     /// The entry that keys act on, the pseudo-entry at first; 0 when no band is shown.
     std::int32_t CurrentEntry() const { return cursor_.Entry(); }
-    /// Its check cell; its code and its description stand below.
+    /// Its check cell; its code and its description are below.
     CellPlace CurrentCell() const { return CheckCellOf(CurrentEntry()); }
 
     // What the user does in the grid

@@ -28,7 +28,8 @@ enum class SelectionKey {
 /// by keys, or to an entry that begins with typed letters.
 class HALVEK_EXPORT SelectionCursor {
   public:
-    /// Starts on the pseudo-entry, or on none when the list shows none. `list` outlives the cursor.
+    /// Starts on the pseudo-entry, or nowhere when the list shows no entry. `list` outlives the
+    /// cursor.
     explicit SelectionCursor(const SelectionList& list);
 
     /// The current entry; 0 when the list shows none.

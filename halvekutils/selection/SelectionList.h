@@ -14,12 +14,12 @@ namespace halvek {
 
 /// A code list as the server sends it, read in place: one text and the start of each entry in it.
 ///
-/// ":" separates entries, TAB separates fields. The first piece is a header; the pseudo-entry that
-/// stands for all codes takes its place. In every later piece field 1 is the code, field 2 the
-/// description, and the last field is "1" for a deleted entry. The first piece after the header
-/// that is not empty decides how many fields there are. Empty pieces are entries too.
+/// ":" separates entries, TAB separates fields. The first piece is a header; the pseudo-entry for
+/// all codes takes its place. In every later piece field 1 is the code, field 2 the description,
+/// and the last field is "1" for a deleted entry. The first piece after the header that is not
+/// empty decides how many fields there are. Empty pieces are entries too.
 ///
-/// Entries are numbered from 1 and stand in bands of ten. The last entry is shown only when the
+/// Entries are numbered from 1 and arranged in bands of ten. The last entry is shown only when the
 /// entries before it do not fill their bands: it is usually the empty piece after the last ":".
 class HALVEK_EXPORT SelectionList {
   public:
@@ -53,7 +53,7 @@ class HALVEK_EXPORT SelectionList {
     /// The first shown entry whose code, without the blanks around it, is exactly this one; 0 when
     /// there is none.
     std::int32_t Find(std::u16string_view code) const;
-    /// Prepares what Find needs, so that it cannot fail afterwards.
+    /// Builds the index for Find, which cannot fail afterwards.
     void PrepareFind() const;
 
     /// The length of the longest code without the blanks around it.

@@ -19,7 +19,7 @@ using std::chrono::seconds;
 
 const DateTime kToday = MakeDateTime(2004, 3, 7, 9, 30);
 
-/// The text as read on March 7, 2004 and written again; "-" for one that is refused.
+/// The text as read on March 7, 2004 and written again; "-" for a refused one.
 std::string ReadAgain(const std::u16string& text) {
     const auto when = ParseDateTime(text, kToday);
     return when ? ToUtf8(DateTimeText(*when)) : "-";

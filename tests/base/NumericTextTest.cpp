@@ -19,7 +19,7 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// Texts that all read as the one value.
+/// Texts that all read as the same value.
 struct Reading {
     double value;
     std::vector<std::u16string> texts;

@@ -40,7 +40,7 @@ TEST_F(DebugConsoleTest, MoreThan30000CharactersAreClearedByTheNextLine) {
     EXPECT_EQ(Text(), u"<<<<<CLEARED>>>>>>new\r\n");
 }
 
-/// A log whose writing is itself a matter for the debug console.
+/// A log that writes to the debug console itself.
 struct TalkingMachine : TestMachine {
     using TestMachine::TestMachine;
     bool TryAppend(const std::filesystem::path& file, std::string_view bytes,

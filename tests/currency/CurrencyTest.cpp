@@ -9,7 +9,7 @@
 #include <random>
 #include <sstream>
 
-// How many dollars lie between two that the walk takes; a program of its own takes them all.
+// The step of the walk in dollars; a separate program takes every dollar.
 #ifndef HALVEK_DOLLAR_STEP
 #define HALVEK_DOLLAR_STEP 101
 #endif
@@ -54,7 +54,7 @@ class Currency : public CleanState {
         isSigned ? utils_->OnNegCurrencyCtrChange(box_) : utils_->OnCurrencyCtrChange(box_);
     }
 
-    /// Types the rest of an amount; whether it is kept when it is left, entered and left again.
+    /// Types the rest of an amount; true if it survives leaving, entering and leaving again.
     bool ComesBack(const std::string& amount, std::size_t typed, bool isSigned) {
         for (const char key : amount.substr(typed)) Do(key, isSigned);
         for (const char what : {'L', 'F', 'L'}) {
@@ -72,7 +72,7 @@ class Currency : public CleanState {
 };
 
 TEST_F(Currency, HandlersGiveTheTextAndTheCaret) {
-    // What the field shows, what is done in it, and what it shows then
+    // What the field shows, what the user does, and what it shows then
     const char* const tables[] = {
         "| 12.345 12.34|  | . 0.|  | a,+$-7 7|  | 123456789.129 1234567.12|  "
         "12|34567 8 1234567|  1|234567.12 8 1234567.12|  |1234567.1 8 8|1234567.1  "

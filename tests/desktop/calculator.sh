@@ -17,7 +17,7 @@ open_calculator() {
 # Checks what the calculator returned. Usage: expect_amount AMOUNT WAY
 expect_amount() {
     wait_until "the calculator ends by $2" has_answer
-    grep -qx "Calculate(\"25\") = \"$1\"" <(tail -n 1 "$record") || fail "$2 gave no $1"
+    grep -qx "Calculate(\"25\") = \"$1\"" <(tail -n 1 "$record") || fail "$2 did not give $1"
 }
 
 start_desktop

@@ -26,7 +26,7 @@ expect_on_screen() {
     IFS=', ' read -r l r t b < <(xprop -id "$window" _NET_FRAME_EXTENTS | sed 's/.*= //')
     read -r x y < <(xwininfo -id "$window" | sed -n 's/.*Absolute.*: *//p' | tr '\n' ' ')
     ((x >= l && y >= t && x + width + r <= 1366 && y + height + b <= 768)) ||
-        fail "beside a client at $left $top the calendar lies at $x $y"
+        fail "beside a client at $left $top the calendar is at $x $y"
 }
 
 # A key, "click", or a place to point at, in hundredths of the calendar's width and height.
@@ -43,8 +43,9 @@ start_desktop
 start_client "$1"
 choose_page alt+s a
 
-# LEFT TOP of the client, so that its button lies at every edge of the screen; STEPS; DAY. The
-# month's name is at 6 of the height, the names of the days at 18, the button at 75 of the width and 91 of the height.
+# LEFT TOP of the client, which puts its button at every edge of the screen; STEPS; DAY. The month's
+# name is at 6 of the height, the names of the days at 18, the button at 75 of the width and 91 of
+# the height.
 while read -r left top steps day; do
     open_calendar
     picture "calendar-$left-$top"

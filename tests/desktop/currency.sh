@@ -5,7 +5,7 @@
 set -u
 source "$(dirname "$0")/desktop.sh"
 
-# Presses keys and waits for what they put on record. Usage: expect KEYS LINE
+# Presses keys and waits for the line they record. Usage: expect KEYS LINE
 expect() {
     local line=$2
     answered=$(wc -l <"$record")

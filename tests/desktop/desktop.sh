@@ -1,6 +1,5 @@
-# SPDX-License-Identifier: MIT
-# Sourced by the desktop tests: a private display with a window manager, a client on it, and real
-# keys and clicks. All started programs end with the test.
+# SPDX-License-Identifier: MIT Sourced by the desktop tests: a private display with a window
+# manager, a client on it, and real keys and clicks. All programs started here end with the test.
 set -uo pipefail
 
 work=$(mktemp -d)
@@ -23,7 +22,7 @@ fail() {
     failures=$((failures + 1))
 }
 
-# Nothing after this could mean anything.
+# No later result would mean anything.
 give_up() {
     fail "$1"
     picture failure

@@ -23,7 +23,7 @@ has_opened() {
 screen_sum() {
     cksum <"$work/Xvfb_screen0"
 }
-# Whether the screen is the same as at the last call: what opened before has been painted.
+# Whether the screen is the same as at the last call: everything is painted.
 is_resting() {
     local before=$seen
     seen=$(screen_sum)

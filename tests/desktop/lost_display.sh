@@ -22,7 +22,7 @@ while read -r keys title; do
     [ "$status" -eq 1 ] || fail "without its display under $title the client ended with $status"
     log=$(find "$work/.local" -name '*.log')
     if ! grep -q $'\tThe label printer is out of paper\r$' "$log" || grep -qv $'\r$' "$log"; then
-        fail "the error log of the client under $title is torn"
+        fail "the error log of the client under $title has a partial line"
     fi
     rm -r "$record" "$work/.local"
 done <<'ROWS'

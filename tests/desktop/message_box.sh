@@ -23,7 +23,7 @@ expect_answer() {
     [[ "$line" == "ShowMsgBox("*" $1, "*" = $2"* ]] || fail "$3 in $1 gave $line"
 }
 
-# Clicks the right one of two buttons: a pixel is 15 twips, the button row stands at the bottom.
+# Clicks the right one of two buttons: a pixel is 15 twips, the button row is at the bottom.
 click_second_button() {
     local width height
     width=$(length_of "$1" Width)

@@ -24,8 +24,8 @@ expect_choice() {
     [[ "$line" == ShowSelection*" = \"$1\"" ]] || fail "$2 gave $line instead of $1"
 }
 
-# Where to click, in pixels from the corners of the list. The grid is ten columns wide; a header
-# and three bands of entries lie between the box of codes and the buttons.
+# Where to click, in pixels from the corners of the list. The grid is ten columns wide; a header and
+# three bands of entries are between the box of codes and the buttons.
 column() {
     echo $((8 + (width - 16) * (2 * $1 - 1) / 20))
 }

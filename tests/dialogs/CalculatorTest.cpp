@@ -17,7 +17,7 @@
 namespace halvek {
 namespace {
 
-/// A calculator on a desk of its own, played by the words of the table.
+/// A calculator with its own desktop, played by the words of the table.
 struct Desk {
     explicit Desk(TextIn initValue = {}) : calculator(initValue, session, desktop) {}
 
@@ -49,7 +49,7 @@ struct Desk {
         }
     }
 
-    /// What is seen under a name of the table.
+    /// The value that a name in the table shows.
     std::string Seen(const std::string& name) const {
         if (name == "mem") return ToUtf8(calculator.Accumulator());
         if (name == "op") return ToUtf8(calculator.LastOperator());

@@ -62,7 +62,7 @@ class MessageBoxTest : public ::testing::Test {
         return Make({std::move(prompt), buttons, mbNoIcon, u"", mbWhite, mb10, bold}).Layout();
     }
 
-    /// The answer of a box after some acts; absent while it is open.
+    /// The answer of a box after these acts; absent while it is open.
     std::optional<MbMsgBoxResult> AnswerAfter(ButtonsChoice buttons,
                                               const std::function<void(MessageBox&)>& acts) {
         MessageBox box = Make(buttons, 5);
@@ -89,12 +89,12 @@ TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
         {Letters(36), true, {7600, 200}, 8820},
         {Letters(60) + u"\n" + Letters(9), false, {6600, 400}, 7820},
         {Letters(181), false, {18700, 200}, 19920},
-        {Letters(182), false, {9000, 700}, 10220},      // would be wider than the screen
-        {Letters(9000), false, {16000, 12100}, 17220},  // and here too high as well
+        {Letters(182), false, {9000, 700}, 10220},      // wider than the screen, so it folds
+        {Letters(9000), false, {16000, 12100}, 17220},  // too wide and too high
         {u"head\r\n" + Letters(41), true, {4220, 500}, 5440},
         {u"head\r\n" + Letters(158), false, {15920, 500}, 17140},
         {u"head\r\n" + Letters(161), false, {16000, 700}, 17220},           // folds
-        {Lines(167) + u"\r\n" + Letters(100), false, {4600, 34300}, 5400},  // behind 1000
+        {Lines(167) + u"\r\n" + Letters(100), false, {4600, 34300}, 5400},  // after 1000
     };
     desktop_.SetScreenSize({20000, 11520});
     for (const auto& row : rows) {

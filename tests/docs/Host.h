@@ -18,7 +18,7 @@
 
 using namespace halvek;
 
-/// What the samples of the pages find: a session, some widgets and a user who accepts everything.
+/// The host of the pages' samples: a session, some widgets and a user who accepts everything.
 class Host : public testing::Test {
   protected:
     void SetUp() override {

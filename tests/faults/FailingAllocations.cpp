@@ -26,7 +26,7 @@ bool Fails() {
 
 }  // namespace
 
-// Not inlined: the compiler would see malloc behind one operator and take the other for a mistake.
+// Not inlined: the compiler would see malloc in one operator and warn of a mismatch in the other.
 [[gnu::noinline]] void* operator new(std::size_t size) {
     if (Fails()) throw std::bad_alloc();
     if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;

@@ -4,12 +4,12 @@
 namespace halvek {
 
 enum class Memory {
-    MissingOnce,  ///< one allocation fails, those behind it succeed
-    Exhausted,    ///< that allocation and all behind it fail
+    MissingOnce,  ///< one allocation fails, later ones succeed
+    Exhausted,    ///< that allocation and all later ones fail
 };
 
 /// Lets `allocationsBefore` allocations of this process succeed and the next one fail, until the
-/// end of the scope. The program that links this runs on a heap of its own.
+/// end of the scope. The program that links this has its own heap.
 class FailingAllocations {
   public:
     FailingAllocations(int allocationsBefore, Memory memory);

@@ -41,8 +41,8 @@ std::string Line(std::string_view message) {
     return std::string(kStampAndUser).append(message).append("\r\n");
 }
 
-/// A file system of two mebibytes in a folder, which only the process that mounts it sees and which
-/// ends with it.
+/// A file system of two mebibytes in a folder; only the process that mounts it sees it, and it ends
+/// with that process.
 class SmallDisk {
   public:
     explicit SmallDisk(fs::path folder) : folder_(std::move(folder)) {}
@@ -81,8 +81,8 @@ class SmallDisk {
     fs::path folder_;
 };
 
-/// Runs a test's body with a small disk on the folder, in a process of its own. What the body
-/// expects counts in the test, which is skipped where nothing may be mounted.
+/// Runs a test's body with a small disk on the folder, in a separate process. Its failed
+/// expectations fail the test, which is skipped where mounting is not allowed.
 template <class Body>
 void OnSmallDisk(const fs::path& folder, const Body& body) {
     constexpr int kNoRight = 77;

@@ -58,7 +58,7 @@ std::unique_ptr<SelectGrid> OpenGrid(TextIn typed) {
     return grid;
 }
 
-/// A session for one attempt, with all that stands before it.
+/// A session for one attempt, set up from scratch.
 struct World : CleanState {
     World() {
         utils->InitUtils(FromUtf8(log.native()), u"Front Desk", u"", true, u"");
@@ -140,7 +140,7 @@ Text FromTheLine(const Text& text) {
     return text.substr(std::min(text.find(Text(kWords) + u"\r\n"), text.size()));
 }
 
-/// All that a call may change, line by line.
+/// Everything that a call may change, line by line.
 Text Show(World& w) {
     const Utils& utils = *w.utils;
     Text shown = Lines(utils.GetCodesCollection(), &CodeDefinition::CodeKey) +
@@ -165,9 +165,10 @@ Text Show(World& w) {
     return shown;
 }
 
-/// How the host learns of it: by fault 7, by a line in the error log, by either, or not at all.
+/// How the host learns of the failure: by fault 7, by a line in the error log, by either, or not at
+/// all.
 enum class Told { Raised, Logged, Either, Nobody };
-/// What the call leaves: all as it was, or lines of the finished state and no others.
+/// What the call leaves: everything as it was, or only lines of the finished state.
 enum class Left { Before, Part };
 
 struct Row {
@@ -250,7 +251,7 @@ const Row kRows[] = {
     {"ShowSelectionGrid", Logged,
      [](World& w) {
          Text codes = w.utils->ShowSelectionGrid(u"Codes", kList, u"A000001");
-         // The click itself may fail, the host then gets its own selection or hears of no change.
+         // If the click itself fails, the host gets its own selection or no change.
          if (codes != u"CANCEL" && codes != u"A000001") w.result = std::move(codes);
      }},
     {"SelectGridTick", Logged, [](World& w) { w.grid->ClickCell(1, 3); }},

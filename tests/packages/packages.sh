@@ -22,7 +22,7 @@ arch=$(dpkg --print-architecture)
 libraries=lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 upstream=${version%-*}
 
-# What a package holds below usr/, without its papers, must be the lines of the standard input.
+# The files of a package below usr/, except its documents, must be the lines of the standard input.
 holds() {
     local papers="share/doc/$1"
     dpkg-deb --fsys-tarfile "$1_${version}_$arch.deb" | tar -t | grep -v '/$' |
@@ -95,7 +95,7 @@ read -ra windows < <(pkg-config --cflags --libs halvekutils-qt)
 ./core
 ./host
 
-# A host's compiler must refuse what only the library may do.
+# A host's compiler must refuse code that only the library may use.
 doors=$source/tests/consumer/doors.cpp
 look() { "$compiler" -std=c++20 -fsyntax-only "$@" "$doors" "${core[@]}"; }
 look

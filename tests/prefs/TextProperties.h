@@ -16,7 +16,7 @@ struct Property {
     Set set;
 };
 
-/// Those that stand in their field as they are.
+/// The properties whose field holds their value unchanged.
 inline constexpr Property<std::u16string (UserPrefs::*)() const, void (UserPrefs::*)(TextIn)>
     kTextProperties[] = {{0, &UserPrefs::AIFormData, &UserPrefs::AIFormData},
                          {1, &UserPrefs::DemoFormData, &UserPrefs::DemoFormData},

@@ -21,7 +21,7 @@ using namespace std::string_view_literals;
 /// The settings of a user who has set nothing.
 constexpr std::u16string_view kUnset =
     u"ßßßßß-1ß-1ß-1ß-1ß-1ßTrueß0ßßßFalseß0ßFalseßßßYßFalseßßFalseßFalseßßßßßßß";
-/// Settings that differ from those in every field, the reserved ones included.
+/// Settings that differ from the defaults in every field, the reserved ones included.
 constexpr std::u16string_view kWhole =
     u"aßbßcßdßeß1ß2ß3ß4ß5ßFalseß6ßR12ßfßTrueß2ßTrueßR17ßR18ßgßTrueßhßTrueßTrueßiß\0ßkßlßmßnßo"sv;
 
@@ -49,7 +49,7 @@ UserPrefs Populated(TextIn settings) {
     return prefs;
 }
 
-/// The settings of one field, with something behind it.
+/// The settings of one field, with something after it.
 std::u16string Only(std::size_t field, TextIn value) {
     return std::u16string(field, u'ß') + value.Str() + u'ß';
 }

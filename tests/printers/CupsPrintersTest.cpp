@@ -33,7 +33,7 @@ class CupsPrintersTest : public CleanState {
   protected:
     ~CupsPrintersTest() override { ::cupsSetServer(nullptr); }
 
-    /// Builds the collection anew from a scheduler; "type/name/port/driver" of each printer.
+    /// Rebuilds the collection from a scheduler; "type/name/port/driver" of each printer.
     std::string Build(const std::string& socket, TextIn specialMode = {}) {
         ::cupsSetServer(socket.c_str());
         utils_->SpecialMode(specialMode);
@@ -47,7 +47,7 @@ class CupsPrintersTest : public CleanState {
         return shown;
     }
 
-    /// True when the last two lines of the log tell of a failure and of an empty printer list.
+    /// True when the last two lines of the log report a failure and an empty printer list.
     bool LogEndsWithFallBack() const {
         const std::string log = Log();
         const std::size_t failure =
@@ -74,7 +74,8 @@ TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
 TEST_F(CupsPrintersTest, AStoppedSchedulerCountsAsNotThere) {
     const PrivateScheduler scheduler(3);
     scheduler.Stop();
-    // Goes on by itself before long: a build that waits for that lists the queues and fails here.
+    // The scheduler goes on by itself soon: a build that waited for it would list the queues and
+    // fail here.
     const std::jthread late([&](const std::stop_token& ended) {
         for (int i = 0; i < 40 && !ended.stop_requested(); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -91,7 +92,7 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
     EXPECT_TRUE(LogEndsWithFallBack()) << Log();
 }
 
-/// Gives one answer to each of a number of connections on a socket, and hangs up or just hangs.
+/// Answers each of a number of connections on a socket once, then hangs up or just hangs.
 class Impostor {
   public:
     Impostor(const std::string& socket, std::string_view answer, bool hangsUp)

@@ -46,7 +46,7 @@ queues() {
         [ "$(LC_ALL=C lpstat -r)" = "scheduler is running" ] && break
         sleep 0.05
     done
-    # A description that gives a make and model; queues without one are raw.
+    # A description with a make and model; queues without one are raw.
     printf '%s\n' '*PPD-Adobe: "4.3"' '*Manufacturer: "Halvek"' '*ModelName: "Label"' \
         '*NickName: "Halvek Label 200"' >"$folder/label.ppd"
     for ((i = 1; i <= $1; i++)); do

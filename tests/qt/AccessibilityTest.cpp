@@ -8,8 +8,8 @@
 namespace halvek {
 namespace {
 
-/// Adds what a screen reader meets that can be used: its name in the program, none for a cell, its
-/// role and what it is called.
+/// Adds every usable control that a screen reader meets: its name in the program (none for a cell),
+/// its role and its accessible name.
 void Hear(QAccessibleInterface* part, QStringList& heard) {
     if (part == nullptr || part->state().invisible) return;
     const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(part->role());
@@ -24,7 +24,7 @@ void Hear(QAccessibleInterface* part, QStringList& heard) {
     for (int i = 0; i < part->childCount(); ++i) Hear(part->child(i), heard);
 }
 
-/// All of a window, and behind it where the tab key leads.
+/// Every control of a window, and after them the tab order.
 std::string Heard(QWidget& window) {
     constexpr int kPresses = 25;
     QStringList heard, tabs;

@@ -71,7 +71,7 @@ TEST_F(CalculatorFormTest, EveryKeyAndClickCountsOnce) {
             }
         },
         [](const Seen& seen) {
-            seen.Hold(Qt::Key_Return, "\r");  // since it opened the calculator
+            seen.Hold(Qt::Key_Return, "\r");  // held since it opened the calculator
             seen.Type("413");
             seen.Hold(Qt::Key_3, "3");
             seen.Type("-2.5\r");

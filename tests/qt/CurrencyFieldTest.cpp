@@ -69,10 +69,9 @@ TEST_F(CurrencyFieldTest, WhatTheHostSetsIsShownAsAnAmountInOneChange) {
 }
 
 TEST_F(CurrencyFieldTest, CentsComeBackAsTheyWereSet) {
-    const std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-    for (const std::int64_t cents :
-         {std::int64_t{0}, std::int64_t{7}, std::int64_t{123450}, std::int64_t{999999999}, kMost,
-          -kMost - 1, std::int64_t{-5}}) {
+    const std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+    for (const std::int64_t cents : {std::int64_t{0}, std::int64_t{7}, std::int64_t{123450},
+                                     std::int64_t{999999999}, kMax, -kMax - 1, std::int64_t{-5}}) {
         SetCurrencyCents(&amount_, cents);
         EXPECT_EQ(CurrencyCents(&amount_), cents) << amount_.text().toStdString();
         amount_.setFocus();

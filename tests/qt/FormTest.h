@@ -35,7 +35,7 @@ class FormTest : public ::testing::Test {
         Reset();
     }
 
-    /// A dialog that stands on the screen; null without one.
+    /// A dialog on the screen; null without one.
     static QDialog* OpenDialog() {
         for (QWidget* const window : QApplication::topLevelWidgets()) {
             auto* const dialog = qobject_cast<QDialog*>(window);

@@ -32,7 +32,7 @@ class HelpViewerTest : public FormTest {
         QTest::mouseClick(Viewer().windowHandle(), Qt::LeftButton, {}, end - QPoint(5, 0));
     }
 
-    /// The page, and takes the log away.
+    /// The page; clears the log.
     std::string Told() {
         const auto log = machine_.ownFolder / "Error.Log";
         const std::string logged = ReadFile(log);
@@ -86,7 +86,7 @@ TEST_F(HelpViewerTest, ServesNothingButTheFile) {
     EXPECT_EQ(widthOf("dot.gif") + widthOf("/SUB/dot.gif"), 2);
     for (const QString& name : {own, "file://" + own, QString("//host/sub/dot.gif"),
                                 QString("data:image/gif;base64,R0lGODlhAQABAAAAACw=")}) {
-        EXPECT_EQ(widthOf(name), 16) << qPrintable(name);  // stands for a missing one
+        EXPECT_EQ(widthOf(name), 16) << qPrintable(name);  // a missing picture's placeholder
     }
 }
 

@@ -128,7 +128,7 @@ TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
     }
 }
 
-// Dropped, whatever it would do: what the keyboard repeats of a key that was down before the box.
+// Repetitions of a key that was down before the box opened are dropped, whatever they would do.
 TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
     for (const QKeyCombination held :
          {QKeyCombination(Qt::Key_Return), QKeyCombination(Qt::Key_Space),
@@ -347,7 +347,7 @@ TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
                     before = bar.value();
                     ways[way](box, down);
                     const bool atEnd = bar.value() == (down ? bar.maximum() : 0);
-                    // Every line is whole on one page or the next, but for a rounded pixel.
+                    // Every line is whole on one page or the next, except for a rounded pixel.
                     EXPECT_TRUE(atEnd || std::abs(bar.value() - before) <= text.height() - line + 1)
                         << before << " to " << bar.value() << " of " << bar.maximum();
                 }
@@ -364,7 +364,7 @@ TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
         PressKey(box, Qt::Key_O);
     };
     EXPECT_EQ(Answer(mbOkOnly, scroll, Lines(150)), mbOK);
-    waysTried = 2;  // the others go in too small steps
+    waysTried = 2;  // the others scroll in too small steps
     EXPECT_EQ(Answer(mbOkOnly, scroll, std::u16string(100'000, u'W')), mbOK);
 }
 
@@ -381,7 +381,7 @@ TEST_F(MessageBoxFormTest, TheFocusIsSeenFromTheBeginning) {
     }
 }
 
-/// How well the darkest and the lightest point of a picture are told apart.
+/// The contrast between the darkest and the lightest point of a picture.
 double ContrastIn(const QImage& picture) {
     QColor darkest(Qt::white);
     QColor lightest(Qt::black);

@@ -16,12 +16,12 @@ extern "C" [[gnu::weak]] void __sanitizer_set_death_callback(void (*callback)())
 
 namespace halvek {
 
-/// Sends random keys, clicks, drags, turns of the wheel and close requests to whatever window is in
-/// front, in every event loop that runs, until its steps are used up; then it only closes windows.
-/// A process that dies tells what came last.
+/// Sends random keys, clicks, drags, wheel turns and close requests to the window in front, in
+/// every event loop that runs, until its steps are used up; then it only closes windows. A process
+/// that dies prints the last acts.
 class Monkey {
   public:
-    /// @param ownKeys  pressed often: what means something to the window
+    /// @param ownKeys  keys that mean something to the window, pressed often
     Monkey(unsigned seed, int steps, QString ownKeys)
         : random_(seed), seed_(seed), steps_(steps), ownKeys_(std::move(ownKeys)) {
         current_ = this;
@@ -68,7 +68,7 @@ class Monkey {
         return window_ != nullptr && window_->isVisible() ? window_.data() : nullptr;
     }
 
-    /// Some acts, which come faster than windows are painted.
+    /// A few acts, faster than windows are painted.
     void Turn() {
         QTimer above;  // goes on in the event loop of a dialog that an act opens
         QObject::connect(&above, &QTimer::timeout, [this] { Turn(); });
@@ -127,7 +127,7 @@ class Monkey {
         Press(window, Qt::CTRL | Qt::Key_V);
     }
 
-    /// Clicks, double clicks, drags and turns of the wheel, on a control or anywhere.
+    /// Clicks, double clicks, drags and wheel turns, on a control or anywhere.
     void UseMouse(QWidget& window) {
         const auto parts = window.findChildren<QWidget*>();
         const QWidget* const part = parts.isEmpty() ? &window : Any(parts);

@@ -20,10 +20,10 @@
 namespace halvek {
 namespace {
 
-/// However keys and clicks rain on a dialog, it ends in a legal way and leaves no window behind.
+/// Whatever keys and clicks a dialog gets, it ends in a legal way and leaves no window open.
 struct MonkeyTest : FormTest {
-    /// @param open  returns when the dialog has ended and tells how
-    /// @param ways  how many ways to end come up at least
+    /// @param open  returns how the dialog ended
+    /// @param ways  the least number of different endings
     void Play(const char* ownKeys, std::size_t ways,
               const std::function<std::string(Monkey& monkey, int time)>& open) {
         Monkey monkey(20240305, 100'000, ownKeys);
@@ -72,7 +72,7 @@ TEST_F(MonkeyTest, Calculator) {
     Play("0123456789+-*/=./0=", 2, [&](const Monkey&, int time) {
         const auto text = ToQString(utils_->Calculate(time % 2 == 0 ? u"12.345" : u""));
         if (text.isEmpty()) return "nothing";
-        // Whatever stands in the box can be edited: "-5", "1E+16" and "ERROR".
+        // Any text in the box can be edited: "-5", "1E+16" and "ERROR".
         EXPECT_TRUE(QRegularExpression("^[-+.0-9ERO]+$").match(text).hasMatch())
             << text.toStdString();
         return "text";
@@ -108,7 +108,7 @@ TEST_F(MonkeyTest, SelectionLists) {
         EXPECT_EQ(typed, u"");
         if (chosen == "CANCEL" || chosen == before)
             return chosen == before ? "as before" : "CANCEL";
-        // A click on the header takes what was typed as it is.
+        // A click on the header accepts the typed text as it is.
         for (const QString& code : chosen.split(',', Qt::SkipEmptyParts)) {
             const bool isThere = codes.contains(code) && (!active || codes.indexOf(code) % 5 > 0);
             EXPECT_TRUE(isThere || monkey.LastAct().contains("SelectGridHeader"))

@@ -43,7 +43,7 @@ std::u16string Appointments(int count) {
     return text + u"\r\nBook it all the same?";
 }
 
-/// What a front desk is asked on a day.
+/// Questions of a front desk's day.
 std::vector<std::u16string> Prompts() {
     std::vector<std::u16string> prompts = {
         u"Go on?",
@@ -98,10 +98,10 @@ class PromptInViewTest : public FormTest {
     QFont font_ = QApplication::font();
 };
 
-/// The pixels that a text can have on this screen: the form grows up to a limit.
+/// The height that a text can have on this screen, in pixels: the form grows up to a limit.
 int RoomOf(const Desktop& desk, const frmMessageBox& form) {
-    constexpr std::int32_t kMostForm = 8850;
-    const std::int32_t outer = std::min(kMostForm, desk.ScreenSize().height);
+    constexpr std::int32_t kMaxForm = 8850;
+    const std::int32_t outer = std::min(kMaxForm, desk.ScreenSize().height);
     const std::int32_t around =
         desk.FrameSize().height + form.Box()->Layout().buttonFrame.height + 165;
     return TwipsToPixels(outer - around) - 1;

@@ -2,8 +2,8 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-// The main program of all form tests: they run in one application, without a screen of their own
-// unless one is asked for.
+// The main program of all form tests: they run in one application, off screen unless a platform is
+// requested.
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();

@@ -39,7 +39,7 @@ struct Seen {
     QLineEdit& box = Find<QLineEdit>(dialog, "txtSelect");
     QTableView& grid = Find<QTableView>(dialog, "grdSelection");
 
-    /// Types into whatever has the focus.
+    /// Types into the control with the focus.
     void Type(const char* text) const {
         for (; *text != 0; ++text) QTest::keyClick(dialog.windowHandle(), *text);
     }
@@ -75,7 +75,7 @@ auto ClickOn(const char* name) {
     return [name](const Seen& seen) { Click(seen.dialog, Find(seen.dialog, name)); };
 }
 
-/// The text of the message box that the acts raise, which is answered with Enter; empty for none.
+/// The text of the message box that the acts open, which Enter answers; empty for none.
 QString MessageOf(const std::function<void()>& acts) {
     QString message;
     QTimer look;
@@ -154,7 +154,8 @@ TEST_F(SelectGridFormTest, EntriesAreTickedByTheMouseAndBySpace) {
         seen.ClickEntry(5);
         seen.Press(Qt::Key_Left);
         seen.Press(Qt::Key_Space);
-        // A press that ends elsewhere ticks nothing, a double click ticks twice, a blank nothing.
+        // A press released elsewhere ticks nothing, a double click ticks twice, a blank cell
+        // nothing.
         QTest::mousePress(window, Qt::LeftButton, {}, seen.PlaceOf(2));
         QTest::mouseRelease(window, Qt::LeftButton, {}, seen.PlaceOf(3));
         seen.ClickEntry(2);
@@ -242,7 +243,7 @@ QString ColourOf(const QImage& image) {
     return "";
 }
 
-/// Whether a picture shows a red line, as long as no letter is wide.
+/// Whether a picture shows a red line longer than any letter is wide.
 bool HasRedLine(const QImage& image) {
     constexpr int kWiderThanALetter = 12;
     for (int y = 0; y < image.height(); ++y) {

@@ -15,7 +15,7 @@
 
 namespace halvek {
 
-/// How long a test waits, in milliseconds, for what happens at once when all is well.
+/// How long a test waits, in milliseconds, for something that happens at once if all is well.
 inline constexpr int kPatience = 30'000;
 
 /// Lets events go on until a condition holds; false when it never does.
@@ -50,7 +50,7 @@ class User {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr) return;
         if (!dialog->isActiveWindow()) {
-            // A window manager that is still starting may leave a new window behind.
+            // A window manager that is still starting may leave a new window in the background.
             if (sinceAsked_.hasExpired(kAskAgain)) {
                 sinceAsked_.start();
                 dialog->activateWindow();
@@ -75,7 +75,7 @@ inline void PressKey(QWidget& window, QKeyCombination key) {
     QTest::keyClick(window.windowHandle(), key.key(), key.keyboardModifiers());
 }
 
-/// Presses keys as long as the dialog is open.
+/// Presses keys while the dialog is open.
 inline User::Acts Keys(std::vector<QKeyCombination> keys) {
     return [keys = std::move(keys)](QDialog& dialog) {
         for (const QKeyCombination key : keys) {

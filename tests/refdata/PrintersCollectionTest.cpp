@@ -22,7 +22,7 @@ std::string Shown(const PrinterDefinition& printer) {
                   printer.PrinterDriverName());
 }
 
-/// The identifiers of all printers, each of which must lie under its number's key.
+/// The identifiers of all printers, each of which must be found by its number's key.
 std::string Identifiers(const PrintersCollection& printers, int number) {
     std::string identifiers;
     for (const auto& printer : printers) {
@@ -170,7 +170,7 @@ TEST_F(PrintersCollectionTest, TheFilterLeavesOutByKind) {
         bool spool, file, windows, serial;
         std::string identifiers;
     } rows[] = {
-        {true, false, false, false, "7 8 s S 1WIN 2WIN "},  // the file entry "S" stays as a file
+        {true, false, false, false, "7 8 s S 1WIN 2WIN "},  // the file entry "S" stays a file
         {false, false, false, false, "7 S 8 s S 1WIN 2WIN "},
         {false, true, false, false, "7 S s S 1WIN 2WIN "},
         {true, false, true, false, "7 8 s S "},

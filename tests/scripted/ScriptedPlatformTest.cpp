@@ -48,7 +48,7 @@ TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMis
 }
 
 TEST_F(ScriptedPlatformTest, AFaultIsLoggedAndAnswersNothing) {
-    EXPECT_EQ(Ask(mbYesNo), kNotAnswered);  // the script holds no answer
+    EXPECT_EQ(Ask(mbYesNo), kNotAnswered);  // the script has no answer
     desktop_.OnMessageBox([](MessageBox&) { throw std::bad_alloc(); });
     EXPECT_EQ(Ask(mbOkOnly), kNotAnswered);
     const std::string start = "03/05/24 09:07:03 AM\tnina\tError in Utils.ShowMsgBox ";

@@ -158,7 +158,7 @@ TEST_F(SelectGridTest, ChecksTheTypedCodes) {
         EXPECT_EQ(grid.Box().selected, row.selected) << ToUtf8(row.typed);
         EXPECT_EQ(grid.Choice(), row.choice) << ToUtf8(row.typed);
     }
-    Open(kCodes).EnableBox(false);  // nobody typed what stands in it, so its form is not checked
+    Open(kCodes).EnableBox(false);  // nobody typed its text, so its form is not checked
     Type(u",A,,B");
     EXPECT_TRUE(grid_->ValidateBox());
     EXPECT_EQ(grid_->Choice(), u"A,B");

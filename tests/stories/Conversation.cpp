@@ -27,8 +27,8 @@ namespace {
 constexpr int kCalmRounds = 3;
 constexpr int kPause = 2;  // in milliseconds, between two looks
 
-// How far apart the clicks of a double click may be, in milliseconds; the slow hand is that of a
-// player on a busy machine.
+// How far apart the clicks of a double click may be, in milliseconds; the slow hand is for a player
+// on a busy machine.
 constexpr int kQuickHand = 400;
 constexpr int kSlowHand = 20'000;
 
@@ -40,7 +40,7 @@ struct XiEvent {
     std::uint16_t device;
 };
 
-/// A button let go; the device behind the pointer that all share tells of it, too.
+/// A button released on the shared pointer; the device behind it reports the release, too.
 bool IsClick(const XiEvent& event) {
     constexpr std::uint16_t kButtonRelease = 5;
     constexpr std::uint16_t kSharedPointer = 2;
@@ -119,7 +119,7 @@ void Conversation::Answer(const QString& line) {
 }
 
 void Conversation::Renew(const QString& place) {
-    // A story that failed may have left a dialog, whose loop has to end first.
+    // A failed story may have left a dialog open, whose loop must end first.
     if (QWidget* const left = QApplication::activeModalWidget()) {
         left->close();
         QTimer::singleShot(0, this, [this, place] { Renew(place); });
@@ -130,7 +130,7 @@ void Conversation::Renew(const QString& place) {
     desk_ = std::make_unique<Desk>(StartLibrary());
     if (place == "right") {
         desk_->adjustSize();
-        constexpr int kBeyond = 100;  // so that a pop-up has to give way
+        constexpr int kBeyond = 100;  // forces a pop-up to move aside
         desk_->move(desk_->screen()->geometry().width() - desk_->width() + kBeyond, 40);
     } else {
         desk_->move(40, 40);

@@ -11,7 +11,8 @@
 #include <cstdint>
 #include <memory>
 
-/// Answers what the player of the stories asks on the standard input, a line each:
+/// Carries out the commands that the player of the stories writes to the standard input, one a
+/// line:
 ///
 ///     new [right]              a new window in the place of the old one; "window ID"
 ///     where NAME               "at X Y" on the screen, or "nowhere"

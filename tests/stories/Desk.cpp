@@ -145,7 +145,7 @@ void Desk::BuildDialogButtons() {
     });
     right_->addWidget(day);
     right_->addWidget(color);
-    // What a click through a pop-up that has closed would press
+    // The button that a click through a closed pop-up would press
     QPushButton* const beneath = AddButton("Beneath", [] { Record::Got("pressed through"); });
     beneath->setFixedHeight(260);
     right_->addWidget(beneath);
@@ -183,7 +183,7 @@ void Desk::BuildClosingButtons() {
     connect(help, &QPushButton::clicked, this, [] { Record::Got("help"); });
     for (QPushButton* const button : {post, cancel, help}) button->setObjectName(button->text());
     left_->addRow(buttons);
-    // Beside the box: the host itself says that it needs no valid fields
+    // Outside the box: the host itself marks it as needing no valid fields
     QPushButton* const quit = AddButton("Quit", [] { Record::Got("quit"); });
     quit->setProperty("causesValidation", false);
     left_->addRow(quit);

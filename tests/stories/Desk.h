@@ -20,14 +20,14 @@
 #include <memory>
 
 /// The window of a cashier: fields, a table and a form on a record, buttons, a menu and a tool bar.
-/// Whatever it gets from the library or from the user goes on record.
+/// It records everything that it gets from the library or the user.
 class Desk : public QMainWindow {
   public:
     explicit Desk(std::shared_ptr<halvek::Utils> utils);
 
     /// Sets the text of a field, of the record's fee or of the first payment in the table, as a
-    /// program does that loads them; "FIELD.cents" sets an amount. "Autosave" saves without the
-    /// user's doing.
+    /// program does when it loads them; "FIELD.cents" sets an amount. "Autosave" saves without the
+    /// user.
     void Load(const QString& field, const QString& text);
 
   private:

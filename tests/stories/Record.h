@@ -3,10 +3,10 @@
 
 #include <QString>
 
-/// What the host gets, a line each, as the player of the stories reads it.
+/// What the host gets, one event a line, for the player of the stories.
 class Record {
   public:
-    /// Adds what came of the user's doing: "calculator 8".
+    /// Adds the outcome of the user's acts: "calculator 8".
     static void Got(const QString& what, const QString& value = {});
 
     /// Answers the player.

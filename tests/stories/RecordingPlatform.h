@@ -7,8 +7,8 @@
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
 
-/// A desktop whose beeps, plain messages and debug lines go on record. The messages are shown too,
-/// the debug console is not: it would stand before the host.
+/// A desktop that records its beeps, plain messages and debug lines. It shows the messages too, but
+/// not the debug console, which would cover the host.
 class RecordingPlatform : public halvek::QtPlatform {
   public:
     void Beep() override { Record::Got("beep"); }

@@ -10,9 +10,10 @@
 // What a person sees of the window in front: controls by their object names, "PARENT:ROW,COLUMN"
 // for a cell of a grid.
 
-/// The middle of a control on the screen; for a text box, "NAME:left", just inside of its edge.
+/// The middle of a control on the screen; for a text box, "NAME:left", just inside its edge.
 std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name);
 
-/// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".right"
-/// of a window, how many pixels it ends before the screen does; "focus" for who has the keyboard.
+/// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".right" of
+/// a window, how many pixels it ends before the screen does; "focus" for the control with the
+/// keyboard.
 QString TextSeen(const QWidget& front, const QString& name);

@@ -1,14 +1,13 @@
 #!/usr/bin/env bash
-# SPDX-License-Identifier: MIT
-# Plays the stories of stories.txt, which explains their notation, to a host by real keys and clicks
-# under a window manager. Each act waits for the effect of the previous one; nothing waits for time
-# to pass. Usage: play.sh HOST [PART OF A NAME]
+# SPDX-License-Identifier: MIT Plays the stories of stories.txt, which explains their notation, to a
+# host by real keys and clicks under a window manager. Each act waits for the effect of the previous
+# one; nothing waits a fixed time. Usage: play.sh HOST [PART OF A NAME]
 set -u
 here=$(dirname "$0")
 source "$here/../desktop/desktop.sh"
 
-# Keys by their place on a keyboard, whatever its layout: no key map is looked up, none is changed.
-# Codes have two digits, since one digit alone would be read as a character.
+# Keys by their place on a keyboard, whatever its layout: no key map is read or changed. Codes have
+# two digits, since one digit alone would be read as a character.
 declare -A code=(
     [Escape]=09 [1]=10 [2]=11 [3]=12 [4]=13 [5]=14 [6]=15 [7]=16 [8]=17 [9]=18 [0]=19 [-]=20
     [=]=21 [+]=50+21 [\*]=50+17 [BackSpace]=22 [Tab]=23 [Back]=50+23 [Enter]=36 [Ctrl]=37 [Shift]=50
@@ -39,8 +38,8 @@ hear() {
     return 1
 }
 
-# Does something with the mouse and the keyboard and waits until the host has dealt with it. The last
-# command sends what xdotool would keep back. Usage: act CLICKS COMMANDS...
+# Runs mouse and keyboard commands and waits until the host has dealt with them. The last command
+# flushes what xdotool would keep back. Usage: act CLICKS COMMANDS...
 act() {
     ((marks += 1, clicks += $1))
     shift
@@ -69,7 +68,7 @@ new_window() {
     hear && act 0 "windowactivate ${answer#window }"
 }
 
-# The keyboard's layout, and its lock of numbers
+# The keyboard's layout and NumLock
 keyboard_is() {
     [ "$layout" = "$1" ] && return
     setxkbmap -rules evdev -model pc105 -layout "$1"
@@ -81,16 +80,16 @@ numbers_are() {
     act 0 "key --delay 0 ${code[NumLock]}"
 }
 
-# A button goes down and up again without the tenth of a second that xdotool's own click takes.
+# Presses and releases a button without the tenth of a second that xdotool's own click takes.
 click_here() {
     act 1 "mousedown 1" "mouseup 1"
 }
 
-# Clicks into the middle of a control
+# Clicks the middle of a control
 click_on() {
     echo "where ${1/#day:/qt_calendar_calendarview:}" >&"$questions"
     hear && [ "$answer" != nowhere ] || {
-        trouble="$1 is nowhere"
+        trouble="$1 is not on the screen"
         return 1
     }
     echo "mousemove ${answer#at }" >&"$hand"
@@ -125,7 +124,7 @@ take_step() {
         name=${1:1:-1}
         click_on "arrCmd_${button[$name]:-$name}"
         ;;
-    \<\<*\>\>) # the second click comes when the first has had its effect
+    \<\<*\>\>) # the second click comes once the first has had its effect
         echo slow-hand >&"$questions"
         click_on "${1:2:-2}" && click_here
         ;;

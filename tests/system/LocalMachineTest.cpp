@@ -34,7 +34,7 @@ using Names = std::set<std::string>;
 
 constexpr int kUnavailable = 255;
 
-/// What the action returns in a process of its own, which may give up its rights.
+/// The action's result in a separate process, which may give up its rights.
 int InChild(const std::function<int()>& action) noexcept {
     const pid_t child = ::fork();
     if (child == 0) ::_exit(action());
@@ -183,7 +183,8 @@ TEST_F(LocalMachineFiles, ReportsMissingRightsOnAFolder) {
     WriteFile(folder_ / "a.log", "x");
     ::chmod((folder_ / "a.log").c_str(), 0666);
     ::chmod(folder_.Path().c_str(), 0555);
-    // The superuser needs no rights, so the action is an unprivileged user's, inside the folder.
+    // The superuser ignores permissions, so an unprivileged user performs the action, inside the
+    // folder.
     const auto unprivileged = [&](const std::function<void()>& action) {
         return InChild([&] {
             const bool ready =

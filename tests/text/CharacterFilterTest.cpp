@@ -36,7 +36,7 @@ TEST_F(CharacterFilter, RemovesOrReplacesUnwantedCharacters) {
         bool found;
     } rows[] = {
         {u"a|b\tc", u"--", u"|", u"a|b--c", true}, {u"a~b\r\n", u"", u"", u"a~b\r\n", false},
-        {u"\u20ACx\u0142", u"", u"", u"x?", true},  // the euro is a code, the l is none
+        {u"\u20ACx\u0142", u"", u"", u"x?", true},  // the euro is in the code page, the l is not
         {u"a|b", u"", u"||x,:", u"a|b", false},     // the first character counts
         {u"x|", u"|", u"", u"x|", true},
     };

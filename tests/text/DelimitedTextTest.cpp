@@ -118,7 +118,7 @@ TEST(DelimitedText, TheTextMayBeAViewOfAnOutput) {
 
 using ExistsInColl = CleanState;
 
-/// A collection of a host's own, which keys distinguish by letter case.
+/// A host's own collection, whose keys distinguish letter case.
 struct Visits {
     std::size_t Count() const { return numbers.size(); }
     int Item(std::u16string_view key) {

@@ -9,7 +9,7 @@ namespace halvek {
 namespace {
 
 struct ServerDates : CleanState {
-    /// Compares what a member gives with rows of "argument=result".
+    /// Compares a member's results with rows of "argument=result".
     static void ExpectResults(const std::function<std::u16string(TextIn)>& member,
                               std::initializer_list<std::u16string> rows) {
         for (const std::u16string& row : rows) {

@@ -26,7 +26,7 @@ bool RejectsOrHelps(const QAbstractButton& button) {
     return false;
 }
 
-/// A tool bar that floats belongs to the window it came from.
+/// The window of a control; a floating tool bar belongs to the window it came from.
 const QWidget* WindowOf(const QWidget& control) {
     const QWidget* const window = control.window();
     const bool floats = window->windowType() == Qt::Tool && window->parentWidget() != nullptr;
@@ -48,7 +48,7 @@ QAction* ChosenByKey(const QMenu& menu, const QKeyEvent& event) {
 
 /// True when an event makes a menu trigger an action that may save.
 bool TriggersAction(const QMenu& menu, const QEvent& event) {
-    // What a field's own menu does is done in the field.
+    // A field's own menu acts inside the field.
     if (qobject_cast<const QLineEdit*>(menu.parentWidget()) != nullptr) return false;
     const QAction* const action =
         event.type() == QEvent::KeyPress
@@ -58,14 +58,14 @@ bool TriggersAction(const QMenu& menu, const QEvent& event) {
            action->menu() == nullptr && !PassesUnasked(*action);
 }
 
-/// True when a press on a button may lead to a click. A right one shows a menu.
+/// True when a press on a button may lead to a click. The right mouse button shows a menu.
 bool PressesButton(const QAbstractButton& button, const QEvent& event) {
     const bool isShortcut = event.type() == QEvent::Shortcut;
     return button.isEnabled() && !PassesUnasked(button) &&
            (isShortcut || static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton);
 }
 
-/// True for the shortcut of an action, or one that the host has made by itself.
+/// True for the shortcut of an action, or a shortcut object of the host's.
 bool IsCommand(const QObject& receiver, const QEvent& event) {
     const bool isOne = qobject_cast<const QAction*>(&receiver) != nullptr ||
                        qobject_cast<const QShortcut*>(&receiver) != nullptr;

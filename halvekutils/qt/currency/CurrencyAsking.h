@@ -7,11 +7,11 @@
 
 namespace halvek {
 
-// What makes the currency fields of a window be left first, although the focus stays in them:
-// buttons, shortcuts and menus, which may save.
+// Buttons, shortcuts and menus may save. So they leave the currency fields of their window first,
+// although the focus stays in a field.
 
-/// True for what needs no valid fields: buttons that reject or help in a QDialogButtonBox, and
-/// whatever a host marks by the property "causesValidation" = false.
+/// True for a control that acts without valid fields: a button that rejects or helps in a
+/// QDialogButtonBox, or a control or action with the host's property "causesValidation" = false.
 bool PassesUnasked(const QObject& control);
 
 /// The window whose fields are left before an event reaches its receiver; null for none.

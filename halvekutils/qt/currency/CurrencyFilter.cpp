@@ -26,8 +26,8 @@ namespace {
 
 constexpr int kRoom = 64;
 
-/// A delegate commits on Enter by a queued call. The default button finds that done. True when the
-/// line edit was closed by it.
+/// A delegate commits on Enter by a queued call, which this runs before the default button acts.
+/// True when it closed the line edit.
 bool CommitsBeforeEnter(const QLineEdit& line) {
     const QPointer<const QLineEdit> alive(&line);
     const bool hadFocus = line.hasFocus();
@@ -43,13 +43,13 @@ CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr
     line.setMaxLength(std::max(line.maxLength(), kRoom));
     if (!(line.alignment() & Qt::AlignHCenter))
         line.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    line.setText(line.text());  // what was undoable before is not judged
+    line.setText(line.text());  // clears the history: undo must not bring back an unchecked text
     line.setValidator(new CurrencyValidator(line, *this));
     line.installEventFilter(this);
     connect(&line, &QLineEdit::editingFinished, this, &CurrencyFilter::ShowAgain);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* now) { FocusMoved(now); });
-    CurrencyWatch::OfApplication();  // what a host installs from now on sees events before it
+    CurrencyWatch::OfApplication();  // filters that a host installs later see events first
     Write(line, TextGiven(line.text()));
     if (line.hasFocus()) Enter(line);
 }
@@ -113,7 +113,7 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
     }
 }
 
-/// A field that was left while it kept the focus stays so when its window comes back.
+/// A field that was left with the focus stays left when its window comes back.
 void CurrencyFilter::GetFocus(QLineEdit& line, Qt::FocusReason reason) {
     clickSelects_ = reason == Qt::MouseFocusReason;
     CurrencyWatch::OfApplication().Add(*this);
@@ -177,8 +177,7 @@ void CurrencyFilter::Enter(QLineEdit& line) {
     if (alive != nullptr) Select(line, field->SelStart(), field->SelLength());
 }
 
-/// An amount that the program has set meanwhile becomes a bare number again before the user goes
-/// on.
+/// An amount that the program has set while the user types becomes a bare number at the next key.
 void CurrencyFilter::MakeBare(QLineEdit& line) {
     const BareSelection bare = BareSelectionOf(line);
     const QString text = line.text();
@@ -201,7 +200,7 @@ QString CurrencyFilter::TextShown(const QString& text) const {
     return shown ? ToQString(*shown) : text;
 }
 
-/// While it is edited, a field keeps a text as it was set until the user goes on.
+/// A field being edited keeps a text as it was set until the next key.
 QString CurrencyFilter::TextGiven(const QString& text) {
     if (isWriting_ || (isHandedBack_ && text == given_)) return text;
     if (editing_) {

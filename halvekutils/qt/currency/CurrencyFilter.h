@@ -21,8 +21,7 @@ class Utils;
 
 /// Attaches the handlers of currency fields to a line edit, which owns it.
 ///
-/// The handlers work on a copy of the field's four values. What they make of it goes back into the
-/// line edit.
+/// The handlers work on a copy of the field's four values. The results go back into the line edit.
 class CurrencyFilter : public QObject {
     Q_OBJECT
 
@@ -33,7 +32,7 @@ class CurrencyFilter : public QObject {
     /// Attaches a new filter, which replaces the one before.
     static CurrencyFilter& Attach(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils);
 
-    /// The filter of a line edit; null when it is no currency field.
+    /// The filter of a line edit; null when it is not a currency field.
     static CurrencyFilter* Of(const QLineEdit& line);
 
     /// The line edit; null once it is being destroyed.
@@ -43,10 +42,10 @@ class CurrencyFilter : public QObject {
     void CheckRange(CurrencyRange range) { range_ = std::move(range); }
     const CurrencyRange& Range() const { return range_; }
 
-    /// What the line edit is to show of a text that the host sets, or has set.
+    /// The text to show for one that the host sets, or has set.
     QString TextGiven(const QString& text);
 
-    /// Shows and validates what was edited; false when the field must not be left.
+    /// Shows and validates the edited amount; false when the field refuses to be left.
     bool Leave(QLineEdit& line);
 
     /// Sees the line edit's events before any other filter does; true when none must see them.
@@ -90,10 +89,10 @@ class CurrencyFilter : public QObject {
     bool clickSelects_ = false;
 };
 
-/// True while a field is being left: what its message does to the focus concerns no field.
+/// True while a field is being left: no field reacts to what its message does to the focus.
 bool IsAnyFieldBeingLeft();
 
-/// True when the focus is lost or got in a way that is no leaving: to another window, or a menu.
+/// True when a change of focus does not leave the field: to another window, or a menu.
 bool EditingGoesOn(Qt::FocusReason reason);
 
 }  // namespace halvek

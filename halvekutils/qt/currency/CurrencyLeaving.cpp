@@ -16,7 +16,7 @@
 
 #include <utility>
 
-// How a currency field is left: shown, checked, and handed to whoever commits it.
+// Leaving a currency field: it shows its amount, checks it and hands it to whoever commits it.
 
 namespace halvek {
 
@@ -57,7 +57,7 @@ bool CurrencyFilter::FilterFirst(QLineEdit& line, const QEvent& event) {
     return false;
 }
 
-/// The focus may move while the window is inactive, without a word to the field.
+/// The focus may move while the window is inactive, and the field gets no event.
 void CurrencyFilter::FocusMoved(const QWidget* now) {
     GuardEvent(u"CurrencyField", [&] {
         ShowAgain();
@@ -102,7 +102,7 @@ bool CurrencyFilter::Leave(QLineEdit& line) {
     return mayLeave;
 }
 
-/// Shows the amount, but leaves the range for later: what the focus goes to next asks for it.
+/// Shows the amount but leaves the range unchecked until the focus moves on.
 void CurrencyFilter::LeaveUnasked(QLineEdit& line) {
     if (!editing_ || leaving) return;
     const QPointer<CurrencyFilter> self(this);
@@ -143,7 +143,7 @@ void CurrencyFilter::Refuse(QLineEdit& line) {
     if (!line.hasFocus()) line.setFocus(Qt::OtherFocusReason);
 }
 
-/// With the focus kept, the next key replaces the amount; so it is selected.
+/// While the field keeps the focus, the next key replaces the amount; so it is selected.
 void CurrencyFilter::EndEditing(QLineEdit& line) {
     editing_ = false;
     isUnasked_ = false;
@@ -151,8 +151,8 @@ void CurrencyFilter::EndEditing(QLineEdit& line) {
     if (line.hasFocus()) line.selectAll();
 }
 
-/// A field that was only passed through holds, for a moment, what it was given: what a delegate
-/// commits then changes nothing. The host gets no signal, since nothing has changed when it ends.
+/// A field that the user only passed through briefly holds the text it was given, so that a
+/// delegate commits no change. The host gets no signal, since nothing has changed in the end.
 void CurrencyFilter::HandBack(QLineEdit& line) {
     if (editing_ || given_.isNull() || given_ == line.text()) return;
     const QSignalBlocker quiet(line);

@@ -9,16 +9,16 @@ namespace halvek {
 
 class CurrencyEvents;
 
-/// The lower field of a range, and what a message calls both.
+/// The lower field of a range, and the names of both in a message.
 struct CurrencyRange {
     QPointer<QLineEdit> from;
     QString lblMin;
     QString lblMax;
 };
 
-/// Checks a field that shows its amount as it is left, with every range of its window that it is
-/// the upper or the lower field of. False when one is the wrong way round, and a message has told.
-/// The message may end the field.
+/// Checks a field, which shows its amount already, in every range of its window that it is part of.
+/// Shows a message and returns false when a range is the wrong way round. The host may destroy the
+/// field while the message is open.
 bool IsInOrder(QLineEdit& line, const CurrencyEvents& events);
 
 }  // namespace halvek

@@ -10,24 +10,24 @@ namespace halvek {
 
 class CurrencyEvents;
 
-// What the user does in a currency field. What the rules make of it goes into the line edit as one
-// change, which is one step for undo and one signal for the host. What they refuse beeps.
+// What the user does in a currency field. The result goes into the line edit as one change: one
+// step for undo and one signal for the host. A refusal beeps.
 
 /// Types a character, or Backspace; true when the line edit must not see the key.
 bool TypeInto(QLineEdit& line, char16_t letter, const CurrencyEvents& events, AmountSign sign);
 
-/// Puts a text in the place of the selection; false when what would result is refused.
+/// Replaces the selection with a text; false when the result would be refused.
 bool InsertInto(QLineEdit& line, const QString& piece, AmountSign sign);
 
-/// An amount as a bare number, and what is selected of it.
+/// An amount as a bare number, with its selection.
 struct BareSelection {
     QString text;
     int start;
     int length;
 };
 
-/// The bare number that a line edit's amount is, "$1,234.50" say, with the same selected; the text
-/// as it is for what could have been typed and for what is no amount.
+/// A line edit's amount ("$1,234.50", say) as a bare number with the same digits selected. A text
+/// that could have been typed, or is not an amount, stays as it is.
 BareSelection BareSelectionOf(const QLineEdit& line);
 
 }  // namespace halvek

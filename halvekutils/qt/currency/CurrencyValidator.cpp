@@ -37,7 +37,8 @@ void CurrencyValidator::Rewrite(QString& text, int& caret, const QString& better
     caret = static_cast<int>(text.size());
 }
 
-/// What the program wrote may be no amount; the user must be able to delete it bit by bit.
+/// The program may have set a text that is not an amount; the user must be able to delete it bit by
+/// bit.
 bool CurrencyValidator::DeletesFromInvalidText(const QString& text) const {
     return text.size() < shown_.size() && !TypedAmount(shown_, field_.Sign());
 }

@@ -11,9 +11,9 @@ namespace halvek {
 
 class CurrencyFilter;
 
-/// Judges every text that an edit would give a currency field, on whichever way: keys, menus, the
-/// clipboard, drops, input methods. A refusal changes nothing and leaves no trace in the history of
-/// changes. A text that the host sets becomes what the field shows of it before anybody sees it.
+/// Checks every text that an edit would give a currency field, by keys, menus, the clipboard, drops
+/// or input methods. A refusal changes nothing and adds nothing to the undo history. A text that
+/// the host sets is turned into the amount to show before anybody sees it.
 class CurrencyValidator : public QValidator {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ class CurrencyValidator : public QValidator {
     QLineEdit& line_;
     CurrencyFilter& field_;
     QString shown_;
-    mutable std::optional<QString> rewritten_;  ///< comes back at once, to be judged as well
+    mutable std::optional<QString> rewritten_;  ///< comes back at once and must pass too
 };
 
 }  // namespace halvek

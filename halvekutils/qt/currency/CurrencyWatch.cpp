@@ -13,7 +13,7 @@ namespace halvek {
 
 namespace {
 
-/// Most events are none of a field's business, and they are many.
+/// A cheap test first: most events concern no field, and there are many.
 bool MayConcernFields(QEvent::Type type) {
     switch (type) {
         case QEvent::FocusOut:

@@ -11,9 +11,9 @@ namespace halvek {
 
 class CurrencyFilter;
 
-/// The one event filter on the application for all currency fields. The fields that are typed in
-/// get their keys and the loss of the focus here, before delegates of tables and mappers commit
-/// their text; and buttons, shortcuts and menus ask them first.
+/// The one event filter on the application for all currency fields. Fields being edited get their
+/// keys and the loss of the focus here, before delegates of tables and mappers commit their text.
+/// Buttons, shortcuts and menus leave the fields here before they act.
 class CurrencyWatch : public QObject {
     Q_OBJECT
 
@@ -23,10 +23,10 @@ class CurrencyWatch : public QObject {
 
     void Add(CurrencyFilter& field);
     void Remove(const CurrencyFilter& field);
-    /// The fields that are watched at the moment.
+    /// The fields being watched.
     std::vector<QPointer<CurrencyFilter>> Fields() const { return fields_; }
 
-    /// The click that took the focus from a field which keeps it does nothing else.
+    /// Swallows the click that tried to take the focus from a field that keeps it.
     void RefuseThisPress();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kDisplayFont = 1.8;  // times the desktop's
 
-const char* const kLongestNumber = "-8.88888888888888E+888";
+const char* const kWidestNumber = "-8.88888888888888E+888";
 
 }  // namespace
 
@@ -28,8 +28,8 @@ CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form)
     setFont(design::ScaledFont(kDisplayFont));
     const QFontMetrics metrics(font());
     const int around = metrics.averageCharWidth() * 2;
-    setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kLongestNumber)) + around);
-    // Nothing but keys and Ctrl+V, which the rules check, may put text into the box.
+    setMinimumWidth(metrics.horizontalAdvance(QLatin1String(kWidestNumber)) + around);
+    // Only keys and Ctrl+V, which the rules check, may put text into the box.
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
     setAttribute(Qt::WA_InputMethodEnabled, false);
@@ -51,8 +51,8 @@ void CalculatorBox::focusInEvent(QFocusEvent* event) {
     isEntered_ = event->reason() == Qt::MouseFocusReason;
 }
 
-// A click selects the number that the next digit replaces, as Tab does. Beside the text, which
-// stands at the right, it means the end.
+// A click selects the number that the next digit replaces, as Tab does. A click beside the text,
+// which is on the right, puts the caret at the end.
 void CalculatorBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     const bool isEntered = std::exchange(isEntered_, false);

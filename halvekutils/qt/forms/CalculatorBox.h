@@ -7,14 +7,14 @@
 
 namespace halvek {
 
-/// The calculator's display, which the user may edit, too.
+/// The calculator's display, which the user may edit.
 class CalculatorBox : public QLineEdit {
     Q_OBJECT
 
   public:
     CalculatorBox(Calculator& rules, QWidget* form);
 
-    /// Takes over what the rules have changed.
+    /// Shows what the rules have changed.
     void Refresh();
 
   protected:
@@ -25,7 +25,7 @@ class CalculatorBox : public QLineEdit {
     bool IsLeftOfText(const QPoint& place) const;
 
     Calculator& rules_;
-    bool isEntered_ = false;  ///< by the click that is under way
+    bool isEntered_ = false;  ///< by the current click
 };
 
 }  // namespace halvek

@@ -13,7 +13,7 @@ namespace halvek {
 
 namespace {
 
-/// The key code by which the rules know a key; 0 for a key they have no name for.
+/// The rules' code for a key; 0 for a key they do not know.
 int KeyCodeOf(const QKeyEvent& key) {
     constexpr struct {
         Qt::Key key;
@@ -37,7 +37,7 @@ bool WouldBeInserted(const QKeyEvent& key) {
 
 bool CalculatorKeys::Take(const QKeyEvent& key) {
     const bool pastes = key.matches(QKeySequence::Paste);
-    // A key that is held down counts once, and not at all when it was before the calculator opened.
+    // A key that is held down counts once, or never if it was down before the calculator opened.
     if (key.isAutoRepeat() && (pastes || !IsInBox())) return true;
     if (pastes) {
         Paste(QClipboard::Clipboard);

@@ -16,9 +16,9 @@ class CalculatorKeys {
     /// `box` mirrors the display.
     CalculatorKeys(Calculator& rules, QLineEdit& box) : rules_(rules), box_(box) {}
 
-    /// Whether the key is done with; any other goes on to the box.
+    /// True when the key is dealt with; any other goes on to the box.
     bool Take(const QKeyEvent& key);
-    /// Hands the clipboard's text over, in the place of what is selected in the box.
+    /// Pastes the clipboard's text over the selection in the box.
     void Paste(QClipboard::Mode mode);
 
   private:

@@ -21,10 +21,9 @@ constexpr std::int32_t kButtonHeight = 720;
 
 constexpr double kButtonFont = 1.4;  // times the desktop's
 constexpr int kPrimaryTone = 130;    // per cent
-constexpr int kTint = 16;            // per cent of the highlight in what is no digit
+constexpr int kTint = 16;            // per cent of the highlight in buttons other than digits
 
-/// The buttons as they lie before the user; the tab key follows them. One that stands in two rows
-/// is as high as both.
+/// The buttons as the user sees them, in tab order. A button listed in two rows spans both.
 constexpr int kFace[4][5] = {
     {7, 8, 9, Calculator::kDivide, Calculator::kClear},
     {4, 5, 6, Calculator::kMultiply, Calculator::kEquals},
@@ -44,14 +43,14 @@ constexpr struct {
 };
 static_assert(Calculator::kChangeSign + std::size(kNames) == Calculator::kButtonCount);
 
-/// Digits are as the desktop's buttons are, what acts on numbers is tinted, and the button that
-/// ends it all stands out.
+/// Digits look like the desktop's buttons, the buttons that act on numbers are tinted, and RET
+/// stands out.
 QPalette Tone(int index, QPalette colors) {
     const QColor highlight = colors.color(QPalette::Highlight);
     const QColor face = colors.color(QPalette::Button);
     if (index == Calculator::kReturn) {
         const QColor text = colors.color(QPalette::HighlightedText);
-        // Styles lighten the upper part of a button; light text has to be read there, too.
+        // Styles lighten the upper part of a button; light text must be readable there, too.
         const bool isDark = text.lightness() > highlight.lightness();
         colors.setColor(QPalette::Button, isDark ? highlight.darker(kPrimaryTone) : highlight);
         colors.setColor(QPalette::ButtonText, design::Visible(text, highlight, 4.5));
@@ -98,7 +97,7 @@ FlashButton* CalculatorPad::MakeButton(int index, QWidget* form) {
     button->setMinimumSize(ButtonSize(button->fontMetrics()));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button->setAutoDefault(false);
-    button->setFocusPolicy(Qt::TabFocus);  // the form says where a click leaves the focus
+    button->setFocusPolicy(Qt::TabFocus);  // the form decides where a click leaves the focus
     new FocusRing(*button);
     button->installEventFilter(form);
     connect(button, &QPushButton::clicked, this, [this, index] {

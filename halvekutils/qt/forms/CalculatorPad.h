@@ -11,8 +11,8 @@ namespace halvek {
 
 class FlashButton;
 
-/// The buttons of the calculator as they lie before the user. They belong to the form, which sees
-/// their events first.
+/// The buttons of the calculator as the user sees them. They belong to the form, which sees their
+/// events first.
 class CalculatorPad : public QGridLayout {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ class CalculatorPad : public QGridLayout {
     /// The number of a button; Calculator::kBox for anything else.
     int IndexOf(const QObject* object) const;
 
-    /// A screen reader says what the display shows with the button that has the focus.
+    /// Adds the displayed number to what screen readers say of the focused button.
     void Announce();
     void EndFlashes();
 

@@ -51,7 +51,7 @@ void CountdownLine::paintEvent(QPaintEvent*) {
 QString CountdownText(const MessageBox& box) {
     if (!box.CountdownRunning()) return {};
     const QString duration = Duration(box.SecondsLeft());
-    // Without a button there is nothing that could take a key.
+    // A box without buttons has nothing that could take a key.
     return ButtonCount(box.Buttons()) == 0
                ? CountdownLine::tr("Closes by itself after %1").arg(duration)
                : CountdownLine::tr("Closes by itself after %1; any key stops it").arg(duration);

@@ -9,8 +9,8 @@ namespace halvek {
 
 class MessageBox;
 
-/// The line along the top of a message box that shrinks while the box counts down, and goes away
-/// when the countdown is stopped.
+/// The line along the top of a message box. It shrinks while the box counts down and disappears
+/// when the countdown stops.
 class CountdownLine : public QWidget {
     Q_OBJECT
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kPoints = 9;
 
-/// A line is laid out as a whole: one of megabytes would hold the program up.
+/// Qt lays out a line as a whole: a line of megabytes would freeze the program.
 constexpr int kMaxLineLength = 1000;
 
 bool EndsLine(char16_t character) {

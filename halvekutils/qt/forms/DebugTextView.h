@@ -12,8 +12,8 @@ namespace halvek {
 
 /// txtDebug: shows the console's text, the newest line in view.
 ///
-/// Every line is painted as it comes, also while the program is too busy for its event loop: what a
-/// job that hangs wrote last is what is looked for. What is selected, as a word that was found is,
+/// Every line is painted as it comes, even while the program is too busy for its event loop: when a
+/// job hangs, its last lines are the ones that matter. A selection (a word that was found, say)
 /// stays selected and in view.
 class DebugTextView : public QPlainTextEdit {
     Q_OBJECT

@@ -36,7 +36,7 @@ void DialogForm::ShowModeless() {
     show_.Modeless([this](const QWidget* owner) { return PlaceOf(owner); });
 }
 
-// Not before the window is shown: a form under construction has parts that are missing.
+// Only once the window is shown: a form under construction lacks some parts.
 void DialogForm::Follow() {
     const auto follow = [this] {
         Refresh();

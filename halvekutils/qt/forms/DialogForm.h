@@ -13,20 +13,19 @@
 
 namespace halvek {
 
-/// The window of a dialog: shows its rules, closes them when the user asks for it and goes when
-/// they have ended.
+/// The window of a dialog: shows its rules, closes them when the user asks and hides when they have
+/// ended.
 ///
 /// It has a title bar with a close box and no QObject parent, and never keeps the application
-/// running. Whatever QDialog would make of a key is left to the rules; a key that was held down
-/// when it opened does nothing.
+/// running. The rules decide what each key does, not QDialog; a key that was held down when the
+/// window opened does nothing.
 class DialogForm : public QDialog {
     Q_OBJECT
 
   public:
     ~DialogForm() override;
 
-    /// Shows the dialog until it has ended; one that stands on the screen modelessly goes on
-    /// modally.
+    /// Shows the dialog until it has ended; a modeless one on the screen becomes modal.
     void ShowModal();
     void ShowModeless();
 
@@ -39,15 +38,16 @@ class DialogForm : public QDialog {
     void reject() override;
 
   protected:
-    /// `name` becomes the object's name and stands in the log when a handler fails.
+    /// `name` becomes the object's name and is logged when a handler fails.
     DialogForm(std::shared_ptr<Dialog> rules, const char16_t* name);
 
     /// Shows what the rules say: once before the window opens, then after every change.
     virtual void Refresh() = 0;
 
-    /// The top left corner, with the frame, where the window opens; at first what OpenAt has found.
+    /// The top left corner, with the frame, where the window opens; by default the one that OpenAt
+    /// found.
     virtual QPoint PlaceOf(const QWidget* owner) const;
-    /// Places the window, of this size with its frame, as a pop-up is placed.
+    /// Places the window, of this size with its frame, as a pop-up.
     void OpenAt(const PopupAnchor& anchor, Size outer, const Desktop& desktop);
 
     // Reached by keys that no control took: Escape closes, Enter presses the button with the focus.

@@ -6,19 +6,20 @@
 
 namespace halvek {
 
-/// A button that turns white for a moment when it is pressed in any way; nothing waits for that.
+/// A button that turns white for a moment when it is pressed in any way; nothing waits for the
+/// flash.
 class FlashButton : public QPushButton {
     Q_OBJECT
 
   public:
     FlashButton(const QString& caption, QWidget* parent);
 
-    /// The colours that it has when it does not flash.
+    /// Sets the button's ordinary colours.
     void SetTone(const QPalette& tone);
 
-    /// Turns white; a flash that is still to be seen starts anew.
+    /// Turns white; restarts a flash that is still running.
     void Flash();
-    /// Gives the old background back, as time does too.
+    /// Restores the ordinary background, as the end of the time does.
     void EndFlash();
 
   private:

@@ -16,8 +16,8 @@
 namespace halvek {
 namespace {
 
-// Every picture is drawn on a grid of 32 units. Edges lie on even units where they can, so that
-// they are sharp at 16 pixels too.
+// Every picture is drawn on a grid of 32 units. Edges are on even units where possible, which keeps
+// them sharp at 16 pixels.
 constexpr int kGrid = 32;
 constexpr QPointF kCenter(16, 16);
 constexpr double kDot = 2.25;  // radius of the dot in a sign
@@ -206,7 +206,7 @@ const Picture* FindPicture(int number) {
     return &kPictures[static_cast<std::size_t>(number - 1)];
 }
 
-/// Tells screen readers that the widget is a picture, which Qt cannot know.
+/// Marks the widget as a picture for screen readers; Qt cannot know that it is one.
 QAccessibleInterface* AccessibleIcon(const QString&, QObject* object) {
     auto* const icon = qobject_cast<MessageIcon*>(object);
     return icon == nullptr ? nullptr : new QAccessibleWidget(icon, QAccessible::Graphic);

@@ -11,7 +11,7 @@ namespace halvek {
 /// readable when the two are alike.
 QPalette MessagePalette(const MessageBoxColors& colors, const QPalette& desktop);
 
-/// The same of its buttons.
+/// The same for its buttons.
 QPalette MessageButtonPalette(const MessageBoxColors& colors, const QPalette& desktop);
 
 }  // namespace halvek

@@ -51,7 +51,7 @@ void MessageText::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
-// It names no keys: those of a text control press buttons here.
+// The menu shows no shortcuts: a text control's keys press buttons here.
 void MessageText::OpenMenu(const QPoint& place) {
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -7,20 +7,20 @@ namespace halvek {
 
 class MessageBox;
 
-/// lblText: the text of a message box. The mouse selects in it; it never takes the focus, whose
-/// keys belong to the buttons.
+/// lblText: the text of a message box. The mouse selects in it; it never takes the focus, which
+/// belongs to the buttons.
 class MessageText : public QTextEdit {
     Q_OBJECT
 
   public:
     MessageText(const MessageBox& box, QWidget* parent);
 
-    /// Copies what is selected, or else the whole message.
+    /// Copies the selection, or else the whole message.
     void Copy() const;
 
   protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
-    // The form scrolls, as the rules of the box say.
+    // The form scrolls, as the box's rules decide.
     void wheelEvent(QWheelEvent* event) override;
 
   private:

@@ -26,7 +26,7 @@ namespace {
 
 struct DayKey {
     int key;
-    Qt::KeyboardModifiers commands;  ///< Ctrl, Alt and the like that have to be down
+    Qt::KeyboardModifiers commands;  ///< Ctrl, Alt and the like that must be down
     Calendar::Key action;
 };
 
@@ -74,7 +74,7 @@ Calendar::Day ToDay(QDate date) {
     return Calendar::Day(std::chrono::days(kEpoch.daysTo(date)));
 }
 
-/// Arrows that are seen on the bar above the days.
+/// Makes arrows visible on the bar above the days.
 QPalette WithArrowsOnBar(QPalette colors) {
     colors.setColor(QPalette::WindowText, colors.color(QPalette::HighlightedText));
     return colors;
@@ -105,7 +105,7 @@ class MenuMark : public QProxyStyle {
     }
 };
 
-/// The key as it acts: where text runs from right to left, the days do too.
+/// The key that acts: where text runs from right to left, so do the days.
 int Mirrored(int key, bool rightToLeft) {
     if (!rightToLeft || (key != Qt::Key_Left && key != Qt::Key_Right)) return key;
     return key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
@@ -150,7 +150,7 @@ void MonthView::MakeDaysReadable() {
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
     colors.setColor(QPalette::Disabled, QPalette::Text, faded(kOtherMonth));
     days_->setPalette(colors);
-    // In so small a font they would be hard to hit, too.
+    // In so small a font they would also be hard to hit.
     const int bar = findChild<QWidget*>(QLatin1String(kBar))->sizeHint().height();
     const int frame = 2 * static_cast<QFrame*>(days_)->frameWidth();
     setMinimumSize(kDaysInWeek * std::max(kColumnWidth, fontMetrics().height() * 2),
@@ -163,7 +163,7 @@ void MonthView::MakeArrow(const char* part, Qt::ArrowType arrow) {
     button->setPalette(WithArrowsOnBar(palette()));
 }
 
-// The mark of its menu stands in a corner of the button and would touch the month's name.
+// The menu's mark is in a corner of the button and would touch the month's name.
 void MonthView::WidenMonthButton() {
     auto* const button = findChild<QToolButton*>(QLatin1String(kMonthButton));
     int widest = 0;
@@ -204,7 +204,7 @@ void MonthView::Refresh() {
     setCurrentPage(marked.year(), marked.month());
     const QString day = locale().toString(marked, QLocale::LongFormat);
     const bool isToday = rules_.MarkedDay() == rules_.Today();
-    // Told to screen readers at once.
+    // Screen readers say this at once.
     days_->setAccessibleName(isToday ? tr("%1, today").arg(day) : day);
 }
 
@@ -227,7 +227,7 @@ bool MonthView::eventFilter(QObject* watched, QEvent* event) {
         KeyDown(press);
         return true;
     }
-    // The focus of the year goes back to the days, not on to the button.
+    // From the year the focus goes back to the days, not on to the button.
     if (watched == yearEdit_ && event->type() == QEvent::Hide && yearEdit_->hasFocus()) {
         days_->setFocus(Qt::OtherFocusReason);
     }
@@ -244,7 +244,7 @@ void MonthView::KeyDown(const QKeyEvent& event) {
     });
 }
 
-// Reached by what the year does not take, its own Enter above all, which is not the form's.
+// Gets the keys that the year box ignores, above all its own Enter, which must not reach the form.
 void MonthView::keyPressEvent(QKeyEvent* event) {
     QCalendarWidget::keyPressEvent(event);
     event->accept();

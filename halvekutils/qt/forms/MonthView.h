@@ -17,7 +17,7 @@ class MonthView : public QCalendarWidget {
   public:
     MonthView(Calendar& rules, QWidget* parent);
 
-    /// Takes over what the rules have changed.
+    /// Shows what the rules have changed.
     void Refresh();
 
     /// Takes the focus, unless a part of the month view has it.

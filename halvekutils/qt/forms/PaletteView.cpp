@@ -50,8 +50,8 @@ PaletteCellButton::PaletteCellButton(Color color, QWidget* parent)
     setAttribute(Qt::WA_Hover);
 }
 
-// Whatever its colour, a swatch is told from the frame by an outline that contrasts with the frame,
-// and from the cells around it by the frame between them.
+// An outline that contrasts with the frame separates a swatch of any colour from it; the frame
+// separates the cells.
 void PaletteCellButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -13,7 +13,7 @@ namespace halvek {
 
 struct ColorPaletteLayout;
 
-/// A cell of the palette. Its keys are the palette's.
+/// A cell of the palette, which handles its keys.
 class PaletteCellButton : public QAbstractButton {
     Q_OBJECT
 
@@ -31,20 +31,20 @@ class PaletteCellButton : public QAbstractButton {
 
 /// Frame2: shows the cells of a palette and hands keys and clicks to the rules.
 ///
-/// A cell is made when it first comes into view, so that a list of any length opens at once.
+/// A cell is made when it first comes into view, so a list of any length opens at once.
 class PaletteView : public QScrollArea {
     Q_OBJECT
 
   public:
     PaletteView(ColorPalette& rules, QWidget* parent);
 
-    /// Takes its place.
+    /// Applies its place and size.
     void ApplyLayout(const ColorPaletteLayout& layout);
 
     /// Scrolls to the current cell and gives it the focus.
     void FollowCurrent();
 
-    /// True for a key that is the palette's.
+    /// True when the palette handles the key.
     bool TakeKey(const QKeyEvent& event);
 
   protected:
@@ -56,7 +56,7 @@ class PaletteView : public QScrollArea {
     PaletteCellButton* MakeCell(int cell);
 
     ColorPalette& rules_;
-    std::vector<PaletteCellButton*> cells_;  ///< null for one that was never in view
+    std::vector<PaletteCellButton*> cells_;  ///< null for a cell that was never in view
     int rowsOnPage_ = 1;
 };
 

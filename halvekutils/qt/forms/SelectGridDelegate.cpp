@@ -17,7 +17,7 @@ namespace {
 constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 5;
 
-/// No cell is so wide that more of a text could show.
+/// No cell is wide enough to show more.
 constexpr qsizetype kMaxShown = 500;
 
 void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,

@@ -23,7 +23,7 @@ class SelectGridModel : public QAbstractTableModel {
     /// One of the three cells of an entry: 0 the check, 1 the code, 2 the description.
     SelectCell CellOf(const QModelIndex& index, int part) const;
 
-    /// Tells the views that the entries of these bands look different.
+    /// Makes the views repaint the entries of these bands.
     void Refresh(int firstBand, int lastBand);
 
     int rowCount(const QModelIndex& parent = {}) const override;

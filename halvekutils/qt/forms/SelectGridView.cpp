@@ -114,7 +114,7 @@ SelectGridView::SelectGridView(SelectGrid& rules, QWidget* parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    // A click moves the focus only when it may, see mousePressEvent.
+    // mousePressEvent decides whether a click moves the focus.
     setFocusPolicy(Qt::TabFocus);
     viewport()->setPalette(design::Paper(palette()));
     setModel(&model_);
@@ -236,7 +236,7 @@ void SelectGridView::paintEvent(QPaintEvent* event) {
     }
 }
 
-// One sheet: the colours that the entries have by the rules ask for white around them.
+// White throughout: the entries' colours come from the rules and need white around them.
 void SelectGridView::initViewItemOption(QStyleOptionViewItem* option) const {
     QTableView::initViewItemOption(option);
     option->palette = design::Paper(option->palette);

@@ -47,7 +47,7 @@ class SelectGridView : public QTableView {
     /// Asked before a click moves the focus into the grid; a refused click does nothing.
     std::function<bool()> MayTakeFocus;
 
-    /// Takes its place and the sizes of its rows and columns.
+    /// Applies its place and the sizes of its rows and columns.
     void ApplyLayout(const SelectGridLayout& layout);
 
     /// The rules have changed: repaints what is visible and follows the current entry.

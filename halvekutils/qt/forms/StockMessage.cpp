@@ -7,7 +7,7 @@ namespace halvek {
 
 namespace {
 
-/// What a message box asks of a session when there is none.
+/// What a message box gets when there is no session.
 class NoSession : public Services {
   public:
     void LogError(TextIn) noexcept override {}

@@ -10,8 +10,8 @@ namespace halvek {
 
 class MessageBox;
 
-/// A message of the library's own, with an OK button. It needs no session: the log that cannot be
-/// written is told of before there is one.
+/// A message of the library's own, with an OK button. It needs no session: an unwritable log may be
+/// reported before there is one.
 std::shared_ptr<MessageBox> MakeStockMessage(TextIn text, StockIcon icon, TextIn title,
                                              const Desktop& desktop);
 

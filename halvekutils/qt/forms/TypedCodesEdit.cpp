@@ -53,7 +53,7 @@ void TypedCodesEdit::Refresh() {
 }
 
 void TypedCodesEdit::focusInEvent(QFocusEvent* event) {
-    // A key that moves the focus here would select the whole text, and the next letter replace it.
+    // Qt selects the whole text when a key moves the focus here; the next letter would replace it.
     const int caret = cursorPosition();
     const int start = selectionStart();
     const int length = selectionLength();
@@ -79,7 +79,7 @@ void TypedCodesEdit::EnterBox(SelectGrid::BoxFocus how) {
 
 void TypedCodesEdit::mousePressEvent(QMouseEvent* event) {
     QLineEdit::mousePressEvent(event);
-    // Not before the click has set the caret: a refusal marks what is wrong.
+    // Only after the click has set the caret: a refusal selects the wrong code.
     if (std::exchange(enteredByClick_, false)) EnterBox(SelectGrid::BoxFocus::Entered);
 }
 
@@ -98,8 +98,8 @@ void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
-/// Who types fast presses the next key before the comma is up; the comma counts as released then.
-/// False when what the box holds is refused.
+/// A fast typist presses the next key before releasing the comma, which then counts as released.
+/// False when the box's text is refused.
 bool TypedCodesEdit::EndComma() {
     commaEnded_ = std::exchange(commaIsDown_, false);
     bool accepted = true;

@@ -9,14 +9,14 @@
 
 namespace halvek {
 
-/// txtSelect: mirrors the rules' box of typed codes and tells them what the user does in it.
+/// txtSelect: mirrors the rules' box of typed codes and reports the user's edits to them.
 class TypedCodesEdit : public QLineEdit {
     Q_OBJECT
 
   public:
     TypedCodesEdit(SelectGrid& rules, QWidget* parent);
 
-    /// Takes over what the rules, not the user, have changed in the box.
+    /// Shows what the rules, not the user, have changed in the box.
     void Refresh();
 
   protected:

@@ -71,7 +71,7 @@ bool frmCalculator::eventFilter(QObject* watched, QEvent* event) {
     return taken || DialogForm::eventFilter(watched, event);
 }
 
-/// Whether the event is done with; any other goes on to the box.
+/// True when the event is dealt with; any other goes on to the box.
 bool frmCalculator::BoxEvent(QEvent& event) {
     bool taken = false;
     if (event.type() == QEvent::KeyPress) {
@@ -85,24 +85,24 @@ bool frmCalculator::BoxEvent(QEvent& event) {
     return taken;
 }
 
-/// Whether the event is done with; any other goes on to the button.
+/// True when the event is dealt with; any other goes on to the button.
 bool frmCalculator::ButtonEvent(QEvent& event) {
     bool taken = false;
     if (event.type() == QEvent::KeyPress) {
-        // To a button the key would be an arrow.
+        // A button would take the key for an arrow.
         GuardEvent(u"frmCalculator.Form_KeyPress", [&] {
             auto& key = static_cast<QKeyEvent&>(event);
             taken = UnlockedDigitOf(key) != 0 && keys_.Take(key);
         });
     } else if (event.type() == QEvent::MouseButtonPress) {
-        // Enter is to complete the operation, not to press the clicked button again.
+        // Enter must complete the operation, not press the clicked button again.
         rules_.FocusOn(Calculator::kEquals);
         FocusedControl()->setFocus(Qt::MouseFocusReason);
     }
     return taken;
 }
 
-// Reached by the keys that a button does not take.
+// Gets the keys that no button takes.
 void frmCalculator::keyPressEvent(QKeyEvent* event) {
     GuardEvent(u"frmCalculator.Form_KeyPress", [&] { keys_.Take(*event); });
     event->accept();

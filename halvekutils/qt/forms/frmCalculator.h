@@ -22,7 +22,8 @@ class frmCalculator : public DialogForm {
     frmCalculator(const std::shared_ptr<Calculator>& rules, const Desktop& desktop);
     ~frmCalculator() override;
 
-    /// Takes a key from the host's keyboard hook, by its virtual key code. A host calls it by name:
+    /// Handles a key from the host's keyboard hook, by its virtual key code. A host calls it by
+    /// name:
     ///
     ///     QMetaObject::invokeMethod(QApplication::activeModalWidget(), "HookedKeyDown",
     ///                               Q_ARG(int, keyCode));

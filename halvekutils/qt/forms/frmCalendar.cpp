@@ -24,7 +24,7 @@ frmCalendar::frmCalendar(const std::shared_ptr<Calendar>& rules, const Desktop& 
         button->setFont(ToQFont({u"Tahoma", 8}));
     }
     design::MakeAlike({todayButton_, closeButton_});
-    // The key T does the same among the days, where the focus stays.
+    // The focus stays on the days, where the key T does the same.
     todayButton_->setFocusPolicy(Qt::NoFocus);
     todayButton_->setToolTip(tr("Today (T)"));
     connect(todayButton_, &QPushButton::clicked, this, [&calendar = *rules] {

@@ -13,7 +13,7 @@ namespace halvek {
 
 namespace {
 
-constexpr const char* kLongestName = "light orange, 100 (#DDDDDD)";
+constexpr const char* kWidestName = "light orange, 100 (#DDDDDD)";
 
 }  // namespace
 
@@ -27,7 +27,7 @@ frmColor::frmColor(const std::shared_ptr<ColorPalette>& rules, const Desktop& de
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, cells_);
     const QFontMetrics line = name_->fontMetrics();
     const int room = ToQRect(PaletteCellPlace(ColorPalette::kColumns)).right();
-    const bool oneLine = line.horizontalAdvance(tr(kLongestName)) <= room;
+    const bool oneLine = line.horizontalAdvance(tr(kWidestName)) <= room;
     const ColorPaletteLayout layout = LayOutColorPalette(
         rules->RowCount(), PixelsToTwips(bar), PixelsToTwips(line.height() * (oneLine ? 1 : 2)),
         {screen.width, screen.height}, desktop.FrameSize());

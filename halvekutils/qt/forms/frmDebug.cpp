@@ -26,8 +26,8 @@ namespace {
 
 constexpr QSize kSize(640, 320);
 
-/// Whether the program is about to end because its last window was closed. A window that is shown
-/// then would keep it alive.
+/// Whether the program is about to end because its last window was closed. Showing a window then
+/// would keep it alive.
 bool ProgramIsLeaving(const QWindow* console) {
     const bool endsItself =
         QGuiApplication::quitOnLastWindowClosed() && QThread::currentThread()->loopLevel() > 0;
@@ -121,7 +121,7 @@ QLayout* frmDebug::MakeButtonRow() {
     row->addStretch();
     row->addWidget(clear);
     row->addWidget(save);
-    row->addSpacing(3 * design::Margin());  // not to be hit in place of the others
+    row->addSpacing(3 * design::Margin());  // keeps it from being hit by mistake
     row->addWidget(kill);
     return row;
 }
@@ -152,13 +152,13 @@ void frmDebug::ShowInBackground() {
     if (isVisible() || ProgramIsLeaving(windowHandle())) return;
     winId();  // creates the window handle
     windowHandle()->setTransientParent(nullptr);
-    // Not every window manager minds that a new window asks for no activation; one that takes no
-    // focus at all is left alone.
+    // Some window managers activate a new window although it asks not to be; they leave alone a
+    // window that takes no focus at all.
     windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
     show();
 }
 
-// The window stands and takes the focus again when it is clicked.
+// Once the window is on the screen, a click may give it the focus again.
 void frmDebug::paintEvent(QPaintEvent* event) {
     QWindow* const window = windowHandle();
     if (window != nullptr) window->setFlag(Qt::WindowDoesNotAcceptFocus, false);
@@ -185,8 +185,8 @@ bool frmDebug::event(QEvent* event) {
     return QWidget::event(event);
 }
 
-// Lines are read beside a modal dialog, too. A modal dialog does not block windows that belong to
-// it.
+// People read the console beside a modal dialog, too. A modal dialog does not block windows that
+// belong to it.
 void frmDebug::KeepUsable() {
     QWindow* const dialog = QGuiApplication::modalWindow();
     if (dialog != nullptr && windowHandle() != nullptr) windowHandle()->setTransientParent(dialog);

@@ -33,10 +33,10 @@ class frmDebug : public QWidget {
 
     const std::shared_ptr<DebugConsole>& Console() const { return console_; }
 
-    /// Shows the window behind the active one's back; does nothing when it is shown.
+    /// Shows the window without activating it; does nothing when it is shown.
     void ShowInBackground();
 
-    /// The program's own window that was active last; null when it is not on the screen.
+    /// The host's window that was active last; null when it is not on the screen.
     QWidget* HostWindow() const;
 
   protected:

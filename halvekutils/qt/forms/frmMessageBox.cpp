@@ -30,7 +30,7 @@ namespace {
 constexpr int kOneSecond = 1000;
 constexpr qsizetype kDescriptionLength = 1000;
 
-/// The key code by which the rules know a key; 0 for a key they have no name for.
+/// The rules' code for a key; 0 for a key they do not know.
 int KeyCodeOf(const QKeyEvent& event) {
     const int key = event.key();
     if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
@@ -187,7 +187,7 @@ bool frmMessageBox::eventFilter(QObject* watched, QEvent* event) {
     return DialogForm::eventFilter(watched, event);
 }
 
-/// Whether the key is done with; any other goes on to the button.
+/// True when the key is dealt with; any other goes on to the button.
 bool frmMessageBox::ButtonKey(int index, const QKeyEvent& event) {
     if (IsEnter(event)) {
         box_->Press(index);
@@ -201,7 +201,7 @@ bool frmMessageBox::ButtonKey(int index, const QKeyEvent& event) {
 
 bool frmMessageBox::ScrollKey(int key) {
     const MessageBoxLayout& layout = box_->Layout();
-    // The line that one page cuts off is whole on the next.
+    // A line that one page cuts off is whole on the next.
     const std::int32_t page = layout.viewHeight - LineHeight();
     switch (key) {
         case Qt::Key_PageDown:
@@ -225,7 +225,7 @@ std::int32_t frmMessageBox::LineHeight() const {
     return PixelsToTwips(text_->fontMetrics().lineSpacing());
 }
 
-// Reached by keys that no button took. QDialog would end the box on Escape; the rules decide here.
+// Gets the keys that no button took. QDialog would close the box on Escape; here the rules decide.
 void frmMessageBox::keyPressEvent(QKeyEvent* event) {
     GuardEvent(u"frmMessageBox.Form_KeyPress", [this, event] {
         if (KeyCodeOf(*event) == 'C' && ModifiersOf(*event) == MessageBox::kControl) {

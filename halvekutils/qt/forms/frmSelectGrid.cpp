@@ -71,7 +71,7 @@ bool frmSelectGrid::MayLeaveBox() {
     return !typedCodes_->hasFocus() || rules_.ValidateBox();
 }
 
-// Backwards from the box lies Cancel, which never asks.
+// Shift+Tab in the box goes to Cancel, which never asks.
 bool frmSelectGrid::focusNextPrevChild(bool next) {
     bool mayLeave = true;
     GuardEvent(u"frmSelectGrid.txtSelect_Validate", [&] { mayLeave = !next || MayLeaveBox(); });

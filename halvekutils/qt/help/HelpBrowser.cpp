@@ -38,7 +38,7 @@ QPalette PaperPalette(QPalette palette) {
     return palette;
 }
 
-/// The text engine takes the colour of links from the desktop, whose may be dark.
+/// The text engine takes the colour of links from the desktop, which may be dark.
 QString PaperStyle() {
     return QStringLiteral("a:link { color: #004AAD }");
 }
@@ -87,8 +87,8 @@ void HelpBrowser::ShowMissingContext(std::int32_t contextId) {
     setSource(address);
 }
 
-// Never answers with nothing: the text engine would then look for the name among the machine's own
-// files, for a picture even when the answer is no picture.
+// Never returns nothing: the text engine would then look for the name among the machine's own
+// files; for a picture it does so even when the result is not a picture.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     const QUrl address = source().resolved(name);
     switch (type) {

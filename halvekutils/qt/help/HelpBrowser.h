@@ -14,7 +14,7 @@ namespace halvek {
 /// Shows the pages of a compiled help file, and nothing else: whatever a page asks for, only
 /// objects of that file are read.
 ///
-/// A page's address has the scheme "help", a host that stands for the file, and the path.
+/// A page's address has the scheme "help", a host that names the file, and the path.
 class HelpBrowser : public QTextBrowser {
     Q_OBJECT
 
@@ -22,8 +22,8 @@ class HelpBrowser : public QTextBrowser {
     explicit HelpBrowser(QWidget* parent = nullptr);
     ~HelpBrowser() override;
 
-    /// Goes on with another file, without the history of the one before. Null for one that cannot
-    /// be read, which `fault` tells about.
+    /// Switches to another file and drops the history of the one before. Null for a file that
+    /// cannot be read; `fault` says why.
     void SetHelp(std::shared_ptr<CompiledHelp> help, const std::u16string& fault = {});
 
     void ShowTopic(const HelpTopic& topic) { setSource(AddressOf(topic)); }

@@ -5,7 +5,7 @@
 
 namespace halvek {
 
-/// What the pictures on the help viewer's tools show.
+/// The pictures on the help viewer's tools.
 enum class HelpPicture { Back, Forward, Home, Contents, Find, Smaller, Larger };
 
 /// A picture painted at the size it is asked for, so it is crisp at every scale; pale when

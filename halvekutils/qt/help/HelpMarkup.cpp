@@ -12,11 +12,12 @@ namespace halvek {
 namespace {
 
 constexpr qsizetype kMaxPageLength = 500'000;
-// The time that layout takes doubles with each table in a table, and is squared in other depths.
+// Layout time doubles with each table inside a table, and is quadratic in the depth of other
+// elements.
 constexpr int kDeepestTable = 10;
 constexpr int kDeepest = 200;
 
-/// Elements whose end tags may be left out are no sign of depth.
+/// False for elements whose end tags may be left out: they do not show depth.
 bool Nests(const QString& name) {
     static constexpr const char* kFlat[] = {"p",   "li",    "td",   "th",   "tr",   "dt",
                                             "dd",  "br",    "hr",   "img",  "meta", "link",
@@ -27,7 +28,7 @@ bool Nests(const QString& name) {
                                 [&](const char* flat) { return name == QLatin1String(flat); });
 }
 
-/// Copies tags and text, but for the tags that stand too deep.
+/// Copies tags and text, except tags that are nested too deep.
 class Copy {
   public:
     explicit Copy(const QString& html) : html_(html) { result_.reserve(html.size()); }
@@ -56,7 +57,7 @@ class Copy {
             name += tag[i].toLower();
         }
         if (!Nests(name)) {
-            // Without a type Qt leaves a style sheet out.
+            // Qt ignores a style sheet without a type.
             const bool isPlainLink = name == QLatin1String("link") &&
                                      !tag.contains(QLatin1String("type"), Qt::CaseInsensitive);
             result_ += isPlainLink ? tag.first(5) : tag;

@@ -9,7 +9,7 @@
 
 namespace halvek {
 
-// The pages of the help viewer, as the HTML that it shows. None of them runs a script.
+// The pages of the help viewer as HTML. None of them runs a script.
 
 /// An object of the help file: a page as it is, a picture on a page of its own, anything else as
 /// plain text. Throws when it cannot be read.
@@ -19,7 +19,7 @@ QString MissingTopicPage(const CompiledHelp& help, TextIn path);
 QString MissingContextPage(const CompiledHelp& help, TextIn contextId);
 QString UnreadablePage(TextIn what);
 
-/// The picture in some bytes; null when there is none or it is larger than a page can need.
+/// The picture in these bytes; null when there is none or it is larger than a page can need.
 QImage PictureOf(const std::string& bytes);
 
 }  // namespace halvek

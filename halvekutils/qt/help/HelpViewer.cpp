@@ -51,7 +51,7 @@ QToolButton* ButtonOf(QAction* action) {
     return button;
 }
 
-/// Takes `lower` out from below `window`, if it is the owner of it or of one of its owners.
+/// If `lower` owns `window` or one of its owners, removes `lower` from that chain.
 void TakeOut(QWindow& lower, QWindow* window) {
     while (window != nullptr && window->transientParent() != &lower) {
         window = window->transientParent();
@@ -290,7 +290,7 @@ void HelpViewer::StayAboveDialogs() {
     BelongTo(above);
 }
 
-/// Until the owner hides: should it open again, from the viewer perhaps, neither may own the other.
+/// Until the owner hides: if it opens again, perhaps from the viewer, neither may own the other.
 void HelpViewer::BelongTo(QWindow* owner) {
     disconnect(ownerHides_);
     if (owner != nullptr) {
@@ -343,7 +343,7 @@ void HelpViewer::FillContents() {
     trvContents_->setVisible(hasContents);
 }
 
-/// Marks the entry of the page that is shown; one for its anchor rather than one for the page.
+/// Marks the entry of the page that is shown; prefers the entry of its anchor.
 void HelpViewer::MarkInContents() {
     const QUrl shown = browser_->source();
     QTreeWidgetItem* found = nullptr;

@@ -25,8 +25,8 @@ class HelpBrowser;
 
 /// The window that shows compiled help: its contents at the left, a page at the right.
 ///
-/// It is modeless and lies beside whatever the host shows: a modal dialog does not block it. It
-/// opens no address outside of its file.
+/// It is modeless and usable beside whatever the host shows: a modal dialog does not block it. It
+/// opens no address outside its file.
 class HelpViewer : public QMainWindow {
     Q_OBJECT
 
@@ -34,8 +34,8 @@ class HelpViewer : public QMainWindow {
     HelpViewer();
     ~HelpViewer() override;
 
-    /// Shows the topic of a context number, or what is wrong with the file or the topic; that is
-    /// thrown as well, once the window is on the screen.
+    /// Shows the topic of a context number, or what is wrong with the file or the topic; in that
+    /// case it also throws, once the window is on the screen.
     void ShowContext(const std::filesystem::path& file, std::int32_t contextId);
 
     /// The same for a topic as hosts write it; empty for the file's first page.

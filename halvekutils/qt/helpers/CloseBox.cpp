@@ -19,7 +19,7 @@ bool CloseRefusal::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RemoveCloseBox(QWidget& window) {
-    // Not setWindowFlags, which hides the window and thereby ends its modal loop.
+    // Not setWindowFlags, which hides the window and so ends its modal loop.
     const Qt::WindowFlags flags = window.windowFlags() | Qt::CustomizeWindowHint;
     window.overrideWindowFlags(flags & ~Qt::WindowCloseButtonHint);
     if (QWindow* const handle = window.windowHandle()) handle->setFlags(window.windowFlags());

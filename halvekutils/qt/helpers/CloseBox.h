@@ -7,11 +7,11 @@ class QWidget;
 
 namespace halvek {
 
-/// Refuses the user's requests to close a window that shows no close button; there are window
-/// managers that ignore that it shows none.
+/// Refuses the user's requests to close a window without a close button: some window managers show
+/// one anyway.
 ///
-/// The program's own requests pass: those of the host, of the application when it quits and of a
-/// session that ends.
+/// Requests that do not come from the user pass: the host's, the application's when it quits and a
+/// session's when it ends.
 class CloseRefusal : public QObject {
     Q_OBJECT
 

@@ -19,7 +19,7 @@ class QWidget;
 /// The look that all windows share; lengths are logical pixels.
 namespace halvek::design {
 
-inline constexpr double kRingWidth = 2;  ///< of the ring around what has the focus
+inline constexpr double kRingWidth = 2;  ///< of the ring around the control with the focus
 inline constexpr double kCorner = 3;     ///< the radius of rounded corners
 
 int Margin();
@@ -28,19 +28,19 @@ int Gap();
 /// Gives a layout the margin around it and the gap between its parts.
 void SpaceOut(QLayout& layout);
 
-/// How well two colours are told apart, from 1 to 21; 3 does for lines, 4.5 for text.
+/// The contrast of two colours, from 1 to 21; lines need 3, text needs 4.5.
 double Contrast(const QColor& one, const QColor& other);
 
-/// The least contrast of two colours that a host has chosen; below it nobody can read the text.
-inline constexpr double kLeastHostContrast = 2;
+/// The least contrast of two colours chosen by a host; below it nobody can read the text.
+inline constexpr double kMinHostContrast = 2;
 
-/// The first colour where it stands out from the ground, else black or white.
+/// The first colour if its contrast with the ground suffices, else black or white.
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);
 
 /// A colour between two: `share` per cent of the first.
 QColor Blended(const QColor& one, const QColor& other, int share);
 
-/// Light paper with black text, for what has fixed light colours on any desktop.
+/// Light paper with black text, for contents that have fixed light colours on any desktop.
 QPalette Paper(QPalette desktop);
 
 /// The desktop's own font, so many times as large.
@@ -49,11 +49,11 @@ QFont ScaledFont(double factor);
 /// Draws the ring just inside the area.
 void PaintRing(QPainter& painter, const QRectF& area, const QColor& color);
 
-/// A push button of the family: with the ring when it has the focus, never pressed by an Enter
-/// that is meant for something else.
+/// A push button in the common look: shows the ring when it has the focus; an Enter meant for
+/// another control never presses it.
 QPushButton* NewButton(const char* name, const QString& caption, QWidget* parent = nullptr);
 
-/// Makes buttons that stand together as wide and as high as the widest of their captions asks.
+/// Gives a group of buttons one size, which fits the widest of their captions.
 void MakeAlike(std::initializer_list<QPushButton*> buttons);
 
 }  // namespace halvek::design

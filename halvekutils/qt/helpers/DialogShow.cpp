@@ -51,7 +51,7 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     owner_ = owner;
     dialog_.hide();
     dialog_.setWindowModality(modality);
-    // Before the window has a handle: later the position would be that of its inner part.
+    // Before the window has a handle: after that, the position would be its inner part's.
     corner_ = place(owner);
     dialog_.move(corner_);
     SetOwner(dialog_, owner);
@@ -61,7 +61,7 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     sinceShown_.start();
     dialog_.show();
     dialog_.windowHandle()->installEventFilter(this);
-    dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows at once where the focus is
+    dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows the focus at once
     dialog_.activateWindow();
 }
 
@@ -75,8 +75,8 @@ bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// Some window managers forget their frame when they place a new window. Where it came to stand is
-// told by the first move, and put right once.
+// Some window managers forget their frame when they place a new window. The first move event shows
+// where it is; it is corrected once.
 void DialogShow::StandWhereAsked() {
     constexpr qint64 kStillOpening = 500;
     if (std::exchange(placed_, true)) return;
@@ -85,7 +85,7 @@ void DialogShow::StandWhereAsked() {
 }
 
 void DialogShow::ShowArrowPointer() {
-    // A busy cursor of the host's would show over the dialog.
+    // The host's busy cursor would show over the dialog.
     if (pointerSaved_ || QGuiApplication::overrideCursor() == nullptr) return;
     QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
     pointerSaved_ = true;

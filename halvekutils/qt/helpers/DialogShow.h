@@ -15,7 +15,8 @@ namespace halvek {
 
 /// Shows a dialog above the window that is current, until its rules have ended.
 ///
-/// The dialog has no QObject parent. A busy cursor of the host's gives way to the arrow meanwhile.
+/// The dialog has no QObject parent. While it is open the arrow replaces a busy cursor of the
+/// host's.
 class DialogShow : public QObject {
   public:
     /// The top left corner, with the frame, where the dialog opens; `owner` may be null.
@@ -26,12 +27,12 @@ class DialogShow : public QObject {
     DialogShow(QDialog& dialog, std::function<void()> abandon);
     ~DialogShow() override;
 
-    /// Returns when the dialog has ended; one that is on the screen modelessly goes on modally.
+    /// Returns when the dialog has ended; a modeless one on the screen becomes modal.
     void Modal(const Place& place);
     void Modeless(const Place& place);
 
     /// The rules have ended: hides the dialog, makes its owner active again and lets Modal return.
-    /// The second click of a double click whose first has ended them is swallowed.
+    /// If a click ended them, the second click of a double click is swallowed.
     void End();
 
   protected:

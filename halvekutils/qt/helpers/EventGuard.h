@@ -6,8 +6,8 @@
 
 namespace halvek {
 
-/// Runs what an event handler or slot does. An exception that left it would end the process, so it
-/// is beeped and logged here: "ERR in ", the form's and the handler's name, ": " and the fault.
+/// Runs the body of an event handler or slot. An exception that left it would end the process, so
+/// this beeps and logs it: "ERR in ", the form's and the handler's name, ": " and the fault.
 template <class Body>
 void GuardEvent(const char16_t* form, const char16_t* handler, const Body& body) {
     const auto prefix = [&] { return u"ERR in " + std::u16string(form) + handler + u": "; };

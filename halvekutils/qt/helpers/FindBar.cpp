@@ -76,7 +76,7 @@ void FindBar::Close() {
     text_.widget->setFocus(Qt::OtherFocusReason);
 }
 
-/// While the word grows the place that was found stays where it is.
+/// Searches from the start of the place found, so it stays found while the word grows.
 void FindBar::FindTyped() {
     QTextCursor cursor = text_.cursor();
     cursor.setPosition(cursor.selectionStart());

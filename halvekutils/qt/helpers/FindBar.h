@@ -14,12 +14,12 @@ namespace halvek {
 
 class StatusLabel;
 
-/// A line below a text that finds words in it, letter case ignored; hidden until it is asked for.
+/// A line below a text that finds words in it, letter case ignored; hidden until Open.
 class FindBar : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param text  a QTextEdit or a QPlainTextEdit, which have these members in common only
+    /// @param text  a QTextEdit or a QPlainTextEdit, whose base class lacks the members used here
     /// @param prompt  names the box where the word is typed
     template <class Text>
     FindBar(Text& text, const QString& prompt, QWidget* parent = nullptr)

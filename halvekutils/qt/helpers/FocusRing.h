@@ -7,13 +7,13 @@ class QWidget;
 
 namespace halvek {
 
-/// The ring on top of a button that has the focus; some styles show a focus by a line that nobody
-/// sees.
+/// The ring on top of a button that has the focus; some styles mark the focus with a line that
+/// nobody sees.
 class FocusRing : public QObject {
     Q_OBJECT
 
   public:
-    /// Goes with the button.
+    /// Destroyed with the button.
     explicit FocusRing(QWidget& button);
 
   protected:

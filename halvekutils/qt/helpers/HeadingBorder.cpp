@@ -10,7 +10,7 @@ namespace halvek {
 
 namespace {
 
-/// What stands out from the form that the label is on.
+/// A colour that contrasts with the form under the label.
 QColor LineColor(const QWidget& label) {
     const QWidget* const form = label.parentWidget();
     return (form == nullptr ? label : *form).palette().color(QPalette::WindowText);

@@ -19,7 +19,7 @@ class HeadingBorder : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
-/// Draws the line around a control, or no longer.
+/// Turns the line around a control on or off.
 void SetHeadingBorder(QWidget& control, bool on);
 
 }  // namespace halvek

@@ -23,7 +23,7 @@ inline char16_t TypedBy(const QKeyEvent& event, Qt::KeyboardModifiers commands =
 }
 
 /// The character that a key types into an amount. Where people write decimal commas the keypad has
-/// one instead of the point.
+/// a comma instead of the point, which counts as a point.
 inline char16_t TypedIntoAmountBy(const QKeyEvent& event,
                                   Qt::KeyboardModifiers commands = kCommands) {
     const char16_t typed = TypedBy(event, commands);
@@ -31,8 +31,8 @@ inline char16_t TypedIntoAmountBy(const QKeyEvent& event,
     return isKeypadComma ? u'.' : typed;
 }
 
-/// The digit or point on a key of the keypad that moves instead, since the lock of numbers is off;
-/// 0 for any other key, and with Shift or a command held.
+/// The digit or point on a key of the keypad that moves the caret because NumLock is off; 0 for any
+/// other key, and with Shift or a command held.
 inline char16_t UnlockedDigitOf(const QKeyEvent& event) {
     constexpr struct {
         Qt::Key key;

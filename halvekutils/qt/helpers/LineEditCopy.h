@@ -10,21 +10,21 @@
 
 namespace halvek {
 
-// A line edit as the text control that rules work on, and the ways back into it.
+// A line edit as the text control that the rules work on, and functions that write the result back.
 
-/// Where the caret stands, or the selection starts.
+/// The caret's position, or where the selection starts.
 int CaretOf(const QLineEdit& line);
 
 /// The four values of a line edit; read-only is locked.
 std::shared_ptr<TextField> CopyOf(const QLineEdit& line);
 
-/// Selects, or with the length 0 places the caret.
+/// Selects, or places the caret when the length is 0.
 void Select(QLineEdit& line, int start, int length);
 
-/// Sets a text that is no doing of the user's and cannot be undone. It is never cut.
+/// Sets a text that does not come from the user and cannot be undone. It is never cut.
 void SetText(QLineEdit& line, const QString& text);
 
-/// Changes the text as the user would, by the part in which the new one differs.
+/// Edits the text as the user would, by replacing only the part that differs.
 void Edit(QLineEdit& line, const QString& text);
 
 }  // namespace halvek

@@ -51,7 +51,7 @@ constexpr SchemeRow kScheme[] = {
     {QPalette::ToolTipBase},                          // tool tip
 };
 
-/// A colour of the desktop's scheme; the button face for a number that names none.
+/// A colour of the desktop's scheme; the button face for an unknown number.
 QColor SchemeColor(Color color, const QPalette& palette) {
     const auto number = static_cast<std::uint32_t>(color) & 0x7FFFFFFF;
     if (number >= std::size(kScheme)) return palette.color(QPalette::Button);

@@ -22,8 +22,8 @@ QRect ToQRect(const Rect& rect);
 Rect ToRect(const QRect& rect);
 QFont ToQFont(const FontSpec& font);
 
-/// How a text of the host's wraps: at words, or anywhere when it holds a word so long that looking
-/// for its end at every line would take too long.
+/// How a host's text wraps: at words, or anywhere when a word is so long that looking for its end
+/// at every line would take too long.
 QTextOption WrappingOf(const QString& text);
 
 /// A colour of the rules; those of the desktop's scheme come from the palette.

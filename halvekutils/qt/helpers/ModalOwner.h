@@ -12,7 +12,7 @@ namespace halvek {
 /// which the debug console never counts as; null when the application has none.
 QWidget* CurrentOwner();
 
-/// The screen that a dialog opened now belongs on; null without a display.
+/// The screen for a dialog opened now; null without a display.
 QScreen* CurrentScreen();
 
 /// Makes `owner` the window that `dialog` stays above. It does not become the dialog's parent: a
@@ -23,7 +23,7 @@ void SetOwner(QWidget& dialog, QWidget* owner);
 /// visible.
 QRect CentredPlace(const QSize& outer, const QWidget* owner);
 
-/// Moves a place into the part of its screen that windows may use.
+/// Moves a rectangle into the part of its screen that windows may use.
 QRect Inside(const QRect& place, const QScreen* screen);
 
 }  // namespace halvek

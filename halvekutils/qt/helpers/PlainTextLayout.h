@@ -8,17 +8,17 @@
 
 namespace halvek {
 
-/// Measures plain text as a text control paints it: with its line heights, its tab stops and the
-/// lines that it breaks. Lengths are logical pixels.
+/// Measures plain text as a text control paints it: with its line heights, tab stops and line
+/// breaks. Lengths are logical pixels.
 class PlainTextLayout {
   public:
     PlainTextLayout(const QString& text, const QFont& font);
 
-    /// Of the widest line when none is folded, with the blanks at its end.
+    /// The width of the widest line, unfolded, trailing blanks included.
     double Width();
-    /// Of all lines when none is folded.
+    /// The height of all lines, unfolded.
     double Height();
-    /// Of all lines when they fold at this width.
+    /// The height of all lines, folded at this width.
     double FoldedHeight(int width);
 
   private:

@@ -20,7 +20,7 @@ bool IsDoubleClick(const MousePress& first, const QMouseEvent& second) {
            second.timestamp() - first.time < static_cast<quint64>(hints.mouseDoubleClickInterval());
 }
 
-/// Lives until the next press or, when it swallows that, until the button is let go.
+/// Lives until the next press or, if it swallows that, until the button is released.
 class SecondClick : public QObject {
   public:
     explicit SecondClick(const MousePress& first) : QObject(qApp), first_(first) {

@@ -6,15 +6,15 @@
 
 namespace halvek {
 
-/// A button of the mouse that went down.
+/// A press of a mouse button.
 struct MousePress {
     Qt::MouseButton button = Qt::NoButton;
     QPoint place;  ///< on the screen
     quint64 time = 0;
 };
 
-/// Swallows the next press, wherever it goes, when it makes a double click with `first`. A dialog
-/// that `first` has closed calls it, or the second click would press what lies beneath.
+/// Swallows the next press, wherever it goes, if it makes a double click with `first`. A dialog
+/// that `first` has closed calls this; otherwise the second click would press what is beneath.
 void SwallowSecondClick(const MousePress& first);
 
 }  // namespace halvek

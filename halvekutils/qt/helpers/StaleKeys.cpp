@@ -11,7 +11,7 @@ namespace halvek {
 
 namespace {
 
-/// The key on the keyboard, whatever a modifier makes of it; events that programs send name none.
+/// The physical key, whatever the modifiers; 0 for events that programs send.
 quint32 PlaceOf(const QKeyEvent& key) {
     const quint32 scanCode = key.nativeScanCode();
     return scanCode != 0 ? scanCode : static_cast<quint32>(key.key());
@@ -19,7 +19,7 @@ quint32 PlaceOf(const QKeyEvent& key) {
 
 }  // namespace
 
-// On the application: accelerators are asked for at the control before the window hears of the key.
+// On the application: Qt asks the control for accelerators before the window sees the key.
 StaleKeys::StaleKeys(QWidget& window) : QObject(&window), window_(window) {
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -55,8 +55,9 @@ bool StaleKeys::Drops(const QKeyEvent& key) {
     return false;
 }
 
-// X11 tells a repetition as a release and a press at the same time. Qt marks them only if both have
-// arrived when it looks at the first, which they seldom have in a window that has just opened.
+// X11 reports a repetition as a release and a press with the same time. Qt marks it as one only if
+// the press has arrived when Qt reads the release, which is seldom so in a window that has just
+// opened.
 bool StaleKeys::IsRepeated(const QKeyEvent& key) const {
     if (key.isAutoRepeat()) return true;
     return key.timestamp() != 0 && released_.place == PlaceOf(key) &&

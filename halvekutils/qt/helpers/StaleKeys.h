@@ -9,13 +9,13 @@ class QWidget;
 
 namespace halvek {
 
-/// Drops what the keyboard repeats of a key that went down before its window became active: an
-/// Enter held on a host's button answers no dialog that the button opens.
+/// Drops the repetitions of a key that went down before its window became active: an Enter held on
+/// a host's button must not answer the dialog that the button opens.
 class StaleKeys : public QObject {
     Q_OBJECT
 
   public:
-    /// Goes with the window.
+    /// Destroyed with the window.
     explicit StaleKeys(QWidget& window);
 
   protected:
