@@ -5,7 +5,8 @@ set -euo pipefail
 demo=$1
 folder=$2
 rm -rf "$folder"
-QT_QPA_PLATFORM=offscreen timeout 120 "$demo" --tour "$folder"
+screen=$(dirname "$0")/../demo/tour/screen.json
+QT_QPA_PLATFORM=offscreen:configfile=$screen timeout 120 "$demo" --tour "$folder"
 pictures=$(find "$folder" -name '*.png' -size +1k | wc -l)
 echo "$pictures pictures, $(wc -l <"$folder/results.txt") results"
 [ "$pictures" -ge 20 ]

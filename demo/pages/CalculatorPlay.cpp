@@ -5,9 +5,12 @@
 #include "pages/CalculatorPage.h"
 #include "tour/Tour.h"
 
+#include <QColor>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -50,11 +53,10 @@ TourStep Accept() {
 /// A button that was pressed is white for a moment.
 TourStep WaitForFlashes() {
     return {[](QWidget& dialog) {
-        const QColor face = dialog.palette().color(QPalette::Button);
-        for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
-            if (button->palette().color(QPalette::Button) != face) return false;
-        }
-        return true;
+        return std::ranges::none_of(
+            dialog.findChildren<QPushButton*>(), [](const QPushButton* button) {
+                return button->palette().color(QPalette::Button) == Qt::white;
+            });
     }};
 }
 

@@ -96,7 +96,7 @@ void HelpPage::ShowByTopic() {
 
 void HelpPage::Play(Tour& tour) {
     tour.Answer("help-missing-file",
-                {tour.Snapshot("help-missing-file"), PressKey("", Qt::Key_Escape)}, [this] {
+                {tour.Snapshot("help-missing-file"), PressKey("arrCmd_0", Qt::Key_Escape)}, [this] {
                     file_.setCurrentIndex(kMissingFile);
                     ShowByNumber();
                 });

@@ -151,8 +151,8 @@ void PaymentPage::Play(Tour& tour) {
     tour.Picture(*window(), "payment-focused");
 
     const auto below = [&] { PlayEntry(tour, entries_[3], "0.49", ""); };
-    tour.Answer("payment-range", {tour.Snapshot("payment-range"), PressKey("", Qt::Key_Escape)},
-                below);
+    tour.Answer("payment-range",
+                {tour.Snapshot("payment-range"), PressKey("arrCmd_0", Qt::Key_Escape)}, below);
     PlayEntry(tour, to, "0.50", "$0.50");
     tour.Answer("payment-post", {tour.Snapshot("payment-post"), Click("arrCmd_0")},
                 [&] { post_.click(); });

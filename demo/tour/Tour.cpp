@@ -87,8 +87,7 @@ void Tour::Picture(QWidget& window, const QString& name) {
 }
 
 void Tour::SavePicture(QWidget& window, const QString& name) {
-    QPixmap picture(window.size());
-    window.render(&picture);
+    const QPixmap picture = window.grab();
     const QString file = folder_ + '/' + name + ".png";
     const bool saved = picture.save(file);
     pictures_ += saved;

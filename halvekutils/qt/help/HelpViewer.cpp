@@ -168,8 +168,8 @@ void HelpViewer::MakeTools() {
     smaller->setIcon(HelpIcon(HelpPicture::Smaller));
     larger->setIcon(HelpIcon(HelpPicture::Larger));
 
-    auto* const tools = new QWidget;
-    auto* const row = new QHBoxLayout(tools);
+    tools_ = new QWidget;
+    auto* const row = new QHBoxLayout(tools_);
     const int margin = design::Margin();
     row->setContentsMargins(margin, margin, margin, design::Gap());
     row->setSpacing(design::Gap());
@@ -180,7 +180,23 @@ void HelpViewer::MakeTools() {
     for (QAction* const action : {smaller, ordinarySize_, larger}) {
         row->addWidget(ButtonOf(action));
     }
-    setMenuWidget(tools);
+    setMenuWidget(tools_);
+}
+
+/// In a window that is too narrow for their words, the tools that have icons show only these.
+void HelpViewer::FitTools() {
+    const auto show = [this](Qt::ToolButtonStyle style) {
+        for (QToolButton* const tool : tools_->findChildren<QToolButton*>()) {
+            if (!tool->icon().isNull()) tool->setToolButtonStyle(style);
+        }
+    };
+    show(Qt::ToolButtonTextBesideIcon);
+    if (tools_->layout()->minimumSize().width() > width()) show(Qt::ToolButtonIconOnly);
+}
+
+void HelpViewer::resizeEvent(QResizeEvent* event) {
+    FitTools();
+    QMainWindow::resizeEvent(event);
 }
 
 QWidget* HelpViewer::MakeNotice() {

@@ -44,11 +44,13 @@ class HelpViewer : public QMainWindow {
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     QAction* MakeAction(const char* name, const QString& caption, const QString& keys,
                         const std::function<void()>& run);
     void MakeTools();
+    void FitTools();
     void ShowTitle();
     QWidget* MakeNotice();
 
@@ -72,6 +74,7 @@ class HelpViewer : public QMainWindow {
     QTreeWidget* trvContents_;
     FindBar* find_;
     QWidget* notice_ = nullptr;
+    QWidget* tools_ = nullptr;
     QLabel* lblOutside_ = nullptr;
     QAction* home_ = nullptr;
     QAction* showContents_ = nullptr;

@@ -53,8 +53,10 @@ FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
     design::MakeAlike({previous, next, close});
     row->addWidget(previous);
     row->addWidget(next);
-    row->addWidget(lblFind_, 1);
+    row->addWidget(lblFind_);
     row->addWidget(close);
+    // The box is not to jump while a word is typed.
+    lblFind_->setMinimumWidth(lblFind_->fontMetrics().horizontalAdvance(NotFound()));
     connect(txtFind_, &QLineEdit::textEdited, this,
             [this] { GuardEvent(u"FindBar.txtFind_Change", [this] { FindTyped(); }); });
     connect(txtFind_, &QLineEdit::returnPressed, this,
@@ -101,6 +103,10 @@ void FindBar::Find(bool backwards) {
     ShowOutcome(found);
 }
 
+QString FindBar::NotFound() {
+    return tr("Not found");
+}
+
 bool FindBar::FindFrom(const QTextCursor& cursor, bool backwards) {
     text_.setCursor(cursor);
     const auto direction = backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
@@ -108,7 +114,7 @@ bool FindBar::FindFrom(const QTextCursor& cursor, bool backwards) {
 }
 
 void FindBar::ShowOutcome(bool found) {
-    lblFind_->Tell(found ? QString() : tr("Not found"));
+    lblFind_->Tell(found ? QString() : NotFound());
     txtFind_->setAccessibleDescription(lblFind_->text());
 }
 

@@ -55,6 +55,7 @@ class FindBar : public QWidget {
     FindBar(Searched text, const QString& prompt, QWidget* parent);
     bool FindFrom(const QTextCursor& cursor, bool backwards);
     void FindTyped();
+    static QString NotFound();
     void ShowOutcome(bool found);
 
     Searched text_;

@@ -9,20 +9,40 @@
 
 namespace halvek {
 
+namespace {
+
+constexpr int kOutline = 60;  // per cent of the caption's colour
+
+/// Whether nobody can tell a button from the window: styles outline it with a darker tone, which
+/// black does not have.
+bool IsLostOn(const QColor& window, const QColor& face) {
+    constexpr int kNearlyBlack = 32;
+    constexpr double kLeastContrast = 1.2;
+    return window.lightness() < kNearlyBlack && design::Contrast(window, face) < kLeastContrast;
+}
+
+}  // namespace
+
 FocusRing::FocusRing(QWidget& button) : QObject(&button) {
     button.installEventFilter(this);
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     auto* const button = static_cast<QWidget*>(watched);
-    if (event->type() != QEvent::Paint || !button->hasFocus()) return false;
+    if (event->type() != QEvent::Paint) return false;
+    const QPalette& colors = button->palette();
+    const QColor face = colors.color(QPalette::Button);
+    if (!button->hasFocus() && !IsLostOn(colors.color(QPalette::Window), face)) return false;
     watched->event(event);
-    GuardEvent(u"FocusRing.Paint", [button] {
+    GuardEvent(u"FocusRing.Paint", [button, &colors, &face] {
         QPainter painter(button);
-        const QPalette& colors = button->palette();
-        design::PaintRing(
-            painter, button->rect(),
-            design::Visible(colors.color(QPalette::Highlight), colors.color(QPalette::Button)));
+        if (button->hasFocus()) {
+            design::PaintRing(painter, button->rect(),
+                              design::Visible(colors.color(QPalette::Highlight), face));
+        } else {
+            painter.setPen(design::Blended(colors.color(QPalette::ButtonText), face, kOutline));
+            painter.drawRect(button->rect().adjusted(0, 0, -1, -1));
+        }
     });
     return true;
 }
