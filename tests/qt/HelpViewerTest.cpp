@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QToolButton>
 
 #include <gmock/gmock.h>
 
@@ -118,6 +119,20 @@ TEST_F(HelpViewerTest, StaysUsableBesideModalDialogs) {
         });
         utils_->ShowMsgBox(u"Post the payment?", mbOkOnly, mbQuestion, u"");
         Viewer().close();
+    }
+}
+
+TEST_F(HelpViewerTest, CutsNoToolInANarrowWindow) {
+    Open(100);
+    for (const int width : {1200, 420}) {
+        Viewer().resize(width, 400);
+        for (const QToolButton* const tool : Viewer().findChildren<QToolButton*>()) {
+            if (!tool->isVisible() || tool->defaultAction() == nullptr) continue;
+            const auto fits = [tool] { return tool->width() >= tool->sizeHint().width(); };
+            EXPECT_TRUE(Soon(fits)) << width << tool->text().toStdString();
+        }
+        const QToolButton& find = Find<QToolButton>(Viewer(), "cmdFind");
+        EXPECT_EQ(find.toolButtonStyle() == Qt::ToolButtonIconOnly, width == 420);
     }
 }
 
