@@ -1,15 +1,8 @@
 # SPDX-License-Identifier: MIT
 # Turns a header into what doxygen reads; line numbers stay the same.
-# - Indented lines below an empty one are a sample, also after the parameters of a function.
 # - Two neighbouring overloads, usually the setter and the getter of a property, share the comment
-#   of the first.
+#   of the first, without its samples.
 # - Defaulted members have no entries.
-
-# A line is printed once the next one is known, since it may end a sample.
-function put(line) {
-    if (NR > 1) print held
-    held = line
-}
 
 function nameOf(line) {
     sub(/\(.*/, "", line)
@@ -17,24 +10,18 @@ function nameOf(line) {
     return line
 }
 
-/^ *\/\/\/     / && (inSample || held ~ /\/\/\/$/) {
-    if (!inSample) held = held " @sample"
-    inSample = 1
-    put($0)
+/^ *\/\/\/ @code/, /^ *\/\/\/ @endcode/ {
+    print
     next
 }
-inSample {
-    held = held " @endcode"
-    inSample = 0
-}
 /^ *\/\/\/ / {
-    put($0)
+    print
     sub(/^ *\/\/\/ /, "")
     comment = comment " " $0
     next
 }
 /^ .*= default;/ {
-    put("")
+    print ""
     next
 }
 /^(    )?[A-Za-z].*\(/ && !/= delete;/ {
@@ -48,12 +35,11 @@ inSample {
         before = "/**" shared " */ "
     }
     comment = ""
-    put(before $0)
+    print before $0
     next
 }
 {
     comment = ""
     if (!/^    [ }]/) shared = ""
-    put($0)
+    print
 }
-END { print held }

@@ -10,9 +10,11 @@ namespace halvek {
 /// With a variable the caller sees what was written; with a value the write has no effect. Members
 /// write it before they open a window, so the variable need not outlive a modal loop.
 ///
-///     FontSizeChoice size = FontSizeChoice(99);
-///     utils->ShowMsgBox(u"Done", mbOkOnly, mbNoIcon, u"", mbWhite, size);  // size is now mb9
-///     utils->ShowMsgBox(u"Done", mbOkOnly, mbNoIcon, u"", mbWhite, mb12);
+/// @code{.cpp}
+/// FontSizeChoice size = FontSizeChoice(99);
+/// utils->ShowMsgBox(u"Done", mbOkOnly, mbNoIcon, u"", mbWhite, size);  // size is now mb9
+/// utils->ShowMsgBox(u"Done", mbOkOnly, mbNoIcon, u"", mbWhite, mb12);
+/// @endcode
 template <class T>
 class ByRef {
   public:

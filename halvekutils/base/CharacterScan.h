@@ -14,8 +14,10 @@ namespace halvek {
 
 /// The positions of some characters in a text, from left to right, found a block at a time.
 ///
-///     CharacterScan bars(text, u'|');
-///     for (std::size_t at; (at = bars.Next()) != CharacterScan<1>::kNone;) ...
+/// @code{.cpp}
+/// CharacterScan bars(text, u'|');
+/// for (std::size_t at; (at = bars.Next()) != CharacterScan<1>::kNone;) ...
+/// @endcode
 template <std::size_t kCharacters>
 class CharacterScan {
   public:

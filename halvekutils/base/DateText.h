@@ -56,11 +56,13 @@ HALVEK_EXPORT std::u16string DateOnlyText(DateTime when);
 /// Reads a date, a date and time, or a time alone, which then belongs to the date of `today`.
 /// Returns nothing for any other text, for days that do not exist and for dates outside the range.
 ///
-///     3/7/2004  03-07-04            month, day, year, with "/" or "-"
-///     2004-03-07  2004/3/7          year first: it has four digits
-///     March 7, 2004  Mar 7 2004     month names in full or their first three letters, in any case;
-///     7 Mar 2004  7-Mar-2004        the comma may be left out
-///     14:05  2:05 PM  02:05:09 pm   24-hour clock without AM or PM
+/// @code{.cpp}
+/// 3/7/2004  03-07-04            month, day, year, with "/" or "-"
+/// 2004-03-07  2004/3/7          year first: it has four digits
+/// March 7, 2004  Mar 7 2004     month names in full or their first three letters, in any case;
+/// 7 Mar 2004  7-Mar-2004        the comma may be left out
+/// 14:05  2:05 PM  02:05:09 pm   24-hour clock without AM or PM
+/// @endcode
 ///
 /// The time follows a date after a blank, or after "T" when the year comes first. A year of two
 /// digits is 2000-2029 for 00-29 and 1930-1999 for 30-99; one of three or four digits stays as it

@@ -19,7 +19,9 @@ namespace halvek {
 /// A text that starts with no number gives 0 ("x", "", "nan"), and so does a number too small for a
 /// double; one too large gives plus or minus infinity.
 ///
-///     Val(u" 12.5 mg") == 12.5;  Val(u"1e") == 1;  Val(u"1,234") == 1;
+/// @code{.cpp}
+/// Val(u" 12.5 mg") == 12.5;  Val(u"1e") == 1;  Val(u"1,234") == 1;
+/// @endcode
 double Val(TextIn text);
 
 /// The value of a text that as a whole is a number or an amount; nothing for any other.
@@ -29,7 +31,9 @@ double Val(TextIn text);
 /// the whole part. There is at most one point, with a digit beside it; an exponent may follow. A
 /// number too large for a double gives nothing.
 ///
-///     ToNumber(u"$1,234.50") == 1234.5;  ToNumber(u"(5.00)") == -5;  ToNumber(u"5 mg") == nullopt;
+/// @code{.cpp}
+/// ToNumber(u"$1,234.50") == 1234.5;  ToNumber(u"(5.00)") == -5;  ToNumber(u"5 mg") == nullopt;
+/// @endcode
 std::optional<double> ToNumber(TextIn text);
 
 /// True for a text that ToNumber reads.

@@ -12,7 +12,9 @@ namespace halvek {
 
 /// The pieces of a text between the separators in it, as views: one more than there are separators.
 ///
-///     for (const TextIn piece : Pieces(u"A|B||", u'|')) ...  // A, B, empty, empty
+/// @code{.cpp}
+/// for (const TextIn piece : Pieces(u"A|B||", u'|')) ...  // A, B, empty, empty
+/// @endcode
 class Pieces {
   public:
     /// Steps from piece to piece.

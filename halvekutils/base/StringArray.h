@@ -15,8 +15,10 @@ namespace halvek {
 /// A new array is unallocated: it has no bounds and no elements, and asking for either throws
 /// SubscriptOutOfRange, as does any index outside the bounds.
 ///
-///     StringArray colors(1, 16);
-///     colors[1] = u"255";
+/// @code{.cpp}
+/// StringArray colors(1, 16);
+/// colors[1] = u"255";
+/// @endcode
 class HALVEK_EXPORT StringArray {
   public:
     StringArray() = default;

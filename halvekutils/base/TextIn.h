@@ -19,8 +19,10 @@ concept Utf16Text = requires(const T& text) {
 /// Takes string literals, std::u16string, views and any class with utf16() and size(), all without
 /// a copy. A null pointer counts as the empty text. Positions in the documentation are 1-based.
 ///
-///     utils->LogError(u"Printer is out of paper");
-///     utils->LogError(lineEdit->text());  // a QString
+/// @code{.cpp}
+/// utils->LogError(u"Printer is out of paper");
+/// utils->LogError(lineEdit->text());  // a QString
+/// @endcode
 class TextIn : public std::u16string_view {
   public:
     constexpr TextIn() noexcept = default;

@@ -34,8 +34,10 @@ class HALVEK_EXPORT Platform : public Desktop, public Forms {
 
 /// Gives the library another machine for a while, with a stopped clock or a test's own folder.
 ///
-///     MyMachine machine;
-///     UseMachine use(machine);
+/// @code{.cpp}
+/// MyMachine machine;
+/// UseMachine use(machine);
+/// @endcode
 class HALVEK_EXPORT UseMachine {
   public:
     /// Installs a machine, which outlives this object.

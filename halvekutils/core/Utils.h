@@ -35,8 +35,10 @@ namespace halvek {
 /// Unless its description says otherwise, a member never throws: it logs the fault and returns an
 /// empty text, false or 0.
 ///
-///     auto utils = Utils::Create();
-///     utils->InitUtils(u"FrontDesk.log", u"Front Desk", u"clinic", false, u"2.4.1");
+/// @code{.cpp}
+/// auto utils = Utils::Create();
+/// utils->InitUtils(u"FrontDesk.log", u"Front Desk", u"clinic", false, u"2.4.1");
+/// @endcode
 class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
   public:
     /// A new object, which shares the session of those that exist already.
@@ -107,8 +109,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// A key that differs from an existing one only in letter case is refused, with a beep and a
     /// log line that starts with "Error in Utils.AddBin "; the bins stay as they were.
     ///
-    ///     utils->AddBin(u"LastPatient", u"4711", u"account");
-    ///     utils->GetBinData(u"LastPatient")  // 4711
+    /// @code{.cpp}
+    /// utils->AddBin(u"LastPatient", u"4711", u"account");
+    /// utils->GetBinData(u"LastPatient")  // 4711
+    /// @endcode
     void AddBin(TextIn BinKey, TextIn BinData, TextIn BinType);
 
     /// Removes all bins of this object.
@@ -143,8 +147,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// begins, every look-up grants all rights, also in collections that the host has kept. A fault
     /// beeps and is logged with "BuildSecurityCollection "; the items read so far stay.
     ///
-    ///     utils->BuildSecurityCollection(u"PATIENTSF\u00E6REPORTS8");
-    ///     utils->GetSecurityItemsCollection()->Item(u"Reports")->AllowRead();  // true
+    /// @code{.cpp}
+    /// utils->BuildSecurityCollection(u"PATIENTSF\u00E6REPORTS8");
+    /// utils->GetSecurityItemsCollection()->Item(u"Reports")->AllowRead();  // true
+    /// @endcode
     void BuildSecurityCollection(TextIn SecurityData);
 
     /// The positions, in twips on the screen, at which a pop-up opens beside a button or cell.
@@ -177,8 +183,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// connections fail. A printing system that does not answer costs about a second. Bad entries
     /// are skipped and logged; any other fault is logged with "BuildPrintersCollection ".
     ///
-    ///     utils->ClearPrintersCollection();
-    ///     utils->BuildPrintersCollection(u"S:0:Spool queue:LPT1\t7:0:Label printer:COM2");
+    /// @code{.cpp}
+    /// utils->ClearPrintersCollection();
+    /// utils->BuildPrintersCollection(u"S:0:Spool queue:LPT1\t7:0:Label printer:COM2");
+    /// @endcode
     void BuildPrintersCollection(TextIn SerialPrintersList);
 
     /// A copy of the colours given to InitPrefs, with the same bounds. Throws SubscriptOutOfRange
@@ -212,7 +220,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param bDemoBlue  has no effect
     /// @param iBorderStyle  0 for a label without a border; any other value draws a thin line
     ///
-    ///     utils->HighlightHeading(AsHeading(&providerLabel));
+    /// @code{.cpp}
+    /// utils->HighlightHeading(AsHeading(&providerLabel));
+    /// @endcode
     void HighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool bDemoBlue = false,
                           std::int16_t iBorderStyle = 1);
 
@@ -257,7 +267,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// button again.
     /// @param hwnd  the window's id; nothing happens when no window of this program has it
     ///
-    ///     utils->KillCloseButton(static_cast<std::int32_t>(window.winId()));
+    /// @code{.cpp}
+    /// utils->KillCloseButton(static_cast<std::int32_t>(window.winId()));
+    /// @endcode
     void KillCloseButton(std::int32_t hwnd);
 
     /// The stamp of the host's program, as given to InitUtils; stored for the host.
@@ -282,7 +294,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     that no button cancels have no close box. A fault beeps, is logged with "Error in
     ///     Utils.ShowMsgBox " and gives kNotAnswered (0), the value of no button.
     ///
-    ///     if (utils->ShowMsgBox(u"Delete the visit?", mbYesNo, mbTrash, u"Visits") == mbYes) ...
+    /// @code{.cpp}
+    /// if (utils->ShowMsgBox(u"Delete the visit?", mbYesNo, mbTrash, u"Visits") == mbYes) ...
+    /// @endcode
     MbMsgBoxResult ShowMsgBox(TextIn Prompt, ButtonsChoice Buttons, IconChoice Icon, TextIn Title,
                               ByRef<ColorChoice> BackgroundColor = ColorChoice{},
                               ByRef<FontSizeChoice> fontSize = FontSizeChoice{},
@@ -306,7 +320,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param blnShowErrors  true to show a message after a fault, too
     /// @return the entry's position from 0; -1 when none matches, and after a fault
     ///
-    ///     utils->FindInCombo(AsComboBox(&providers), u"ADAMS", true, false);
+    /// @code{.cpp}
+    /// utils->FindInCombo(AsComboBox(&providers), u"ADAMS", true, false);
+    /// @endcode
     std::int32_t FindInCombo(const std::shared_ptr<ComboBox>& cboComboBox, TextIn strStringToFind,
                              bool blnPartialMatch = false, bool blnMatchCase = true,
                              bool blnShowErrors = false);
@@ -339,8 +355,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param strExceptions  characters that may stay, separated by ","
     /// @return true when something was found
     ///
-    ///     utils->RemoveUnwantedChars(u"a|b", text, u"");                        // ab, true
-    ///     utils->RemoveUnwantedChars(u"a|b", text, u"", false, false, u"|,^");  // a|b, false
+    /// @code{.cpp}
+    /// utils->RemoveUnwantedChars(u"a|b", text, u"");                        // ab, true
+    /// utils->RemoveUnwantedChars(u"a|b", text, u"", false, false, u"|,^");  // a|b, false
+    /// @endcode
     bool RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith,
                              bool bShowMessage = false, bool bDoNotRemoveUnwantedChars = false,
                              TextIn strExceptions = {});
@@ -359,7 +377,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @return true when the box was filled; a fault beeps and is logged with "Error in
     ///     Utils.FillCombo "
     ///
-    ///     utils->FillCombo(u"Dr. Adams:Dr. Baker:Dr. Clark", AsComboBox(&providers), true);
+    /// @code{.cpp}
+    /// utils->FillCombo(u"Dr. Adams:Dr. Baker:Dr. Clark", AsComboBox(&providers), true);
+    /// @endcode
     bool FillCombo(TextIn Items, const std::shared_ptr<ComboBox>& cboComboBox,
                    bool bMaxLength = false);
 
@@ -375,8 +395,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     empty text for one that is not all digits, for a month above 12 and for a year of three
     ///     digits. A missing year is the current one; a year of two digits is 1930 to 2029.
     ///
-    ///     utils->ConvertNumberToDate(u"3/5/2024", false);  // 03052024
-    ///     utils->ConvertNumberToDate(u"030524", true);     // 03/05/2024
+    /// @code{.cpp}
+    /// utils->ConvertNumberToDate(u"3/5/2024", false);  // 03052024
+    /// utils->ConvertNumberToDate(u"030524", true);     // 03/05/2024
+    /// @endcode
     std::u16string ConvertNumberToDate(TextIn strDate, bool bConvert);
 
     /// The text with every character outside the codes 32 to 126 written as its code, as in "<9>".
@@ -394,7 +416,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     message in debug mode. Empty for an empty text, and for a day before 1/1/100 or after
     ///     12/31/9999, which is logged with "Error in Utils.ConvertHDate ".
     ///
-    ///     utils->ConvertHDate(u"60000,43200");  // 04/10/2005 12:00:00 PM
+    /// @code{.cpp}
+    /// utils->ConvertHDate(u"60000,43200");  // 04/10/2005 12:00:00 PM
+    /// @endcode
     std::u16string ConvertHDate(TextIn HDate);
 
     /// Gives a control a font of at least the given size.
@@ -412,14 +436,18 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Cuts a text at its first delimiter. Without a delimiter both outputs keep their values. A
     /// fault beeps and is logged with "Error in SplitLeftRight :" and the text.
     ///
-    ///     utils->SplitLeftRight(u"key=value", u"=", left, right);  // left: key, right: value
+    /// @code{.cpp}
+    /// utils->SplitLeftRight(u"key=value", u"=", left, right);  // left: key, right: value
+    /// @endcode
     void SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                         std::u16string& strRight);
 
     /// Gives a grid one of nine fonts: "0" to "2" are plain, bold and italic at 8 points, "3" to
     /// "5" the same at 10 points, "6" to "8" at 12. Any other code changes nothing.
     ///
-    ///     utils->GridSetFontObject(GridFontOf(&grid), u"5");  // 10 points, italic
+    /// @code{.cpp}
+    /// utils->GridSetFontObject(GridFontOf(&grid), u"5");  // 10 points, italic
+    /// @endcode
     void GridSetFontObject(const std::shared_ptr<GridFont>& GridFontObject, TextIn FontCode);
 
     /// Lets the user choose a day from a calendar.
@@ -434,8 +462,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param bNeedsConversions  DateToShow may be digits, see ConvertNumberToDate
     /// @return mm/dd/yyyy; empty when the calendar was closed without a choice
     ///
-    ///     const auto day = utils->ShowCalendar(-1, -1, -1, visit.text());
-    ///     if (!day.empty()) visit.setText(ToQString(day));
+    /// @code{.cpp}
+    /// const auto day = utils->ShowCalendar(-1, -1, -1, visit.text());
+    /// if (!day.empty()) visit.setText(ToQString(day));
+    /// @endcode
     std::u16string ShowCalendar(float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
                                 TextIn DateToShow = {}, TextIn DefaultDate = {},
                                 const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
@@ -445,7 +475,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// otherwise above it. The calendar is centred without a target and when the target no longer
     /// exists, which is logged.
     ///
-    ///     auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
+    /// @code{.cpp}
+    /// auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
+    /// @endcode
     std::u16string ShowCalendarAndCalculateCoordinates(
         const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr, TextIn DateToShow = {},
         TextIn DefaultDate = {}, const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,
@@ -468,8 +500,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @return what the display shows when the user presses RET, which is "ERROR" after a division
     ///     by zero; empty when the user presses Escape or closes the window
     ///
-    ///     auto amount = utils->Calculate(field.text());
-    ///     if (!amount.empty()) field.setText(ToQString(amount));
+    /// @code{.cpp}
+    /// auto amount = utils->Calculate(field.text());
+    /// if (!amount.empty()) field.setText(ToQString(amount));
+    /// @endcode
     std::u16string Calculate(TextIn InitValue = {});
 
     /// The application's name, as given to InitUtils.
@@ -507,7 +541,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Field number `intNum` of a text, from 1; empty when there is no such field, for a number
     /// below 1 and for an empty delimiter. The delimiter may have several characters.
     ///
-    ///     utils->SplitStr(u"A^B^C", u"^", 2)  // B
+    /// @code{.cpp}
+    /// utils->SplitStr(u"A^B^C", u"^", 2)  // B
+    /// @endcode
     std::u16string SplitStr(TextIn strSplit, TextIn delim, std::int16_t intNum) const;
 
     /// Cuts a text into the elements 1 to n of an array; element 0 stays empty.
@@ -517,7 +553,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// field. An empty text gives one empty field.
     /// @return true; false, with the array untouched, only when memory runs out
     ///
-    ///     utils->StrToArr(u"A|B|", u"|", fields)  // fields: "", A, B
+    /// @code{.cpp}
+    /// utils->StrToArr(u"A|B|", u"|", fields)  // fields: "", A, B
+    /// @endcode
     bool StrToArr(TextIn Str, TextIn DEL, StringArray& Arr) const;
 
     /// How often a text occurs in another, counted from the left without overlap; 0 when the text
@@ -534,7 +572,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     can be used as it is; false, with the pieces so far, when a piece holds no delimiter. A
     ///     fault beeps, is logged with "ERR in HalvekUtils.ChunkStrToArr   " and gives false.
     ///
-    ///     utils->ChunkStrToArr(u"AB|CD|EF|", pieces, 4, u"|");  // AB|, CD|, EF|
+    /// @code{.cpp}
+    /// utils->ChunkStrToArr(u"AB|CD|EF|", pieces, 4, u"|");  // AB|, CD|, EF|
+    /// @endcode
     bool ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength, TextIn DEL) const;
 
     /// Builds a new current codes collection from the server's codes data.
@@ -546,8 +586,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// still holds stays as it is. A fault is logged with "BuildCodesCollection "; the records read
     /// so far stay.
     ///
-    ///     utils->BuildCodesCollection(u"Insurance\u00E6INS\u00E61\u00E61\u00E6List\u00E6Name");
-    ///     utils->GetCodesCollection()->Item(u"ins")->CodeDescription();  // Insurance
+    /// @code{.cpp}
+    /// utils->BuildCodesCollection(u"Insurance\u00E6INS\u00E61\u00E61\u00E6List\u00E6Name");
+    /// utils->GetCodesCollection()->Item(u"ins")->CodeDescription();  // Insurance
+    /// @endcode
     void BuildCodesCollection(TextIn CodesData);
 
     /// The entities that the user may see, as the server sent them; stored for the host.
@@ -574,7 +616,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// The same for a topic, given by its path in the help file; empty for the file's first page.
     ///
-    ///     utils->ShowHelpByTopic(0, u"::/billing/late.htm#fees");
+    /// @code{.cpp}
+    /// utils->ShowHelpByTopic(0, u"::/billing/late.htm#fees");
+    /// @endcode
     bool ShowHelpByTopic(std::int32_t hwnd, TextIn TopicPath = {}, TextIn HelpFileLocation = {});
 
     // A currency field is an ordinary text box whose events the host passes to the members below;
@@ -591,9 +635,11 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param KeyAscii  the key's character code; set to 0 when the box must not insert it, also
     ///     after a fault
     ///
-    ///     std::int16_t key = u'5';
-    ///     utils->OnCurrencyCtrKeyPress(box, key);
-    ///     if (key != 0) ...  // insert it
+    /// @code{.cpp}
+    /// std::int16_t key = u'5';
+    /// utils->OnCurrencyCtrKeyPress(box, key);
+    /// if (key != 0) ...  // insert it
+    /// @endcode
     void OnCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr, std::int16_t& KeyAscii);
 
     /// Cuts what follows the point to two characters. When it cuts something, the caret goes to the
@@ -638,7 +684,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param lblMin, lblMax  what the message calls the two fields
     /// @param Cancel  set to true when the check fails; otherwise not written
     ///
-    ///     utils->OnCurrencyCtrValidateRange(to, from->Text(), to->Text(), u"From", u"To", cancel);
+    /// @code{.cpp}
+    /// utils->OnCurrencyCtrValidateRange(to, from->Text(), to->Text(), u"From", u"To", cancel);
+    /// @endcode
     void OnCurrencyCtrValidateRange(const std::shared_ptr<TextControl>& ctr, TextIn strMin,
                                     TextIn strMax, TextIn lblMin, TextIn lblMax, bool& Cancel);
 
@@ -654,7 +702,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// otherwise above it. The palette is centred without a target and when the target no longer
     /// exists, which is logged.
     ///
-    ///     auto chosen = utils->ShowColorAndCalculateCoordinates(Beside(&button));
+    /// @code{.cpp}
+    /// auto chosen = utils->ShowColorAndCalculateCoordinates(Beside(&button));
+    /// @endcode
     std::u16string ShowColorAndCalculateCoordinates(
         const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
         const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr);
@@ -669,7 +719,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param FormToRefresh  repainted when the palette ends; null for none
     /// @return the colour, a tab and its index in the list; empty when the user chose none
     ///
-    ///     utils->ShowColor(left, top, bottom)  // 255<TAB>7
+    /// @code{.cpp}
+    /// utils->ShowColor(left, top, bottom)  // 255<TAB>7
+    /// @endcode
     std::u16string ShowColor(float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
                              const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr);
 
@@ -687,8 +739,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// is no argument for the grid. The dialog is centred without a target and when the target no
     /// longer exists, which is logged.
     ///
-    ///     auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
-    ///         u"Providers", server.providers(), row.codes(), Beside(&view, index));
+    /// @code{.cpp}
+    /// auto chosen = utils->ShowSelectionGridAndCalculateCoordinates(
+    ///     u"Providers", server.providers(), row.codes(), Beside(&view, index));
+    /// @endcode
     std::u16string ShowSelectionGridAndCalculateCoordinates(
         TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
         const std::shared_ptr<PopupTarget>& CmdButtonOrCell = nullptr,
@@ -722,8 +776,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     when AllValues is empty. A fault is logged with "ShowSelectionGridForm error " and gives
     ///     what was ticked so far, which is nothing when it came before the dialog was made.
     ///
-    ///     auto chosen = utils->ShowSelectionGrid(u"Providers", server.providers(), u"A1,B2");
-    ///     if (chosen != u"CANCEL") visit.setProviders(chosen);
+    /// @code{.cpp}
+    /// auto chosen = utils->ShowSelectionGrid(u"Providers", server.providers(), u"A1,B2");
+    /// if (chosen != u"CANCEL") visit.setProviders(chosen);
+    /// @endcode
     std::u16string ShowSelectionGrid(TextIn ListName, TextIn AllValues, TextIn SelectedValues = {},
                                      float posLeft = -1, float posTopUp = -1, float posTopDown = -1,
                                      const std::shared_ptr<OwnerForm>& FormToRefresh = nullptr,

@@ -30,18 +30,24 @@ enum class AmountSign {
 /// Takes digits with at most one point, a leading sign, and commas between thousands; anything else
 /// is a TypeMismatch. Zero has no sign.
 ///
-///     FormatAmount(u"1234.5") == u"1,234.50";  FormatAmount(u"-.005") == u"-0.01";
+/// @code{.cpp}
+/// FormatAmount(u"1234.5") == u"1,234.50";  FormatAmount(u"-.005") == u"-0.01";
+/// @endcode
 HALVEK_EXPORT std::u16string FormatAmount(TextIn text);
 
 /// A number of cents as FormatAmount shows it.
 ///
-///     FormatCents(123450) == u"1,234.50";  FormatCents(-5) == u"-0.05";
+/// @code{.cpp}
+/// FormatCents(123450) == u"1,234.50";  FormatCents(-5) == u"-0.05";
+/// @endcode
 HALVEK_EXPORT std::u16string FormatCents(std::int64_t cents);
 
 /// The cents of an amount that BareAmount can read, halves of a cent rounded away from zero;
 /// nothing for any other text, the empty one too, and for more cents than 64 bits hold.
 ///
-///     CentsIn(u"$1,234.50") == 123450;  CentsIn(u"$-5.00") == -500;  !CentsIn(u"");
+/// @code{.cpp}
+/// CentsIn(u"$1,234.50") == 123450;  CentsIn(u"$-5.00") == -500;  !CentsIn(u"");
+/// @endcode
 HALVEK_EXPORT std::optional<std::int64_t> CentsIn(TextIn text);
 
 /// True for a text that a field may hold while the user types: a "-" where amounts have signs, up
@@ -54,8 +60,10 @@ HALVEK_EXPORT bool IsTypedAmount(TextIn text, AmountSign sign);
 /// the "$", and commas between thousands; parentheses make a signed amount negative. Nothing when
 /// the text cannot be read, or can be read in two ways: "1.234,50", "1,23", "1 234".
 ///
-///     BareAmount(u"$1,234.50", AmountSign::Unsigned) == u"1234.50";
-///     BareAmount(u"(5.00)", AmountSign::Signed) == u"-5.00";
+/// @code{.cpp}
+/// BareAmount(u"$1,234.50", AmountSign::Unsigned) == u"1234.50";
+/// BareAmount(u"(5.00)", AmountSign::Signed) == u"-5.00";
+/// @endcode
 HALVEK_EXPORT std::optional<std::u16string> BareAmount(TextIn text, AmountSign sign);
 
 /// The text a field holds after an edit (a paste, say) that yields `text`: the same or the bare

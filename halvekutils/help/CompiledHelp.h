@@ -17,8 +17,10 @@ namespace halvek {
 
 /// A compiled help file (.chm): its pages, its context numbers and its table of contents.
 ///
-///     CompiledHelp help("FrontDesk.chm");
-///     if (auto topic = help.TopicOfContext(100)) show(HelpTextOf(help.Read(topic->path)));
+/// @code{.cpp}
+/// CompiledHelp help("FrontDesk.chm");
+/// if (auto topic = help.TopicOfContext(100)) show(HelpTextOf(help.Read(topic->path)));
+/// @endcode
 class HALVEK_INTERNAL CompiledHelp {
   public:
     /// Throws what HelpArchive throws for a file that cannot be read or is not a help file.

@@ -19,7 +19,9 @@ enum class OnFault {
 /// Runs `body`; when it throws, beeps if asked to and logs `prefix` followed by the fault's
 /// description.
 ///
-///     Guarded(OnFault::Beep, u"Error in Utils.AddBin ", services, [&] { ... });
+/// @code{.cpp}
+/// Guarded(OnFault::Beep, u"Error in Utils.AddBin ", services, [&] { ... });
+/// @endcode
 ///
 /// `log` is the session's Services, or anything else that has LogError, or a callable for a session
 /// that may not have begun. `prefix` is a text, or a callable that builds one once a fault has

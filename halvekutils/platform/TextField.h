@@ -9,9 +9,11 @@ namespace halvek {
 /// A text control without a window: a text, a selection and a lock, for hosts with controls of
 /// another kind, and for tests.
 ///
-///     auto box = std::make_shared<TextField>(u"12.5");
-///     utils->OnCurrencyCtrValidate(box, cancel);
-///     box->Text();  // $12.50
+/// @code{.cpp}
+/// auto box = std::make_shared<TextField>(u"12.5");
+/// utils->OnCurrencyCtrValidate(box, cancel);
+/// box->Text();  // $12.50
+/// @endcode
 class HALVEK_INTERNAL TextField : public TextControl {
   public:
     TextField();

@@ -17,9 +17,11 @@ class Services;
 ///
 /// Indexes count from 1. Utils::OpenWindows returns the one registry of its object.
 ///
-///     const auto windows = utils->OpenWindows();
-///     windows->AddItem(u"Patient", static_cast<std::int32_t>(window.winId()));
-///     windows->GetItem(1)[0];  // Patient
+/// @code{.cpp}
+/// const auto windows = utils->OpenWindows();
+/// windows->AddItem(u"Patient", static_cast<std::int32_t>(window.winId()));
+/// windows->GetItem(1)[0];  // Patient
+/// @endcode
 class HALVEK_EXPORT OpenWindows {
   public:
     ~OpenWindows();

@@ -16,9 +16,11 @@ namespace halvek {
 /// A line that begins with "-" should be highlighted; a line that begins with "P-", in either
 /// letter case, is patient-specific. Lines keep these marks.
 ///
-///     ReminderDefinition reminder;
-///     reminder.PopulateReminder(account, server.reminder());
-///     for (const auto& title : reminder.Tabs()) tabs.add(title);
+/// @code{.cpp}
+/// ReminderDefinition reminder;
+/// reminder.PopulateReminder(account, server.reminder());
+/// for (const auto& title : reminder.Tabs()) tabs.add(title);
+/// @endcode
 class HALVEK_EXPORT ReminderDefinition {
   public:
     ReminderDefinition();

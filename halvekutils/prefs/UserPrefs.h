@@ -18,10 +18,12 @@ namespace halvek {
 /// Until PopulateSettings, a new object holds empty texts, 0 and false. A colour of -1 is not set:
 /// reading it stores and returns its default.
 ///
-///     UserPrefs prefs;
-///     prefs.PopulateSettings(server.settings());
-///     prefs.UseTables(true);
-///     server.save(prefs.GetSettingsString());
+/// @code{.cpp}
+/// UserPrefs prefs;
+/// prefs.PopulateSettings(server.settings());
+/// prefs.UseTables(true);
+/// server.save(prefs.GetSettingsString());
+/// @endcode
 class HALVEK_EXPORT UserPrefs {
   public:
     UserPrefs();

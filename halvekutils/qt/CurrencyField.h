@@ -37,7 +37,9 @@ class Utils;
 /// @param line  the line edit; null does nothing
 /// @param utils  kept alive as long as the field; null for none
 ///
-///     MakeCurrencyField(&amount);
+/// @code{.cpp}
+/// MakeCurrencyField(&amount);
+/// @endcode
 HALVEK_EXPORT void MakeCurrencyField(QLineEdit* line, std::shared_ptr<Utils> utils = nullptr);
 
 /// The same for amounts that may be negative: "-" turns the sign over, "(5.00)" can be pasted, and
@@ -51,7 +53,9 @@ HALVEK_EXPORT void MakeSignedCurrencyField(QLineEdit* line, std::shared_ptr<Util
 /// @param to  the currency field that is checked; an ordinary line edit is made one
 /// @param lblMin, lblMax  what the message calls the two
 ///
-///     CheckCurrencyRange(&from, &to, u"From", u"To");
+/// @code{.cpp}
+/// CheckCurrencyRange(&from, &to, u"From", u"To");
+/// @endcode
 HALVEK_EXPORT void CheckCurrencyRange(QLineEdit* from, QLineEdit* to, TextIn lblMin, TextIn lblMax);
 
 /// Leaves the currency fields of a window, as a move of the focus would: they show their amounts
@@ -81,7 +85,9 @@ HALVEK_EXPORT std::optional<std::int64_t> CurrencyCents(const QLineEdit* line);
 ///              null does nothing
 /// @param cents  nothing empties the field
 ///
-///     SetCurrencyCents(&amount, 123450);  // $1,234.50
+/// @code{.cpp}
+/// SetCurrencyCents(&amount, 123450);  // $1,234.50
+/// @endcode
 HALVEK_EXPORT void SetCurrencyCents(QLineEdit* line, std::optional<std::int64_t> cents);
 
 }  // namespace halvek

@@ -20,7 +20,9 @@ HALVEK_EXPORT std::shared_ptr<OwnerForm> AsOwnerForm(QWidget* window);
 /// A button, or any other widget, as the target that a pop-up opens beside; null for null. The
 /// widget may be destroyed at any time.
 ///
-///     auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
+/// @code{.cpp}
+/// auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(&button), visit.text());
+/// @endcode
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QWidget* widget);
 
 /// A cell of a grid or list as such a target: the part of it that the view shows. Null for a null

@@ -15,8 +15,10 @@ namespace halvek {
 /// A host creates one in main, after its QApplication; it is the installed platform until it is
 /// destroyed. Use it on the user-interface thread.
 ///
-///     QApplication app(argc, argv);
-///     QtPlatform desktop;
+/// @code{.cpp}
+/// QApplication app(argc, argv);
+/// QtPlatform desktop;
+/// @endcode
 class HALVEK_EXPORT QtPlatform : public Platform {
   public:
     /// Throws ObjectNotSet without an application object and InvalidArgument off its thread.

@@ -18,9 +18,11 @@ class Services;
 
 /// The code tables that the server described, in its order; read-only to the host.
 ///
-///     const auto codes = utils->GetCodesCollection();
-///     for (const auto& code : *codes) list.add(code->CodeDescription());
-///     bool lookup = codes->Item(u"INS")->CodeHasLookup();
+/// @code{.cpp}
+/// const auto codes = utils->GetCodesCollection();
+/// for (const auto& code : *codes) list.add(code->CodeDescription());
+/// bool lookup = codes->Item(u"INS")->CodeHasLookup();
+/// @endcode
 class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesCollection> {
   public:
     ~CodesCollection();

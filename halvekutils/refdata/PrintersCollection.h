@@ -27,8 +27,10 @@ struct PrinterFilter {
 /// Keys are a number followed by "KEY": from 0KEY in a collection that was built, from 1KEY in a
 /// filtered one.
 ///
-///     const auto printers = utils->GetPrintersCollectionFiltered();  // held for the whole loop
-///     for (const auto& printer : *printers) list.add(printer->PrinterDescription());
+/// @code{.cpp}
+/// const auto printers = utils->GetPrintersCollectionFiltered();  // held for the whole loop
+/// for (const auto& printer : *printers) list.add(printer->PrinterDescription());
+/// @endcode
 class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<PrintersCollection> {
   public:
     ~PrintersCollection();

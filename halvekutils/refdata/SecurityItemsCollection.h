@@ -22,7 +22,9 @@ class Services;
 /// rights, which later look-ups find. While full access is on, every look-up grants all rights to
 /// the item that it returns, in old collections too.
 ///
-///     saveButton.setEnabled(utils->GetSecurityItemsCollection()->Item(u"PATIENTS")->AllowModify());
+/// @code{.cpp}
+/// saveButton.setEnabled(utils->GetSecurityItemsCollection()->Item(u"PATIENTS")->AllowModify());
+/// @endcode
 class HALVEK_EXPORT SecurityItemsCollection
     : public std::enable_shared_from_this<SecurityItemsCollection> {
   public:

@@ -24,9 +24,11 @@ namespace halvek {
 /// open, the close box closes it; a dialog without an answer is a fault. At 10 points every
 /// character is 100 twips wide and every line 200 twips high; other sizes are in proportion.
 ///
-///     ScriptedPlatform desktop;
-///     desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
-///     EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
+/// @code{.cpp}
+/// ScriptedPlatform desktop;
+/// desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
+/// EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
+/// @endcode
 class HALVEK_EXPORT ScriptedPlatform : public Platform {
   public:
     /// One of the desktop's own messages that was shown.

@@ -19,7 +19,9 @@ namespace halvek {
 ///
 /// Returns nothing from 86,400 seconds on. The result may lie outside the range of dates.
 ///
-///     ReadServerDate(u"60000,43200", machine)  // 4/10/2005 12:00:00 PM
+/// @code{.cpp}
+/// ReadServerDate(u"60000,43200", machine)  // 4/10/2005 12:00:00 PM
+/// @endcode
 std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
 
 /// "3/5/2024" as "03052024": month and day get two digits, the year stays as it is. A text that

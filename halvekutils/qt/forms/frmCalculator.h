@@ -25,8 +25,10 @@ class frmCalculator : public DialogForm {
     /// Handles a key from the host's keyboard hook, by its virtual key code. A host calls it by
     /// name:
     ///
-    ///     QMetaObject::invokeMethod(QApplication::activeModalWidget(), "HookedKeyDown",
-    ///                               Q_ARG(int, keyCode));
+    /// @code{.cpp}
+    /// QMetaObject::invokeMethod(QApplication::activeModalWidget(), "HookedKeyDown",
+    ///                           Q_ARG(int, keyCode));
+    /// @endcode
     Q_INVOKABLE void HookedKeyDown(int KeyCode);
 
   protected:
