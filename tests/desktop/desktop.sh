@@ -54,6 +54,7 @@ start_desktop() {
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
     export QT_SCALE_FACTOR=$scale
     unset WAYLAND_DISPLAY QT_FONT_DPI
+    rm -f "$work/display"  # an earlier display's number would be read for this one's
     Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -fbdir "$work" -r \
         -nolisten tcp -noreset 3>"$work/display" >"$work/Xvfb.log" 2>&1 &
     started+=($!)
