@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <concepts>
-#include <cstddef>
 #include <cstdint>
 
 namespace frontdesk {
@@ -30,22 +29,6 @@ QString Shown(T value) {
 template <class... T>
 QStringList Args(const T&... arguments) {
     return {Shown(arguments)...};
-}
-
-/// An enumerator and its name in code.
-template <class Enum>
-struct Named {
-    Enum value;
-    const char* name;
-};
-
-/// The name of a value, or its number when the enumeration lacks it.
-template <class Enum, std::size_t n>
-QString NameOf(const Named<Enum> (&table)[n], Enum value) {
-    for (const Named<Enum>& row : table) {
-        if (row.value == value) return QString::fromLatin1(row.name);
-    }
-    return QString::number(value);
 }
 
 }  // namespace frontdesk

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "screens/ScheduleModel.h"
+#include "screens/ScheduleView.h"
+#include "screens/Screen.h"
+#include "widgets/PrimaryButton.h"
+#include "widgets/QuietLabel.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+namespace frontdesk {
+
+/// The visits of a day, in the colours of their reasons; who is due has a mark.
+class ScheduleScreen : public Screen {
+    Q_OBJECT
+
+  public:
+    explicit ScheduleScreen(Desk& desk);
+
+    void Refresh() override;
+    QWidget* FirstField() override { return view_; }
+    int HelpContext() const override { return 100; }
+
+    /// Goes to the patient who is due, if somebody is.
+    void GoToDue();
+
+  signals:
+    void SearchStarted(const QString& text);
+
+  private:
+    QLayout* MakeHeading();
+    QLayout* MakeFoot();
+    void ShowDay(const QDate& day);
+    void ShowVisit(const QModelIndex& cell);
+    void ChooseDay();
+
+    ScheduleModel model_;
+    ScheduleView* view_;
+    QLabel* day_;
+    QToolButton* choose_;
+    QWidget* legend_;
+    QuietLabel* visit_;
+    PrimaryButton* checkIn_;
+};
+
+}  // namespace frontdesk

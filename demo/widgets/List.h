@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHeaderView>
+#include <QString>
+#include <QStringList>
+#include <QTableWidget>
+
+namespace frontdesk {
+
+/// A table of read-only rows, chosen as a whole; the Tab key leaves it.
+inline QTableWidget* MakeList(const QString& name, const QStringList& headings) {
+    auto* list = new QTableWidget(0, static_cast<int>(headings.size()));
+    list->setAccessibleName(name);
+    list->setHorizontalHeaderLabels(headings);
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setFrameShape(QFrame::NoFrame);
+    list->setShowGrid(false);
+    list->setWordWrap(false);
+    list->setTabKeyNavigation(false);
+    list->verticalHeader()->hide();
+    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 8);
+    list->horizontalHeader()->setHighlightSections(false);
+    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    list->horizontalHeader()->setStretchLastSection(true);
+    list->setMinimumHeight(list->fontMetrics().height() * 5);
+    return list;
+}
+
+/// Adds a row; texts that begin with an amount stand at the right.
+inline void AddRow(QTableWidget& list, const QStringList& texts) {
+    const int row = list.rowCount();
+    list.insertRow(row);
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        auto* cell = new QTableWidgetItem(texts[i]);
+        if (texts[i].contains('$')) cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        list.setItem(row, static_cast<int>(i), cell);
+    }
+}
+
+}  // namespace frontdesk
