@@ -22,6 +22,8 @@ class CallPane : public QDockWidget {
         lines_->setMaximumBlockCount(kMostLines);
         lines_->setPlainText(calls.Lines().join('\n'));
         connect(&calls, &CallLog::Added, lines_, &QPlainTextEdit::appendPlainText);
+        connect(this, &QDockWidget::visibilityChanged, lines_,
+                [this] { lines_->moveCursor(QTextCursor::End); });
         setWidget(lines_);
     }
 

@@ -118,6 +118,16 @@ std::optional<Visit> Desk::VisitOfToday() {
     return std::nullopt;
 }
 
+halvek::ReminderDefinition Desk::RemindersOfAccount() {
+    halvek::ReminderDefinition reminder;
+    if (!current_) return reminder;
+    const QString number = QString::number(current_->number);
+    const QString text = FromServer(practice_->Reminders(current_->number));
+    reminder.PopulateReminder(number, text);
+    calls_.Add("ReminderDefinition.PopulateReminder", Args(number, text));
+    return reminder;
+}
+
 void Desk::Select(int patient) {
     current_ = practice_->Find(patient);
     emit PatientChanged();

@@ -6,6 +6,7 @@
 #include "practice/Practice.h"
 
 #include <halvekutils/core/Utils.h>
+#include <halvekutils/prefs/ReminderDefinition.h>
 
 #include <QLineEdit>
 #include <QObject>
@@ -49,6 +50,8 @@ class Desk : public QObject {
     const std::optional<Patient>& Current() const { return current_; }
     /// The current patient's visit of today that is not paid yet.
     std::optional<Visit> VisitOfToday();
+    /// What the server reminds of when the account is opened.
+    halvek::ReminderDefinition RemindersOfAccount();
     /// Shows a patient above the screens.
     void Select(int patient);
     /// Opens an account, or goes back to it, and shows a screen of it.

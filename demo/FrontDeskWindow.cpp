@@ -91,6 +91,8 @@ void FrontDeskWindow::MakeToolBar() {
     auto* bar = new QToolBar("Screens");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->setIconSize({20, 20});
+    bar->setStyleSheet("QToolBar { spacing: 6px; padding: 5px 12px; border: none; }");
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->addActions(screenActions_.actions());
     auto* space = new QWidget;

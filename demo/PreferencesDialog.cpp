@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesDialog.h"
 
+#include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/RequiredColor.h"
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr std::size_t kFormColors = 3;  // the first rows, before those of the schedule
 constexpr int kSwatch = 18;
+constexpr int kColumns = 3;
 
 QIcon Swatch(halvek::Color color) {
     QPixmap pixmap(kSwatch, kSwatch);
@@ -36,8 +38,8 @@ PreferencesDialog::PreferencesDialog(Desk& desk, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kMargin);
-    QGridLayout* forms = AddGroup("Colours of the forms");
-    QGridLayout* reasons = AddGroup("Colours of the schedule");
+    QGridLayout* forms = AddGroup("Colors of the forms");
+    QGridLayout* reasons = AddGroup("Colors of the schedule");
     for (std::size_t i = 0; i < colors_.size(); ++i)
         AddColor(i < kFormColors ? *forms : *reasons, i);
     AddGroup("Schedule")->addWidget(showsPaid_, 0, 0);
@@ -70,6 +72,7 @@ QGridLayout* PreferencesDialog::AddGroup(const QString& heading) {
     auto* card = new Card(heading);
     auto* grid = new QGridLayout;
     grid->setSpacing(kGap);
+    for (int i = 0; i < kColumns; ++i) grid->setColumnStretch(i, 1);
     card->Content().addLayout(grid);
     static_cast<QVBoxLayout*>(layout())->addWidget(card);
     return grid;
@@ -77,9 +80,10 @@ QGridLayout* PreferencesDialog::AddGroup(const QString& heading) {
 
 void PreferencesDialog::AddColor(QGridLayout& group, std::size_t index) {
     auto* button = new QPushButton(Swatch(colors_[index].color), colors_[index].name);
+    MakeRoomy(*button);
     button->setAutoDefault(false);
     button->setIconSize({kSwatch, kSwatch});
-    button->setAccessibleName("Colour: " + QString(colors_[index].name).remove('&'));
+    button->setAccessibleName("Color: " + QString(colors_[index].name).remove('&'));
     connect(button, &QPushButton::clicked, this, [this, button, index] {
         const auto color = desk_.ChooseColor(button);
         if (!color) return;
@@ -87,7 +91,6 @@ void PreferencesDialog::AddColor(QGridLayout& group, std::size_t index) {
         button->setIcon(Swatch(*color));
     });
     const int place = group.count();
-    constexpr int kColumns = 3;
     group.addWidget(button, place / kColumns, place % kColumns);
 }
 

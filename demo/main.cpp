@@ -32,8 +32,8 @@ struct Options {
         "visit", "Play one visit without a person; leave pictures in <folder>.", "folder"};
     QCommandLineOption calls{"calls", "Append each call of the library to <file>.", "file"};
     QCommandLineOption palette{
-        "palette", "Use the <colours> " + LooksNames().join(" or ") + ", not the desktop's own.",
-        "colours"};
+        "palette", "Use the <colors> " + LooksNames().join(" or ") + ", not the desktop's own.",
+        "colors"};
     QCommandLineOption idle{"idle",
                             "Close the open accounts after <seconds> without a key or a click.",
                             "seconds", kDefaultIdle};

@@ -46,6 +46,7 @@ class Maker {
         MakeCodes();
         MakePatients();
         MakeReminders();
+        MakeHistory();
         QDate day = QDate::fromString(kFirstDay, Qt::ISODate);
         for (int made = 0; made < kDays; day = day.addDays(1)) {
             if (day.dayOfWeek() > Qt::Friday) continue;
@@ -62,6 +63,7 @@ class Maker {
     PatientRow AnyPatient(int number);
     int AnyNumber();
     void MakeReminders();
+    void MakeHistory();
     void MakeDay(const QDate& day);
     std::vector<int> AnySlots(int mustHave);
     const ReasonRow& AnyReason();
@@ -78,6 +80,9 @@ void Maker::MakeSettings() {
     for (const halvek::Color color : kPalette) {
         database_.Run("INSERT INTO color VALUES (?)", {color});
     }
+    // The colour of required fields is the sixth of the settings, the last that is sent.
+    const QByteArray settings = QByteArray(5, '\xDF') + QByteArray::number(kRequiredField);
+    database_.Run("INSERT INTO setting VALUES (?, ?)", {kUser, settings});
     for (const ReasonRow& row : kReasons) {
         database_.Run("INSERT INTO reason VALUES (?, ?, ?, ?)",
                       {row.code, row.description, row.procedure, row.color});
@@ -158,6 +163,19 @@ void Maker::MakeReminders() {
         database_.Run("INSERT INTO reminder VALUES (?, ?, ?)", {row.patient, row.tab, row.line});
         if (row.alert)
             database_.Run("UPDATE patient SET alert = 1 WHERE number = ?", {row.patient});
+    }
+}
+
+void Maker::MakeHistory() {
+    for (const HistoryRow& row : kHistory) {
+        database_.Run(
+            "INSERT INTO visit (day, time, patient, provider, reason, procedures, state)"
+            " VALUES (?, ?, ?, 'PATEL', 'FU', ?, ?)",
+            {row.day, row.time, kDuePatient, row.procedures, static_cast<int>(VisitState::Paid)});
+        database_.Run(
+            "INSERT INTO payment (patient, posted, amount, adjustment, method, printer)"
+            " VALUES (?, ?, ?, 0, ?, 'Front office laser')",
+            {kDuePatient, QString("%1T%2:00").arg(row.day, row.time), row.amount, row.method});
     }
 }
 

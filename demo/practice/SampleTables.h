@@ -181,6 +181,7 @@ struct RightRow {
 };
 
 inline constexpr const char* kUser = "dsmith";
+inline constexpr halvek::Color kRequiredField = halvek::Rgb(218, 234, 250);
 inline constexpr RightRow kRights[] = {
     {"PATIENTS", "E"},  {"SCHEDULE", "F"},    {"PAYMENTS", "C"},
     {"WRITEOFFS", "8"}, {"PREFERENCES", "A"}, {"ERRORLOG", "8"},
@@ -233,6 +234,22 @@ inline constexpr ReminderRow kReminders[] = {
     {10204, false, "Language", "French, interpreter for forms"},
     {10455, false, "Names", "\u00C6sa is called \u201C\u00E6sa\u201D on old forms"},
     {10520, false, "Names", "Wei\u00DF is Weiss on the insurance card"},
+};
+
+struct HistoryRow {
+    const char* day;
+    const char* time;
+    const char* procedures;
+    int amount;  ///< in cents
+    const char* method;
+};
+
+/// Earlier visits of the patient who is due
+inline constexpr HistoryRow kHistory[] = {
+    {"2023-11-07", "09:40", "NP45,LAB01", 2500, "Card"},
+    {"2023-12-05", "10:20", "OV30", 4000, "Card"},
+    {"2024-01-09", "09:00", "OV15,ECG12", 4000, "Check"},
+    {"2024-02-06", "08:40", "OV15", 4000, "Cash"},
 };
 
 inline constexpr const char* kLastNames[] = {

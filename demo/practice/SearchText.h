@@ -11,7 +11,9 @@ inline QString SearchText(const QString& text) {
     QString plain;
     for (const QChar letter :
          text.trimmed().toCaseFolded().normalized(QString::NormalizationForm_KD)) {
-        if (letter == u'\u00E6') {
+        if (letter == u'\u00DF') {
+            plain += "ss";
+        } else if (letter == u'\u00E6') {
             plain += "ae";
         } else if (letter.category() != QChar::Mark_NonSpacing) {
             plain += letter;

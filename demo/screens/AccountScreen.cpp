@@ -3,10 +3,9 @@
 
 #include "Texts.h"
 #include "screens/ScheduleModel.h"
+#include "widgets/Buttons.h"
 #include "widgets/Columns.h"
 #include "widgets/List.h"
-
-#include <halvekutils/qt/QtText.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -25,9 +24,9 @@ AccountScreen::AccountScreen(Desk& desk)
       visits_(MakeList("Visits", {"Day", "Time", "Provider", "Procedures", "State"})),
       payments_(MakeList("Payments", {"Posted", "Amount", "Adjustment", "By"})),
       checkIn_(new PrimaryButton("Chec&k in")),
-      pay_(new QPushButton("Take pa&yment")),
-      cancel_(new QPushButton("Ca&ncel visit...")),
-      writeOff_(new QPushButton("Write o&ff...")) {
+      pay_(MakeButton("Take pa&yment")),
+      cancel_(MakeButton("Ca&ncel visit...")),
+      writeOff_(MakeButton("Write o&ff...")) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kMargin);
@@ -121,15 +120,11 @@ void AccountScreen::EnableButtons() {
 }
 
 void AccountScreen::ShowReminders() {
-    const Patient& patient = *TheDesk().Current();
-    const QString text = halvek::FromServer(TheDesk().Server().Reminders(patient.number));
-    halvek::ReminderDefinition reminder;
-    reminder.PopulateReminder(QString::number(patient.number), text);
-    TheDesk().Calls().Add("ReminderDefinition.PopulateReminder",
-                          Args(QString::number(patient.number), text));
+    const halvek::ReminderDefinition reminder = TheDesk().RemindersOfAccount();
     reminders_->Show(reminder);
-    if (isVisible() && reminder.SoundAlert() && alerted_ != patient.number) QApplication::beep();
-    if (isVisible()) alerted_ = patient.number;
+    const int number = TheDesk().Current()->number;
+    if (isVisible() && reminder.SoundAlert() && alerted_ != number) QApplication::beep();
+    if (isVisible()) alerted_ = number;
 }
 
 void AccountScreen::ShowVisits() {
@@ -138,7 +133,6 @@ void AccountScreen::ShowVisits() {
         AddRow(*visits_, {DayText(visit.day), TimeText(visit.time), visit.provider,
                           visit.procedures, StateName(visit.state)});
     }
-    visits_->resizeColumnsToContents();
 }
 
 void AccountScreen::ShowPayments() {
@@ -148,7 +142,6 @@ void AccountScreen::ShowPayments() {
                {DayText(payment.posted.date()), Money(payment.amount),
                 payment.adjustment == 0 ? "" : Money(payment.adjustment), payment.method});
     }
-    payments_->resizeColumnsToContents();
 }
 
 void AccountScreen::CancelVisit() {

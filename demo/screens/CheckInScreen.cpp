@@ -2,6 +2,8 @@
 #include "screens/CheckInScreen.h"
 
 #include "Texts.h"
+#include "widgets/Buttons.h"
+#include "widgets/Columns.h"
 #include "widgets/FieldForm.h"
 
 #include <halvekutils/qt/QtText.h>
@@ -26,13 +28,14 @@ CheckInScreen::CheckInScreen(Desk& desk)
       provider_(new CodesField(desk, "PRV", "Provider", 1)),
       procedures_(new CodesField(desk, "PRC", "Procedures", kMostProcedures)),
       next_(new DateField(desk, "Next visit")),
+      reminders_(new ReminderTabs),
       visit_(new QuietLabel),
       copay_(new QuietLabel),
       checkInAndPost_(new PrimaryButton("Check &in and post")),
-      checkIn_(new QPushButton("Check in &only")) {
+      checkIn_(MakeButton("Check in &only")) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->addWidget(MakeForm());
+    column->addWidget(new Columns(MakeForm(), 3, MakeReminders(), 2));
     column->addStretch();
     checkInAndPost_->setObjectName("checkInAndPost");
     checkInAndPost_->setShortcut(Qt::CTRL | Qt::Key_Return);
@@ -65,6 +68,12 @@ Card* CheckInScreen::MakeForm() {
     return card;
 }
 
+Card* CheckInScreen::MakeReminders() {
+    auto* card = new Card("Reminders");
+    card->Content().addWidget(reminders_, 1);
+    return card;
+}
+
 QWidget* CheckInScreen::FirstField() {
     if (!insurance_->isEnabled()) return this;
     return insurance_->Line();
@@ -72,6 +81,7 @@ QWidget* CheckInScreen::FirstField() {
 
 void CheckInScreen::Refresh() {
     KeepDraft();
+    if (TheDesk().Current()) reminders_->Show(TheDesk().RemindersOfAccount());
     const auto visit = TheDesk().VisitOfToday();
     const bool isDue = visit && visit->state < VisitState::CheckedIn;
     const std::initializer_list<QWidget*> parts = {insurance_, provider_,       procedures_,

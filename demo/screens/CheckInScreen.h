@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "screens/ReminderTabs.h"
 #include "screens/Screen.h"
 #include "widgets/Card.h"
 #include "widgets/CodesField.h"
@@ -32,7 +33,7 @@ class CheckInScreen : public Screen {
 
   private:
     Card* MakeForm();
-    Card* MakeVisit();
+    Card* MakeReminders();
     void Fill(const Visit& visit);
     void KeepDraft();
     QString DraftKey() const;
@@ -43,6 +44,7 @@ class CheckInScreen : public Screen {
     CodesField* provider_;
     CodesField* procedures_;
     DateField* next_;
+    ReminderTabs* reminders_;
     QuietLabel* visit_;
     QuietLabel* copay_;
     PrimaryButton* checkInAndPost_;

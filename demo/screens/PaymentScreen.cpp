@@ -101,6 +101,8 @@ Card* PaymentScreen::MakePayments() {
     for (const auto& [caption, line] : {std::pair("Fro&m", from_), std::pair("&To", to_)}) {
         auto* label = new QLabel(caption);
         label->setBuddy(line);
+        // The underline under the T keeps the o from moving below it.
+        label->setMinimumWidth(label->sizeHint().width() + 4);
         filter->addWidget(label);
         filter->addWidget(line);
     }
@@ -142,7 +144,10 @@ void PaymentScreen::Refresh() {
     if (shown_ != patient->number) {
         shown_ = patient->number;
         for (QLineEdit* line : {adjustment_, from_, to_}) line->clear();
-        halvek::SetCurrencyCents(amount_, TheDesk().Server().CopayOf(patient->insurance));
+        const auto visit = TheDesk().VisitOfToday();
+        const bool hasCopay = visit && visit->state == VisitState::CheckedIn;
+        const qint64 copay = TheDesk().Server().CopayOf(patient->insurance);
+        halvek::SetCurrencyCents(amount_, hasCopay ? copay : patient->balance);
     }
     ShowBalanceAfter();
     ShowPayments();
@@ -173,7 +178,6 @@ void PaymentScreen::ShowPayments() {
                 Money(payment.amount), payment.adjustment == 0 ? "" : Money(payment.adjustment),
                 payment.method, payment.printer});
     }
-    payments_->resizeColumnsToContents();
 }
 
 void PaymentScreen::Calculate() {
@@ -214,8 +218,7 @@ void PaymentScreen::Post() {
     if (!TheDesk().Server().Post(payment)) return;
     TheDesk().UseReceiptPrinter(printer_->currentText());
     const QString name = patient->Name();
-    amount_->clear();
-    adjustment_->clear();
+    shown_ = 0;  // the form is filled anew
     TheDesk().NotePracticeChanged();
     emit Posted(QString("Posted %1 for %2, receipt: %3").arg(Money(amount), name, payment.printer));
 }

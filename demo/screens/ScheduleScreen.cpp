@@ -3,12 +3,12 @@
 
 #include "Texts.h"
 #include "screens/Legend.h"
+#include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/Icons.h"
 
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
-#include <QPushButton>
 
 namespace frontdesk {
 
@@ -54,6 +54,8 @@ ScheduleScreen::ScheduleScreen(Desk& desk)
     });
     connect(&desk, &Desk::PracticeChanged, this, [this] { ShowDay(model_.Day()); });
     connect(&desk, &Desk::PrefsChanged, this, [this] { ShowDay(model_.Day()); });
+    connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& cell) { ShowVisit(cell); });
     ShowDay(desk.Server().Now().date());
 }
 
@@ -85,7 +87,7 @@ QLayout* ScheduleScreen::MakeHeading() {
 }
 
 QLayout* ScheduleScreen::MakeFoot() {
-    auto* open = new QPushButton("&Open account");
+    auto* open = MakeButton("&Open account");
     connect(open, &QPushButton::clicked, this,
             [this] { emit view_->Chosen(view_->currentIndex()); });
     connect(checkIn_, &QPushButton::clicked, this, [this] {
@@ -117,9 +119,6 @@ void ScheduleScreen::ShowDay(const QDate& day) {
     model_.ShowDay(day);
     day_->setText(Us().toString(day, "dddd, MMMM d, yyyy"));
     legend_->update();
-    connect(
-        view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-        [this](const QModelIndex& cell) { ShowVisit(cell); }, Qt::UniqueConnection);
     ShowVisit({});
     Refresh();
 }

@@ -2,6 +2,7 @@
 #include "screens/ScheduleView.h"
 
 #include "widgets/Card.h"
+#include "widgets/List.h"
 #include "widgets/RequiredColor.h"
 
 #include <QHeaderView>
@@ -15,6 +16,9 @@ namespace {
 constexpr int kRowPadding = 9;
 constexpr int kBar = 4;
 constexpr qreal kRadius = 4;
+// Hundredths of the reason's colour
+constexpr int kLightTint = 22;
+constexpr int kDarkTint = 30;
 constexpr int kFewestLetters = 20;  // that a column has room for
 
 }  // namespace
@@ -26,6 +30,7 @@ ScheduleView::ScheduleView(ScheduleModel& model) : model_(model) {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
+    FlattenHeaders(*this);
     setTabKeyNavigation(false);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -38,6 +43,9 @@ ScheduleView::ScheduleView(ScheduleModel& model) : model_(model) {
         header->setSectionsClickable(false);
     }
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    QFont bold = font();
+    bold.setWeight(QFont::DemiBold);
+    horizontalHeader()->setFont(bold);
     connect(this, &QAbstractItemView::doubleClicked, this, &ScheduleView::Chosen);
 }
 
@@ -108,8 +116,10 @@ QModelIndex ScheduleView::NearestInColumn(int row, int column) const {
 void VisitPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& cell) const {
     const QRect box = option.rect;
-    const QColor base = option.palette.color(QPalette::Base);
+    const QColor base = option.palette.color(QPalette::Active, QPalette::Base);
+    const int tint = base.lightness() < 128 ? kDarkTint : kLightTint;
     painter->save();
+    painter->fillRect(box, base);  // the view has painted a selection
     painter->setPen(Mixed(option.palette.color(QPalette::Text), base, 8));
     painter->drawLine(box.bottomLeft(), box.bottomRight());
     const Visit* visit = model_.VisitAt(cell);
@@ -122,7 +132,7 @@ void VisitPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->setPen(isSelected ? QPen(option.palette.color(QPalette::Highlight), 2)
                                    : QPen(Qt::NoPen));
         const bool isOver = visit->state == VisitState::Paid;
-        painter->setBrush(Mixed(color, base, isSelected ? 38 : isOver ? 9 : 22));
+        painter->setBrush(Mixed(color, base, isSelected ? 2 * tint : isOver ? tint / 2 : tint));
         painter->drawRoundedRect(block, kRadius, kRadius);
         painter->setPen(Qt::NoPen);
         painter->setBrush(isOver ? Mixed(color, base, 45) : color);

@@ -15,13 +15,14 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace frontdesk {
 
 namespace {
 
-// By then a new window has painted itself.
-constexpr std::chrono::milliseconds kPause(150);
+constexpr std::chrono::milliseconds kPause(60);
+constexpr int kMostTries = 500;
 
 /// Presses a key where the keyboard is.
 std::function<void()> Press(Qt::Key key) {
@@ -69,32 +70,32 @@ VisitPlayer::VisitPlayer(Desk& desk, FrontDeskWindow& window, const QString& fol
     QDir().mkpath(folder_);
     const auto nothing = [] {};
     steps_ = {
-        {"schedule", Press(Qt::Key_Return)},
-        {"account", Choose(window_, "Check-in")},
-        {"check-in", Press(Qt::Key_F2)},
-        {"insurance", Press(Qt::Key_Escape)},
-        {{}, Click("Choose: Procedures")},
-        {"procedures", Press(Qt::Key_Escape)},
-        {{}, Click("Calendar: Next visit")},
-        {"calendar", Press(Qt::Key_Right)},
-        {{}, Press(Qt::Key_Return)},
-        {"ready", Click("checkInAndPost")},
-        {"post", Press(Qt::Key_Y)},
-        {"paid", Choose(window_, "Payment")},
-        {"payment", Click("Calculator")},
-        {"calculator", Press(Qt::Key_Escape)},
-        {{}, Choose(window_, "Preferences...")},
-        {"preferences", Click("Colour: Urgent")},
-        {"palette", Press(Qt::Key_Escape)},
-        {{}, Press(Qt::Key_Escape)},
-        {{}, Choose(window_, "Show the calls")},
-        {"calls", Choose(window_, "Help for this screen")},
-        {"help", nothing},
+        {false, "schedule", Press(Qt::Key_Return)},
+        {false, "account", Choose(window_, "Check-in")},
+        {false, "check-in", Press(Qt::Key_F2)},
+        {true, "insurance", Press(Qt::Key_Escape)},
+        {false, {}, Click("Choose: Procedures")},
+        {true, "procedures", Press(Qt::Key_Escape)},
+        {false, {}, Click("Calendar: Next visit")},
+        {true, "calendar", Press(Qt::Key_Right)},
+        {true, {}, Press(Qt::Key_Return)},
+        {false, "ready", Click("checkInAndPost")},
+        {true, "post", Press(Qt::Key_Y)},
+        {false, "paid", Choose(window_, "Payment")},
+        {false, "payment", Click("Calculator")},
+        {true, "calculator", Press(Qt::Key_Escape)},
+        {false, {}, Choose(window_, "Preferences...")},
+        {true, "preferences", Click("Color: Urgent")},
+        {true, "palette", Press(Qt::Key_Escape)},
+        {true, {}, Press(Qt::Key_Escape)},
+        {false, {}, Choose(window_, "Show the calls")},
+        {false, "calls", Choose(window_, "Help for this screen")},
+        {false, "help", nothing},
     };
 }
 
 int VisitPlayer::Play() {
-    QTimer::singleShot(kPause, [this] { PlayNext(); });
+    QTimer::singleShot(kPause, this, [this] { PlayNext(); });
     QCoreApplication::exec();
     const auto visits = desk_.Server().VisitsOf(kDuePatient);
     bool isPaid = false;
@@ -108,13 +109,20 @@ int VisitPlayer::Play() {
     return isPaid && isWritten ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-// The next step waits before this one acts, because an act may open a dialog and return only when
-// that is closed.
+// A step acts once it has found its window twice, so that the window has painted itself. The next
+// one waits before this one acts, because an act may open a dialog and return only when that is
+// closed.
 void VisitPlayer::PlayNext() {
-    if (next_ == steps_.size()) return QApplication::closeAllWindows();
-    const Step& step = steps_[next_++];
+    if (next_ == steps_.size() || tries_ == kMostTries) return QApplication::closeAllWindows();
+    const Step& step = steps_[next_];
+    QTimer::singleShot(kPause, this, [this] { PlayNext(); });
+    const bool isReady = (QApplication::activeModalWidget() != nullptr) == step.inDialog;
+    ++tries_;
+    if (!std::exchange(wasReady_, isReady) || !isReady) return;
+    ++next_;
+    tries_ = 0;
+    wasReady_ = false;
     if (!step.picture.isEmpty()) TakePicture(step.picture);
-    QTimer::singleShot(kPause, [this] { PlayNext(); });
     step.act();
 }
 
@@ -122,8 +130,11 @@ void VisitPlayer::PlayNext() {
 void VisitPlayer::TakePicture(const QString& name) {
     QPixmap picture = window_.grab();
     QPainter painter(&picture);
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget == &window_ || !widget->isVisible() || widget->windowType() == Qt::ToolTip)
+    QWidgetList shown = QApplication::topLevelWidgets();
+    shown << QApplication::activeModalWidget();  // in front of the others
+    for (QWidget* widget : shown) {
+        if (widget == nullptr || widget == &window_ || !widget->isVisible() ||
+            widget->windowType() == Qt::ToolTip)
             continue;
         const QPoint place = widget->geometry().topLeft() - window_.geometry().topLeft();
         painter.drawPixmap(place, widget->grab());

@@ -4,6 +4,7 @@
 #include "Desk.h"
 #include "FrontDeskWindow.h"
 
+#include <QObject>
 #include <QString>
 
 #include <cstddef>
@@ -14,7 +15,7 @@ namespace frontdesk {
 
 /// Plays one visit without a person, from the schedule to the payment, and leaves a picture of each
 /// step in a folder, with what was posted and the calls of the library.
-class VisitPlayer {
+class VisitPlayer : public QObject {
   public:
     VisitPlayer(Desk& desk, FrontDeskWindow& window, const QString& folder);
 
@@ -23,6 +24,7 @@ class VisitPlayer {
 
   private:
     struct Step {
+        bool inDialog;    ///< where the step acts; it waits for this
         QString picture;  ///< taken before the step; empty for none
         std::function<void()> act;
     };
@@ -37,6 +39,8 @@ class VisitPlayer {
     std::vector<Step> steps_;
     std::size_t next_ = 0;
     int pictures_ = 0;
+    int tries_ = 0;
+    bool wasReady_ = false;
 };
 
 }  // namespace frontdesk

@@ -13,7 +13,7 @@ namespace {
 
 // All glyphs are drawn on a square of this side.
 constexpr qreal kSide = 24;
-constexpr qreal kLine = 1.8;
+constexpr qreal kLine = 1.6;
 
 /// The client's own icon: the counter of a front desk with a cross, in its own colours.
 void DrawDesk(QPainter& painter) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/PrimaryButton.h"
 
+#include "widgets/Buttons.h"
 #include "widgets/Card.h"
 
 #include <QPainter>
@@ -19,6 +20,13 @@ PrimaryButton::PrimaryButton(const QString& text) : QPushButton(text) {
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     setFont(bold);
+    MakeRoomy(*this);
+}
+
+// The text changes with the amount, so the width is not fixed at the start.
+QSize PrimaryButton::sizeHint() const {
+    constexpr int kPadding = 16;
+    return QPushButton::sizeHint() + QSize(kPadding, 0);
 }
 
 void PrimaryButton::paintEvent(QPaintEvent*) {

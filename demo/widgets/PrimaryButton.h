@@ -10,6 +10,8 @@ class PrimaryButton : public QPushButton {
   public:
     explicit PrimaryButton(const QString& text);
 
+    QSize sizeHint() const override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 };
