@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Shown.h"
-
 #include <QObject>
 #include <QStringList>
+#include <QVariantList>
 
 namespace frontdesk {
 
@@ -13,13 +12,9 @@ class CallLog : public QObject {
     Q_OBJECT
 
   public:
-    /// Notes a call and its result, empty for a member that returns nothing.
-    void Add(const QString& function, const QStringList& arguments = {},
-             const QString& result = {}) {
-        const QString call = function + '(' + arguments.join(", ") + ')';
-        lines_ << (result.isEmpty() ? call : call + " = " + result);
-        emit Added(lines_.last());
-    }
+    /// Notes a call and its result, null for a member that returns nothing.
+    void Add(const QString& function, const QVariantList& arguments = {},
+             const QVariant& result = {});
 
     const QStringList& Lines() const { return lines_; }
 

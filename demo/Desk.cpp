@@ -24,8 +24,6 @@ using halvek::ToServer;
 
 namespace {
 
-constexpr char kSignedIn[] = "dsmith";
-
 // Windows' codes of keys, as practices store them: F2 and F3 open a look-up, F4 finds a patient.
 constexpr std::int32_t kCodeOfF1 = 112;
 constexpr std::int32_t kLookupByCode = 113;
@@ -66,33 +64,33 @@ void Desk::ReadSystemPrefs() {
     calls_.Add("SetCurrentSystemPrefs");
     utils_->InitOtherSettings(kHighlightBack, kHighlightFore, u"-", kColumnAdjust, kScrollBarWidth);
     calls_.Add("InitOtherSettings",
-               Args(kHighlightBack, kHighlightFore, QString("-"), kColumnAdjust, kScrollBarWidth));
+               {kHighlightBack, kHighlightFore, QString("-"), kColumnAdjust, kScrollBarWidth});
     utils_->InitHelp(HelpFile());
-    calls_.Add("InitHelp", Args(HelpFile()));
+    calls_.Add("InitHelp", {HelpFile()});
 }
 
 void Desk::ReadReferenceData() {
     const QString time = FromServer(practice_->Time());
     utils_->InitServerTime(time);
-    calls_.Add("InitServerTime", Args(time));
+    calls_.Add("InitServerTime", {time});
     const QString codes = FromServer(practice_->Codes());
     utils_->BuildCodesCollection(codes);
-    calls_.Add("BuildCodesCollection", Args(codes));
-    const QString rights = FromServer(practice_->Rights(kSignedIn));
+    calls_.Add("BuildCodesCollection", {codes});
+    const QString rights = FromServer(practice_->Rights(kUser));
     utils_->BuildSecurityCollection(rights);
-    calls_.Add("BuildSecurityCollection", Args(rights));
+    calls_.Add("BuildSecurityCollection", {rights});
 }
 
 void Desk::FinishStart() {
     const QString printers = FromServer(practice_->Printers());
     utils_->ClearPrintersCollection();
     utils_->BuildPrintersCollection(printers);
-    calls_.Add("BuildPrintersCollection", Args(printers));
+    calls_.Add("BuildPrintersCollection", {printers});
     emit PrintersKnown();
 }
 
 QString Desk::User() const {
-    return kSignedIn;
+    return kUser;
 }
 
 bool Desk::May(const QString& item, Right right) {
@@ -124,7 +122,7 @@ halvek::ReminderDefinition Desk::RemindersOfAccount() {
     const QString number = QString::number(current_->number);
     const QString text = FromServer(practice_->Reminders(current_->number));
     reminder.PopulateReminder(number, text);
-    calls_.Add("ReminderDefinition.PopulateReminder", Args(number, text));
+    calls_.Add("ReminderDefinition.PopulateReminder", {number, text});
     return reminder;
 }
 
@@ -161,9 +159,9 @@ void Desk::NotePracticeChanged() {
 }
 
 void Desk::ReadPrefs() {
-    const QString settings = FromServer(practice_->Settings(kSignedIn));
+    const QString settings = FromServer(practice_->Settings(kUser));
     prefs_->PopulateSettings(settings);
-    calls_.Add("UserPrefs.PopulateSettings", Args(settings));
+    calls_.Add("UserPrefs.PopulateSettings", {settings});
     UsePrefs();
 }
 
@@ -174,9 +172,8 @@ void Desk::UsePrefs() {
     }
     utils_->InitPrefs(colors, prefs_->FormSkinColor(), prefs_->FormTextColor(),
                       prefs_->FormTopColor(), prefs_->RequiredFieldBackColor());
-    calls_.Add("InitPrefs", QStringList(QString("%1 colours").arg(colors.UBound())) +
-                                Args(prefs_->FormSkinColor(), prefs_->FormTextColor(),
-                                     prefs_->FormTopColor(), prefs_->RequiredFieldBackColor()));
+    calls_.Add("InitPrefs", {prefs_->FormSkinColor(), prefs_->FormTextColor(),
+                             prefs_->FormTopColor(), prefs_->RequiredFieldBackColor()});
     utils_->SetCurrentUserPrefs(*prefs_);
     calls_.Add("SetCurrentUserPrefs");
 }
@@ -202,8 +199,8 @@ void Desk::UseReceiptPrinter(const QString& description) {
 
 bool Desk::SavePrefs() {
     const std::u16string settings = prefs_->GetSettingsString();
-    calls_.Add("UserPrefs.GetSettingsString", {}, Shown(ToQString(settings)));
-    const bool saved = practice_->SaveSettings(kSignedIn, ToServer(settings));
+    calls_.Add("UserPrefs.GetSettingsString", {}, ToQString(settings));
+    const bool saved = practice_->SaveSettings(kUser, ToServer(settings));
     UsePrefs();
     emit PrefsChanged();
     return saved;
@@ -213,8 +210,7 @@ halvek::MbMsgBoxResult Desk::Ask(const QString& text, halvek::ButtonsChoice butt
                                  halvek::IconChoice icon, const QString& title, int seconds) {
     const auto answer = utils_->ShowMsgBox(text, buttons, icon, title, halvek::mbGray, halvek::mb10,
                                            false, seconds);
-    calls_.Add("ShowMsgBox", Args(text, std::int32_t(buttons), std::int32_t(icon), title),
-               Shown(std::int32_t(answer)));
+    calls_.Add("ShowMsgBox", {text, int(buttons), int(icon), title}, int(answer));
     return answer;
 }
 
@@ -222,7 +218,7 @@ QString Desk::ChooseDay(QWidget* beside, const QString& shown) {
     const QString today = DayText(practice_->Now().date());
     const QString day = ToQString(utils_->ShowCalendarAndCalculateCoordinates(
         halvek::Beside(beside), shown, today, halvek::AsOwnerForm(beside)));
-    calls_.Add("ShowCalendarAndCalculateCoordinates", Args(shown, today), Shown(day));
+    calls_.Add("ShowCalendarAndCalculateCoordinates", {shown, today}, day);
     return day;
 }
 
@@ -235,7 +231,7 @@ std::optional<QString> Desk::ChooseCodes(const QString& table, const QString& ch
     const QString codes = ToQString(utils_->ShowSelectionGridAndCalculateCoordinates(
         title, list, chosen, halvek::Beside(beside), halvek::AsOwnerForm(beside), typedCharacters,
         true));
-    calls_.Add("ShowSelectionGridAndCalculateCoordinates", Args(title, list, chosen), Shown(codes));
+    calls_.Add("ShowSelectionGridAndCalculateCoordinates", {title, list, chosen}, codes);
     if (codes == "CANCEL" || codes == chosen) return std::nullopt;
     return codes;
 }
@@ -243,7 +239,7 @@ std::optional<QString> Desk::ChooseCodes(const QString& table, const QString& ch
 std::optional<halvek::Color> Desk::ChooseColor(QWidget* beside) {
     const std::u16string chosen = utils_->ShowColorAndCalculateCoordinates(
         halvek::Beside(beside), halvek::AsOwnerForm(beside));
-    calls_.Add("ShowColorAndCalculateCoordinates", {}, Shown(ToQString(chosen)));
+    calls_.Add("ShowColorAndCalculateCoordinates", {}, ToQString(chosen));
     if (chosen.empty()) return std::nullopt;
     std::u16string color;
     std::u16string place;
@@ -253,13 +249,13 @@ std::optional<halvek::Color> Desk::ChooseColor(QWidget* beside) {
 
 QString Desk::Calculate(const QString& amount) {
     const QString result = ToQString(utils_->Calculate(amount));
-    calls_.Add("Calculate", Args(amount), Shown(result));
+    calls_.Add("Calculate", {amount}, result);
     return result;
 }
 
 void Desk::ShowHelp(int context) {
     const bool found = utils_->ShowHelp(0, context);
-    calls_.Add("ShowHelp", Args(0, context), Shown(found));
+    calls_.Add("ShowHelp", {0, context}, found);
 }
 
 void Desk::MakeAmount(QLineEdit* line) {

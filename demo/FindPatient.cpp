@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kMostFound = 12;
 constexpr int kLetters = 30;
+constexpr int kLettersFound = 46;
 constexpr int kNumberRole = Qt::UserRole;
 
 }  // namespace
@@ -27,6 +28,7 @@ FindPatient::FindPatient(Desk& desk) : desk_(desk) {
     completer_.setModel(&found_);
     completer_.setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_.setMaxVisibleItems(kMostFound);
+    completer_.popup()->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersFound);
     setCompleter(&completer_);
     connect(this, &QLineEdit::textEdited, this, [this] { Offer(); });
     connect(this, &QLineEdit::returnPressed, this, [this] { OpenFirst(); });

@@ -2,9 +2,8 @@
 #include "FrontDeskWindow.h"
 
 #include "DataFolder.h"
-#include "ErrorLogDialog.h"
 #include "PatientBand.h"
-#include "PreferencesDialog.h"
+#include "PreferencesMenu.h"
 #include "Texts.h"
 #include "screens/AccountScreen.h"
 #include "widgets/Card.h"
@@ -13,7 +12,7 @@
 #include <halvekutils/qt/QtText.h>
 
 #include <QApplication>
-#include <QDockWidget>
+#include <QFile>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
@@ -22,6 +21,8 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace frontdesk {
 
@@ -104,8 +105,9 @@ void FrontDeskWindow::MakeToolBar() {
 
 void FrontDeskWindow::MakeFileMenu() {
     QMenu* file = menuBar()->addMenu("&File");
-    file->addAction("&Preferences...", QKeySequence("Ctrl+,"), this, [this] { ShowPreferences(); })
-        ->setEnabled(desk_.May("PREFERENCES", Right::Modify));
+    auto* preferences = new PreferencesMenu(desk_);
+    preferences->setParent(menuBar(), preferences->windowFlags());
+    file->addMenu(preferences);
     file->addSeparator();
     file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
 }
@@ -203,6 +205,8 @@ void FrontDeskWindow::ConnectScreens() {
     connect(&desk_, &Desk::PrefsChanged, this, [this] {
         if (!desk_.ReceiptPrinter().isEmpty()) printer_.setText(desk_.ReceiptPrinter());
     });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* focused) { KeepInView(focused); });
     connect(schedule_, &ScheduleScreen::SearchStarted, find_, &FindPatient::StartWith);
     connect(checkIn_, &CheckInScreen::PostNow, this, [this] {
         const qint64 copay = desk_.Server().CopayOf(desk_.Current()->insurance);
@@ -239,17 +243,34 @@ void FrontDeskWindow::Refresh() {
     CurrentScreen().Refresh();
 }
 
+void FrontDeskWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (!std::exchange(isPainted_, true)) QTimer::singleShot(0, this, &FrontDeskWindow::Painted);
+}
+
+// A scroll area follows the Tab key by itself, but no key that leads straight to a field.
+void FrontDeskWindow::KeepInView(const QWidget* focused) {
+    auto* area = static_cast<QScrollArea*>(stack_.currentWidget());
+    if (focused == nullptr || !area->isAncestorOf(focused)) return;
+    area->ensureWidgetVisible(const_cast<QWidget*>(focused));
+}
+
 void FrontDeskWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
     GoTo(ScreenId::Schedule);
 }
 
-void FrontDeskWindow::ShowPreferences() {
-    PreferencesDialog(desk_, this).exec();
-}
-
+/// The end of the error log, in the fixed font of a message box.
 void FrontDeskWindow::ShowErrorLog() {
-    ErrorLogDialog(ErrorLogFile(), this).exec();
+    constexpr qint64 kMostBytes = 1500;
+    QFile file(ErrorLogFile());
+    QString text = "Nothing was logged.";
+    if (file.open(QIODevice::ReadOnly) && file.size() > 0) {
+        file.seek(qMax<qint64>(0, file.size() - kMostBytes));
+        text = halvek::FromServer(file.readAll()).trimmed().replace('\t', "  ");
+    }
+    desk_.Library().ShowMsgBox(text, halvek::mbOkOnly, halvek::mbNoIcon, u"Error log",
+                               halvek::mbGray, halvek::mb5);
 }
 
 void FrontDeskWindow::ShowAbout() {

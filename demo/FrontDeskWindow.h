@@ -21,13 +21,20 @@ namespace frontdesk {
 
 /// The client's one window: a bar with the screens, the patient, the screen, a status line.
 class FrontDeskWindow : public QMainWindow {
+    Q_OBJECT
+
   public:
     explicit FrontDeskWindow(Desk& desk);
 
     /// Where the keyboard is when the window opens: on the patient who is due.
     void Start();
 
+  signals:
+    /// The window is on the screen for the first time.
+    void Painted();
+
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
@@ -42,10 +49,10 @@ class FrontDeskWindow : public QMainWindow {
     void GoTo(ScreenId id);
     void Refresh();
     void FillWindowsMenu();
-    void ShowPreferences();
     void ShowErrorLog();
     void ShowAbout();
     void ShowClock();
+    void KeepInView(const QWidget* focused);
     Screen& CurrentScreen();
 
     Desk& desk_;
@@ -61,6 +68,7 @@ class FrontDeskWindow : public QMainWindow {
     QLabel clock_;
     QLabel printer_;
     QToolButton showCalls_;
+    bool isPainted_ = false;
 };
 
 }  // namespace frontdesk

@@ -7,7 +7,7 @@ namespace frontdesk {
 
 namespace {
 
-constexpr int kCountdown = 30;  // seconds
+constexpr int kCountdown = 30;  // seconds, or as long as the wait before it
 
 }  // namespace
 
@@ -34,7 +34,8 @@ void IdleWatch::Warn() {
         const auto answer = desk_.Ask(
             "Nobody has used this desk for a while.\r\n\r\nThe open accounts "
             "close now, unless you press OK.",
-            halvek::mbOkOnly, halvek::mbReminder, "Front Desk", kCountdown);
+            halvek::mbOkOnly, halvek::mbReminder, "Front Desk",
+            qMin(kCountdown, timer_.interval() / 1000));
         if (answer == halvek::kClosedByCountdown) desk_.CloseAllAccounts();
     }
     timer_.start();

@@ -30,14 +30,14 @@ QList<int> OpenAccounts::Numbers() const {
 void OpenAccounts::Add(int number) {
     if (Numbers().contains(number)) return;
     const bool added = utils_->OpenWindows()->AddItem(QString(kType), number);
-    calls_.Add("OpenWindows()->AddItem", Args(QString(kType), number), Shown(added));
+    calls_.Add("OpenWindows()->AddItem", {QString(kType), number}, added);
 }
 
 void OpenAccounts::Remove(int number) {
     const auto index = static_cast<std::int32_t>(Numbers().indexOf(number) + 1);
     if (index == 0) return;
     const bool removed = utils_->OpenWindows()->RemoveItem(index);
-    calls_.Add("OpenWindows()->RemoveItem", Args(index), Shown(removed));
+    calls_.Add("OpenWindows()->RemoveItem", {index}, removed);
 }
 
 void OpenAccounts::Clear() {

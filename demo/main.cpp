@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
-#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -82,14 +81,14 @@ int Run(const QCommandLineParser& parser, const Options& options) {
     const auto utils = halvek::Utils::Create();
     const bool debug = parser.isSet(options.debug);
     utils->InitUtils(ErrorLogFile(), u"Front Desk", u"clinic", debug, u"" HALVEK_DEMO_VERSION);
-    calls.Add("InitUtils", Args(ErrorLogFile(), QString("Front Desk"), QString("clinic"), debug));
+    calls.Add("InitUtils", {ErrorLogFile(), QString("Front Desk"), QString("clinic"), debug});
     auto practice = OpenPractice(DataFile(parser, options), *utils);
     if (practice == nullptr) return EXIT_FAILURE;
     Desk desk(utils, calls, std::move(practice));
     FrontDeskWindow window(desk);
+    QObject::connect(&window, &FrontDeskWindow::Painted, &desk, &Desk::FinishStart);
     window.show();
     window.Start();
-    QTimer::singleShot(0, &desk, &Desk::FinishStart);
     if (parser.isSet(options.visit))
         return VisitPlayer(desk, window, parser.value(options.visit)).Play();
     const IdleWatch idle(desk, parser.value(options.idle).toInt());

@@ -15,6 +15,10 @@
 
 namespace frontdesk {
 
+/// Who is signed in, and the patient who is due, in the sample data.
+inline constexpr char kUser[] = "dsmith";
+inline constexpr int kDuePatient = 10117;
+
 /// Stands in for the practice's server. It answers what the library reads in the delimited texts of
 /// such servers, as bytes in Windows-1252, and keeps the practice in a SQLite file.
 ///

@@ -65,7 +65,7 @@ QLabel* AccountScreen::AddFact(QFormLayout& facts, const QString& name) {
     auto* value = new QLabel;
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
-    facts.addRow(new QuietLabel(name), value);
+    facts.addRow(MakeNote(name), value);
     return value;
 }
 

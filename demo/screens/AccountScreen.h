@@ -5,7 +5,6 @@
 #include "screens/Screen.h"
 #include "widgets/Card.h"
 #include "widgets/PrimaryButton.h"
-#include "widgets/QuietLabel.h"
 
 #include <QFormLayout>
 #include <QPushButton>

@@ -29,8 +29,8 @@ CheckInScreen::CheckInScreen(Desk& desk)
       procedures_(new CodesField(desk, "PRC", "Procedures", kMostProcedures)),
       next_(new DateField(desk, "Next visit")),
       reminders_(new ReminderTabs),
-      visit_(new QuietLabel),
-      copay_(new QuietLabel),
+      visit_(MakeNote()),
+      copay_(MakeNote()),
       checkInAndPost_(new PrimaryButton("Check &in and post")),
       checkIn_(MakeButton("Check in &only")) {
     auto* column = new QVBoxLayout(this);
@@ -134,7 +134,7 @@ void CheckInScreen::KeepDraft() {
         QStringList{insurance_->Codes(), provider_->Codes(), procedures_->Codes(), next_->Text()}
             .join(kBetweenFields);
     TheDesk().Library().AddBin(DraftKey(), draft, u"check-in");
-    TheDesk().Calls().Add("AddBin", Args(DraftKey(), draft, QString("check-in")));
+    TheDesk().Calls().Add("AddBin", {DraftKey(), draft, QString("check-in")});
 }
 
 void CheckInScreen::ShowCopay() {
@@ -159,7 +159,7 @@ bool CheckInScreen::CheckIn() {
                              procedures_->Codes(), next_->Day()};
     if (!TheDesk().Server().CheckIn(arrival)) return false;
     TheDesk().Library().RemoveBin(DraftKey());
-    TheDesk().Calls().Add("RemoveBin", Args(DraftKey()));
+    TheDesk().Calls().Add("RemoveBin", {DraftKey()});
     visitShown_ = 0;
     TheDesk().NotePracticeChanged();
     return true;

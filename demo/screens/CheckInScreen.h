@@ -7,7 +7,6 @@
 #include "widgets/CodesField.h"
 #include "widgets/DateField.h"
 #include "widgets/PrimaryButton.h"
-#include "widgets/QuietLabel.h"
 
 #include <QPushButton>
 
@@ -45,8 +44,8 @@ class CheckInScreen : public Screen {
     CodesField* procedures_;
     DateField* next_;
     ReminderTabs* reminders_;
-    QuietLabel* visit_;
-    QuietLabel* copay_;
+    QLabel* visit_;
+    QLabel* copay_;
     PrimaryButton* checkInAndPost_;
     QPushButton* checkIn_;
     int visitShown_ = 0;

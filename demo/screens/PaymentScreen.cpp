@@ -40,7 +40,7 @@ PaymentScreen::PaymentScreen(Desk& desk)
       adjustment_(MakeLine("Adjustment")),
       method_(new QComboBox),
       printer_(new QComboBox),
-      after_(new QuietLabel),
+      after_(MakeNote()),
       post_(new PrimaryButton("&Post")),
       from_(MakeLine("From")),
       to_(MakeLine("To")),
@@ -119,7 +119,7 @@ void PaymentScreen::FillMethods() {
         methods << halvek::ToQString(TheDesk().Library().SplitStr(entry, u"\t", 2));
     }
     TheDesk().Library().FillCombo(methods.join(':'), halvek::AsComboBox(method_));
-    TheDesk().Calls().Add("FillCombo", Args(methods.join(':')));
+    TheDesk().Calls().Add("FillCombo", {methods.join(':')});
     method_->setCurrentIndex(0);
 }
 
@@ -131,7 +131,7 @@ void PaymentScreen::FillPrinters() {
         names << halvek::ToQString(printer->PrinterDescription()).replace(':', ';');
     }
     TheDesk().Library().FillCombo(names.join(':'), halvek::AsComboBox(printer_));
-    TheDesk().Calls().Add("FillCombo", Args(names.join(':')));
+    TheDesk().Calls().Add("FillCombo", {names.join(':')});
     const auto last =
         TheDesk().Library().FindInCombo(halvek::AsComboBox(printer_), TheDesk().ReceiptPrinter());
     printer_->setCurrentIndex(qMax(0, last));

@@ -4,7 +4,6 @@
 #include "screens/Screen.h"
 #include "widgets/Card.h"
 #include "widgets/PrimaryButton.h"
-#include "widgets/QuietLabel.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -43,7 +42,7 @@ class PaymentScreen : public Screen {
     QLineEdit* adjustment_;
     QComboBox* method_;
     QComboBox* printer_;
-    QuietLabel* after_;
+    QLabel* after_;
     PrimaryButton* post_;
     QLineEdit* from_;
     QLineEdit* to_;

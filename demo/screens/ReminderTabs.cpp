@@ -44,6 +44,11 @@ ReminderTabs::ReminderTabs() {
     setMinimumHeight(fontMetrics().height() * 6);
 }
 
+QSize ReminderTabs::sizeHint() const {
+    constexpr int kLines = 8;
+    return {QTabWidget::sizeHint().width(), fontMetrics().height() * kLines};
+}
+
 void ReminderTabs::Show(const halvek::ReminderDefinition& reminder) {
     while (count() > 0) {
         QWidget* page = widget(0);

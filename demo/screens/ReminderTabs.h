@@ -15,6 +15,8 @@ class ReminderTabs : public QTabWidget {
 
     void Show(const halvek::ReminderDefinition& reminder);
 
+    QSize sizeHint() const override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 

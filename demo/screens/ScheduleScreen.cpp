@@ -35,7 +35,8 @@ ScheduleScreen::ScheduleScreen(Desk& desk)
       day_(new QLabel),
       choose_(new QToolButton),
       legend_(new Legend(model_)),
-      visit_(new QuietLabel),
+      foot_(nullptr),
+      visit_(MakeNote()),
       checkIn_(new PrimaryButton("Chec&k in")) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin - 4, kMargin, kMargin - 4);
@@ -45,7 +46,8 @@ ScheduleScreen::ScheduleScreen(Desk& desk)
     card->Content().setContentsMargins(2, 2, 2, 6);
     card->Content().addWidget(view_);
     column->addWidget(card, 1);
-    column->addLayout(MakeFoot());
+    foot_ = MakeFoot();
+    column->addWidget(foot_);
     connect(view_, &ScheduleView::SearchStarted, this, &ScheduleScreen::SearchStarted);
     connect(view_, &ScheduleView::Chosen, this, [this](const QModelIndex& cell) {
         if (const Visit* visit = model_.VisitAt(cell)) {
@@ -86,7 +88,7 @@ QLayout* ScheduleScreen::MakeHeading() {
     return row;
 }
 
-QLayout* ScheduleScreen::MakeFoot() {
+QWidget* ScheduleScreen::MakeFoot() {
     auto* open = MakeButton("&Open account");
     connect(open, &QPushButton::clicked, this,
             [this] { emit view_->Chosen(view_->currentIndex()); });
@@ -95,12 +97,21 @@ QLayout* ScheduleScreen::MakeFoot() {
             TheDesk().OpenAccount(visit->patient, ScreenId::CheckIn);
         }
     });
-    auto* row = new QHBoxLayout;
+    auto* foot = new QWidget;
+    auto* row = new QHBoxLayout(foot);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGap);
     row->addWidget(visit_, 1);
     row->addWidget(open);
     row->addWidget(checkIn_);
-    return row;
+    return foot;
+}
+
+// Where there is little room, visits matter more: Enter and the tool bar do the same as the
+// buttons.
+void ScheduleScreen::resizeEvent(QResizeEvent*) {
+    constexpr int kFewestLines = 22;
+    foot_->setVisible(height() > fontMetrics().height() * kFewestLines);
 }
 
 void ScheduleScreen::Refresh() {

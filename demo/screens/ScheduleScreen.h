@@ -5,7 +5,6 @@
 #include "screens/ScheduleView.h"
 #include "screens/Screen.h"
 #include "widgets/PrimaryButton.h"
-#include "widgets/QuietLabel.h"
 
 #include <QLabel>
 #include <QToolButton>
@@ -26,12 +25,15 @@ class ScheduleScreen : public Screen {
     /// Goes to the patient who is due, if somebody is.
     void GoToDue();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   signals:
     void SearchStarted(const QString& text);
 
   private:
     QLayout* MakeHeading();
-    QLayout* MakeFoot();
+    QWidget* MakeFoot();
     void ShowDay(const QDate& day);
     void ShowVisit(const QModelIndex& cell);
     void ChooseDay();
@@ -41,7 +43,8 @@ class ScheduleScreen : public Screen {
     QLabel* day_;
     QToolButton* choose_;
     QWidget* legend_;
-    QuietLabel* visit_;
+    QWidget* foot_;
+    QLabel* visit_;
     PrimaryButton* checkIn_;
 };
 

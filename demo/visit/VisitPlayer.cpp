@@ -2,7 +2,6 @@
 #include "visit/VisitPlayer.h"
 
 #include "Texts.h"
-#include "practice/SampleTables.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -84,10 +83,8 @@ VisitPlayer::VisitPlayer(Desk& desk, FrontDeskWindow& window, const QString& fol
         {false, "paid", Choose(window_, "Payment")},
         {false, "payment", Click("Calculator")},
         {true, "calculator", Press(Qt::Key_Escape)},
-        {false, {}, Choose(window_, "Preferences...")},
-        {true, "preferences", Click("Color: Urgent")},
+        {false, {}, Choose(window_, "Urgent")},
         {true, "palette", Press(Qt::Key_Escape)},
-        {true, {}, Press(Qt::Key_Escape)},
         {false, {}, Choose(window_, "Show the calls")},
         {false, "calls", Choose(window_, "Help for this screen")},
         {false, "help", nothing},

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Card.h"
 
-#include "widgets/QuietLabel.h"
-
 #include <QPainter>
 
 namespace frontdesk {
@@ -17,7 +15,7 @@ Card::Card(const QString& heading) : content_(new QVBoxLayout(this)) {
     content_->setContentsMargins(kMargin, kMargin - 4, kMargin, kMargin);
     content_->setSpacing(kGap);
     if (heading.isEmpty()) return;
-    auto* label = new QuietLabel(heading);
+    QLabel* label = MakeNote(heading);
     QFont bold = label->font();
     bold.setWeight(QFont::DemiBold);
     label->setFont(bold);
@@ -30,6 +28,16 @@ void Card::paintEvent(QPaintEvent*) {
     painter.setPen(OutlineColor(palette()));
     painter.setBrush(palette().base());
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+}
+
+QLabel* MakeNote(const QString& text) {
+    auto* note = new QLabel(text);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    QPalette palette = note->palette();
+    palette.setColor(QPalette::WindowText, QuietColor(palette));
+    note->setPalette(palette);
+    return note;
 }
 
 QColor Mixed(const QColor& first, const QColor& second, int share) {

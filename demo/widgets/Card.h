@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -25,6 +26,9 @@ class Card : public QWidget {
   private:
     QVBoxLayout* content_;
 };
+
+/// A note: plain text of less weight, that wraps where there is little room.
+QLabel* MakeNote(const QString& text = {});
 
 /// The colour between two, `share` hundredths of the first.
 QColor Mixed(const QColor& first, const QColor& second, int share);

@@ -24,7 +24,7 @@ CodesField::CodesField(Desk& desk, const QString& table, const QString& name, in
       most_(most),
       line_(new QLineEdit),
       button_(new QToolButton),
-      meaning_(new QuietLabel) {
+      meaning_(MakeNote()) {
     line_->setAccessibleName(name_);
     line_->setFixedWidth(line_->fontMetrics().averageCharWidth() * kLetters);
     button_->setIcon(MakeIcon(Glyph::List));
@@ -76,9 +76,10 @@ void CodesField::Describe() {
     const QStringList codes = Codes().split(',', Qt::SkipEmptyParts);
     QStringList meanings;
     for (const QString& code : codes) {
-        meanings << desk_.Server().Description(table_, code).value_or(code + ": not in the list");
+        meanings << desk_.Server()
+                        .Description(table_, code)
+                        .value_or("! " + code + " is not in the list");
     }
-    meaning_->Warn(!UnknownCode().isEmpty());
     meaning_->setText(meanings.join("; "));
 }
 

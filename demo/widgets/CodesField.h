@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Desk.h"
-#include "widgets/QuietLabel.h"
+#include "widgets/Card.h"
 
 #include <QLineEdit>
 #include <QToolButton>
@@ -45,7 +45,7 @@ class CodesField : public QWidget {
     int most_;
     QLineEdit* line_;
     QToolButton* button_;
-    QuietLabel* meaning_;
+    QLabel* meaning_;
 };
 
 }  // namespace frontdesk

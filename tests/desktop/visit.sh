@@ -45,7 +45,7 @@ start_desktop
 open_desk keys.db
 picture visit-schedule
 keys ctrl+3
-wait_until "the check-in has the keyboard" called 'HighlightHeading(Insurance)'
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
 picture visit-check-in
 keys ctrl+Return
 wait_for_window "Payment"
@@ -60,7 +60,7 @@ is_paid
 # tests' font at 96 dots per inch.
 open_desk clicks.db
 click "$main" 250 44
-wait_until "the check-in has the keyboard" called 'HighlightHeading(Insurance)'
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
 click "$main" 110 374
 wait_for_window "Payment"
 click "$window" 136 93
@@ -77,13 +77,13 @@ main=$window
 keys d u b o i s comma space f r a n Return
 wait_until "the account opens" called 'AddItem("ACCOUNT", 10204)'
 keys ctrl+3
-wait_until "the check-in has the keyboard" called 'HighlightHeading(Insurance)'
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
 keys Tab Tab Tab Tab ctrl+a O V 3 0 F2
 wait_for_window "Procedures"
 keys Escape
 wait_until "the client is active again" is_active "$main"
 keys alt+x F2
-wait_for_window "Calendar"
+wait_for_window " "  # the calendar has no other title
 keys Right Return
 wait_until "the day is chosen" called '^ShowCalendar.* = "03/20/2024"'
 keys ctrl+Return
@@ -94,10 +94,29 @@ wait_until "the client is active again" is_active "$main"
 keys alt+j minus 5 Tab ctrl+Return
 wait_for_window "Payment"
 keys y
-wait_until "the payment is posted" called '^ShowMsgBox("Post .*adjustment of -\$5.00.* = 6$'
+wait_until "the payment is posted" called '^ShowMsgBox("Post \$20.00 with an adj.* = 6$'
 wait_until "the client is active again" is_active "$main"
 keys alt+F4
 wait_until "the client ends" has_ended "$client"
 holds "SELECT procedures FROM visit WHERE patient = 10204 AND day = '2024-03-05'" OV30
 holds "SELECT amount || ' ' || adjustment FROM payment WHERE patient = 10204" "2000 -500"
+
+# Nobody at the desk: a countdown, and the open account is closed.
+open_desk idle.db --idle 2
+keys Return
+wait_until "the account opens" called 'AddItem("ACCOUNT", 10117)'
+wait_until "the account is closed" called 'ClearAll()'
+called '^ShowMsgBox("Nobody has used.* = 99$' || fail "no countdown closed the account"
+kill_client
+
+# A file that is none: the client names it, and starts afresh beside it when asked to.
+echo "Dear diary" >"$work/diary.db"
+start "$demo" --data "$work/diary.db"
+client=$!
+wait_for_window "Front Desk"
+picture visit-damaged
+keys y
+wait_until "another file is made" test -s "$work/diary-2.db"
+[ "$(cat "$work/diary.db")" = "Dear diary" ] || fail "the foreign file was changed"
+kill_client
 finish

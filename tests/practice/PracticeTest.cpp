@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "practice/Practice.h"
-#include "practice/SampleTables.h"
 #include "practice/ServerText.h"
 
 #include <halvekutils/core/Utils.h>
@@ -77,6 +76,7 @@ TEST(ServerText, ReplacesExactlyTheLettersThatAFormatSeparatesBy) {
 
 TEST_F(PracticeTest, AnswersInTheTextsThatTheLibraryReads) {
     const auto practice = Open(":memory:");
+    ASSERT_NE(practice, nullptr) << qPrintable(fault_);
     const auto utils = halvek::Utils::Create();
     utils->InitUtils(Path("log"), u"Front Desk", u"", false, u"");
     utils->BuildCodesCollection(FromServer(practice->Codes()));
@@ -113,6 +113,7 @@ TEST_F(PracticeTest, AnswersInTheTextsThatTheLibraryReads) {
 
 TEST_F(PracticeTest, HoldsTheWholeSample) {
     const auto practice = Open(":memory:");
+    ASSERT_NE(practice, nullptr) << qPrintable(fault_);
     EXPECT_EQ(practice->Visits(practice->Now().date()).size(), 40U);
     EXPECT_EQ(practice->Visits({2024, 3, 18}).size(), 40U);
     EXPECT_TRUE(practice->Find(12000).has_value());
