@@ -6,6 +6,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 #include <QTimer>
+#include <QWidget>
 #include <QWindow>
 
 #include <cstdint>
@@ -14,7 +15,8 @@
 /// Carries out the commands that the player of the stories writes to the standard input, one a
 /// line:
 ///
-///     new [right]              a new window in the place of the old one; "window ID"
+///     new desk|stage [PLACE]   a new window in the place of the old one; "window ID"
+///     front                    the id of the window in front
 ///     where NAME               "at X Y" on the screen, or "nowhere"
 ///     read NAME[.PART]         puts on record what a person sees of a control
 ///     load FIELD TEXT          the program sets a text
@@ -36,7 +38,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
   private:
     void Listen();
     void Answer(const QString& line);
-    void Renew(const QString& place);
+    void Renew(const QString& window);
     void AnswerOnceSeen();
     void AnswerWhere(const QString& name) const;
     void Read(const QString& name) const;
@@ -44,7 +46,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     bool IsSettled() const;
     QString State() const;
 
-    std::unique_ptr<Desk> desk_;
+    std::unique_ptr<QWidget> window_;
     QByteArray heard_;
     QTimer check_;
     QWindow marked_;      ///< never shown
