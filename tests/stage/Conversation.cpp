@@ -27,6 +27,9 @@ namespace {
 constexpr int kCalmRounds = 3;
 constexpr int kPause = 2;  // in milliseconds, between two looks
 
+// After so many looks an effect never comes. A busy machine makes fewer of them in a second.
+constexpr int kLooks = 10'000;
+
 // How far apart the clicks of a double click may be, in milliseconds; the slow hand is for a player
 // on a busy machine.
 constexpr int kQuickHand = 400;
@@ -106,11 +109,11 @@ void Conversation::Answer(const QString& line) {
     if (word == "clipboard") QApplication::clipboard()->setText(rest);
     if (word == "locale") QLocale::setDefault(QLocale(rest));
     if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
-    if (word == "why") Record::Answer(State());
     if (word == "await") {
         marksAwaited_ = rest.section(' ', 0, 0).toInt();
         clicksAwaited_ = rest.section(' ', 1).toInt();
         isAsked_ = true;
+        looks_ = 0;
         check_.start();
     }
 }
@@ -173,10 +176,11 @@ void Conversation::Check() {
     const bool isThere = marksSeen_ >= marksAwaited_ && clicksSeen_ >= clicksAwaited_;
     if (!isThere || !IsSettled()) calm_ = 0;
     check_.setInterval(calm_ == 0 ? kPause : 0);
-    if (!isAsked_ || calm_++ < kCalmRounds) return;
+    const bool isDone = calm_++ >= kCalmRounds;
+    if (!isAsked_ || (!isDone && ++looks_ < kLooks)) return;
     isAsked_ = false;
     check_.stop();
-    Record::Answer("done");
+    Record::Answer(isDone ? "done" : "stuck: " + State());
 }
 
 bool Conversation::IsSettled() const {

@@ -22,8 +22,8 @@
 ///     load FIELD TEXT          the program sets a text
 ///     clipboard|locale TEXT    what the desktop offers
 ///     slow-hand                both clicks of a double click may be far apart
-///     await MARKS CLICKS       "done" once all that was done before has had its effect
-///     why                      what is not there yet
+///     await MARKS CLICKS       "done" once all that was done before has had its effect; "stuck:"
+///                              and what is not there yet when it never comes
 ///
 /// The player marks the end of an act by a property of a window that the host names at first, which
 /// comes in order with the keys. Clicks come later, since the window manager looks at them first;
@@ -56,5 +56,6 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     int marksAwaited_ = 0;
     int clicksAwaited_ = 0;
     bool isAsked_ = false;
-    int calm_ = 0;  ///< rounds of the event loop without news
+    int looks_ = 0;  ///< since it was asked
+    int calm_ = 0;   ///< rounds of the event loop without news
 };

@@ -97,12 +97,12 @@ void Pictures::Begin() {
     pictures_ = late_ = 0;
 }
 
-/// Takes the next step once nothing has changed for a while.
+/// Takes the next step after a while, a picture once nothing changes any more.
 void Pictures::Tick() {
-    const QImage now = Screen(stage_);
+    const bool isPicture = !steps_.isEmpty() && steps_.first() == "@picture";
+    const QImage now = isPicture ? Screen(stage_) : QImage();
     calm_ = now == seen_ ? calm_ + 1 : 0;
     seen_ = now;
-    const bool isPicture = !steps_.isEmpty() && steps_.first() == "@picture";
     if (calm_ < (isPicture ? kCalmTicks : kSteadyTicks)) return;
     calm_ = 0;
     if (!steps_.isEmpty()) return TakeStep(steps_.takeFirst().replace('~', ' '));

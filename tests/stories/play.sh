@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT Plays stories by real keys and clicks under a window manager.
 # stories.txt explains their notation.
-# Usage: play.sh STAGE [PART OF A NAME [STORIES [MANAGER [SCALE [PALETTE]]]]]
+# Usage: play.sh STAGE [STORIES.txt [openbox|icewm SCALE light|dark]] [PART OF A NAME]
 set -u
 here=$(dirname "$0")
 source "$here/player.sh"
@@ -18,10 +18,17 @@ judge() {
     fi
 }
 
-part=${2:-} stories=${3:-$here/stories.txt} room=desk played=0 pending=0
-[ $# -lt 4 ] || look=$4-$5-$6-
-start_desktop "${4:-openbox}" "${5:-1}"
-start_stage "$1" "${6:-light}"
+program=$1 stories=$here/stories.txt palette=light room=desk played=0 pending=0
+[[ ${2:-} == *.txt ]] && stories=$2 && shift
+if [ $# -ge 4 ]; then
+    look=$2-$3-$4- palette=$4
+    start_desktop "$2" "$3"
+    shift 3
+else
+    start_desktop
+fi
+start_stage "$program" "$palette"
+part=${2:-}
 while IFS='|' read -r name steps wanted; do
     [[ $name == "window "* ]] && room=${name#window }
     [[ -z $steps || $name == \#* || $name != *"$part"* ]] && continue

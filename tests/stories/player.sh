@@ -23,20 +23,20 @@ declare -A button=([+-]=10 [.]=11 [/]=12 [\*]=13 [-]=14 [+]=15 [=]=16 [CLR]=17 [
 # Reads the host's answer into $answer; what the host got before it is added to $got.
 hear() {
     local line
-    while IFS= read -r -t 20 -u "$answers" line; do
+    while IFS= read -r -u "$answers" line; do
         case $line in
         got*) got+="${got:+; }${line#got }" ;;
+        stuck*)
+            trouble=$line
+            return 1
+            ;;
         *)
             answer=$line
             return
             ;;
         esac
     done
-    kill -0 "$host_PID" 2>/dev/null || give_up "the host lives"
-    echo why >&"$questions"
-    IFS= read -r -t 5 -u "$answers" line
-    trouble="the host does not answer: $line"
-    return 1
+    give_up "the host lives"
 }
 
 # Runs mouse and keyboard commands and waits until the host has dealt with them. The last command
