@@ -21,6 +21,8 @@ class Pictures {
     void Begin();
     void Tick();
     void TakeStep(const QString& step);
+    void OpenCall(const QString& name);
+    void Act(QWidget& front, const QString& step);
     void Save();
     void Judge();
 
@@ -29,6 +31,9 @@ class Pictures {
     QStringList stories_;
     QStringList steps_;  ///< of the story that is played
     QString name_, wanted_, got_;
+    bool isActing_ = false;
+    bool isOpen_ = false;               ///< a call has not returned yet
+    const QWidget* actedOn_ = nullptr;  ///< only to recognise it
     QImage seen_;
     QTimer timer_;
     int calm_ = 0;  ///< ticks without a change
