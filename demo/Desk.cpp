@@ -49,6 +49,7 @@ Desk::Desk(std::shared_ptr<halvek::Utils> utils, CallLog& calls, std::unique_ptr
       calls_(calls),
       practice_(std::move(practice)),
       accounts_(utils_, calls_) {
+    if (utils_->DBG()) connect(&calls_, &CallLog::Added, this, &Desk::Debug);
     practice_->OnFault([this](const QString& fault) { NoteFault(fault); });
     ReadSystemPrefs();
     ReadReferenceData();

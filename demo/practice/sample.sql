@@ -214,7 +214,7 @@ INSERT INTO visit (day, time, patient, provider, reason, procedures, state)
 WITH due(day, time, provider) AS (VALUES ('2024-03-05', '08:20', 'PATEL')),
 ranked AS (
     SELECT start.*, due.day IS NOT NULL AS is_due, (dice % 100003 * 7919 >> 6) % 100 AS share, row_number() OVER (
-        PARTITION BY start.day, start.provider ORDER BY due.day IS NULL, dice % 99991) AS place
+        PARTITION BY start.day, start.provider ORDER BY due.day IS NULL, dice % 99991 * 7919 % 99991) AS place
     FROM temp.start LEFT JOIN due USING (day, time, provider))
 SELECT day, time,
     CASE WHEN is_due THEN 10117 ELSE 10118 + (dice >> 4) % 1800 END,

@@ -26,7 +26,7 @@ AccountScreen::AccountScreen(Desk& desk)
       checkIn_(new PrimaryButton("Chec&k in")),
       pay_(MakeButton("Take pa&yment")),
       cancel_(MakeButton("Ca&ncel visit...")),
-      writeOff_(MakeButton("Write o&ff...")) {
+      writeOff_(MakeButton("Wri&te off...")) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kMargin);

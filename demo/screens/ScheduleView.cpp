@@ -46,7 +46,7 @@ ScheduleView::ScheduleView(ScheduleModel& model) : model_(model) {
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     horizontalHeader()->setFont(bold);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(this, &QAbstractItemView::doubleClicked, this, &ScheduleView::Chosen);
 }
 
