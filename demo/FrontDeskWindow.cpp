@@ -7,7 +7,6 @@
 #include "Texts.h"
 #include "screens/AccountScreen.h"
 #include "widgets/Card.h"
-#include "widgets/Icons.h"
 
 #include <halvekutils/qt/QtText.h>
 
@@ -55,10 +54,10 @@ FrontDeskWindow::FrontDeskWindow(Desk& desk)
     setWindowTitle(halvek::ToWindowTitle(desk_.Library().AppName()) +
                    Us().toString(today, " - dddd, MMMM d, yyyy"));
     MakeFileMenu();
-    AddScreen("&Schedule", static_cast<int>(Glyph::Calendar), schedule_);
-    AddScreen("&Account", static_cast<int>(Glyph::Person), new AccountScreen(desk));
-    AddScreen("&Check-in", static_cast<int>(Glyph::Check), checkIn_);
-    AddScreen("&Payment", static_cast<int>(Glyph::Card), payment_);
+    AddScreen("&Schedule", Glyph::Calendar, schedule_);
+    AddScreen("&Account", Glyph::Person, new AccountScreen(desk));
+    AddScreen("&Check-in", Glyph::Check, checkIn_);
+    AddScreen("&Payment", Glyph::Card, payment_);
     MakeGoMenu();
     MakeWindowsMenu();
     MakeHelpMenu();
@@ -77,9 +76,9 @@ FrontDeskWindow::FrontDeskWindow(Desk& desk)
     resize(kDefaultSize.boundedTo(screen()->availableSize() - QSize(12, 40)));
 }
 
-void FrontDeskWindow::AddScreen(const char* caption, int glyph, Screen* screen) {
+void FrontDeskWindow::AddScreen(const char* caption, Glyph glyph, Screen* screen) {
     const int number = static_cast<int>(screens_.size());
-    QAction* action = screenActions_.addAction(MakeIcon(static_cast<Glyph>(glyph)), caption);
+    QAction* action = screenActions_.addAction(MakeIcon(glyph), caption);
     action->setCheckable(true);
     action->setShortcut(QString("Ctrl+%1").arg(number + 1));
     connect(action, &QAction::triggered, this,

@@ -7,6 +7,7 @@
 #include "screens/CheckInScreen.h"
 #include "screens/PaymentScreen.h"
 #include "screens/ScheduleScreen.h"
+#include "widgets/Icons.h"
 
 #include <QActionGroup>
 #include <QLabel>
@@ -38,7 +39,7 @@ class FrontDeskWindow : public QMainWindow {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void AddScreen(const char* caption, int glyph, Screen* screen);
+    void AddScreen(const char* caption, Glyph glyph, Screen* screen);
     void MakeToolBar();
     void MakeFileMenu();
     void MakeGoMenu();
