@@ -10,7 +10,7 @@
 namespace halvek {
 
 /// The text as UTF-8; a surrogate without its partner becomes U+FFFD.
-std::string ToUtf8(TextIn text);
+HALVEK_INTERNAL std::string ToUtf8(TextIn text);
 
 /// UTF-8 as text; every byte outside a well-formed sequence becomes U+FFFD.
 HALVEK_INTERNAL std::u16string FromUtf8(std::string_view bytes);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/core/NoPrinters.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
 #include <halvekutils/platform/Desktop.h>
@@ -14,15 +15,6 @@
 namespace halvek {
 
 namespace {
-
-/// Used when no desktop is installed or the installed one has no printers.
-class NoPrinters : public PrinterSource {
-  public:
-    std::vector<PrinterConnection> Connections() override {
-        throw RuntimeError(Fault::ObjectNotSet, u"printer source");
-    }
-    std::vector<InstalledPrinter> Installed() override { return {}; }
-};
 
 std::unique_ptr<PrinterSource> ThePrinters() {
     Desktop* const desktop = Desktop::Installed();

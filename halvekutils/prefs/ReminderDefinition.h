@@ -11,6 +11,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// The reminders that the server sends for an account: titled tabs of text lines.
 ///
 /// A line that begins with "-" should be highlighted; a line that begins with "P-", in either
@@ -55,6 +57,9 @@ class HALVEK_EXPORT ReminderDefinition {
     std::u16string AcctNo() const { return acctNo_; }
 
   private:
+    friend struct ServerTextCheck;
+
+    void Read(TextIn reminderData, Remarks* remarks);
     void AddTab(TextIn tab);
     void AddLine(TextIn line);
 

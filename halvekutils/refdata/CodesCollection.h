@@ -47,8 +47,8 @@ class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesC
 
     CodesCollection();
     static std::shared_ptr<CodesCollection> CreateEmpty();
-    void AddRecords(TextIn codesData, Services& services);
-    void AddRecord(TextIn record, Services& services);
+    void AddRecords(TextIn codesData, Services& services, Remarks* remarks);
+    void AddRecord(TextIn record, Services& services, Remarks* remarks);
 
     ObjectStore<Definition> store_;
     KeyedCollection<CodeDefinition> definitions_;

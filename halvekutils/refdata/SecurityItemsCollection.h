@@ -14,6 +14,7 @@
 
 namespace halvek {
 
+class Remarks;
 class Services;
 
 /// The signed-in user's rights, as the server described them; read-only to the host.
@@ -58,9 +59,10 @@ class HALVEK_EXPORT SecurityItemsCollection
     explicit SecurityItemsCollection(Services& services);
     static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
     static void EndFullAccess() noexcept;
-    void AddItems(TextIn securityData);
+    static bool HasFullAccess() noexcept;
+    void AddItems(TextIn securityData, Remarks* remarks);
     void MakeRoomFor(TextIn securityData);
-    void Add(TextIn key, char16_t rightsDigit);
+    void Add(TextIn piece, Remarks* remarks);
     void ReportMissing(TextIn key);
 
     Services& services_;

@@ -12,6 +12,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// A code list as the server sends it, read in place: one text and the start of each entry in it.
 ///
 /// ":" separates entries, TAB separates fields. The first piece is a header; the pseudo-entry for
@@ -60,9 +62,12 @@ class HALVEK_EXPORT SelectionList {
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }
 
   private:
+    friend struct ServerTextCheck;
+
+    SelectionList(std::u16string allValues, bool doNotIncludeDeleted, Remarks* remarks);
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
-    void ReadEntries(bool doNotIncludeDeleted);
+    void ReadEntries(bool doNotIncludeDeleted, Remarks* remarks);
     void MeasureCode(std::size_t length);
     struct Index {
         KeyIndex codes{KeyCase::Exact};
