@@ -59,6 +59,11 @@ private=$(sed 's,^,halvekutils/,' "$public" | cat - <(find demo -name '*.h' -o -
         !($2 in listed)')
 [ -z "$private" ] || fail "includes of headers that are not public: $private"
 
+# The tools include public headers, and others only if the library exports what these declare
+hidden=$(grep -hoE '#include <halvekutils/[^>]+' tools/*.h tools/*.cpp | sed 's,.*<,,' | sort -u |
+    xargs grep -LE 'HALVEK_(EXPORT|INTERNAL)' || true)
+[ -z "$hidden" ] || fail "the tools include headers of which nothing is exported: $hidden"
+
 needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
     grep -vE '^(libc|libm|libstdc\+\+|libgcc_s|ld-linux.*|libasan|libubsan)\.so' || true)
 [ -z "$needed" ] || fail "the library without windows links $needed"

@@ -39,11 +39,12 @@ bool FieldRemarks::OnEmpty(std::u16string_view fallback) const {
     return true;
 }
 
-bool FieldRemarks::OnNumber(std::u16string_view fallback) const {
-    if (OnEmpty(fallback)) return false;
+bool FieldRemarks::OnNumber(std::u16string_view whenEmpty, std::u16string_view whenNoNumber) const {
+    if (OnEmpty(whenEmpty)) return false;
     const std::size_t end = NumberLength(text_);
     if (end == 0) {
-        AddWithText(RemarkKind::Defaulted, u" is not a number: 0");
+        AddWithText(RemarkKind::Defaulted,
+                    std::u16string(u" is not a number: ").append(whenNoNumber));
         return false;
     }
     const std::u16string_view rest = text_.substr(end);
@@ -67,7 +68,7 @@ void FieldRemarks::OnInteger(std::u16string_view fallback) const {
 
 void FieldRemarks::OnFlag() const {
     if (text_ == u"0" || text_ == u"1") return;
-    if (!OnNumber(u"false")) return;
+    if (!OnNumber(u"false", u"false")) return;
     const double number = Val(text_);
     if (number != 0 && number != 1) AddWithText(RemarkKind::Defaulted, u" is not 1: false");
 }

@@ -40,6 +40,11 @@ class Remarks {
     /// The reader comes to the next record.
     void NextRecord() { ++record_; }
 
+    /// Remarks on an empty record, unless it is the one after the last separator.
+    void OnEmptyRecord(TextIn text, TextIn record) {
+        if (record.data() == text.data() + text.size()) return;
+        Add(RemarkKind::Ignored, 0, record, u"empty record skipped");
+    }
     /// Remarks on a field of the current record.
     /// @param place  the part of the text; when it is missing, an empty one where it should be
     void Add(RemarkKind kind, std::size_t field, TextIn place, std::u16string text) {
@@ -67,9 +72,11 @@ class FieldRemarks {
         : remarks_(remarks), field_(field), name_(name), text_(text) {}
 
     /// The number that the field begins with, as Val reads it; nothing should follow.
-    /// @param fallback  what stands in for an empty field
+    /// @param whenEmpty  what stands in for an empty field
+    /// @param whenNoNumber  what stands in for a field without a number
     /// @return false when the field holds no number
-    bool OnNumber(std::u16string_view fallback = u"0") const;
+    bool OnNumber(std::u16string_view whenEmpty = u"0",
+                  std::u16string_view whenNoNumber = u"0") const;
     /// A whole number of 32 bits.
     /// @param fallback  what stands in for a field that is empty or too large
     void OnInteger(std::u16string_view fallback) const;
@@ -82,9 +89,10 @@ class FieldRemarks {
 
     /// A sentence that begins with the field's name.
     void Add(RemarkKind kind, std::u16string_view rest) const;
+    /// The same with the field's text after its name.
+    void AddWithText(RemarkKind kind, std::u16string_view rest) const;
 
   private:
-    void AddWithText(RemarkKind kind, std::u16string_view rest) const;
     bool OnEmpty(std::u16string_view fallback) const;
 
     Remarks& remarks_;

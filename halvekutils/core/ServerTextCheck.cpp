@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/core/NoPrinters.h>
 #include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/core/Session.h>
@@ -22,6 +23,19 @@ class SilentServices final : public Services {
     Color FormSkinColor() const override { return 0; }
     Color FormTextColor() const override { return 0; }
 };
+
+/// What ConvertHDate reads.
+std::optional<DateTime> DateOf(TextIn text, Remarks& remarks) {
+    if (text.empty()) {
+        remarks.Add(RemarkKind::Ignored, 0, text, u"empty text: no date");
+        return std::nullopt;
+    }
+    const auto when = ReadServerDate(text, *TheSession().machine, &remarks);
+    if (!when || (*when >= kFirstDateTime && *when <= kLastDateTime)) return when;
+    remarks.Add(RemarkKind::Ignored, 0, text,
+                u"day " + Quoted(text) + u" is beyond all dates: no date");
+    return std::nullopt;
+}
 
 /// Outlives every collection.
 Services& Silent() {
@@ -67,18 +81,15 @@ SelectionList ServerTextCheck::Selection(std::u16string text, Remarks& remarks) 
     return SelectionList(std::move(text), false, &remarks);
 }
 
-std::optional<DateTime> ServerTextCheck::Date(TextIn text, Remarks& remarks) {
+std::vector<std::optional<DateTime>> ServerTextCheck::Dates(TextIn text, Remarks& remarks) {
     remarks.Begin(text);
-    remarks.NextRecord();
-    if (text.empty()) {
-        remarks.Add(RemarkKind::Ignored, 0, text, u"empty text: no date");
-        return std::nullopt;
+    std::vector<std::optional<DateTime>> dates;
+    for (TextIn line : Pieces(text, u'\n')) {
+        if (line.ends_with(u'\r')) line.remove_suffix(1);
+        remarks.NextRecord();
+        dates.push_back(DateOf(line, remarks));
     }
-    const auto when = ReadServerDate(text, *TheSession().machine, &remarks);
-    if (!when || (*when >= kFirstDateTime && *when <= kLastDateTime)) return when;
-    remarks.Add(RemarkKind::Ignored, 0, text,
-                u"day " + Quoted(text) + u" is beyond all dates: no date");
-    return std::nullopt;
+    return dates;
 }
 
 }  // namespace halvek

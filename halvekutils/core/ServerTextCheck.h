@@ -42,8 +42,8 @@ struct HALVEK_INTERNAL ServerTextCheck {
     /// The list that a selection would show, deleted entries included.
     static SelectionList Selection(std::u16string text, Remarks& remarks);
 
-    /// What ConvertHDate would read; nothing when it returns no date.
-    static std::optional<DateTime> Date(TextIn text, Remarks& remarks);
+    /// What ConvertHDate would read in each line; nothing when it returns no date.
+    static std::vector<std::optional<DateTime>> Dates(TextIn text, Remarks& remarks);
 };
 
 }  // namespace halvek

@@ -114,7 +114,7 @@ void Read(UserPrefs& prefs, const Level& row, TextIn field) {
     prefs.*row.member = Val(field) >= 2;
 }
 void RemarkOn(const Level&, const FieldRemarks& on, TextIn) {
-    on.OnNumber(u"false");
+    on.OnNumber(u"false", u"false");
 }
 void Write(const UserPrefs& prefs, const Level& row, std::u16string& out) {
     out += prefs.*row.member ? u'2' : u'0';

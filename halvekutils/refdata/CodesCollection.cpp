@@ -44,8 +44,8 @@ void CodesCollection::AddRecords(TextIn codesData, Services& services, Remarks* 
         if (remarks != nullptr) remarks->NextRecord();
         if (!record.empty()) {
             AddRecord(record, services, remarks);
-        } else if (remarks != nullptr && !codesData.empty()) {
-            remarks->Add(RemarkKind::Ignored, 0, record, u"empty record skipped");
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(codesData, record);
         }
     }
 }

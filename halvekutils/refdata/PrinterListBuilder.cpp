@@ -69,8 +69,8 @@ void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList, Remarks* r
         if (remarks != nullptr) remarks->NextRecord();
         if (!entry.empty()) {
             AddSerialPrinter(entry, position, remarks);
-        } else if (remarks != nullptr && !serialPrintersList.empty()) {
-            remarks->Add(RemarkKind::Ignored, 0, entry, u"empty entry skipped");
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(serialPrintersList, entry);
         }
         ++position;
     }

@@ -25,7 +25,7 @@ bool fullAccess = false;
 void RemarkOn(TextIn piece, bool taken, Remarks& remarks) {
     const TextIn key = piece.substr(0, piece.size() - 1);
     const TextIn digit = piece.substr(key.size());
-    if (key.empty()) remarks.Add(RemarkKind::Defaulted, 0, key, u"item without a key");
+    if (key.empty() && !taken) remarks.Add(RemarkKind::Defaulted, 0, key, u"item without a key");
     if (taken) {
         remarks.Add(RemarkKind::Doubled, 0, key,
                     u"key " + Quoted(key) + u" is taken: item left out");
@@ -96,8 +96,8 @@ void SecurityItemsCollection::AddItems(TextIn securityData, Remarks* remarks) {
         if (remarks != nullptr) remarks->NextRecord();
         if (!piece.empty()) {
             Add(piece, remarks);
-        } else if (remarks != nullptr && !securityData.empty()) {
-            remarks->Add(RemarkKind::Ignored, 0, piece, u"empty item skipped");
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(securityData, piece);
         }
     }
 }

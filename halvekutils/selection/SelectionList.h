@@ -43,6 +43,10 @@ class HALVEK_EXPORT SelectionList {
 
     // What an entry holds; its number is 1 to Count(). Views stay valid as long as the list.
 
+    /// True for an entry that is nothing at all, not even a blank.
+    bool IsEmpty(std::int32_t entry) const {
+        return Code(entry).empty() && Description(entry).empty();
+    }
     /// The code of an entry.
     std::u16string_view Code(std::int32_t entry) const;
     /// The description of an entry.

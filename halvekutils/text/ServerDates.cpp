@@ -38,7 +38,8 @@ void RemarkOnCount(TextIn text, std::size_t field, std::u16string_view name, Rem
     const FieldRemarks on(remarks, field, name, text);
     if (!on.OnNumber()) return;
     const double number = Val(text);
-    if (number != std::trunc(number)) on.Add(RemarkKind::Ignored, u": the fraction is ignored");
+    if (number != std::trunc(number))
+        on.AddWithText(RemarkKind::Ignored, u": the fraction is ignored");
 }
 
 void RemarkOn(TextIn date, std::size_t comma, Remarks& remarks) {
@@ -48,7 +49,7 @@ void RemarkOn(TextIn date, std::size_t comma, Remarks& remarks) {
     RemarkOnCount(time, 1, u"time", remarks);
     if (CountIn(time) < kSecondsInDay) return;
     FieldRemarks(remarks, 1, u"time", time)
-        .Add(RemarkKind::Ignored, u" of 86,400 seconds or more: no date");
+        .AddWithText(RemarkKind::Ignored, u" of 86,400 seconds or more: no date");
 }
 
 DateTime DayOf(TextIn count) {

@@ -51,8 +51,10 @@ holds libhalvekutils-dev < <(
         "$libraries"/cmake/HalvekUtils/HalvekUtils{Config,ConfigVersion,Targets,Targets-of}.cmake
     sed 's,^,include/halvekutils/,' "$build/public-headers.txt"
 )
+holds halvekutils-tools < <(printf '%s\n' bin/halvekutils-check share/man/man1/halvekutils-check.1.gz)
 holds halvekutils-demo < <(
     printf '%s\n' bin/halvekutils-demo share/applications/halvekutils-demo.desktop \
+        share/metainfo/halvekutils-demo.metainfo.xml \
         share/icons/hicolor/scalable/apps/halvekutils-demo.svg share/man/man1/halvekutils-demo.1.gz \
         share/halvekutils-demo/FrontDesk.chm share/lintian/overrides/halvekutils-demo
     cd "$source/demo/data"
@@ -62,6 +64,7 @@ system=(libc6 libgcc-s1 libstdc++6)
 depends libhalvekutils0 "${system[@]}"
 depends libhalvekutils-qt0 libhalvekutils0 libcups2 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
 depends libhalvekutils-dev libhalvekutils0 libhalvekutils-qt0 qt6-base-dev
+depends halvekutils-tools libhalvekutils0 "${system[@]}"
 depends halvekutils-demo libhalvekutils0 libhalvekutils-qt0 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
 lintian --allow-root --fail-on error,warning ./*.deb
 
@@ -84,6 +87,9 @@ cmake --build consumer
 export QT_QPA_PLATFORM=offscreen
 consumer/consumer-core
 consumer/consumer
+
+# The program for the server's makers reads what it is sent
+LD_LIBRARY_PATH=$root/usr/$libraries "$root/usr/bin/halvekutils-check" --quiet rights <<<'PATIENTSF'
 
 # The same host without CMake
 export PKG_CONFIG_PATH=$root/usr/$libraries/pkgconfig LD_LIBRARY_PATH=$root/usr/$libraries
