@@ -285,7 +285,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param Buttons  the button set
     /// @param Icon  the picture
     /// @param Title  empty for the application's name
-    /// @param BackgroundColor, fontSize  corrected and written back when out of range, see their
+    /// @param BackgroundColor,fontSize  corrected and written back when out of range, see their
     ///     enumerations
     /// @param FontBold  a bold font
     /// @param CloseAfterNSec  seconds after which the box closes itself; below 1 it stays
@@ -453,7 +453,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Lets the user choose a day from a calendar.
     ///
     /// A fault beeps and is logged with "Error in Utils.ShowCalendar ".
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the calendar's left edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the calendar's left edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param DateToShow  any date; without one, or before 1753, the calendar opens on DefaultDate
@@ -520,7 +520,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param ErrFileName  name or path of the error log, with "/" or "\" between folders. A name
     ///     without a folder means a file in the library's own folder; an empty one, "Error.Log".
     /// @param AppName  the title of the library's message boxes
-    /// @param AppType, ExeFileStamp  stored for the host
+    /// @param AppType,ExeFileStamp  stored for the host
     /// @param DebugMode  true to allow the debug console, and messages about some faults
     void InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
                    TextIn ExeFileStamp);
@@ -680,8 +680,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// If it is, a message says so, the field is emptied and Cancel becomes true. An amount that is
     /// 0, or not a number, passes.
     /// @param ctr  the upper field
-    /// @param strMin, strMax  the amounts as their fields show them
-    /// @param lblMin, lblMax  what the message calls the two fields
+    /// @param strMin,strMax  the amounts as their fields show them
+    /// @param lblMin,lblMax  what the message calls the two fields
     /// @param Cancel  set to true when the check fails; otherwise not written
     ///
     /// @code{.cpp}
@@ -713,7 +713,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// The palette shows entry 1 and, from entry 2 to the last but two, those above -1. A fault,
     /// such as a missing entry 1, beeps and is logged with "Error in Utils.ShowColor ".
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the palette's left edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the palette's left edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param FormToRefresh  repainted when the palette ends; null for none
@@ -764,7 +764,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param AllValues  entries separated by ":", a header first. TABs separate the fields of an
     ///     entry: its code, its description and, last, "1" when it is deleted
     /// @param SelectedValues  the codes chosen so far, separated by ","
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the dialog's right edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the dialog's right edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param FormToRefresh  repainted when the dialog ends; null for none

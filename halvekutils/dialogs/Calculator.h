@@ -95,7 +95,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// Enters a number or an amount from the clipboard as if its digits were pressed, or replaces
     /// the selection in the box. Beeps when the text is not a number or does not fit.
     /// @param text  what the clipboard holds
-    /// @param start, selected  the selected characters, counted from 0
+    /// @param start,selected  the selected characters, counted from 0
     void Paste(TextIn text, std::size_t start = 0, std::size_t selected = 0);
     /// The number shown, for the clipboard; empty with a beep when none is shown.
     std::u16string Copy();

@@ -53,7 +53,7 @@ class HALVEK_EXPORT CodeDefinition {
     /// flag, report name, sort list, then optionally the sort list's second half, the
     /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
     /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
-    /// @param remarks  hears of fields that are not as they should be; null in a client
+    /// `remarks` hears of fields that are not as they should be; it is null in a client.
     void Init(TextIn codeData, Remarks* remarks);
 
     std::u16string_view ViewOf(const Field& field) const {
