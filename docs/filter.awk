@@ -11,16 +11,20 @@ function nameOf(line) {
     return line
 }
 
-# Fills sectionOf with the section of each member, and titles with the sections in their order.
-function readTasks(    line, title, names, i) {
+# Fills sectionOf with the section of each member, titles with the sections in their order, and
+# membersOf with the members of each.
+function readTasks(    line, title, names, count, i) {
     while ((getline line < tasks) > 0) {
         if (line ~ /^#/) continue
         title = line
         sub(/:.*/, "", title)
         sub(/^[^:]*: /, "", line)
-        split(line, names, " ")
-        for (i in names) sectionOf[names[i]] = title
+        count = split(line, names, " ")
         if (title != titles[titleCount]) titles[++titleCount] = title
+        for (i = 1; i <= count; ++i) {
+            sectionOf[names[i]] = title
+            membersOf[title] = membersOf[title] " " names[i]
+        }
     }
 }
 
@@ -48,19 +52,19 @@ BEGIN {
 }
 
 # The members wait until all are known.
-function write(line,    section) {
+function write(line) {
     if (!(FNR in memberAt) || !(memberAt[FNR] in sectionOf)) {
         print line
         return
     }
-    section = sectionOf[memberAt[FNR]]
-    waiting[section] = waiting[section] line "\n"
+    waiting[memberAt[FNR]] = waiting[memberAt[FNR]] line "\n"
 }
 
 /^  private:/ {
     for (i = 1; i <= titleCount; ++i) {
         print "/** @name " titles[i] " */ /** @{ */"
-        printf "%s", waiting[titles[i]]
+        count = split(membersOf[titles[i]], names, " ")
+        for (j = 1; j <= count; ++j) printf "%s", waiting[names[j]]
         print "/** @} */"
     }
 }

@@ -59,6 +59,10 @@ function urlOf(name) {
     return ""
 }
 
+function linked(code, class, target) {
+    return target == "" ? code : "<a class=\"" class "\" href=\"" target "\">" code "</a>"
+}
+
 function close_page() {
     if (page == "") return
     close(page)
@@ -75,21 +79,19 @@ FNR == 1 {
 {
     line = $0
     out = ""
-    while (match(line, /<code>[A-Za-z_:]+(\([^<]*\))?<\/code>/)) {
+    while (match(line, /<code>[A-Za-z0-9_:]+(\([^<]*\))?<\/code>/)) {
         code = substr(line, RSTART + 6, RLENGTH - 13)
         name = code
         sub(/\(.*/, "", name)
         target = urlOf(name)
-        if (target != "") code = "<a class=\"el\" href=\"" target "\">" code "</a>"
-        out = out substr(line, 1, RSTART - 1) "<code>" code "</code>"
+        out = out substr(line, 1, RSTART - 1) "<code>" linked(code, "el", target) "</code>"
         line = substr(line, RSTART + RLENGTH)
     }
     # utils->ShowMsgBox(...) in a sample
     while (/class="line"/ && match(line, /utils-&gt;[A-Za-z]+\(/)) {
-        name = substr(line, RSTART + 9, RLENGTH - 10)
-        out = out substr(line, 1, RSTART + 8)
-        if (("Utils::" name) in url) name = "<a class=\"code\" href=\"" url["Utils::" name] "\">" name "</a>"
-        out = out name "("
+        name = substr(line, RSTART + 10, RLENGTH - 11)
+        out = out substr(line, 1, RSTART + 9)
+        out = out linked(name, "code", url["Utils::" name]) "("
         line = substr(line, RSTART + RLENGTH)
     }
     text = text out line "\n"
