@@ -80,12 +80,14 @@ FNR == 1 {
     line = $0
     out = ""
     while (match(line, /<code>[A-Za-z0-9_:]+(\([^<]*\))?<\/code>/)) {
-        code = substr(line, RSTART + 6, RLENGTH - 13)
+        start = RSTART
+        end = RSTART + RLENGTH
+        code = substr(line, start + 6, RLENGTH - 13)
         name = code
         sub(/\(.*/, "", name)
         target = urlOf(name)
-        out = out substr(line, 1, RSTART - 1) "<code>" linked(code, "el", target) "</code>"
-        line = substr(line, RSTART + RLENGTH)
+        out = out substr(line, 1, start - 1) "<code>" linked(code, "el", target) "</code>"
+        line = substr(line, end)
     }
     # utils->ShowMsgBox(...) in a sample
     while (/class="line"/ && match(line, /utils-&gt;[A-Za-z]+\(/)) {
