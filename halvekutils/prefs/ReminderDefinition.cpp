@@ -29,6 +29,7 @@ void ReminderDefinition::PopulateReminder(TextIn AcctNo, TextIn ReminderData) {
         if (tabs.empty()) return false;
         hasData_ = true;
         titles_.clear();
+        titledTabs_.clear();
         lines_.clear();
         for (const TextIn tab : Pieces(tabs, kTabSeparator)) AddTab(tab);
         return true;
@@ -51,12 +52,18 @@ StringArray ReminderDefinition::Tabs() const {
     return StringArray(1, titles_);
 }
 
+std::int16_t ReminderDefinition::TabNumber(std::int32_t title) const {
+    if (title < 1 || static_cast<std::size_t>(title) > titledTabs_.size()) return 0;
+    return titledTabs_[static_cast<std::size_t>(title) - 1];
+}
+
 void ReminderDefinition::AddTab(TextIn tab) {
     lines_.emplace_back();
     bool isTitle = true;
     for (const TextIn element : Pieces(tab, kLineSeparator)) {
         if (!element.empty()) {
             if (isTitle) {
+                titledTabs_.push_back(static_cast<std::int16_t>(lines_.size()));
                 titles_.push_back(element.Str());
             } else {
                 AddLine(element);

@@ -33,10 +33,6 @@ std::int32_t CodesCollection::Count() const {
     return definitions_.Count();
 }
 
-Enumerator<const CodesCollection> CodesCollection::begin() const {
-    return Enumerator<const CodesCollection>(shared_from_this());
-}
-
 void CodesCollection::AddRecords(TextIn codesData, Services& services) {
     for (const TextIn record : Pieces(codesData, kRecordSeparator)) {
         if (!record.empty()) AddRecord(record, services);
