@@ -23,8 +23,7 @@ Reading ReadCodes(std::u16string text) {
                            {"IsSystemCode", kFlag}}),
                     {}};
     const auto codes = ServerTextCheck::Codes(text, reading.remarks);
-    for (std::int32_t position = 1; position <= codes->Count(); ++position) {
-        const auto code = codes->Item(position);
+    for (const auto& code : codes) {
         reading.table.Add(code->CodeKey())
             .Add(code->CodeDescription())
             .Add(code->CodeHasLookup())
@@ -49,7 +48,7 @@ Reading ReadRights(std::u16string text) {
         reading.table.Add(TextIn(text)).Add(true).Add(true).Add(true).Add(true);
         return reading;
     }
-    for (const auto& item : *rights) {
+    for (const auto& item : rights) {
         reading.table.Add(item->ItemKey())
             .Add(item->AllowRead())
             .Add(item->AllowAdd())
@@ -63,7 +62,7 @@ Reading ReadPrinters(std::u16string text) {
     Reading reading{
         Table({{"PrinterID"}, {"PrinterType"}, {"PrinterDescription"}, {"PrinterPort"}}), {}};
     const auto printers = ServerTextCheck::Printers(text, reading.remarks);
-    for (const auto& printer : *printers) {
+    for (const auto& printer : printers) {
         reading.table.Add(printer->PrinterID())
             .Add(printer->PrinterType())
             .Add(printer->PrinterDescription())
@@ -85,8 +84,9 @@ Reading ReadReminder(std::u16string text) {
     const ReminderDefinition reminder = ServerTextCheck::Reminder(text, reading.remarks);
     const StringArray titles = reminder.Tabs();
     for (std::int32_t title = 1; title <= titles.UBound(); ++title) {
-        const StringArray lines = reminder.TabData(static_cast<std::int16_t>(title));
-        for (std::int32_t line = 1; line <= lines.UBound(); ++line) {
+        const StringArray lines = reminder.TabData(reminder.TabNumber(title));
+        // A title without lines has one empty cell.
+        for (std::int32_t line = lines.UBound() > 0 ? 1 : 0; line <= lines.UBound(); ++line) {
             reading.table.Add(TextIn(titles[title])).Add(TextIn(lines[line]));
         }
     }

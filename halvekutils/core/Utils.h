@@ -8,6 +8,7 @@
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/controls/Placement.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
@@ -30,7 +31,8 @@ namespace halvek {
 /// Create one at start-up, call InitUtils on it, then InitPrefs and InitOtherSettings as the
 /// practice's settings arrive. All Utils objects of the process share the session's values and the
 /// reference collections; bins, open windows, preferences, the server's clock and the application
-/// data folders belong to one object. Use it on the user-interface thread only.
+/// data folders belong to one object. Use it on the user-interface thread only, the one that made
+/// the platform: on another, members that may open a window are refused, as by a fault.
 ///
 /// Unless its description says otherwise, a member never throws: it logs the fault and returns an
 /// empty text, false or 0.
@@ -799,3 +801,5 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

@@ -2,8 +2,7 @@
 #include <halvekutils/core/NoPrinters.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
-#include <halvekutils/platform/Desktop.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/core/WayIn.h>
 #include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
@@ -33,14 +32,15 @@ std::shared_ptr<UserPrefs> CopyOf(const UserPrefs& prefs) {
 // Codes
 
 void Utils::BuildCodesCollection(TextIn CodesData) {
-    Guarded(OnFault::Quiet, u"BuildCodesCollection ", *this, [&] {
+    const auto build = [](const std::u16string& data) {
         // The old collection goes first: a build that fails leaves part of the new one, never the
         // old one.
         TheSession().codes = nullptr;
         const auto codes = CollectionBuilder::Codes();
         TheSession().codes = codes;
-        CollectionBuilder::Add(*codes, CodesData, TheSession());
-    });
+        CollectionBuilder::Add(*codes, data, TheSession());
+    };
+    EnteredVoid(*this, OnFault::Quiet, u"BuildCodesCollection ", build, CodesData);
 }
 
 std::shared_ptr<CodesCollection> Utils::GetCodesCollection() const {
@@ -55,12 +55,13 @@ void Utils::ClearCodesCollection() {
 void Utils::BuildSecurityCollection(TextIn SecurityData) {
     // Before anything can fail: no fault may leave the full access of an earlier build on.
     CollectionBuilder::EndFullAccess();
-    Guarded(OnFault::Beep, u"BuildSecurityCollection ", *this, [&] {
+    const auto build = [](const std::u16string& data) {
         TheSession().securityItems = nullptr;
         const auto items = CollectionBuilder::SecurityItems(TheSession());
         TheSession().securityItems = items;
-        CollectionBuilder::Add(*items, SecurityData);
-    });
+        CollectionBuilder::Add(*items, data);
+    };
+    EnteredVoid(*this, OnFault::Beep, u"BuildSecurityCollection ", build, SecurityData);
 }
 
 std::shared_ptr<SecurityItemsCollection> Utils::GetSecurityItemsCollection() const {
@@ -73,14 +74,15 @@ void Utils::ClearSecurityCollection() {
 // Printers
 
 void Utils::BuildPrintersCollection(TextIn SerialPrintersList) {
-    Guarded(OnFault::Quiet, u"BuildPrintersCollection ", *this, [&] {
+    const auto build = [](const std::u16string& serialPrinters) {
         if (TheSession().printers == nullptr) TheSession().printers = CollectionBuilder::Printers();
         const auto printers = TheSession().printers;
         const auto source = ThePrinters();
         PrinterListBuilder builder(*printers, *source, TheSession());
-        builder.AddSerialPrinters(SerialPrintersList);
+        builder.AddSerialPrinters(serialPrinters);
         builder.AddWorkstationPrinters();
-    });
+    };
+    EnteredVoid(*this, OnFault::Quiet, u"BuildPrintersCollection ", build, SerialPrintersList);
 }
 
 std::shared_ptr<PrintersCollection> Utils::GetPrintersCollection() const {
@@ -99,7 +101,7 @@ std::shared_ptr<PrintersCollection> Utils::GetPrintersCollectionFiltered(bool Ex
         if (printers == nullptr) return nullptr;
         return printers->Filtered({ExcludeSpool, ExcludeFile, ExcludeWindows, ExcludeSerial});
     };
-    return Guarded(OnFault::Quiet, u"GetPrintersCollectionFiltered ", *this,
+    return Entered(*this, OnFault::Quiet, u"GetPrintersCollectionFiltered ",
                    std::shared_ptr<PrintersCollection>(), filter);
 }
 
@@ -132,8 +134,9 @@ std::shared_ptr<UserPrefs> Utils::GetCurrentUserPrefs() const {
 // Bins
 
 void Utils::AddBin(TextIn BinKey, TextIn BinData, TextIn BinType) {
-    Guarded(OnFault::Beep, u"Error in Utils.AddBin ", *this,
-            [&] { d_->bins.Add(BinKey, BinData, BinType); });
+    const auto add = [&](const std::u16string& key, const std::u16string& data,
+                         const std::u16string& type) { d_->bins.Add(key, data, type); };
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.AddBin ", add, BinKey, BinData, BinType);
 }
 
 std::u16string Utils::GetBinData(TextIn BinKey) const {

@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Dialog.h>
 
@@ -60,7 +61,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// The button that has the focus, or kBox; the button RET at first.
     int Focus() const { return focus_; }
     /// The caption of button 0 to 18.
-    static std::u16string_view Caption(int index);
+    static TextIn Caption(int index);
 
     /// Called when a button is pressed in any way: it flashes.
     std::function<void(int index)> Flashed;
@@ -127,3 +128,5 @@ class HALVEK_EXPORT Calculator : public Dialog {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

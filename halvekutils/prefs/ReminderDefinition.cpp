@@ -68,6 +68,7 @@ void ReminderDefinition::Read(TextIn reminderData, Remarks* remarks) {
     if (!tabs.empty()) {
         hasData_ = true;
         titles_.clear();
+        titledTabs_.clear();
         lines_.clear();
         for (const TextIn tab : Pieces(tabs, kTabSeparator)) {
             if (remarks != nullptr) RemarkOnTab(tab, *remarks);
@@ -95,12 +96,18 @@ StringArray ReminderDefinition::Tabs() const {
     return StringArray(1, titles_);
 }
 
+std::int16_t ReminderDefinition::TabNumber(std::int32_t title) const {
+    if (title < 1 || static_cast<std::size_t>(title) > titledTabs_.size()) return 0;
+    return titledTabs_[static_cast<std::size_t>(title) - 1];
+}
+
 void ReminderDefinition::AddTab(TextIn tab) {
     lines_.emplace_back();
     bool isTitle = true;
     for (const TextIn element : Pieces(tab, kLineSeparator)) {
         if (!element.empty()) {
             if (isTitle) {
+                titledTabs_.push_back(static_cast<std::int16_t>(lines_.size()));
                 titles_.push_back(element.Str());
             } else {
                 AddLine(element);

@@ -34,10 +34,6 @@ std::int32_t CodesCollection::Count() const {
     return definitions_.Count();
 }
 
-Enumerator<const CodesCollection> CodesCollection::begin() const {
-    return Enumerator<const CodesCollection>(shared_from_this());
-}
-
 void CodesCollection::AddRecords(TextIn codesData, Services& services, Remarks* remarks) {
     if (remarks != nullptr) remarks->Begin(codesData);
     for (const TextIn record : Pieces(codesData, kRecordSeparator)) {

@@ -81,12 +81,6 @@ std::int32_t SecurityItemsCollection::Count() const {
     return items_.Count();
 }
 
-Enumerator<const KeyedCollection<SecurityItem>> SecurityItemsCollection::begin() const {
-    // Holds this collection, but steps through its store: Item would grant rights.
-    return Enumerator(
-        std::shared_ptr<const KeyedCollection<SecurityItem>>(shared_from_this(), &items_));
-}
-
 void SecurityItemsCollection::AddItems(TextIn securityData, Remarks* remarks) {
     fullAccess = securityData == kFullAccessData;
     if (fullAccess) return;

@@ -36,7 +36,7 @@ awk '/<memberdef/ { public = /prot="public"/ } /<name>/ { name = $0 } /<para>/ {
 while IFS= read -r line; do
     grep -qF -- "$line" "$pages/error-log.md" || complain "not explained: $line"
 done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \
-    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |OpenHelp\(\*this, |prefix = .*return )u"([^"\\]+).*/\2/p')
+    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |prefix = .*return )u"([^"\\]+).*/\2/p')
 
 # Links and pictures of the pages
 for link in $(grep -hoE '\]\([a-z./-]+\.(md|png)' "$pages"/*.md | tr -d ']('); do
