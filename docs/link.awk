@@ -24,14 +24,14 @@ FNR == NR {
     if (/<compound /) {
         kind = attribute("kind")
         compound = ""
-        if (kind !~ /^(class|struct|concept|namespace)$/) next
+        if (kind !~ /^(class|struct|concept|namespace)$/) next  # a file's macros have no class
         compound = content()
         if (compound !~ /^halvek/) next
         sub(/^halvek(::)?/, "", compound)
         if (compound != "") url[compound] = attribute("refid") ".html"
         next
     }
-    if (/<member / && compound !~ /^std/ && kind ~ /^(class|struct|namespace)$/) {
+    if (/<member / && compound !~ /^std/ && kind ~ /^(class|struct|namespace|file)$/) {
         target = attribute("refid")
         at = match(target, /_1[^_]*$/)
         target = substr(target, 1, at - 1) ".html#" substr(target, at + 2)

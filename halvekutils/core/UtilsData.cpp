@@ -32,15 +32,15 @@ std::shared_ptr<UserPrefs> CopyOf(const UserPrefs& prefs) {
 // Codes
 
 void Utils::BuildCodesCollection(TextIn CodesData) {
-    const auto build = [](const std::u16string& data) {
-        // The old collection goes first: a build that fails leaves part of the new one, never the
-        // old one.
+    EnteredVoid(*this, OnFault::Quiet, u"BuildCodesCollection ", [&] {
+        // The old collection goes first, even before the copy of the text: a build that fails
+        // leaves part of the new one, never the old one.
         TheSession().codes = nullptr;
+        const std::u16string data = Kept(CodesData);
         const auto codes = CollectionBuilder::Codes();
         TheSession().codes = codes;
         CollectionBuilder::Add(*codes, data, TheSession());
-    };
-    EnteredVoid(*this, OnFault::Quiet, u"BuildCodesCollection ", build, CodesData);
+    });
 }
 
 std::shared_ptr<CodesCollection> Utils::GetCodesCollection() const {
@@ -53,15 +53,15 @@ void Utils::ClearCodesCollection() {
 // Security items
 
 void Utils::BuildSecurityCollection(TextIn SecurityData) {
-    // Before anything can fail: no fault may leave the full access of an earlier build on.
-    CollectionBuilder::EndFullAccess();
-    const auto build = [](const std::u16string& data) {
+    EnteredVoid(*this, OnFault::Beep, u"BuildSecurityCollection ", [&] {
+        // Before anything can fail: no fault may leave earlier rights on, full access above all.
+        CollectionBuilder::EndFullAccess();
         TheSession().securityItems = nullptr;
+        const std::u16string data = Kept(SecurityData);
         const auto items = CollectionBuilder::SecurityItems(TheSession());
         TheSession().securityItems = items;
         CollectionBuilder::Add(*items, data);
-    };
-    EnteredVoid(*this, OnFault::Beep, u"BuildSecurityCollection ", build, SecurityData);
+    });
 }
 
 std::shared_ptr<SecurityItemsCollection> Utils::GetSecurityItemsCollection() const {

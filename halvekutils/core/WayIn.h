@@ -31,7 +31,7 @@ decltype(auto) WithKept(const Body& body, const Arguments&... arguments) {
 ///
 /// While a window is open the host handles its events. It may then release the object that was
 /// called, the texts and pointers that it passed, or begin another session. So the call holds the
-/// object and works on its own copies of the arguments, taken before anything else. Off the
+/// object and works on its own copies of the arguments, taken before a window can open. Off the
 /// user-interface thread, and when the copies need more memory than there is, it fails as any fault
 /// of the member does.
 ///
