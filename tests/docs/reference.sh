@@ -38,6 +38,11 @@ while IFS= read -r line; do
 done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \
     's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |prefix = .*return )u"([^"\\]+).*/\2/p')
 
+# Headers of the samples are installed
+for header in $(sed -nE 's/^#include <halvekutils\/([^>]+)>/\1/p' "$pages"/*.md | sort -u); do
+    grep -qxF "$header" "$2/public-headers.txt" || complain "a sample includes $header, which is not installed"
+done
+
 # Links and pictures of the pages
 for link in $(grep -hoE '\]\([a-z./-]+\.(md|png)' "$pages"/*.md | tr -d ']('); do
     [ -f "$pages/$link" ] || complain "no $link"
