@@ -7,9 +7,9 @@
 
 #if __cplusplus < 202002L
 #error "HalvekUtils needs C++20: compile with -std=c++20 or later"
-#include <halvekutils/needs-C++20>
+#include <HalvekUtils-needs-C++20>
 #endif
 #ifndef __cpp_exceptions
 #error "HalvekUtils reports faults as exceptions: compile without -fno-exceptions"
-#include <halvekutils/needs-exceptions>
+#include <HalvekUtils-needs-exceptions>
 #endif

@@ -107,7 +107,7 @@ build_example() {
 install_packages libhalvekutils{0,-dev}_*.deb
 build_example report -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
 cp -r "$root/usr/share/doc/libhalvekutils-dev/examples/payment" .
-if configure payment || ! tr -s ' \n' ' ' <configure.log | grep 'the component Qt is not installed'; then
+if configure payment || ! tr -s ' \n' ' ' <configure.log | grep -o 'the component Qt is not installed'; then
     echo "a host's project does not learn that the component Qt is missing"
     exit 1
 fi

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
+#include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtText.h>
 
+#include <QLineEdit>
 #include <QLoggingCategory>
 #include <QStringList>
+
+#include <thread>
 
 namespace halvek {
 namespace {
@@ -53,6 +57,21 @@ TEST_F(LogCategory, PrintsLoggedLinesInDebugModeAndWhereARuleAsksForThem) {
     utils_->LogError(u"lost");
     ASSERT_EQ(printed.size(), 2);
     EXPECT_TRUE(printed[1].contains(QStringLiteral("missing/a.log"))) << qPrintable(printed[1]);
+}
+
+TEST_F(LogCategory, TellsOfCurrencyFieldsThatAreUsedOnAnotherThread) {
+    Start(true);
+    QLineEdit line(QStringLiteral("5"));
+    bool left = true;
+    std::thread([&] {
+        MakeCurrencyField(&line);
+        left = LeaveCurrencyFields(&line);
+    }).join();
+    EXPECT_FALSE(left);
+    EXPECT_EQ(line.text(), QStringLiteral("5"));
+    const QString fault = QStringLiteral(": Invalid argument: not the user-interface thread");
+    EXPECT_EQ(printed, QStringList({QStringLiteral("ERR in MakeCurrencyField") + fault,
+                                    QStringLiteral("ERR in LeaveCurrencyFields") + fault}));
 }
 
 }  // namespace
