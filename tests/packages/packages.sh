@@ -55,7 +55,7 @@ holds libhalvekutils-dev < <(
 )
 holds libhalvekutils-qt-dev < <(
     printf '%s\n' "$libraries"/{libhalvekutils-qt.so,pkgconfig/halvekutils-qt.pc} \
-        "$cmake"{QtTargets,QtTargets-of}.cmake
+        "$cmake"{QtTargets,QtTargets-of}.cmake share/lintian/overrides/libhalvekutils-qt-dev
     headers -e
 )
 holds halvekutils-tools < <(printf '%s\n' bin/halvekutils-check share/man/man1/halvekutils-check.1.gz)
