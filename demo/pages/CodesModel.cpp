@@ -47,7 +47,7 @@ void CodesModel::SetCodes(const std::shared_ptr<halvek::CodesCollection>& codes)
     beginResetModel();
     codes_.clear();
     if (codes != nullptr) {
-        for (const auto& code : *codes) codes_.push_back(code);
+        for (const auto& code : codes) codes_.push_back(code);
     }
     endResetModel();
 }

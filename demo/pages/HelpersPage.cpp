@@ -268,7 +268,7 @@ void HelpersPage::Highlight() {
     for (QWidget* const control : Captions()) {
         desk_.Library().HighlightHeading(AsHeading(control), false, border ? 1 : 0);
     }
-    desk_.Calls().Add("HighlightHeading", Args("each control", false, border ? 1 : 0));
+    desk_.Calls().Add("HighlightHeading", Args(u"each control", false, border ? 1 : 0));
 }
 
 void HelpersPage::Unhighlight() {

@@ -145,7 +145,7 @@ QString PrintersPage::FilteredWith(std::initializer_list<bool> exclude) {
     NoteFilter();
     QStringList ids;
     const auto printers = Listed();
-    for (const auto& printer : *printers) ids << ToQString(printer->PrinterID());
+    for (const auto& printer : printers) ids << ToQString(printer->PrinterID());
     return ids.join(' ');
 }
 

@@ -51,7 +51,7 @@ template <class T, std::size_t n, class Collection>
 void FillTable(QTableWidget& table, const Column<T> (&columns)[n], const Collection& items) {
     table.setRowCount(0);
     if (items == nullptr) return;
-    for (const auto& item : *items) {
+    for (const auto& item : items) {
         QStringList texts;
         for (const Column<T>& column : columns) texts << column.text(*item);
         AddTableRow(table, texts);

@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Dialog.h>
 #include <halvekutils/selection/ChosenCodes.h>
@@ -84,7 +85,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
     /// The codes chosen so far.
-    std::u16string_view Choice() const { return codes_.Text(); }
+    TextIn Choice() const { return codes_.Text(); }
     /// The box of typed codes.
     const TypedCodesBox& Box() const { return codes_.Box(); }
     /// Grows whenever the rules, not the user, change the box; the window then copies it.
@@ -196,3 +197,5 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>
