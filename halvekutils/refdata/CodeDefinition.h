@@ -43,7 +43,7 @@ class HALVEK_EXPORT CodeDefinition {
         std::size_t length = 0;
     };
 
-    CodeDefinition();
+    HALVEK_HIDDEN CodeDefinition();
 
     /// Sets the fields from one record of the codes data, without its "|".
     ///
@@ -51,7 +51,7 @@ class HALVEK_EXPORT CodeDefinition {
     /// flag, report name, sort list, then optionally the sort list's second half, the
     /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
     /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
-    void Init(TextIn codeData);
+    HALVEK_HIDDEN void Init(TextIn codeData);
 
     std::u16string_view ViewOf(const Field& field) const {
         return std::u16string_view(record_).substr(field.start, field.length);

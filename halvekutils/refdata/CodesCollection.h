@@ -45,10 +45,10 @@ class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesC
     friend struct CollectionBuilder;
     struct Definition : CodeDefinition {};
 
-    CodesCollection();
-    static std::shared_ptr<CodesCollection> CreateEmpty();
-    void AddRecords(TextIn codesData, Services& services);
-    void AddRecord(TextIn record, Services& services);
+    HALVEK_HIDDEN CodesCollection();
+    HALVEK_HIDDEN static std::shared_ptr<CodesCollection> CreateEmpty();
+    HALVEK_HIDDEN void AddRecords(TextIn codesData, Services& services);
+    HALVEK_HIDDEN void AddRecord(TextIn record, Services& services);
 
     ObjectStore<Definition> store_;
     KeyedCollection<CodeDefinition> definitions_;
