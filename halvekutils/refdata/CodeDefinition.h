@@ -45,7 +45,7 @@ class HALVEK_EXPORT CodeDefinition {
         std::size_t length = 0;
     };
 
-    CodeDefinition();
+    HALVEK_HIDDEN CodeDefinition();
 
     /// Sets the fields from one record of the codes data, without its "|".
     ///
@@ -54,7 +54,7 @@ class HALVEK_EXPORT CodeDefinition {
     /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
     /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
     /// `remarks` hears of fields that are not as they should be; it is null in a client.
-    void Init(TextIn codeData, Remarks* remarks);
+    HALVEK_HIDDEN void Init(TextIn codeData, Remarks* remarks);
 
     std::u16string_view ViewOf(const Field& field) const {
         return std::u16string_view(record_).substr(field.start, field.length);

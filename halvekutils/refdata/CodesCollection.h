@@ -52,10 +52,10 @@ class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesC
     friend struct CollectionBuilder;
     struct Definition : CodeDefinition {};
 
-    CodesCollection();
-    static std::shared_ptr<CodesCollection> CreateEmpty();
-    void AddRecords(TextIn codesData, Services& services, Remarks* remarks);
-    void AddRecord(TextIn record, Services& services, Remarks* remarks);
+    HALVEK_HIDDEN CodesCollection();
+    HALVEK_HIDDEN static std::shared_ptr<CodesCollection> CreateEmpty();
+    HALVEK_HIDDEN void AddRecords(TextIn codesData, Services& services, Remarks* remarks);
+    HALVEK_HIDDEN void AddRecord(TextIn record, Services& services, Remarks* remarks);
 
     ObjectStore<Definition> store_;
     KeyedCollection<CodeDefinition> definitions_;

@@ -67,9 +67,9 @@ class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<Pri
   private:
     friend struct CollectionBuilder;
 
-    PrintersCollection();
-    static std::shared_ptr<PrintersCollection> CreateEmpty();
-    void Add(PrinterFields fields, std::int32_t number);
+    HALVEK_HIDDEN PrintersCollection();
+    HALVEK_HIDDEN static std::shared_ptr<PrintersCollection> CreateEmpty();
+    HALVEK_HIDDEN void Add(PrinterFields fields, std::int32_t number);
 
     KeyedCollection<PrinterDefinition> printers_;
 };

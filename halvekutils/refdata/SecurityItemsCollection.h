@@ -67,14 +67,14 @@ class HALVEK_EXPORT SecurityItemsCollection
     friend struct CollectionBuilder;
     struct StoredItem : SecurityItem {};
 
-    explicit SecurityItemsCollection(Services& services);
-    static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
-    static void EndFullAccess() noexcept;
-    static bool HasFullAccess() noexcept;
-    void AddItems(TextIn securityData, Remarks* remarks);
-    void MakeRoomFor(TextIn securityData);
-    void Add(TextIn piece, Remarks* remarks);
-    void ReportMissing(TextIn key);
+    HALVEK_HIDDEN explicit SecurityItemsCollection(Services& services);
+    HALVEK_HIDDEN static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
+    HALVEK_HIDDEN static void EndFullAccess() noexcept;
+    HALVEK_HIDDEN static bool HasFullAccess() noexcept;
+    HALVEK_HIDDEN void AddItems(TextIn securityData, Remarks* remarks);
+    HALVEK_HIDDEN void MakeRoomFor(TextIn securityData);
+    HALVEK_HIDDEN void Add(TextIn piece, Remarks* remarks);
+    HALVEK_HIDDEN void ReportMissing(TextIn key);
 
     Services& services_;
     ObjectStore<StoredItem> store_;

@@ -126,10 +126,7 @@ for program in report/report report/build/report; do
 done
 
 install_packages ./*.deb
-if readelf -d "$root/usr/bin/"* "$root/usr/$libraries/"*.so | grep -E 'R(UN)?PATH'; then
-    echo "a packaged file looks for libraries elsewhere"
-    exit 1
-fi
+bash "$source/tests/packages/hardening.sh" "$root/usr/bin/"* "$root/usr/$libraries/"*.so
 
 # The program in the README is an example, and the form's test passes.
 awk '/^```cpp/ { inside = 1; next } /^```/ { inside = 0 } inside' "$source/README.md" |
@@ -161,6 +158,14 @@ look -DHALVEK_DOORS -fno-access-control -I"$source"
 look -DHALVEK_DOORS >doors.log 2>&1 || true
 for line in $(awk '/^#ifdef/ { inside = 1; next } /^#endif/ { inside = 0 } inside { print NR }' "$doors"); do
     grep -q "doors.cpp:$line:" doors.log || { echo "open to hosts: $(sed -n "${line}p" "$doors")"; exit 1; }
+done
+
+# The linker must refuse it as well when a host gets round the access: nobody grants himself a right.
+"$compiler" -std=c++20 -DHALVEK_DOORS -fno-access-control -I"$source" "$doors" -o doors "${core[@]}" \
+    2>doors.log && { echo "what only the library may call can be linked"; exit 1; }
+for member in Item::Init ItemsCollection::{AddItems,CreateEmpty,EndFullAccess}; do
+    grep -q "undefined reference to .halvek::Security$member" doors.log ||
+        { echo "hosts can link Security$member"; exit 1; }
 done
 
 # The demo reads its data below this root, where the session has another version.
