@@ -47,7 +47,7 @@ wait_until "the client is active again" is_active "$main"
 keys ctrl+7 alt+i End Home alt+c Return
 wait_for_window "Insurance Types"
 expect_focus "text|Selected codes|focused" "opening a selection list"
-keys Tab Right
+keys Tab Right Left
 expect_focus "table cell|MB, Medicare Part B, selected|focused,checked" "an arrow key"
 keys space
 wait_until "a code is reported as no longer selected" shows "table cell|MB, Medicare Part B, not selected|focused"

@@ -178,7 +178,7 @@ ROWS
 steps <<'ROWS'
 # Codes typed, ticked, refused, deleted ones left out
 alt+s,l @ Services ; alt+i,End,Home,alt+c . ; Return > Insurance Types    [Total: 28] ; comma,W,C,comma ~
-Tab,Right,Right,space ~ ; Down,space ~ ; Tab,Tab ~ ; shift+Tab,space = = "MB,MG,WC,MA,AM"
+Tab,Home,Right,Right,space ~ ; Down,space ~ ; Tab,Tab ~ ; shift+Tab,space = = "MB,MG,WC,MA,AM"
 alt+c,Return > Insurance Types ; comma,Q,comma > Front Desk ; Return > Insurance Types
 Escape = ShowSelection
 alt+c,Return > Insurance Types ; comma,comma > Invalid Entry ; Return > Insurance Types

@@ -46,7 +46,7 @@ start_desktop
 start_client "$1"
 keys ctrl+7
 
-# KEYS CODES; the box of codes has the focus and ends with MG, the grid follows it.
+# KEYS CODES; the box of codes has the focus and ends with MG, the grid follows it, at MB.
 while read -r typed codes; do
     open_list Return
     keys ${typed//,/ }
@@ -63,14 +63,14 @@ comma,W,C,comma,Escape MB,MG
 comma,W,C,Tab,Return MB,MG,WC
 BackSpace,BackSpace,BackSpace,comma,KP_Enter MB
 ctrl+a,Delete,Return
-Tab,Right,space,Return MG
-Tab,Down,space,Right,space,Return MB,MG,EP,WC
-Tab,S,space,Return MB,MG,SP
+Tab,space,Return MG
+Tab,Down,space,Left,space,Return MB,MG,WC,EP
+Tab,S,P,Return,Escape,Return MB,MG,SP
 Tab,End,space,Home,Right,space,Return MG,IND
 Tab,Right,space,Escape MB,MG
-Tab,Right,space,Tab,Return MG
+Tab,space,Tab,Return MG
 Tab,Right,space,Tab,Tab,Return MB,MG
-Tab,space,space,Return
+Tab,Home,space,space,Return
 ROWS
 
 # PARTS CODES
@@ -92,7 +92,7 @@ all,cancel MB,MG
 ROWS
 
 open_list Return
-keys Tab space Return
+keys Tab Home space Return
 expect_choice "$all" "all codes by Space"
 
 # The character that opens the list arrives in its box.

@@ -4,6 +4,7 @@
 #include "Record.h"
 
 #include <halvekutils/core/DebugConsole.h>
+#include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
 
@@ -20,6 +21,10 @@ class RecordingPlatform : public halvek::QtPlatform {
     }
 
     using QtPlatform::Show;
+    void Show(const std::shared_ptr<halvek::MessageBox>& box, halvek::Modality modality) override {
+        Record::Got("box", halvek::ToQString(box->Prompt()));
+        QtPlatform::Show(box, modality);
+    }
     void Show(const std::shared_ptr<halvek::DebugConsole>& console) override {
         console->Changed = [&shown = *console] {
             const QString text = halvek::ToQString(shown.Text());

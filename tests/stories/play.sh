@@ -12,10 +12,17 @@ declare -A code=(
     [Escape]=09 [1]=10 [2]=11 [3]=12 [4]=13 [5]=14 [6]=15 [7]=16 [8]=17 [9]=18 [0]=19 [-]=20
     [=]=21 [+]=50+21 [\*]=50+17 [BackSpace]=22 [Tab]=23 [Back]=50+23 [Enter]=36 [Ctrl]=37 [Shift]=50
     [Alt]=64 [Space]=65 [,]=59 [.]=60 [/]=61 [F2]=68 [F9]=75 [NumLock]=77
-    [$]=50+13 [(]=50+18 [)]=50+19 [a]=38 [c]=54 [f]=41 [k]=45 [p]=33 [s]=39 [t]=28 [v]=55 [x]=53 [z]=52
+    [$]=50+13 [(]=50+18 [)]=50+19
+    [\ ]=65 [F3]=69 [F4]=70 [\;]=47 ["'"]=48
     [Home]=110 [Up]=111 [PageUp]=112 [Left]=113 [Right]=114 [End]=115 [Down]=116 [PageDown]=117
     [Delete]=119 [K7]=79 [K8]=80 [K9]=81 [K-]=82 [K4]=83 [K5]=84 [K6]=85 [K+]=86 [K1]=87 [K2]=88
     [K3]=89 [K0]=90 [K.]=91 [KEnter]=104 [K/]=106 [K\*]=63)
+# Letters, small and capital
+place=24
+for letter in q w e r t y u i o p - - - - a s d f g h j k l - - - - - z x c v b n m; do
+    [ "$letter" = - ] || code[$letter]=$place code[${letter^}]=50+$place
+    ((place += 1))
+done
 # Buttons of the calculator by their captions
 declare -A button=([+-]=10 [.]=11 [/]=12 [\*]=13 [-]=14 [+]=15 [=]=16 [CLR]=17 [RET]=18)
 
@@ -136,6 +143,7 @@ take_step() {
     @fresh) end_host && start_host && new_window "" ;;
     @right) new_window right ;;
     @paste=*) echo "clipboard ${1#*=}" >&"$questions" && press Ctrl+v ;;
+    @lines=*) echo "lines ${1#*=}" >&"$questions" && press Ctrl+v ;;
     @load=*) echo "load ${1#*=}" >&"$questions" && act 0 ;;
     @locale=*) echo "locale ${1#*=}" >&"$questions" && act 0 ;;
     *) press "$1" ;;
