@@ -34,19 +34,23 @@ QPushButton* MakeButton(QWidget* parent, const char* name, const QString& captio
 }  // namespace
 
 frmSelectGrid::frmSelectGrid(const std::shared_ptr<SelectGrid>& rules, const Desktop& desktop)
-    : DialogForm(rules, u"frmSelectGrid"),
-      rules_(*rules),
-      typedCodes_(new TypedCodesEdit(rules_, this)),
-      grid_(new SelectGridView(rules_, this)),
-      findBar_(new FindBar(std::make_unique<FindEntries>(rules_, *grid_), tr("Find a name or code"),
-                           this)),
-      okButton_(MakeButton(this, "cmdOK", tr("&OK"), tr("Select and Close"))),
-      cancelButton_(MakeButton(this, "cmdExit", tr("C&ancel"), tr("Close"))) {
+    : DialogForm(rules, u"frmSelectGrid"), rules_(*rules) {
     setWindowTitle(ToWindowTitle(rules_.Caption()));
-    setFont(ToQFont(CodeFont()));
-    grid_->setAccessibleName(windowTitle());
+    setFont(ToQFont(CodeFont()));  // first: the parts measure their captions
+    BuildParts();
     ConnectParts();
     ApplyLayout(desktop);
+}
+
+/// In the order in which Tab goes through them.
+void frmSelectGrid::BuildParts() {
+    typedCodes_ = new TypedCodesEdit(rules_, this);
+    grid_ = new SelectGridView(rules_, this);
+    grid_->setAccessibleName(windowTitle());
+    findBar_ =
+        new FindBar(std::make_unique<FindEntries>(rules_, *grid_), tr("Find a name or code"), this);
+    okButton_ = MakeButton(this, "cmdOK", tr("&OK"), tr("Select and Close"));
+    cancelButton_ = MakeButton(this, "cmdExit", tr("C&ancel"), tr("Close"));
 }
 
 void frmSelectGrid::ConnectParts() {

@@ -31,6 +31,7 @@ class frmSelectGrid : public DialogForm {
 
   private:
     void ApplyLayout(const Desktop& desktop);
+    void BuildParts();
     void ConnectParts();
     bool MayLeaveBox();
     void Accept();
@@ -38,11 +39,11 @@ class frmSelectGrid : public DialogForm {
     bool PressKey(const QKeyEvent& event);
 
     SelectGrid& rules_;
-    TypedCodesEdit* typedCodes_;
-    SelectGridView* grid_;
-    FindBar* findBar_;
-    QPushButton* okButton_;
-    QPushButton* cancelButton_;
+    TypedCodesEdit* typedCodes_ = nullptr;
+    SelectGridView* grid_ = nullptr;
+    FindBar* findBar_ = nullptr;
+    QPushButton* okButton_ = nullptr;
+    QPushButton* cancelButton_ = nullptr;
 };
 
 }  // namespace halvek

@@ -59,15 +59,15 @@ FindBar::FindBar(std::unique_ptr<FindTarget> target, const QString& prompt, QWid
         MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { FindNext(false); });
     QPushButton* const close =
         MakeButton("cmdFindClose", tr("\u00D7"), tr("Close (Escape)"), [this] { Close(); });
+    row->addWidget(previous);
+    row->addWidget(next);
+    row->addWidget(lblFind_);
+    row->addWidget(close);
     // A button with the word, beside those of a dialog, would seem to close the dialog.
     close->setAccessibleName(tr("Close"));
     design::MakeAlike({previous, next});
     close->setFixedWidth(previous->minimumHeight());
     close->setMinimumHeight(previous->minimumHeight());
-    row->addWidget(previous);
-    row->addWidget(next);
-    row->addWidget(lblFind_);
-    row->addWidget(close);
     // The box is not to jump while a word is typed.
     const QFontMetrics letters = lblFind_->fontMetrics();
     lblFind_->setMinimumWidth(std::max(letters.horizontalAdvance(tr("Not found")),
