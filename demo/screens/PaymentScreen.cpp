@@ -127,7 +127,7 @@ void PaymentScreen::FillPrinters() {
     // All but the spool queue and files
     const auto printers = TheDesk().Library().GetPrintersCollectionFiltered(true, true);
     QStringList names;
-    for (const auto& printer : *printers) {
+    for (const auto& printer : printers) {
         names << halvek::ToQString(printer->PrinterDescription()).replace(':', ';');
     }
     TheDesk().Library().FillCombo(names.join(':'), halvek::AsComboBox(printer_));
