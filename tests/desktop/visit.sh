@@ -33,6 +33,7 @@ click() {
 open_desk() {
     practice=$work/$1 calls=$work/$1.calls
     shift
+    rm -f "$calls"
     start "$demo" --data "$practice" --calls "$calls" --palette light "$@"
     client=$!
     wait_for_window "Front Desk"
@@ -92,10 +93,7 @@ kill_client
 is_paid
 
 # What was posted is there again, and a second patient by search, look-up, calendar and full keys
-start "$demo" --data "$practice" --calls "$calls" --palette dark
-client=$!
-wait_for_window "Front Desk"
-main=$window
+open_desk clicks.db --palette dark
 keys d u b o i s comma space f r a n Return
 wait_until "the account opens" called 'AddItem("ACCOUNT", 10204)'
 keys ctrl+3
