@@ -78,6 +78,13 @@ void FindBar::Close() {
     text_.widget->setFocus(Qt::OtherFocusReason);
 }
 
+void FindBar::FindFirst(const QString& word) {
+    txtFind_->setText(word);
+    QTextCursor start = text_.cursor();
+    start.movePosition(QTextCursor::Start);
+    ShowOutcome(FindFrom(start, false));
+}
+
 /// Searches from the start of the place found, so it stays found while the word grows.
 void FindBar::FindTyped() {
     QTextCursor cursor = text_.cursor();

@@ -37,6 +37,10 @@ class FindBar : public QWidget {
     /// Hides the bar and gives the keyboard to the text.
     void Close();
 
+    /// Goes to the first place of a word, which the bar then holds; neither shows the bar nor takes
+    /// the keyboard.
+    void FindFirst(const QString& word);
+
     /// Goes to the next place, or the one before, and on at the other end of the text; opens the
     /// bar when there is nothing to find yet.
     void Find(bool backwards);
