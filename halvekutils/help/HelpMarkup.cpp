@@ -24,6 +24,11 @@ constexpr int kMaxPictures = 500;
 // Layout time doubles with each table inside a table, and is quadratic in the depth of others.
 constexpr std::size_t kDeepestTable = 5;
 constexpr std::size_t kDeepest = 60;
+// The layout of one paragraph is quadratic in its length, and in that of the texts beside a
+// picture.
+constexpr std::size_t kMaxParagraph = 5000;
+constexpr int kMaxFloats = 20;
+constexpr int kMaxFloatWidth = 250;
 
 enum class Kind {
     Unknown,  ///< its tags are left out, its content stays
@@ -244,10 +249,53 @@ class Copy {
 
     void AddText() {
         if (isInNoFrames_ && hasFrames_) return;
-        const std::size_t before = page_.html.size();
-        AppendHelpText(page_.html, tokens_.Text().substr(0, kMaxLength - length_), marks_);
-        length_ += page_.html.size() - before;
+        std::u16string_view text = tokens_.Text().substr(0, kMaxLength - length_);
+        while (!text.empty()) {
+            const std::u16string_view part = PartOf(text);
+            const std::size_t before = page_.html.size();
+            AppendHelpText(page_.html, part, marks_);
+            length_ += page_.html.size() - before;
+            paragraph_ += part.size();
+            text.remove_prefix(part.size());
+        }
     }
+
+    /// As much of the text as the paragraph still takes; starts another one when it takes no more.
+    std::u16string_view PartOf(std::u16string_view text) {
+        if (paragraph_ >= kMaxParagraph) {
+            page_.html += u"<p style=\"margin:0\">";
+            paragraph_ = 0;
+        }
+        const std::size_t room = kMaxParagraph - paragraph_;
+        if (text.size() <= room) return text;
+        const std::size_t blank = text.find_last_of(u" \n", room);
+        if (blank != std::u16string_view::npos && blank > room / 2)
+            return text.substr(0, blank + 1);
+        // Neither pairs nor references are cut.
+        std::size_t end = room;
+        const std::size_t reference = text.substr(0, end).find_last_of(u"&;");
+        if (reference != std::u16string_view::npos && text[reference] == u'&' &&
+            end - reference < 12 && reference > 0) {
+            end = reference;
+        }
+        if (end > 1 && text[end] >= 0xDC00 && text[end] <= 0xDFFF) --end;
+        return text.substr(0, end);
+    }
+
+    /// Tags take part in the length of a paragraph, unless they end it.
+    void CountTag(const Element& element) {
+        static constexpr std::u16string_view kEnding[] = {
+            u"p",  u"div", u"li", u"td", u"th", u"tr", u"h1", u"h2",    u"h3",
+            u"h4", u"h5",  u"h6", u"ul", u"ol", u"dd", u"dt", u"table",
+        };
+        constexpr std::size_t kOfTag = 10;
+        paragraph_ += kOfTag;
+        if (!IsShown(element)) return;
+        if (std::ranges::count(kEnding, ShownAs(element)) > 0) paragraph_ = 0;
+    }
+
+    /// Cells outside of tables are not.
+    bool IsShown(const Element& element) { return element.kind != Kind::Cell || IsInTable(); }
 
     void AddTag() {
         const Element element = ElementOf(tokens_.Name());
@@ -311,9 +359,17 @@ class Copy {
         }
         if (nests) open_.push_back(element.name);
         if (isTable) tables_.push_back({});
+        CountTag(element);
         (page_.html += u'<') += ShownAs(element);
-        for (const HtmlAttribute& attribute : tokens_.Attributes()) AddAttribute(attribute);
+        for (const HtmlAttribute& attribute : tokens_.Attributes()) {
+            const bool floats = isTable && EqualFolded(attribute.name, u"align");
+            if (!floats || !IsFloat(attribute.value)) AddAttribute(attribute);
+        }
         page_.html += u'>';
+    }
+
+    static bool IsFloat(std::u16string_view alignment) {
+        return EqualFolded(alignment, u"left") || EqualFolded(alignment, u"right");
     }
 
     void AddEnd(const Element& element) {
@@ -460,13 +516,17 @@ class Copy {
         width = std::clamp(width, 1, kMaxSize);
         if (height == 0) height = static_cast<int>(width * shape);
         height = std::clamp(height, 1, kMaxSize);
+        paragraph_ += 50;
         page_.html += u"<img src=\"" + Escaped(picture->address, std::u16string::npos) + u'?' +
                       Digits(width) + u'x' + Digits(height) + u"\" width=\"" + Digits(width) +
                       u"\" height=\"" + Digits(height) + u'"';
         for (const HtmlAttribute& attribute : attributes) {
-            if (EqualFolded(attribute.name, u"align") || EqualFolded(attribute.name, u"title")) {
-                AddAttribute(attribute);
+            const bool isAlign = EqualFolded(attribute.name, u"align");
+            if (isAlign && IsFloat(attribute.value) &&
+                (width > kMaxFloatWidth || ++floats_ > kMaxFloats)) {
+                continue;
             }
+            if (isAlign || EqualFolded(attribute.name, u"title")) AddAttribute(attribute);
         }
         page_.html += u'>';
     }
@@ -509,6 +569,8 @@ class Copy {
     int marks_ = 0;
     int pictures_ = 0;
     int sheets_ = 0;
+    int floats_ = 0;
+    std::size_t paragraph_ = 0;  ///< the length of the one that is open
     bool hasColours_ = false;
     bool hasFrames_ = false;
     bool isInNoFrames_ = false;

@@ -203,23 +203,14 @@ std::u16string HelpStyle::Value(std::u16string_view written, const Property& pro
 
 std::u16string HelpStyle::Declarations(std::u16string_view written) {
     static constexpr Property kProperties[] = {
-        {u"background", Kind::Colour, true},
-        {u"border", Kind::Length, true},
-        {u"color", Kind::Colour, false},
-        {u"float", Kind::Words, false},
-        {u"font-family", Kind::Words, false},
-        {u"font-size", Kind::Font, false},
-        {u"font", Kind::Font, true},
-        {u"height", Kind::Size, false},
-        {u"line-height", Kind::Line, false},
-        {u"list-style", Kind::Words, true},
-        {u"margin", Kind::Length, true},
-        {u"padding", Kind::Length, true},
-        {u"text-indent", Kind::Length, false},
-        {u"text", Kind::Words, true},
-        {u"vertical-align", Kind::Words, false},
-        {u"white-space", Kind::Words, false},
-        {u"width", Kind::Size, false},
+        {u"background", Kind::Colour, true},  {u"border", Kind::Length, true},
+        {u"color", Kind::Colour, false},      {u"font-family", Kind::Words, false},
+        {u"font-size", Kind::Font, false},    {u"font", Kind::Font, true},
+        {u"height", Kind::Size, false},       {u"line-height", Kind::Line, false},
+        {u"list-style", Kind::Words, true},   {u"margin", Kind::Length, true},
+        {u"padding", Kind::Length, true},     {u"text-indent", Kind::Length, false},
+        {u"text", Kind::Words, true},         {u"vertical-align", Kind::Words, false},
+        {u"white-space", Kind::Words, false}, {u"width", Kind::Size, false},
     };
     constexpr int kMaxDeclarations = 50;
     std::u16string kept;

@@ -18,8 +18,9 @@ const HelpFile& TheHelp() {
 TEST(CompiledHelp, KnowsItsTopicsAndContents) {
     CompiledHelp help(TheHelp().Path());
     EXPECT_EQ(help.TopicOfContext(200)->path, u"/sub/bills.htm");
-    const std::vector<HelpContentsEntry> contents = {
-        {0, u"First", {u"/first.htm", u""}}, {1, u"Bills & fees", {u"/sub/bills.htm", u"late"}}};
+    const std::vector<HelpEntry> contents = {
+        {0, u"First", {u"/first.htm", u""}, {}, {}},
+        {1, u"Bills & fees", {u"/sub/bills.htm", u"late"}, {}, {}}};
     EXPECT_EQ(help.Contents(), contents);
 }
 
