@@ -158,8 +158,9 @@ std::optional<HelpTopic> CompiledHelp::Resolve(TextIn address, TextIn page) cons
     const auto inside = WithinHelpFile(address, fileName);
     if (!inside && !archive_.Has(ParseHelpTopic(address).path)) return std::nullopt;
     const std::u16string_view written = inside ? *inside : std::u16string_view(address);
+    HelpTopic plain = ParseHelpTopic(written);
+    if (plain.path.empty()) return plain;
     const std::vector<HelpTopic> meanings = MeaningsOf(written, FolderOf(page));
-    if (meanings.empty()) return ParseHelpTopic(written);
     for (const HelpTopic& meaning : meanings) {
         if (Has(meaning.path)) return meaning;
     }

@@ -17,7 +17,7 @@ namespace halvek {
 namespace {
 
 constexpr std::size_t kMaxLength = 5'000'000;
-constexpr std::size_t kMaxElements = 150'000;
+constexpr std::size_t kMaxElements = 120'000;
 constexpr std::size_t kMaxCells = 30'000;
 constexpr std::size_t kMaxStyleTrials = 10'000'000;
 constexpr int kMaxPictures = 500;
@@ -33,6 +33,7 @@ constexpr int kMaxFloatWidth = 250;
 enum class Kind {
     Unknown,  ///< its tags are left out, its content stays
     Flat,     ///< its end tag may be missing, or it has none
+    Once,     ///< further ones are left out
     Nested,
     Table,
     Cell,
@@ -61,19 +62,19 @@ constexpr Element kElements[] = {
     {u"b", Kind::Nested},
     {u"big", Kind::Nested},
     {u"blockquote", Kind::Nested},
-    {u"body", Kind::Flat},
+    {u"body", Kind::Once},
     {u"br", Kind::Flat},
     {u"caption", Kind::Nested, u"div"},
     {u"center", Kind::Nested},
     {u"cite", Kind::Nested},
     {u"code", Kind::Nested},
-    {u"dd", Kind::Flat},
+    {u"dd", Kind::Nested},
     {u"del", Kind::Nested, u"s"},
     {u"dfn", Kind::Nested},
     {u"dir", Kind::Nested, u"ul"},
     {u"div", Kind::Nested},
     {u"dl", Kind::Nested},
-    {u"dt", Kind::Flat},
+    {u"dt", Kind::Nested},
     {u"em", Kind::Nested},
     {u"fieldset", Kind::Nested, u"div"},
     {u"font", Kind::Nested},
@@ -85,10 +86,10 @@ constexpr Element kElements[] = {
     {u"h4", Kind::Nested},
     {u"h5", Kind::Nested},
     {u"h6", Kind::Nested},
-    {u"head", Kind::Flat},
+    {u"head", Kind::Once},
     {u"header", Kind::Nested, u"div"},
     {u"hr", Kind::Flat},
-    {u"html", Kind::Flat},
+    {u"html", Kind::Once},
     {u"i", Kind::Nested},
     {u"iframe", Kind::Frame},
     {u"img", Kind::Picture},
@@ -115,12 +116,9 @@ constexpr Element kElements[] = {
     {u"sub", Kind::Nested},
     {u"sup", Kind::Nested},
     {u"table", Kind::Table},
-    {u"tbody", Kind::Flat},
     {u"td", Kind::Cell},
     {u"textarea", Kind::Raw},
-    {u"tfoot", Kind::Flat},
     {u"th", Kind::Cell},
-    {u"thead", Kind::Flat},
     {u"title", Kind::Title},
     {u"tr", Kind::Cell},
     {u"tt", Kind::Nested},
@@ -208,7 +206,7 @@ std::u16string Escaped(std::u16string_view text, std::size_t most) {
                 escaped += u"&quot;";
                 break;
             default:
-                if (character >= u' ') escaped += character;
+                if (character >= u' ' || character == u'\n') escaped += character;
         }
     }
     return escaped;
@@ -342,8 +340,11 @@ class Copy {
     void AddStart(const Element& element) {
         const bool isTable = element.kind == Kind::Table;
         const bool nests = isTable || element.kind == Kind::Nested;
-        // Many pages leave the end of an anchor out, and none stands in another.
-        if (element.name == u"a" && IsOpen(element)) AddEnd(element);
+        // Many pages leave the ends of these out, and none stands in another.
+        for (const std::u16string_view alone : {u"a", u"dd", u"dt"}) {
+            if (element.name == alone && IsOpen(element)) AddEnd(element);
+        }
+        if (element.kind == Kind::Once && Dropped(element)++ > 0) return;
         const bool isTooDeep =
             open_.size() >= kDeepest || (isTable && tables_.size() >= kDeepestTable);
         if (nests && (isTooDeep || (isTable && Dropped(element) > 0))) {
@@ -386,6 +387,7 @@ class Copy {
             open_.pop_back();
             if (isTable) tables_.pop_back();
         } else if (element.kind != Kind::Flat && element.kind != Kind::Cell) {
+            // The ends of a page need not be told.
             return;
         }
         ((page_.html += u"</") += ShownAs(element)) += u'>';
@@ -467,6 +469,7 @@ class Copy {
             case Attribute::Kind::Background:
                 return Escaped(Background(value), std::u16string::npos);
             case Attribute::Kind::Style:
+                elements_ += 2;  // so much it costs
                 return Escaped(style_.Declarations(value), std::u16string::npos);
         }
         return {};
@@ -583,14 +586,9 @@ HelpSurroundings::~HelpSurroundings() = default;
 HelpMarkup CleanedHelpPage(std::u16string_view html, HelpSurroundings& file) {
     HelpMarkup page = Copy(html, file).Result();
     if (!page.isPlain) return page;
-    const std::u16string words = HelpWordsOf(html);
-    page.html = u"<html><body><pre>";
-    int marks = 0;
-    page.isCut = words.size() > kMaxLength;
-    AppendHelpText(page.html, Escaped(std::u16string_view(words).substr(0, kMaxLength), kMaxLength),
-                   marks);
-    page.html += u"</pre></body></html>";
-    page.hasColours = false;
+    const std::u16string words = Escaped(HelpWordsOf(html), kMaxLength);
+    page = Copy(u"<pre>" + words + u"</pre>", file).Result();
+    page.isPlain = true;
     return page;
 }
 
