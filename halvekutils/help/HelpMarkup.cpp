@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::size_t kMaxLength = 5'000'000;
 constexpr std::size_t kMaxElements = 120'000;
-constexpr std::size_t kMaxCells = 30'000;
+constexpr std::size_t kMaxLines = 120'000;
+constexpr std::size_t kMaxCells = 40'000;
 constexpr std::size_t kMaxStyleTrials = 10'000'000;
 constexpr int kMaxPictures = 500;
 // Layout time doubles with each table inside a table, and is quadratic in the depth of others.
@@ -229,7 +230,7 @@ class Copy {
             } else {
                 AddTag();
             }
-            page_.isCut = length_ >= kMaxLength;
+            page_.isCut = length_ >= kMaxLength || lines_ >= kMaxLines;
             if (IsTooIntricate()) {
                 page_.isPlain = true;
                 return std::move(page_);
@@ -248,6 +249,7 @@ class Copy {
     void AddText() {
         if (isInNoFrames_ && hasFrames_) return;
         std::u16string_view text = tokens_.Text().substr(0, kMaxLength - length_);
+        if (std::ranges::count(open_, u"pre") > 0) text = FirstLines(text);
         while (!text.empty()) {
             const std::u16string_view part = PartOf(text);
             const std::size_t before = page_.html.size();
@@ -256,6 +258,15 @@ class Copy {
             paragraph_ += part.size();
             text.remove_prefix(part.size());
         }
+    }
+
+    /// As many lines as the page still takes.
+    std::u16string_view FirstLines(std::u16string_view text) {
+        std::size_t at = text.find(u'\n');
+        while (at != std::u16string_view::npos && ++lines_ < kMaxLines) {
+            at = text.find(u'\n', at + 1);
+        }
+        return text.substr(0, at);
     }
 
     /// As much of the text as the paragraph still takes; starts another one when it takes no more.
@@ -413,7 +424,8 @@ class Copy {
         return false;
     }
 
-    /// A table takes as many cells as its longest row has in each of its rows.
+    /// A table takes as many cells as its longest row has in each of its rows; one in another costs
+    /// twice as much.
     void CountCells(bool isRow) {
         Table& table = tables_.back();
         const auto attributes = tokens_.Attributes();
@@ -429,7 +441,7 @@ class Copy {
             table.rows = std::max(table.rows, span(u"rowspan", 200));
             table.columns = std::max(table.columns, table.inRow);
         }
-        cells_ += table.Cells() - before;
+        cells_ += (table.Cells() - before) << (tables_.size() - 1);
     }
 
     void AddAttribute(const HtmlAttribute& attribute) {
@@ -469,7 +481,7 @@ class Copy {
             case Attribute::Kind::Background:
                 return Escaped(Background(value), std::u16string::npos);
             case Attribute::Kind::Style:
-                elements_ += 2;  // so much it costs
+                ++elements_;  // so much it costs
                 return Escaped(style_.Declarations(value), std::u16string::npos);
         }
         return {};
@@ -567,6 +579,7 @@ class Copy {
     std::vector<Table> tables_;
     std::array<int, std::size(kElements)> dropped_{};
     std::size_t length_ = 0;
+    std::size_t lines_ = 0;
     std::size_t elements_ = 0;
     std::size_t cells_ = 0;
     int marks_ = 0;

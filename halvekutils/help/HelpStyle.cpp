@@ -128,18 +128,18 @@ std::u16string HelpStyle::Number(std::u16string_view& rest, const Property& prop
     const std::u16string unit(rest.substr(0, isPercent ? 1 : EndOfName(rest)));
     rest.remove_prefix(unit.size());
     const bool isRelative = EqualFolded(unit, u"em") || EqualFolded(unit, u"ex");
-    Range range{0, 200};
+    Range range{0, 50};
     if (property.kind == Kind::Words) range = {0, 1000};
     if (property.kind == Kind::Size) range = {0, 4000};
-    if (property.kind == Kind::Font) range = {4, 100};
+    if (property.kind == Kind::Font) range = {4, 48};
     if (property.kind == Kind::Colour) range = {0, 360};
     if (property.start == u"text-indent") range.least = -200;
-    if (isRelative) range = {range.least < 0 ? -10 : 0, 10};
-    if (isPercent) range = {0, property.kind == Kind::Size ? 100 : 400};
+    if (isRelative) range = {range.least < 0 ? -10 : 0, 4};
+    if (isPercent) range = {0, property.kind == Kind::Size ? 100 : 300};
     if (property.kind == Kind::Line) {
-        range = isPercent                    ? Range{50, 400}
-                : unit.empty() || isRelative ? Range{1, 4}
-                                             : Range{6, 200};
+        range = isPercent                    ? Range{50, 250}
+                : unit.empty() || isRelative ? Range{1, 3}
+                                             : Range{6, 100};
     }
     const int value = std::clamp(isNegative ? -whole : whole, range.least, range.most);
     std::u16string result = value < 0 ? u"-" : u"";
@@ -203,14 +203,14 @@ std::u16string HelpStyle::Value(std::u16string_view written, const Property& pro
 
 std::u16string HelpStyle::Declarations(std::u16string_view written) {
     static constexpr Property kProperties[] = {
-        {u"background", Kind::Colour, true},  {u"border", Kind::Length, true},
-        {u"color", Kind::Colour, false},      {u"font-family", Kind::Words, false},
-        {u"font-size", Kind::Font, false},    {u"font", Kind::Font, true},
-        {u"height", Kind::Size, false},       {u"line-height", Kind::Line, false},
-        {u"list-style", Kind::Words, true},   {u"margin", Kind::Length, true},
-        {u"padding", Kind::Length, true},     {u"text-indent", Kind::Length, false},
-        {u"text", Kind::Words, true},         {u"vertical-align", Kind::Words, false},
-        {u"white-space", Kind::Words, false}, {u"width", Kind::Size, false},
+        {u"background", Kind::Colour, true}, {u"border", Kind::Length, true},
+        {u"color", Kind::Colour, false},     {u"font-family", Kind::Words, false},
+        {u"font-size", Kind::Font, false},   {u"font", Kind::Font, true},
+        {u"height", Kind::Size, false},      {u"line-height", Kind::Line, false},
+        {u"list-style", Kind::Words, true},  {u"margin", Kind::Length, true},
+        {u"padding", Kind::Length, true},    {u"text-indent", Kind::Length, false},
+        {u"text", Kind::Words, true},        {u"vertical-align", Kind::Words, false},
+        {u"width", Kind::Size, false},
     };
     constexpr int kMaxDeclarations = 50;
     std::u16string kept;

@@ -58,7 +58,7 @@ TEST(HelpMarkup, KeepsWhatTheLayoutKnowsAndNoMore) {
          "<style>p{color:red;font-family:'/styleimg';}\n</style>"},
         {"<style>@import url(x); @media print{p{color:red}} @media screen{b{color:blue}} "
          "i,u.x{margin:99999px;behavior:url(x)}</style>",
-         "<style>b{color:blue;}\ni,u.x{margin:200px;}\n</style>"},
+         "<style>b{color:blue;}\ni,u.x{margin:50px;}\n</style>"},
         {"<p style='text-indent:-18pt;margin:-5px;line-height:0;width:1e9px;float:left'>x",
          "<p style=\"text-indent:-18pt;margin:0px;line-height:1;width:1e9px;\">x"},
         {"<body background=none.png><p style='background:url(none.png)'>x", "<body><p>x"},
