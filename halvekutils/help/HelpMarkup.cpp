@@ -87,10 +87,8 @@ constexpr Element kElements[] = {
     {u"h4", Kind::Nested},
     {u"h5", Kind::Nested},
     {u"h6", Kind::Nested},
-    {u"head", Kind::Once},
     {u"header", Kind::Nested, u"div"},
     {u"hr", Kind::Flat},
-    {u"html", Kind::Once},
     {u"i", Kind::Nested},
     {u"iframe", Kind::Frame},
     {u"img", Kind::Picture},
@@ -398,7 +396,6 @@ class Copy {
             open_.pop_back();
             if (isTable) tables_.pop_back();
         } else if (element.kind != Kind::Flat && element.kind != Kind::Cell) {
-            // The ends of a page need not be told.
             return;
         }
         ((page_.html += u"</") += ShownAs(element)) += u'>';

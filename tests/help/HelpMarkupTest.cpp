@@ -37,6 +37,8 @@ TEST(HelpMarkup, KeepsWhatTheLayoutKnowsAndNoMore) {
         {"<P CLASS=x onclick='f()'>a <b>b</b></P>", "<p class=\"x\">a <b>b</b></p>"},
         {"<script>alert('<p>')</script>a<!-- <b> -->b<?php x ?>c", "abc"},
         {"<script>open", "open"},
+        {"<html><head><title>T</title></head><body>a<body>b</body></html>",
+         "<title>T</title><body>ab"},
         {"a < b && c &amp; &#8364; &#60;b&#62;",
          "a &lt; b &amp;&amp; c &amp; \xE2\x82\xAC &lt;b&gt;"},
         {"<a href='x y.htm'>l</a><a name=n>m<a name=o>n",

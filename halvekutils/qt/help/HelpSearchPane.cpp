@@ -38,6 +38,7 @@ HelpSearchPane::HelpSearchPane()
     lstFound_->setObjectName(QLatin1String("lstFound"));
     lstFound_->setAccessibleName(tr("Pages found"));
     lstFound_->setWordWrap(true);
+    lstFound_->setSpacing(2);
     lstFound_->setTextElideMode(Qt::ElideNone);
     lstFound_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstFound_->setResizeMode(QListView::Adjust);
