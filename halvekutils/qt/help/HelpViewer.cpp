@@ -24,11 +24,13 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <iterator>
@@ -65,6 +67,7 @@ void TakeOut(QWindow& lower, QWindow* window) {
 
 HelpViewer::HelpViewer()
     : browser_(new HelpBrowser),
+      columns_(new QSplitter),
       panes_(new QTabWidget),
       contents_(new HelpEntryTree("trvContents", tr("Contents"))),
       index_(new HelpIndexPane),
@@ -84,19 +87,17 @@ HelpViewer::HelpViewer()
          {static_cast<QWidget*>(browser_), notice_, static_cast<QWidget*>(find_)}) {
         pageColumn->addWidget(part);
     }
-    auto* const columns = new QSplitter;
-    columns->addWidget(panes_);
-    columns->addWidget(page);
-    columns->setStretchFactor(1, 1);
-    columns->setSizes({kContentsWidth, kOrdinarySize.width() - kContentsWidth});
-    columns->setChildrenCollapsible(false);
+    columns_->addWidget(panes_);
+    columns_->addWidget(page);
+    columns_->setStretchFactor(1, 1);
+    columns_->setChildrenCollapsible(false);
     setContextMenuPolicy(Qt::NoContextMenu);  // would hide the tools
     MakeTools();
     auto* const body = new QWidget;
     auto* const rows = new QVBoxLayout(body);
     const int margin = design::Margin();
     rows->setContentsMargins(margin, 0, margin, margin);
-    rows->addWidget(columns);
+    rows->addWidget(columns_);
     setCentralWidget(body);
     setTabOrder(panes_, browser_);
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
@@ -290,6 +291,7 @@ void HelpViewer::BringForward() {
         if (!testAttribute(Qt::WA_Moved)) {
             resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
             move(CentredPlace(size(), CurrentOwner()).topLeft());
+            ShareWidth();
         }
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -346,9 +348,18 @@ void HelpViewer::keyPressEvent(QKeyEvent* event) {
 void HelpViewer::MakePanes() {
     panes_->setObjectName(QLatin1String("tabPanes"));
     panes_->setDocumentMode(true);
+    panes_->setUsesScrollButtons(false);
+    panes_->setElideMode(Qt::ElideRight);
     panes_->addTab(contents_, tr("Contents"));
     panes_->addTab(index_, tr("Index"));
     panes_->addTab(search_, tr("Search"));
+}
+
+/// The panes get what their tabs need, the page the larger part of a small window.
+void HelpViewer::ShareWidth() {
+    const int wanted = std::max(kContentsWidth, panes_->tabBar()->sizeHint().width());
+    const int panes = std::min(wanted, width() * 2 / 5);
+    columns_->setSizes({panes, width() - panes});
 }
 
 void HelpViewer::ConnectPanes() {

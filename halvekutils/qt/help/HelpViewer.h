@@ -15,6 +15,7 @@
 
 class QAction;
 class QLabel;
+class QSplitter;
 class QTabWidget;
 
 namespace halvek {
@@ -70,6 +71,7 @@ class HelpViewer : public QMainWindow {
     void MakePanes();
     void ConnectPanes();
     void FillPanes();
+    void ShareWidth();
     void TurnTo(QWidget* pane);
     HelpTopic Shown() const;
     void Follow(const QUrl& link);
@@ -83,6 +85,7 @@ class HelpViewer : public QMainWindow {
     QMetaObject::Connection ownerHides_;
     std::shared_ptr<CompiledHelp> help_;
     HelpBrowser* browser_;
+    QSplitter* columns_;
     QTabWidget* panes_;
     HelpEntryTree* contents_;
     HelpIndexPane* index_;
