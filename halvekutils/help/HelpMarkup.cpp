@@ -25,6 +25,7 @@ constexpr int kMaxPictures = 500;
 // Layout time doubles with each table inside a table, and is quadratic in the depth of others.
 constexpr std::size_t kDeepestTable = 5;
 constexpr std::size_t kDeepest = 60;
+constexpr std::size_t kNone = std::u16string_view::npos;
 // The layout of one paragraph is quadratic in its length, and in that of the texts beside a
 // picture.
 constexpr std::size_t kMaxParagraph = 5000;
@@ -246,8 +247,10 @@ class Copy {
 
     void AddText() {
         if (isInNoFrames_ && hasFrames_) return;
+        const bool isBlank = tokens_.Text().find_first_not_of(u" \t\r\n") == kNone;
+        if (!isBlank) OpenCell();
         std::u16string_view text = tokens_.Text().substr(0, kMaxLength - length_);
-        if (std::ranges::count(open_, u"pre") > 0) text = FirstLines(text);
+        if (std::ranges::count(open_, u"pre", &Element::name) > 0) text = FirstLines(text);
         while (!text.empty()) {
             const std::u16string_view part = PartOf(text);
             const std::size_t before = page_.html.size();
@@ -261,7 +264,7 @@ class Copy {
     /// As many lines as the page still takes.
     std::u16string_view FirstLines(std::u16string_view text) {
         std::size_t at = text.find(u'\n');
-        while (at != std::u16string_view::npos && ++lines_ < kMaxLines) {
+        while (at != kNone && ++lines_ < kMaxLines) {
             at = text.find(u'\n', at + 1);
         }
         return text.substr(0, at);
@@ -276,13 +279,12 @@ class Copy {
         const std::size_t room = kMaxParagraph - paragraph_;
         if (text.size() <= room) return text;
         const std::size_t blank = text.find_last_of(u" \n", room);
-        if (blank != std::u16string_view::npos && blank > room / 2)
-            return text.substr(0, blank + 1);
+        if (blank != kNone && blank > room / 2) return text.substr(0, blank + 1);
         // Neither pairs nor references are cut.
         std::size_t end = room;
         const std::size_t reference = text.substr(0, end).find_last_of(u"&;");
-        if (reference != std::u16string_view::npos && text[reference] == u'&' &&
-            end - reference < 12 && reference > 0) {
+        if (reference != kNone && text[reference] == u'&' && end - reference < 12 &&
+            reference > 0) {
             end = reference;
         }
         if (end > 1 && text[end] >= 0xDC00 && text[end] <= 0xDFFF) --end;
@@ -297,12 +299,8 @@ class Copy {
         };
         constexpr std::size_t kOfTag = 10;
         paragraph_ += kOfTag;
-        if (!IsShown(element)) return;
         if (std::ranges::count(kEnding, ShownAs(element)) > 0) paragraph_ = 0;
     }
-
-    /// Cells outside of tables are not.
-    bool IsShown(const Element& element) { return element.kind != Kind::Cell || IsInTable(); }
 
     void AddTag() {
         const Element element = ElementOf(tokens_.Name());
@@ -347,32 +345,66 @@ class Copy {
 
     /// Elements that are nested too deep lose their tags.
     void AddStart(const Element& element) {
+        if (element.kind == Kind::Once && Dropped(element)++ > 0) return;
+        if (element.kind == Kind::Cell) {
+            AddCell(element);
+            return;
+        }
         const bool isTable = element.kind == Kind::Table;
         const bool nests = isTable || element.kind == Kind::Nested;
         // Many pages leave the ends of these out, and none stands in another.
         for (const std::u16string_view alone : {u"a", u"dd", u"dt"}) {
-            if (element.name == alone && IsOpen(element)) AddEnd(element);
+            if (element.name == alone) AddEnd(element);
         }
-        if (element.kind == Kind::Once && Dropped(element)++ > 0) return;
         const bool isTooDeep =
             open_.size() >= kDeepest || (isTable && tables_.size() >= kDeepestTable);
         if (nests && (isTooDeep || (isTable && Dropped(element) > 0))) {
             ++Dropped(element);
             return;
         }
-        if (element.kind == Kind::Cell) {
-            if (!IsInTable()) {
-                page_.html += u' ';
-                return;
-            }
-            CountCells(element.name == u"tr");
-        }
-        if (nests) open_.push_back(element.name);
+        OpenCell();
+        Write(element, nests);
         if (isTable) tables_.push_back({});
+    }
+
+    /// Opens what a cell needs around it, and closes what cannot be in it: the text layout makes
+    /// tables in tables of anything else.
+    void AddCell(const Element& element) {
+        if (!IsInTable()) {
+            page_.html += u' ';
+            return;
+        }
+        const bool isRow = element.name == u"tr";
+        const std::size_t row = OpenAt(u"tr");
+        CloseTo(isRow || row == kNone ? OpenAt(u"table") + 1 : row + 1);
+        if (!isRow && row == kNone) AddRow();
+        CountCells(isRow, tokens_.Attributes());
+        Write(element, true);
+    }
+
+    void AddRow() {
+        CountCells(true, {});
+        page_.html += u"<tr>";
+        open_.push_back(ElementOf(u"tr"));
+    }
+
+    /// What stands in a table, but in no cell of it, gets one.
+    void OpenCell() {
+        if (open_.empty() || !IsInTable()) return;
+        if (open_.back().name == u"table") AddRow();
+        if (open_.back().name != u"tr") return;
+        CountCells(false, {});
+        page_.html += u"<td>";
+        open_.push_back(ElementOf(u"td"));
+    }
+
+    void Write(const Element& element, bool nests) {
+        if (nests) open_.push_back(element);
         CountTag(element);
         (page_.html += u'<') += ShownAs(element);
         for (const HtmlAttribute& attribute : tokens_.Attributes()) {
-            const bool floats = isTable && EqualFolded(attribute.name, u"align");
+            const bool floats =
+                element.kind == Kind::Table && EqualFolded(attribute.name, u"align");
             if (!floats || !IsFloat(attribute.value)) AddAttribute(attribute);
         }
         page_.html += u'>';
@@ -383,22 +415,39 @@ class Copy {
     }
 
     void AddEnd(const Element& element) {
-        const bool isTable = element.kind == Kind::Table;
-        const bool nests = isTable || element.kind == Kind::Nested;
+        const bool nests = element.kind == Kind::Table || element.kind == Kind::Nested;
         if (nests && Dropped(element) > 0) {
             --Dropped(element);
-            return;
+        } else if (nests || (element.kind == Kind::Cell && IsInTable())) {
+            const std::size_t at = OpenAt(element.name);
+            if (at != kNone) CloseTo(at);
+        } else if (element.kind == Kind::Flat && tokens_.IsEnd()) {
+            ((page_.html += u"</") += ShownAs(element)) += u'>';
         }
-        if (element.kind == Kind::Cell && !IsInTable()) return;
-        if (nests) {
-            if (!IsOpen(element)) return;
-            while (open_.back() != element.name) open_.pop_back();
+    }
+
+    /// Where the innermost open element of that name is; kNone when none is, or only around the
+    /// cell or the table that is open.
+    std::size_t OpenAt(std::u16string_view name) const {
+        const bool isOfTable = name == u"table" || name == u"tr";
+        for (std::size_t at = open_.size(); at-- > 0;) {
+            const std::u16string_view open = open_[at].name;
+            if (open == name) return at;
+            const bool isCell = open == u"td" || open == u"th";
+            if (open == u"table" || (isCell && !isOfTable)) return kNone;
+        }
+        return kNone;
+    }
+
+    /// Closes the elements from a place on, the innermost first.
+    void CloseTo(std::size_t place) {
+        while (open_.size() > place) {
+            const Element element = open_.back();
             open_.pop_back();
-            if (isTable) tables_.pop_back();
-        } else if (element.kind != Kind::Flat && element.kind != Kind::Cell) {
-            return;
+            if (element.kind == Kind::Table) tables_.pop_back();
+            CountTag(element);
+            ((page_.html += u"</") += ShownAs(element)) += u'>';
         }
-        ((page_.html += u"</") += ShownAs(element)) += u'>';
     }
 
     static std::u16string_view ShownAs(const Element& element) {
@@ -412,20 +461,10 @@ class Copy {
 
     bool IsInTable() { return !tables_.empty() && Dropped(ElementOf(u"table")) == 0; }
 
-    /// True when its end tag would close it: elements around a table are not closed within.
-    bool IsOpen(const Element& element) const {
-        for (auto it = open_.rbegin(); it != open_.rend(); ++it) {
-            if (*it == element.name) return true;
-            if (*it == u"table") return false;
-        }
-        return false;
-    }
-
     /// A table takes as many cells as its longest row has in each of its rows; one in another costs
     /// twice as much.
-    void CountCells(bool isRow) {
+    void CountCells(bool isRow, const std::vector<HtmlAttribute>& attributes) {
         Table& table = tables_.back();
-        const auto attributes = tokens_.Attributes();
         const auto span = [&](std::u16string_view name, int most) {
             return static_cast<std::size_t>(std::max(NumberOf(ValueOf(attributes, name), most), 1));
         };
@@ -469,17 +508,17 @@ class Copy {
                 return number < 0 ? u"" : Digits(number);
             }
             case Attribute::Kind::Size: {
-                const bool isPercent = value.find(u'%') != std::u16string::npos;
+                const bool isPercent = value.find(u'%') != kNone;
                 const int number = NumberOf(value, isPercent ? 100 : known.most);
                 return number < 0 ? u"" : Digits(number) + (isPercent ? u"%" : u"");
             }
             case Attribute::Kind::Link:
-                return Escaped(file_.Link(value), std::u16string::npos);
+                return Escaped(file_.Link(value), kNone);
             case Attribute::Kind::Background:
-                return Escaped(Background(value), std::u16string::npos);
+                return Escaped(Background(value), kNone);
             case Attribute::Kind::Style:
                 ++elements_;  // so much it costs
-                return Escaped(style_.Declarations(value), std::u16string::npos);
+                return Escaped(style_.Declarations(value), kNone);
         }
         return {};
     }
@@ -516,22 +555,24 @@ class Copy {
                                  ? std::nullopt
                                  : file_.PictureAt(ValueOf(attributes, u"src"));
         if (!picture || picture->width < 1 || picture->height < 1) {
+            OpenCell();
             if (!alternative.empty()) page_.html += u"[" + Escaped(alternative, 500) + u"]";
             return;
         }
         int width = std::max(NumberOf(ValueOf(attributes, u"width"), kMaxSize), 0);
         int height = std::max(NumberOf(ValueOf(attributes, u"height"), kMaxSize), 0);
-        if (ValueOf(attributes, u"width").find(u'%') != std::u16string::npos) width = 0;
-        if (ValueOf(attributes, u"height").find(u'%') != std::u16string::npos) height = 0;
+        if (ValueOf(attributes, u"width").find(u'%') != kNone) width = 0;
+        if (ValueOf(attributes, u"height").find(u'%') != kNone) height = 0;
         const double shape = static_cast<double>(picture->height) / picture->width;
         if (width == 0) width = height == 0 ? picture->width : static_cast<int>(height / shape);
         width = std::clamp(width, 1, kMaxSize);
         if (height == 0) height = static_cast<int>(width * shape);
         height = std::clamp(height, 1, kMaxSize);
+        OpenCell();
         paragraph_ += 50;
-        page_.html += u"<img src=\"" + Escaped(picture->address, std::u16string::npos) + u'?' +
-                      Digits(width) + u'x' + Digits(height) + u"\" width=\"" + Digits(width) +
-                      u"\" height=\"" + Digits(height) + u'"';
+        page_.html += u"<img src=\"" + Escaped(picture->address, kNone) + u'?' + Digits(width) +
+                      u'x' + Digits(height) + u"\" width=\"" + Digits(width) + u"\" height=\"" +
+                      Digits(height) + u'"';
         for (const HtmlAttribute& attribute : attributes) {
             const bool isAlign = EqualFolded(attribute.name, u"align");
             if (isAlign && IsFloat(attribute.value) &&
@@ -554,8 +595,9 @@ class Copy {
         }
         if (title.empty()) title = address;
         hasFrames_ = hasFrames_ || isFrame;
+        OpenCell();
         page_.html += isFrame ? u"<p>" : u" ";
-        page_.html += u"<a href=\"" + Escaped(file_.Link(address), std::u16string::npos) + u"\">" +
+        page_.html += u"<a href=\"" + Escaped(file_.Link(address), kNone) + u"\">" +
                       Escaped(title, 500) + u"</a>";
         if (isFrame) page_.html += u"</p>";
     }
@@ -572,7 +614,7 @@ class Copy {
     HelpSurroundings& file_;
     HelpStyle style_;
     HelpMarkup page_;
-    std::vector<std::u16string_view> open_;
+    std::vector<Element> open_;
     std::vector<Table> tables_;
     std::array<int, std::size(kElements)> dropped_{};
     std::size_t length_ = 0;

@@ -50,7 +50,10 @@ TEST(HelpMarkup, KeepsWhatTheLayoutKnowsAndNoMore) {
         {"<img src=none.png alt='A &lt; B'><img src=file:///x.png>", "[A &lt; B]"},
         {"<table border cellpadding=999999 width=90%><tr><td colspan=99999 rowspan=0>x</table>",
          "<table border=\"1\" cellpadding=\"50\" width=\"90%\"><tr><td colspan=\"50\" "
-         "rowspan=\"0\">x</table>"},
+         "rowspan=\"0\">x</td></tr></table>"},
+        {"<table>a</tr><td><b>b<table><td>c</tr></table><tr></b>d</table>e",
+         "<table><tr><td>a</td></tr><tr><td><b>b<table><tr><td>c</td></tr></table></b></td></tr>"
+         "<tr><td>d</td></tr></table>e"},
         {"<td>x</td></table></b>", " x"},
         {"<frameset><frame src=a.htm name=Left><noframes>none</noframes></frameset>",
          "<p><a href=\"at:a.htm\">Left</a></p>"},
