@@ -29,6 +29,7 @@ constexpr std::size_t kNone = std::u16string_view::npos;
 // The layout of one paragraph is quadratic in its length, and in that of the texts beside a
 // picture.
 constexpr std::size_t kMaxParagraph = 5000;
+constexpr std::size_t kMaxUnbroken = 1000;
 constexpr int kMaxFloats = 20;
 constexpr int kMaxFloatWidth = 250;
 
@@ -256,8 +257,8 @@ class Copy {
             const std::size_t before = page_.html.size();
             AppendHelpText(page_.html, part, marks_);
             length_ += page_.html.size() - before;
-            paragraph_ += part.size();
             text.remove_prefix(part.size());
+            paragraph_ = text.empty() ? paragraph_ + part.size() : kMaxParagraph;
         }
     }
 
@@ -281,7 +282,7 @@ class Copy {
         const std::size_t blank = text.find_last_of(u" \n", room);
         if (blank != kNone && blank > room / 2) return text.substr(0, blank + 1);
         // Neither pairs nor references are cut.
-        std::size_t end = room;
+        std::size_t end = std::min(room, kMaxUnbroken);
         const std::size_t reference = text.substr(0, end).find_last_of(u"&;");
         if (reference != kNone && text[reference] == u'&' && end - reference < 12 &&
             reference > 0) {

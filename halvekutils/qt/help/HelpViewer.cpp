@@ -346,13 +346,17 @@ void HelpViewer::keyPressEvent(QKeyEvent* event) {
 }
 
 void HelpViewer::MakePanes() {
+    // Not without a parent while they are in no tab
+    for (QWidget* const pane : {static_cast<QWidget*>(contents_), static_cast<QWidget*>(index_)}) {
+        pane->setParent(panes_);
+        pane->hide();
+    }
     panes_->setObjectName(QLatin1String("tabPanes"));
+    panes_->tabBar()->setObjectName(QLatin1String("tabsPanes"));
+    panes_->addTab(search_, tr("Search"));
     panes_->setDocumentMode(true);
     panes_->setUsesScrollButtons(false);
     panes_->setElideMode(Qt::ElideRight);
-    panes_->addTab(contents_, tr("Contents"));
-    panes_->addTab(index_, tr("Index"));
-    panes_->addTab(search_, tr("Search"));
 }
 
 /// The panes get what their tabs need, the page the larger part of a small window.
@@ -382,16 +386,17 @@ void HelpViewer::FillPanes() {
     contents_->Fill(contents);
     index_->Fill(index);
     search_->SetHelp(help_);
-    panes_->setTabVisible(panes_->indexOf(contents_), !contents.empty());
-    panes_->setTabVisible(panes_->indexOf(index_), !index.empty());
-    panes_->setCurrentWidget(contents.empty() ? static_cast<QWidget*>(search_) : contents_);
+    panes_->clear();
+    if (!contents.empty()) panes_->addTab(contents_, tr("Contents"));
+    if (!index.empty()) panes_->addTab(index_, tr("Index"));
+    panes_->addTab(search_, tr("Search"));
     showContents_->setEnabled(help_ != nullptr);
     showContents_->setChecked(!contents.empty() || !index.empty());
     panes_->setVisible(showContents_->isChecked());
 }
 
 void HelpViewer::TurnTo(QWidget* pane) {
-    if (help_ == nullptr || !panes_->isTabVisible(panes_->indexOf(pane))) return;
+    if (help_ == nullptr || panes_->indexOf(pane) < 0) return;
     showContents_->setChecked(true);
     panes_->show();
     panes_->setCurrentWidget(pane);
