@@ -20,6 +20,7 @@ constexpr std::size_t kMaxLength = 5'000'000;
 constexpr std::size_t kMaxElements = 120'000;
 constexpr std::size_t kMaxLines = 120'000;
 constexpr std::size_t kMaxCells = 40'000;
+constexpr std::size_t kMaxInTables = 3'000'000;
 constexpr std::size_t kMaxStyleTrials = 10'000'000;
 constexpr int kMaxPictures = 500;
 // Layout time doubles with each table inside a table, and is quadratic in the depth of others.
@@ -242,7 +243,7 @@ class Copy {
 
   private:
     bool IsTooIntricate() const {
-        return elements_ > kMaxElements || cells_ > kMaxCells ||
+        return elements_ > kMaxElements || cells_ > kMaxCells || textInTables_ > kMaxInTables ||
                elements_ * style_.Rules() > kMaxStyleTrials;
     }
 
@@ -257,6 +258,7 @@ class Copy {
             const std::size_t before = page_.html.size();
             AppendHelpText(page_.html, part, marks_);
             length_ += page_.html.size() - before;
+            if (!tables_.empty()) textInTables_ += part.size() << tables_.size();
             text.remove_prefix(part.size());
             paragraph_ = text.empty() ? paragraph_ + part.size() : kMaxParagraph;
         }
@@ -622,6 +624,7 @@ class Copy {
     std::size_t lines_ = 0;
     std::size_t elements_ = 0;
     std::size_t cells_ = 0;
+    std::size_t textInTables_ = 0;  ///< each time that it is laid out
     int marks_ = 0;
     int pictures_ = 0;
     int sheets_ = 0;
