@@ -2,11 +2,13 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace halvek {
@@ -17,6 +19,7 @@ constexpr char16_t kEntryEnd = u':';
 constexpr char16_t kFieldEnd = u'\t';
 constexpr std::u16string_view kAllCodesPiece = u" \t *** ALL CODES *** ";
 constexpr std::u16string_view kDeleted = u"1";
+constexpr std::size_t kLongestKept = 64;
 
 /// The field that a text starts with.
 std::u16string_view FirstField(std::u16string_view text) {
@@ -28,11 +31,12 @@ class Piece {
   public:
     void Start(std::size_t start) {
         start_ = flagStart_ = start;
-        codeEnd_ = flagEnd_ = kOpen;
+        codeEnd_ = nameEnd_ = flagEnd_ = kOpen;
         field_ = 1;
     }
     void EndField(std::size_t at) {
         if (field_ == 1) codeEnd_ = at;
+        if (field_ == 2) nameEnd_ = at;
         if (field_ == fields_) flagEnd_ = at;
         ++field_;
         if (field_ == fields_ || fields_ == 0) flagStart_ = at + 1;
@@ -43,12 +47,22 @@ class Piece {
     }
 
     std::size_t Start() const { return start_; }
+    std::size_t End() const { return end_; }
+    /// How many fields the piece has, and how many it should have.
+    std::size_t Fields() const { return field_; }
+    std::size_t ExpectedFields() const { return fields_; }
     std::u16string_view Code(std::u16string_view text) const {
         return text.substr(start_, std::min(codeEnd_, end_) - start_);
     }
+    /// The last of the expected fields, if the piece has that many.
+    std::u16string_view Flag(std::u16string_view text) const {
+        return text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_);
+    }
+    std::size_t DescriptionLength() const {
+        return codeEnd_ == kOpen ? 0 : std::min(nameEnd_, end_) - codeEnd_ - 1;
+    }
     bool IsDeleted(std::u16string_view text) const {
-        return field_ >= fields_ &&
-               text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_) == kDeleted;
+        return field_ >= fields_ && Flag(text) == kDeleted;
     }
 
   private:
@@ -56,6 +70,7 @@ class Piece {
 
     std::size_t start_ = 0;
     std::size_t codeEnd_ = kOpen;
+    std::size_t nameEnd_ = kOpen;
     std::size_t flagStart_ = 0;
     std::size_t flagEnd_ = kOpen;
     std::size_t end_ = 0;
@@ -63,33 +78,117 @@ class Piece {
     std::size_t fields_ = 0;  ///< of the first piece that was not empty; its last field is the flag
 };
 
+/// Remarks on the entries of a list, for a reader with a listener.
+class EntryRemarks {
+  public:
+    EntryRemarks(std::u16string_view text, Remarks& remarks) : text_(text), remarks_(remarks) {
+        remarks_.Begin(text);
+        remarks_.NextRecord();  // the header
+    }
+
+    void On(const Piece& piece) {
+        remarks_.NextRecord();
+        const bool isLast = piece.End() == text_.size();
+        if (piece.Start() != piece.End()) {
+            OnCode(piece.Code(text_));
+            OnFields(piece);
+            OnFlag(piece);
+            if (isLast) Add(RemarkKind::Ignored, 0, piece.End(), kOpenEnd);
+        } else if (!isLast) {
+            Add(RemarkKind::Defaulted, 0, piece.Start(), u"empty entry: a cell without a code");
+        }
+    }
+
+  private:
+    static constexpr std::u16string_view kOpenEnd =
+        u"no colon after the last entry: the total leaves it out";
+
+    void Add(RemarkKind kind, std::size_t field, std::size_t at, std::u16string_view remark) {
+        remarks_.Add(kind, field, text_.substr(at), std::u16string(remark));
+    }
+
+    void OnCode(std::u16string_view code) {
+        const TextIn trimmed = Trimmed(TextIn(code));
+        const auto at = static_cast<std::size_t>(code.data() - text_.data());
+        if (trimmed.empty()) {
+            Add(RemarkKind::Defaulted, 0, at, u"no code: the entry cannot be chosen");
+        } else if (!codes_.Add(trimmed)) {
+            Add(RemarkKind::Doubled, 0, at,
+                u"code " + Quoted(trimmed) + u" is taken: typing it ticks the first");
+        }
+    }
+
+    void OnFields(const Piece& piece) {
+        const std::size_t expected = piece.ExpectedFields();
+        const auto number = [](std::size_t count) {
+            return IntegerText(static_cast<std::int64_t>(count));
+        };
+        if (expected < kUsualFields && !std::exchange(fewFieldsTold_, true)) {
+            Add(RemarkKind::Defaulted, expected, piece.End(),
+                number(expected) + u" fields in an entry: the last is also the deleted flag");
+        }
+        if (piece.Fields() < expected) {
+            Add(RemarkKind::Defaulted, piece.Fields(), piece.End(),
+                number(piece.Fields()) + u" of " + number(expected) + u" fields: not deleted");
+        } else if (piece.Fields() > expected) {
+            Add(RemarkKind::Ignored, expected, piece.End(),
+                u"fields after field " + number(expected - 1) + u" ignored");
+        }
+    }
+
+    void OnFlag(const Piece& piece) {
+        const std::size_t expected = piece.ExpectedFields();
+        if (expected < kUsualFields || piece.Fields() < expected) return;
+        const std::u16string_view flag = piece.Flag(text_);
+        if (flag == u"0" || flag == kDeleted) return;
+        Add(RemarkKind::Defaulted, expected - 1,
+            static_cast<std::size_t>(flag.data() - text_.data()),
+            u"deleted flag " + Quoted(flag) + u" is neither 0 nor 1: not deleted");
+    }
+
+    static constexpr std::size_t kUsualFields = 3;
+
+    std::u16string_view text_;
+    Remarks& remarks_;
+    KeyIndex codes_{KeyCase::Exact};
+    bool fewFieldsTold_ = false;
+};
+
 }  // namespace
 
 SelectionList::SelectionList(std::u16string allValues, bool doNotIncludeDeleted)
+    : SelectionList(std::move(allValues), doNotIncludeDeleted, nullptr) {}
+
+SelectionList::SelectionList(std::u16string allValues, bool doNotIncludeDeleted, Remarks* remarks)
     : values_(std::move(allValues)) {
     if (values_.size() >= std::size_t{std::numeric_limits<std::int32_t>::max()}) {
         throw RuntimeError(Fault::OutOfMemory);
     }
-    ReadEntries(doNotIncludeDeleted);
+    ReadEntries(doNotIncludeDeleted, remarks);
     lastShown_ = std::min(Count(), RowCount() / kRowsPerBand * kColumns);
 }
 
-void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
+void SelectionList::ReadEntries(bool doNotIncludeDeleted, Remarks* remarks) {
     const std::u16string_view text = values_;
     const std::size_t pieces = CountOf(text, kEntryEnd) + 1;
     starts_.reserve(pieces);
+    longest_.reserve(std::min(pieces, kLongestKept));
     if (!doNotIncludeDeleted) deleted_.reserve(pieces);
     starts_.push_back(0);
     if (!doNotIncludeDeleted) deleted_.push_back(false);
     CharacterScan separators(text, kEntryEnd, kFieldEnd);
     Piece piece;
+    std::optional<EntryRemarks> entryRemarks;
+    if (remarks != nullptr) entryRemarks.emplace(text, *remarks);
     const auto readTo = [&](std::size_t end) {
         piece.End(end);
         const bool isDeleted = piece.IsDeleted(text);
+        if (entryRemarks) entryRemarks->On(piece);
         if (doNotIncludeDeleted && isDeleted) return;
         starts_.push_back(static_cast<std::uint32_t>(piece.Start()));
         if (!doNotIncludeDeleted) deleted_.push_back(isDeleted);
         MeasureCode(Trimmed(piece.Code(text)).size());
+        MeasureDescription(piece.DescriptionLength());
     };
     bool inHeader = true;
     for (std::size_t at; (at = separators.Next()) < text.size();) {
@@ -109,12 +208,29 @@ void SelectionList::MeasureCode(std::size_t length) {
     codeCharacters_ += length;
 }
 
+void SelectionList::MeasureDescription(std::size_t length) {
+    if (length == 0) return;
+    if (longest_.size() == kLongestKept) {
+        if (length <= longest_.front().length) return;
+        std::ranges::pop_heap(longest_, IsLonger);
+        longest_.pop_back();
+    }
+    longest_.push_back({length, Count()});
+    std::ranges::push_heap(longest_, IsLonger);
+}
+
+std::vector<std::u16string_view> SelectionList::LongestDescriptions() const {
+    std::vector<std::u16string_view> texts;
+    for (const Length& kept : longest_) texts.push_back(Description(kept.entry));
+    return texts;
+}
+
 void SelectionList::PrepareFind() const {
     if (!index_) index_ = IndexOfCodes();
 }
 
 SelectionList::Index SelectionList::IndexOfCodes() const {
-    Index index;
+    Index index(KeyCase::Exact);
     // A short text with many codes can only repeat a few of them.
     const std::size_t distinct = std::min(codes_, values_.size() / 8);
     index.codes.Reserve(distinct, codeCharacters_);
@@ -131,6 +247,29 @@ std::int32_t SelectionList::Find(std::u16string_view code) const {
     PrepareFind();
     const std::size_t found = index_->codes.Find(code);
     return found == KeyIndex::kNone ? 0 : index_->entries[found];
+}
+
+SelectionList::Index SelectionList::IndexInAnyCase() const {
+    PrepareFind();
+    Index index(KeyCase::Ignored);
+    index.codes.Reserve(index_->entries.size(), codeCharacters_);
+    index.entries.reserve(index_->entries.size());
+    for (const std::int32_t entry : index_->entries) {
+        const std::u16string_view code = TrimmedCode(entry);
+        if (index.codes.Add(code)) {
+            index.entries.push_back(entry);
+        } else {
+            index.entries[index.codes.Find(code)] = 0;
+        }
+    }
+    return index;
+}
+
+std::int32_t SelectionList::FindInAnyCase(std::u16string_view code) const {
+    if (code.empty()) return 0;
+    if (!anyCase_) anyCase_ = IndexInAnyCase();
+    const std::size_t found = anyCase_->codes.Find(code);
+    return found == KeyIndex::kNone ? 0 : anyCase_->entries[found];
 }
 
 std::int32_t SelectionList::RowCount() const {
@@ -150,12 +289,18 @@ std::u16string_view SelectionList::TrimmedCode(std::int32_t entry) const {
     return Trimmed(Code(entry));
 }
 
-std::u16string_view SelectionList::Description(std::int32_t entry) const {
+SelectionList::Texts SelectionList::TextsOf(std::int32_t entry) const {
     std::u16string_view text = From(entry);
-    text.remove_prefix(Code(entry).size());
-    if (!text.starts_with(kFieldEnd)) return {};
+    Texts texts{FirstField(text), {}};
+    text.remove_prefix(texts.code.size());
+    if (!text.starts_with(kFieldEnd)) return texts;
     text.remove_prefix(1);
-    return FirstField(text);
+    texts.description = FirstField(text);
+    return texts;
+}
+
+std::u16string_view SelectionList::Description(std::int32_t entry) const {
+    return TextsOf(entry).description;
 }
 
 bool SelectionList::IsDeleted(std::int32_t entry) const {

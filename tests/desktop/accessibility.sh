@@ -39,7 +39,8 @@ expect_focus "push button|No|focused" Tab
 expect_focus "text|Call|focused" Enter
 expect_focus "text|Selected codes|focused" "@open=list insurance"
 take_step Tab
-expect_focus "table cell|MB, Medicare Part B, selected|focused,checked" Right
+take_step Right
+expect_focus "table cell|MB, Medicare Part B, selected|focused,checked" Left
 take_step Space
 wait_until "a code is reported as no longer selected" \
     shows "table cell|MB, Medicare Part B, not selected|focused"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
@@ -10,12 +11,17 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace halvek {
 
 namespace {
 
 constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 5;
+
+/// How much of the colour of selected texts the ticked entries have, in per cent.
+constexpr int kTint = 22;
 
 /// No cell is wide enough to show more.
 constexpr qsizetype kMaxShown = 500;
@@ -34,10 +40,22 @@ void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const 
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &mark, &painter, mark.widget);
 }
 
+/// A text with its end cut off, or its middle if a text beside it would then read the same.
+QString CutToWidth(const QString& text, const TextsBeside& beside, const QFontMetrics& letters,
+                   int width) {
+    const QString cut = letters.elidedText(text, Qt::ElideRight, width);
+    if (cut == text || !beside) return cut;
+    const bool isAlike = std::ranges::any_of(beside(), [&](const QString& other) {
+        return other != text &&
+               letters.elidedText(other.left(kMaxShown), Qt::ElideRight, width) == cut;
+    });
+    return isAlike ? letters.elidedText(text, Qt::ElideMiddle, width) : cut;
+}
+
 }  // namespace
 
-void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
-                  const QColor& color) {
+void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell, const QColor& color,
+                  const TextsBeside& beside) {
     const QRect inner = area.adjusted(kTextMargin, 0, -kTextMargin, 0);
     const QString text = ToQString(std::u16string_view(cell.text).substr(0, kMaxShown));
     QFont font = ToQFont(cell.font);
@@ -47,7 +65,7 @@ void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
     const bool centred = cell.alignment == SelectCell::Alignment::Centre;
     painter.drawText(
         inner, Qt::AlignVCenter | Qt::TextSingleLine | (centred ? Qt::AlignHCenter : Qt::AlignLeft),
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()));
+        CutToWidth(text, beside, painter.fontMetrics(), inner.width()));
 }
 
 SelectGridDelegate::SelectGridDelegate(const SelectGridModel& model, int descriptionHeight,
@@ -66,6 +84,10 @@ void SelectGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     GuardEvent(u"frmSelectGrid_grdSelection.GetStyleRowCol", [&] {
         painter->save();
         const QPalette& palette = option.palette;
+        if (model_.CellOf(index, 0).checked) {
+            painter->fillRect(option.rect, design::Blended(palette.color(QPalette::Highlight),
+                                                           palette.color(QPalette::Base), kTint));
+        }
         for (int part = 0; part < kParts; ++part) {
             const SelectCell cell = model_.CellOf(index, part);
             const QRect area = PartOf(option.rect, part);
@@ -78,7 +100,8 @@ void SelectGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             if (cell.kind == SelectCell::Kind::Check) {
                 DrawCheckMark(*painter, option, area, cell.checked);
             } else {
-                DrawCellText(*painter, area, cell, text);
+                DrawCellText(*painter, area, cell, text,
+                             [&] { return model_.TextsBeside(index, part); });
             }
         }
         painter->restore();

@@ -72,7 +72,8 @@ HelpViewer::HelpViewer()
       contents_(new HelpEntryTree("trvContents", tr("Contents"))),
       index_(new HelpIndexPane),
       search_(new HelpSearchPane),
-      find_(new FindBar(*browser_, tr("Find in this page"))) {
+      find_(new FindBar(std::make_unique<FindInText<HelpBrowser>>(*browser_),
+                        tr("Find in this page"))) {
     notice_ = MakeNotice();
     setObjectName(QLatin1String("HelpViewer"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -149,9 +150,9 @@ void HelpViewer::MakeTools() {
     MakeAction("actSearch", tr("Search"), QStringLiteral("Ctrl+Shift+F"),
                [this] { TurnTo(search_); });
     MakeAction("actFindNext", tr("Find next"), QStringLiteral("F3; Ctrl+G"),
-               [this] { find_->Find(false); });
+               [this] { find_->FindNext(false); });
     MakeAction("actFindPrevious", tr("Find previous"), QStringLiteral("Shift+F3; Ctrl+Shift+G"),
-               [this] { find_->Find(true); });
+               [this] { find_->FindNext(true); });
     MakeAction("actClose", tr("Close"), QStringLiteral("Ctrl+W"), [this] { close(); });
     back->setIcon(HelpIcon(HelpPicture::Back));
     forward->setIcon(HelpIcon(HelpPicture::Forward));
