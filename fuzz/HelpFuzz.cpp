@@ -14,14 +14,17 @@ using namespace halvek;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     int depth = 0;
-    for (const HelpContentsEntry& entry : ParseHelpContents(HelpTextOf(bytes))) {
+    for (const HelpSitemapEntry& entry : ParseHelpSitemap(HelpTextOf(bytes))) {
         Require(entry.depth <= depth, "no entry skips a level");
         depth = entry.depth + 1;
     }
     const std::u16string path = ParseHelpTopic(FuzzText(data, size)).path;
     Require(path.empty() || path.starts_with(u'/'), "a path starts at the root");
     Require((path + u'/').find(u"/../") == path.npos, "nothing lies above the root");
-    Require(ParseHelpTopic(path).path == path, "a path stays as it was read");
+    Require(ParseHelpTopic(path + u"#").path == path, "a path stays as it was read");
+    for (const HelpTopic& meaning : MeaningsOf(FuzzText(data, size), u"/a/")) {
+        Require((meaning.path + u'/').find(u"/../") == path.npos, "no meaning lies above the root");
+    }
     try {
         LzxDecoder decoder(0x10000);
         for (int frame = 0; frame < 2; ++frame) {

@@ -11,13 +11,14 @@
 #include <algorithm>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace halvek {
 
 namespace {
 
 constexpr std::uint64_t kLargestObject = 0x100'0000;
-constexpr std::uint64_t kLargestDirectory = 0x400'0000;
+constexpr std::uint64_t kLargestDirectory = 0x100'0000;
 constexpr std::size_t kMaxObjects = 200'000;
 constexpr std::uint64_t kFrameLength = LzxDecoder::kFrameLength;
 // The size of a frame that does not compress at all.
@@ -244,6 +245,24 @@ std::u16string HelpArchive::FirstEndingIn(TextIn ending) const {
     return {};
 }
 
+std::vector<std::u16string> HelpArchive::PathsEndingIn(
+    std::initializer_list<std::u16string_view> endings) const {
+    std::vector<std::size_t> numbers;
+    for (std::size_t number = 0; number < paths_.Count(); ++number) {
+        const auto ends = [path = paths_.KeyOf(number)](std::u16string_view ending) {
+            return EndsFolded(path, ending);
+        };
+        if (std::ranges::any_of(endings, ends)) numbers.push_back(number);
+    }
+    std::ranges::stable_sort(numbers, {}, [this](std::size_t number) {
+        return std::pair(objects_[number].compressed, objects_[number].start);
+    });
+    std::vector<std::u16string> paths;
+    paths.reserve(numbers.size());
+    for (const std::size_t number : numbers) paths.emplace_back(paths_.KeyOf(number));
+    return paths;
+}
+
 std::string HelpArchive::Decompressed(std::uint64_t start, std::uint64_t length) {
     Check(LiesIn(start, length, compression_.length), kBadCompression);
     const std::uint64_t spanLength = compression_.framesInSpan * kFrameLength;
@@ -251,36 +270,43 @@ std::string HelpArchive::Decompressed(std::uint64_t start, std::uint64_t length)
     bytes.reserve(static_cast<std::size_t>(length));
     while (bytes.size() < length) {
         const std::uint64_t at = start + bytes.size();
-        const std::string& span = Span(at / spanLength);
-        bytes.append(span, static_cast<std::size_t>(at % spanLength),
+        const std::uint64_t end = std::min(at % spanLength + length - bytes.size(), spanLength);
+        DecompressTo(at / spanLength, end);
+        bytes.append(span_, static_cast<std::size_t>(at % spanLength),
                      static_cast<std::size_t>(length) - bytes.size());
     }
     return bytes;
 }
 
-const std::string& HelpArchive::Span(std::uint64_t number) {
-    if (!span_.empty() && spanNumber_ == number) return span_;
-    span_.clear();
-    std::string decompressed;
-    LzxDecoder decoder(compression_.window);
-    const std::uint64_t first = number * compression_.framesInSpan;
-    for (std::uint64_t i = 0; i < compression_.framesInSpan; ++i) {
-        const std::uint64_t at = (first + i) * kFrameLength;
-        if (at >= compression_.length) break;
-        const std::uint64_t from = compression_.frames[static_cast<std::size_t>(first + i)];
-        const std::uint64_t to = compression_.frames[static_cast<std::size_t>(first + i + 1)];
-        const std::uint64_t length = std::min(kFrameLength, compression_.length - at);
-        try {
-            decompressed += decoder.Frame(BytesAt(compression_.contentStart + from, to - from),
-                                          static_cast<std::size_t>(length));
-        } catch (const RuntimeError&) {
-            Fail(u"an object is damaged");
-        }
+/// Decompresses a span up to a place in it.
+void HelpArchive::DecompressTo(std::uint64_t number, std::uint64_t end) {
+    if (decoder_ == nullptr || spanNumber_ != number) {
+        span_.clear();
+        decoder_ = std::make_unique<LzxDecoder>(compression_.window);
+        spanNumber_ = number;
     }
-    Check(!decompressed.empty(), kBadCompression);
-    span_ = std::move(decompressed);
-    spanNumber_ = number;
-    return span_;
+    try {
+        while (span_.size() < end) DecompressFrame();
+    } catch (...) {
+        decoder_ = nullptr;
+        throw;
+    }
+}
+
+void HelpArchive::DecompressFrame() {
+    const std::uint64_t frame =
+        spanNumber_ * compression_.framesInSpan + span_.size() / kFrameLength;
+    const std::uint64_t at = frame * kFrameLength;
+    Check(at < compression_.length && frame + 1 < compression_.frames.size(), kBadCompression);
+    const std::uint64_t from = compression_.frames[static_cast<std::size_t>(frame)];
+    const std::uint64_t to = compression_.frames[static_cast<std::size_t>(frame) + 1];
+    const std::uint64_t length = std::min(kFrameLength, compression_.length - at);
+    const std::string compressed = BytesAt(compression_.contentStart + from, to - from);
+    try {
+        span_ += decoder_->Frame(compressed, static_cast<std::size_t>(length));
+    } catch (const RuntimeError&) {
+        Fail(u"an object is damaged");
+    }
 }
 
 }  // namespace halvek

@@ -4,11 +4,14 @@
 #include <halvekutils/base/Internal.h>
 #include <halvekutils/base/KeyIndex.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/help/LzxDecoder.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +41,11 @@ class HALVEK_INTERNAL HelpArchive {
     /// The first path, in the directory's order, with this ending; empty when none has it.
     std::u16string FirstEndingIn(TextIn ending) const;
 
+    /// All paths with one of these endings, in the order in which the objects are stored: reading
+    /// them so decompresses no data twice.
+    std::vector<std::u16string> PathsEndingIn(
+        std::initializer_list<std::u16string_view> endings) const;
+
   private:
     struct Object {
         bool compressed = false;
@@ -65,7 +73,8 @@ class HALVEK_INTERNAL HelpArchive {
     void ReadControlData();
     void ReadFrames();
     std::string Decompressed(std::uint64_t start, std::uint64_t length);
-    const std::string& Span(std::uint64_t number);
+    void DecompressTo(std::uint64_t number, std::uint64_t end);
+    void DecompressFrame();
 
     std::filesystem::path file_;
     std::ifstream in_;
@@ -74,8 +83,10 @@ class HALVEK_INTERNAL HelpArchive {
     KeyIndex paths_;
     std::vector<Object> objects_;  ///< in the order of their paths
     Compression compression_;
+    // The span read last, decompressed as far as it was asked for
     std::uint64_t spanNumber_ = 0;
-    std::string span_;  ///< the one read last, decompressed; empty for none
+    std::string span_;
+    std::unique_ptr<LzxDecoder> decoder_;  ///< null for no span
 };
 
 }  // namespace halvek

@@ -2,114 +2,87 @@
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/help/HelpContents.h>
 #include <halvekutils/help/HelpText.h>
+#include <halvekutils/help/HtmlTokens.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
+#include <utility>
 
 namespace halvek {
 
 namespace {
 
 constexpr int kDeepest = 32;
-constexpr std::size_t kMaxEntries = 20'000;
-constexpr char16_t kBlanks[] = u" \t\r\n";
+constexpr std::size_t kMaxEntries = 50'000;
+constexpr std::size_t kMaxPlaces = 200;
 
-/// The tags of a text, one after the other.
-class Tags {
+/// Collects the values of one object.
+class Values {
   public:
-    explicit Tags(std::u16string_view html) : rest_(html) {}
-
-    /// Moves to the next tag; false when there is none.
-    bool Next() {
-        const std::size_t start = rest_.find(u'<');
-        if (start == std::u16string_view::npos) return false;
-        rest_.remove_prefix(start + 1);
-        const std::size_t end = EndOfTag();
-        if (end == std::u16string_view::npos) return false;
-        tag_ = rest_.substr(0, end);
-        rest_.remove_prefix(end + 1);
-        return true;
+    void Start(bool isEntry) {
+        *this = {};
+        isEntry_ = isEntry;
     }
 
-    bool Is(std::u16string_view name) const {
-        return EqualFolded(tag_.substr(0, tag_.find_first_of(kBlanks)), name);
-    }
-
-    /// The value of an attribute; empty when the tag lacks it.
-    std::u16string Value(std::u16string_view name) const {
-        std::u16string_view rest = tag_;
-        while (true) {
-            const std::size_t equals = rest.find(u'=');
-            if (equals == std::u16string_view::npos) return {};
-            const std::u16string_view before = rest.substr(0, equals);
-            const std::size_t last = before.find_last_not_of(kBlanks);
-            const std::size_t blank = before.find_last_of(kBlanks, last);
-            const std::u16string_view found = before.substr(blank + 1, last - blank);
-            rest.remove_prefix(equals + 1);
-            const std::u16string_view value = TakeValue(rest);
-            if (EqualFolded(found, name)) return WithoutReferences(value);
+    void Add(std::u16string_view name, std::u16string value) {
+        if (!isEntry_) return;
+        if (EqualFolded(name, u"Name")) {
+            // The first name is the entry's, each further one that of the place that follows.
+            (entry_.title.empty() ? entry_.title : placeTitle_) = HelpTitleOf(value);
+        } else if (EqualFolded(name, u"Local")) {
+            AddPlace(std::move(value));
+        } else if (EqualFolded(name, u"URL")) {
+            // Beside a place in the file, the same on the network.
+            if (entry_.places.empty()) network_ = std::move(value);
+        } else if (EqualFolded(name, u"See Also")) {
+            entry_.seeAlso = HelpTitleOf(value);
         }
     }
+
+    /// The entry; without a title when there is none.
+    HelpSitemapEntry Take() {
+        if (entry_.places.empty() && !network_.empty()) AddPlace(std::move(network_));
+        isEntry_ = false;
+        return std::move(entry_);
+    }
+
+    bool IsEntry() const { return isEntry_; }
 
   private:
-    /// Where the tag ends: at the first ">" outside quotation marks.
-    std::size_t EndOfTag() const {
-        std::size_t at = 0;
-        while (true) {
-            at = rest_.find_first_of(u"\"'>", at);
-            if (at == std::u16string_view::npos || rest_[at] == u'>') return at;
-            const std::size_t close = rest_.find(rest_[at], at + 1);
-            // A lone mark is text.
-            if (close == std::u16string_view::npos) return rest_.find(u'>', at);
-            at = close + 1;
-        }
+    void AddPlace(std::u16string address) {
+        if (entry_.places.size() >= kMaxPlaces || address.empty()) return;
+        entry_.places.push_back(
+            {placeTitle_.empty() ? entry_.title : placeTitle_, std::move(address)});
     }
 
-    static std::u16string_view TakeValue(std::u16string_view& rest) {
-        rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
-        const bool isQuoted = rest.starts_with(u'"') || rest.starts_with(u'\'');
-        const std::size_t end = isQuoted ? rest.find(rest[0], 1) : rest.find_first_of(kBlanks);
-        const std::u16string_view value = rest.substr(0, end).substr(isQuoted ? 1 : 0);
-        rest.remove_prefix(std::min(end, rest.size()));
-        return value;
-    }
-
-    std::u16string_view rest_;
-    std::u16string_view tag_;
+    bool isEntry_ = false;
+    HelpSitemapEntry entry_;
+    std::u16string placeTitle_;
+    std::u16string network_;
 };
 
 }  // namespace
 
-std::vector<HelpContentsEntry> ParseHelpContents(TextIn html) {
-    std::vector<HelpContentsEntry> entries;
-    HelpContentsEntry entry;
+std::vector<HelpSitemapEntry> ParseHelpSitemap(TextIn html) {
+    std::vector<HelpSitemapEntry> entries;
+    Values values;
     int lists = 0;
-    bool isEntry = false;
-    const auto add = [&] {
-        const int deepest = entries.empty() ? 0 : entries.back().depth + 1;
-        entry.depth = std::clamp(lists - 1, 0, std::min(deepest, kDeepest));
-        if (!entry.title.empty()) entries.push_back(entry);
-    };
-    for (Tags tags(html); tags.Next() && entries.size() < kMaxEntries;) {
-        if (tags.Is(u"ul")) {
+    for (HtmlTokens tokens(html); tokens.Next() && entries.size() < kMaxEntries;) {
+        if (tokens.IsText()) continue;
+        if (tokens.IsStart(u"ul")) {
             ++lists;
-        } else if (tags.Is(u"/ul")) {
+        } else if (tokens.IsEnd(u"ul")) {
             lists = std::max(lists - 1, 0);
-        } else if (tags.Is(u"object")) {
-            isEntry = EqualFolded(tags.Value(u"type"), u"text/sitemap");
-            entry = {};
-        } else if (tags.Is(u"param") && isEntry) {
-            const std::u16string name = tags.Value(u"name");
-            const std::u16string value = tags.Value(u"value");
-            // Of several names and topics, as an index has them, the first counts.
-            if (EqualFolded(name, u"Name") && entry.title.empty()) entry.title = value;
-            if (EqualFolded(name, u"Local") && entry.topic.path.empty()) {
-                entry.topic = ParseHelpTopic(value);
-            }
-        } else if (tags.Is(u"/object") && isEntry) {
-            isEntry = false;
-            add();
+        } else if (tokens.IsStart(u"object")) {
+            values.Start(EqualFolded(ValueOf(tokens.Attributes(), u"type"), u"text/sitemap"));
+        } else if (tokens.IsStart(u"param") && values.IsEntry()) {
+            const auto attributes = tokens.Attributes();
+            values.Add(ValueOf(attributes, u"name"), ValueOf(attributes, u"value"));
+        } else if (tokens.IsEnd(u"object") && values.IsEntry()) {
+            HelpSitemapEntry entry = values.Take();
+            const int deepest = entries.empty() ? 0 : entries.back().depth + 1;
+            entry.depth = std::clamp(lists - 1, 0, std::min(deepest, kDeepest));
+            if (!entry.title.empty()) entries.push_back(std::move(entry));
         }
     }
     return entries;

@@ -45,27 +45,44 @@ class LzxDecoder::Bits {
   public:
     explicit Bits(std::string_view bytes) : bytes_(bytes) {}
 
-    std::uint32_t Next() {
-        const std::size_t byte = next_ / 8 ^ 1;
-        if (byte >= bytes_.size()) Fail();
-        const auto value = static_cast<unsigned char>(bytes_[byte]);
-        return value >> (7 - next_++ % 8) & 1u;
+    /// The next bits, at most 16, without consuming them; zeros stand for those after the end.
+    std::uint32_t Peek(int count) {
+        if (count_ < count) Fill();
+        return static_cast<std::uint32_t>(word_ >> (64 - count));
+    }
+
+    void Skip(int count) {
+        if (count > count_) Fail();
+        word_ <<= count;
+        count_ -= count;
     }
 
     std::uint32_t Read(int count) {
-        std::uint32_t value = 0;
-        while (count-- > 0) value = value << 1 | Next();
+        if (count > 16) {
+            const std::uint32_t high = Read(count - 16);
+            return high << 16 | Read(16);
+        }
+        if (count == 0) return 0;
+        const std::uint32_t value = Peek(count);
+        Skip(count);
         return value;
     }
 
     /// Continues at whole bytes, after at least one bit and at most 16.
-    void ToBytes() { next_ = (next_ / 16 + 1) * 16; }
+    void ToBytes() {
+        Peek(1);
+        if (count_ == 0) Fail();
+        Skip(count_ % 16 == 0 ? 16 : count_ % 16);
+    }
 
+    /// Bytes between words.
     std::string_view Bytes(std::size_t count) {
-        const std::size_t start = next_ / 8;
-        if (start > bytes_.size() || count > bytes_.size() - start) Fail();
-        next_ += count * 8;
-        return bytes_.substr(start, count);
+        next_ -= static_cast<std::size_t>(count_) / 8;
+        word_ = 0;
+        count_ = 0;
+        if (next_ > bytes_.size() || count > bytes_.size() - next_) Fail();
+        next_ += count;
+        return bytes_.substr(next_ - count, count);
     }
 
     std::uint32_t Number() {
@@ -79,11 +96,23 @@ class LzxDecoder::Bits {
     }
 
     /// Skips the byte that fills up a word.
-    void ToWord() { next_ = (next_ + 15) / 16 * 16; }
+    void ToWord() { next_ += next_ % 2; }
 
   private:
+    void Fill() {
+        while (count_ <= 48 && next_ + 1 < bytes_.size()) {
+            const auto low = static_cast<unsigned char>(bytes_[next_]);
+            const auto high = static_cast<unsigned char>(bytes_[next_ + 1]);
+            word_ |= static_cast<std::uint64_t>(high << 8 | low) << (48 - count_);
+            count_ += 16;
+            next_ += 2;
+        }
+    }
+
     std::string_view bytes_;
-    std::size_t next_ = 0;
+    std::size_t next_ = 0;  ///< the byte after those in the word
+    std::uint64_t word_ = 0;
+    int count_ = 0;
 };
 
 template <std::size_t symbols>
@@ -101,19 +130,44 @@ void LzxDecoder::Code<symbols>::Build() {
     for (std::size_t i = 0; i < symbols; ++i) {
         if (lengths[i] != 0) inOrder_[start[lengths[i]]++] = static_cast<std::uint16_t>(i);
     }
+    FillShort();
+}
+
+/// Each word of few bits, with whatever bits follow it.
+template <std::size_t symbols>
+void LzxDecoder::Code<symbols>::FillShort() {
+    short_.fill({});
+    std::size_t at = 0;
+    std::size_t place = 0;
+    for (int length = 1; length <= kShortLength; ++length) {
+        const std::size_t copies = std::size_t{1} << (kShortLength - length);
+        for (int i = 0; i < count_[static_cast<std::size_t>(length)]; ++i, at += copies) {
+            const Word word{inOrder_[place++], static_cast<std::uint16_t>(length)};
+            std::fill_n(short_.begin() + static_cast<std::ptrdiff_t>(at), copies, word);
+        }
+    }
 }
 
 template <std::size_t symbols>
 std::uint32_t LzxDecoder::Code<symbols>::Read(Bits& in) const {
-    std::uint32_t word = 0;
+    const std::uint32_t bits = in.Peek(kMaxLength);
+    const auto [symbol, shortLength] = short_[bits >> (kMaxLength - kShortLength)];
+    if (shortLength != 0) {
+        in.Skip(shortLength);
+        return symbol;
+    }
     std::uint32_t first = 0;  // the first word of this length, and its place in order
     std::uint32_t place = 0;
-    for (std::size_t length = 1; length <= kMaxLength; ++length) {
-        word = word << 1 | in.Next();
+    for (int length = 1; length <= kMaxLength; ++length) {
+        const std::uint32_t word = bits >> (kMaxLength - length);
+        const std::uint32_t count = count_[static_cast<std::size_t>(length)];
         first <<= 1;
-        if (word < first + count_[length]) return inOrder_[place + word - first];
-        first += count_[length];
-        place += count_[length];
+        if (word < first + count) {
+            in.Skip(length);
+            return inOrder_[place + word - first];
+        }
+        first += count;
+        place += count;
     }
     Fail();
 }
@@ -126,19 +180,22 @@ LzxDecoder::LzxDecoder(std::uint32_t window) : window_(window) {
 std::string LzxDecoder::Frame(std::string_view compressed, std::size_t length) {
     Bits in(compressed);
     if (!headerRead_) ReadHeader(in);
-    const std::size_t start = history_.size();
+    ForgetOld();
+    const std::size_t start = size_;
     const std::size_t end = start + length;
-    while (history_.size() < end) {
+    history_.resize(start + kFrameLength);
+    while (size_ < end) {
         if (blockLeft_ == 0) StartBlock(in);
-        const std::size_t before = history_.size();
+        const std::size_t before = size_;
         const std::size_t most = std::min(before + blockLeft_, start + kFrameLength);
         const std::size_t wanted = std::min(most, end);
         if (block_ == Block::Stored) {
-            history_ += in.Bytes(wanted - before);
+            in.Bytes(wanted - before).copy(history_.data() + before, wanted - before);
+            size_ = wanted;
         } else {
             Decode(in, wanted, most);
         }
-        blockLeft_ -= static_cast<std::uint32_t>(history_.size() - before);
+        blockLeft_ -= static_cast<std::uint32_t>(size_ - before);
         if (block_ == Block::Stored && blockLeft_ == 0) in.ToWord();
     }
     std::string frame = history_.substr(start, length);
@@ -146,9 +203,18 @@ std::string LzxDecoder::Frame(std::string_view compressed, std::size_t length) {
     return frame;
 }
 
+/// No match reaches back farther than the window.
+void LzxDecoder::ForgetOld() {
+    if (size_ <= 2 * std::size_t{window_}) return;
+    const std::size_t old = size_ - window_;
+    history_.erase(0, old);
+    forgotten_ += old;
+    size_ -= old;
+}
+
 void LzxDecoder::ReadHeader(Bits& in) {
     headerRead_ = true;
-    if (in.Next() != 0) translatedSize_ = in.Read(32);
+    if (in.Read(1) != 0) translatedSize_ = in.Read(32);
 }
 
 void LzxDecoder::StartBlock(Bits& in) {
@@ -214,10 +280,10 @@ void LzxDecoder::ReadLengths(Bits& in, Code<symbols>& code, std::size_t first, s
 
 /// Decodes until there are `wanted` bytes; a match may run past that, but not past `most`.
 void LzxDecoder::Decode(Bits& in, std::size_t wanted, std::size_t most) {
-    while (history_.size() < wanted) {
+    while (size_ < wanted) {
         const std::uint32_t symbol = main_.Read(in);
         if (symbol < kLiterals) {
-            history_ += static_cast<char>(symbol);
+            history_[size_++] = static_cast<char>(symbol);
         } else {
             Copy(in, static_cast<std::uint32_t>(symbol - kLiterals), most);
         }
@@ -229,10 +295,16 @@ void LzxDecoder::Copy(Bits& in, std::uint32_t symbol, std::size_t most) {
     if (length == kLongLength) length += length_.Read(in);
     length += kShortestMatch;
     const std::size_t offset = MatchOffset(in, symbol / 8);
-    if (offset == 0 || offset > window_ || offset > history_.size()) Fail();
-    if (length > most - history_.size()) Fail();
-    // Byte by byte: a match may overlap what it produces.
-    while (length-- > 0) history_ += history_[history_.size() - offset];
+    if (offset == 0 || offset > window_ || offset > size_) Fail();
+    if (length > most - size_) Fail();
+    char* const to = history_.data() + size_;
+    size_ += length;
+    if (offset >= length) {
+        std::copy_n(to - offset, length, to);
+        return;
+    }
+    // Byte by byte: the match overlaps what it produces.
+    for (std::size_t i = 0; i < length; ++i) to[i] = to[i - offset];
 }
 
 /// The first three slots stand for the offsets used last.
@@ -265,7 +337,7 @@ void LzxDecoder::TranslateCalls(std::string& frame) const {
     constexpr std::size_t kNoCallsAtEnd = 10;
     constexpr char kCall = '\xE8';
     const auto size = static_cast<std::int64_t>(translatedSize_);
-    const auto frameStart = static_cast<std::int64_t>(history_.size() - frame.size());
+    const auto frameStart = static_cast<std::int64_t>(forgotten_ + size_ - frame.size());
     for (std::size_t i = 0; i + kNoCallsAtEnd < frame.size(); ++i) {
         if (frame[i] != kCall) continue;
         const std::int64_t at = frameStart + static_cast<std::int64_t>(i);

@@ -50,11 +50,20 @@ class LzxDecoder {
 
       private:
         static constexpr int kMaxLength = 16;
+        static constexpr int kShortLength = 10;
+        struct Word {
+            std::uint16_t symbol;
+            std::uint16_t length;  ///< 0 for none
+        };
+
+        void FillShort();
 
         std::array<std::uint16_t, kMaxLength + 1> count_{};
         std::array<std::uint16_t, symbols> inOrder_{};
+        std::array<Word, 1 << kShortLength> short_{};  ///< by the bits that come next
     };
 
+    void ForgetOld();
     void ReadHeader(Bits& in);
     void StartBlock(Bits& in);
     void ReadCodes(Bits& in);
@@ -76,7 +85,9 @@ class LzxDecoder {
     Code<kMainSymbols> main_;
     Code<kLengthSymbols> length_;
     Code<kAlignedSymbols> aligned_;
-    std::string history_;
+    std::string history_;        ///< as long as it may become with this frame
+    std::size_t size_ = 0;       ///< how much of it is there
+    std::size_t forgotten_ = 0;  ///< how much came before it
 };
 
 }  // namespace halvek

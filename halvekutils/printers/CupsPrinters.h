@@ -11,7 +11,8 @@ namespace halvek {
 /// The queues of the print scheduler that the workstation is set up to use.
 ///
 /// Asks the scheduler once, at the first call, and answers both calls from its reply. A scheduler
-/// that does not answer within a second counts as absent. Make a new object for each build.
+/// whose whole answer is not there within a second, or is longer than 16 MB, counts as absent; a
+/// queue without a name is left out and logged. Make a new object for each build.
 class CupsPrinters : public PrinterSource {
   public:
     CupsPrinters();

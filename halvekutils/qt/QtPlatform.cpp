@@ -98,6 +98,10 @@ void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {
     frmMessageBox(MakeStockMessage(text, icon, title, *this)).ShowModal();
 }
 
+void QtPlatform::OnOutsideAddress(std::function<bool(TextIn address)> open) {
+    d_->Help().SetOutsideOpener(std::move(open));
+}
+
 void QtPlatform::ShowHelpContext(const std::filesystem::path& file, std::int32_t contextId) {
     d_->Help().ShowContext(file, contextId);
 }

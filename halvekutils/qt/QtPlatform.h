@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 namespace halvek {
@@ -25,6 +26,15 @@ class HALVEK_EXPORT QtPlatform : public Platform {
     /// not enough for widgets) and InvalidArgument off its thread.
     QtPlatform();
     ~QtPlatform() override;
+
+    /// Gives the host the addresses that links of help pages open outside of the help file, when
+    /// the user follows them; a function that returns true has dealt with the address. Without one,
+    /// or when it returns false, the help viewer shows a notice with the address, to copy it.
+    ///
+    /// @code{.cpp}
+    /// desktop.OnOutsideAddress([](TextIn address) { return OpenInBrowser(address); });
+    /// @endcode
+    void OnOutsideAddress(std::function<bool(TextIn address)> open);
 
     std::int32_t TextWidth(TextIn text, const FontSpec& font) const override;
     std::int32_t TextHeight(TextIn text, const FontSpec& font) const override;

@@ -11,6 +11,7 @@
 #include <sys/un.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <cstring>
@@ -92,20 +93,29 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
     EXPECT_TRUE(LogEndsWithFallBack()) << Log();
 }
 
-/// Answers each of a number of connections on a socket once, then hangs up or just hangs.
+/// A socket that answers each connection in its own way, in pieces, for as long as the caller
+/// listens.
 class Impostor {
   public:
-    Impostor(const std::string& socket, std::string_view answer, bool hangsUp)
-        : hangsUp_(hangsUp), listener_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
+    struct Way {
+        std::string_view start;       ///< sent at once
+        std::string_view again = {};  ///< then sent again and again
+        int pause = 0;                ///< milliseconds before each
+        bool hangsUp = false;
+    };
+
+    Impostor(const std::string& socket, const Way& way)
+        : way_(way), listener_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         std::strncpy(address.sun_path, socket.c_str(), sizeof address.sun_path - 1);
         EXPECT_EQ(::bind(listener_, reinterpret_cast<const sockaddr*>(&address), sizeof address),
                   0);
         EXPECT_EQ(::listen(listener_, 8), 0);
-        thread_ = std::thread([this, answer] { Serve(answer); });
+        thread_ = std::thread([this] { Serve(); });
     }
     ~Impostor() {
+        ended_ = true;
         ::shutdown(listener_, SHUT_RDWR);
         thread_.join();
         ::close(listener_);
@@ -115,42 +125,104 @@ class Impostor {
     Impostor& operator=(const Impostor&) = delete;
 
   private:
-    void Serve(std::string_view answer) {
+    static bool Send(int caller, std::string_view bytes) {
+        return ::send(caller, bytes.data(), bytes.size(), MSG_NOSIGNAL) >= 0;
+    }
+
+    void Serve() {
         for (int caller = 0; (caller = ::accept(listener_, nullptr, nullptr)) >= 0;) {
             char request[4096];
-            if (::recv(caller, request, sizeof request, 0) > 0) {
-                ::send(caller, answer.data(), answer.size(), MSG_NOSIGNAL);
-            }
+            if (::recv(caller, request, sizeof request, 0) > 0) Answer(caller);
             waiting_.push_back(caller);
-            if (!hangsUp_) continue;
+            if (!way_.hangsUp) continue;
             ::close(caller);
             waiting_.pop_back();
         }
     }
 
-    bool hangsUp_;
+    void Answer(int caller) {
+        Send(caller, way_.start);
+        while (!way_.again.empty() && !ended_) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(way_.pause));
+            if (!Send(caller, way_.again)) return;
+        }
+    }
+
+    Way way_;
     std::vector<int> waiting_;
     int listener_;
+    std::atomic<bool> ended_ = false;
     std::thread thread_;
 };
 
+constexpr std::string_view kHeader = "HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n";
+constexpr std::string_view kChunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+
 TEST_F(CupsPrintersTest, AnAnswerThatIsNoneCountsAsAFailure) {
-    const std::string_view answers[] = {
-        ""sv,
-        "no print scheduler at all\r\n\r\n"sv,
-        "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n"sv,
-        "HTTP/1.1 100 Continue\r\n\r\n"sv,
-        "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n\2\0\0\0\0\0\0\1\4B\0\x0Cprinter-n"sv,
-        "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n\2\0\5\0\0\0\0\1\3"sv,
+    const Impostor::Way ways[] = {
+        {""sv},
+        {"no print scheduler at all\r\n\r\n"sv},
+        {"HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n"sv},
+        {"HTTP/1.1 426 Upgrade Required\r\n\r\n"sv},
+        {"HTTP/1.1 100 Continue\r\n\r\n"sv},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n\2\0\0\0\0\0\0\1\4B\0\x0Cprinter-n"sv},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n\2\0\5\0\0\0\0\1\3"sv},
+        {"HTTP/1.1 200 OK\r\nContent-Length: -5\r\n\r\n\2\0\0\0\0\0\0\1\3"sv},
+        {kHeader},
+        {kChunked},
+        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nFFFFFFFFFFFFFFFF\r\n"sv},
     };
-    for (std::size_t i = 0; i < 2 * std::size(answers); ++i) {
-        const std::string_view answer = answers[i / 2];
-        const Impostor impostor(folder_ / "socket", answer, i % 2 == 0);
-        EXPECT_EQ(Build(folder_ / "socket"), "") << answer;
-        EXPECT_TRUE(LogEndsWithFallBack()) << answer << Log();
+    for (Impostor::Way way : ways) {
+        for (const bool hangsUp : {true, false}) {
+            way.hangsUp = hangsUp;
+            const Impostor impostor(folder_ / "socket", way);
+            EXPECT_EQ(Build(folder_ / "socket"), "") << way.start;
+            EXPECT_TRUE(LogEndsWithFallBack()) << way.start << Log();
+            std::filesystem::remove(folder_ / "socket");
+            std::filesystem::remove(machine_.ownFolder / "Error.Log");
+        }
+    }
+}
+
+// None of these ends by itself: the test would never end if the client waited for them.
+TEST_F(CupsPrintersTest, AnAnswerWithoutEndIsCutOff) {
+    static const std::string flood = "10000\r\n" + std::string(0x10000, 'x') + "\r\n";
+    const Impostor::Way ways[] = {
+        {"HTTP/1.1 200 OK\r\nX: "sv, "y"sv, 20},
+        {"HTTP/1.1 200 OK\r\n"sv, "X: y\r\n"sv, 0},
+        {"HTTP/1.1 200 OK\r\n"sv, "HTTP/1.1 100 Continue\r\n\r\n"sv, 0},
+        {""sv, "HTTP/1.1 100 Continue\r\n\r\n"sv, 0},
+        {kHeader, "\0"sv, 100},
+        {kHeader, flood, 0},
+        {kChunked, "1\r\nx\r\n"sv, 100},
+        {kChunked, "1\r\nx\r\n"sv, 0},
+        {kChunked, "0"sv, 20},
+        {kChunked, flood, 0},
+        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n8\r\n\2\0\0\0\0\0\0\1\r\n"sv,
+         "A\r\n\4B\0\1a\0\3xyz\r\n"sv, 0},
+    };
+    for (const Impostor::Way& way : ways) {
+        const Impostor impostor(folder_ / "socket", way);
+        EXPECT_EQ(Build(folder_ / "socket"), "") << way.start << way.again.substr(0, 30);
+        EXPECT_TRUE(LogEndsWithFallBack()) << way.again.substr(0, 30) << Log();
         std::filesystem::remove(folder_ / "socket");
         std::filesystem::remove(machine_.ownFolder / "Error.Log");
     }
+}
+
+TEST_F(CupsPrintersTest, LeavesOutAQueueWithoutAName) {
+    const Impostor impostor(folder_ / "socket",
+                            {"HTTP/1.1 200 OK\r\nContent-Length: 66\r\n\r\n\2\0\0\0\0\0\0\1"
+                             "\4E\0\x0A"
+                             "device-uri\0\3a:b"
+                             "\4B\0\x0Cprinter-name\0\2Q1"
+                             "E\0\x0A"
+                             "device-uri\0\3c:d\3"sv});
+    utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
+    EXPECT_EQ(Build(folder_ / "socket"), "1WIN/Q1/c:d/\n");
+    EXPECT_NE(Log().find("print scheduler: queues without a name are left out: 1"),
+              std::string::npos)
+        << Log();
 }
 
 }  // namespace

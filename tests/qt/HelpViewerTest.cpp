@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "tests/HelpFile.h"
+#include "tests/help/MadeHelpFile.h"
 #include "tests/qt/FormTest.h"
 
+#include <halvekutils/base/Utf8.h>
+
 #include <QLabel>
+#include <QListWidget>
+#include <QPrintPreviewWidget>
 #include <QScrollBar>
 #include <QTextBrowser>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <gmock/gmock.h>
 
@@ -66,14 +72,23 @@ TEST_F(HelpViewerTest, FollowsLinksInsideTheFileOnly) {
     EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").text().endsWith("http://example.org/x"));
 }
 
-TEST_F(HelpViewerTest, ShowsLinksOnPaperOnADarkDesktopToo) {
+TEST_F(HelpViewerTest, GivesPaperToPagesWithColoursOnly) {
+    const MadeHelpFile made({{"/a.htm", "<body bgcolor=#FFFFFF><a href=b.htm>Link</a>"},
+                             {"/b.htm", "<p><a href=a.htm>Link</a>"}});
     const QPalette light = QApplication::palette();
     QPalette dark = light;
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::Link, Qt::white);
     QApplication::setPalette(dark);
-    Open(100);
-    EXPECT_TRUE(Page().find(QStringLiteral("Bills")));
-    EXPECT_LT(Page().textCursor().charFormat().foreground().color().lightness(), 100);
+    for (const bool isPaper : {true, false}) {
+        utils_->ShowHelpByTopic(0, isPaper ? u"a.htm" : u"b.htm", made.Path().u16string());
+        EXPECT_TRUE(Page().find(QStringLiteral("Link")));
+        const QColor link = Page().textCursor().charFormat().foreground().color();
+        EXPECT_EQ(link.lightness() < 100, isPaper);
+        EXPECT_EQ(Page().palette().color(QPalette::Base), isPaper ? Qt::white : Qt::black);
+        EXPECT_EQ(Page().palette().color(QPalette::Text), isPaper ? Qt::black : Qt::white);
+    }
     QApplication::setPalette(light);
 }
 
@@ -134,6 +149,112 @@ TEST_F(HelpViewerTest, CutsNoToolInANarrowWindow) {
         const QToolButton& find = Find<QToolButton>(Viewer(), "cmdFind");
         EXPECT_EQ(find.toolButtonStyle() == Qt::ToolButtonIconOnly, width == 420);
     }
+}
+
+/// A page that tries everything to leave its file, beside pages to find.
+MadeHelpFile TryingFile(const std::string& own) {
+    const std::string list = "<li><object type=text/sitemap><param name=Name value=";
+    const std::string tries =
+        "<base href='file:///'><meta http-equiv=refresh content='0;url=file:///etc/passwd'>"
+        "<link rel=stylesheet href='file://" +
+        own + ".css'><style>@import url(" + own +
+        ".css);"
+        "body{background:url(" +
+        own +
+        ")} p{background-image:url('http://example.org/x.png')}"
+        "</style><body background='" +
+        own + "'><img src='" + own + "'><img src='file://" + own +
+        "'><img src=http://example.org/x.png><img src='//example.org/x.png'>"
+        "<img src='../../../../" +
+        own +
+        "'><img src='data:image/png;base64,AAAA'>"
+        "<img src='ms-its:other.chm::/x.png' alt=Other><object data='file:///etc/passwd'></object>"
+        "<iframe src='file:///etc/passwd'></iframe><script src='file:///x.js'>run()</script>"
+        "<a href='javascript:run()' onclick='run()'>Run</a> <embed src=x><applet code=x></applet>"
+        "<qt type=detail>";
+    return MadeHelpFile(
+        {{"/tries.htm", tries},
+         {"/a.htm", "<title>First</title><p>one needle, two <b>need</b>les"},
+         {"/b.htm", "<title>Second</title><p>" + std::string(3000, 'x') + "<p>a needle"},
+         {"/x.hhk", list + "Alpha><param name=Local value=a.htm></object>" + list +
+                        "Beta><param name=Local value=b.htm></object>" + list +
+                        "Gamma><param name='See Also' value=Alpha></object>"},
+         {"/x.hhc", list + "Web><param name=Local value='https://example.org/help'></object>"}});
+}
+
+TEST_F(HelpViewerTest, APageGetsNothingFromOutsideItsFile) {
+    const std::string own = folder_ / "own.png";
+    QImage(3, 3, QImage::Format_RGB32).save(QString::fromStdString(own));
+    WriteFile(own + ".css", "p { color: red }");
+    const MadeHelpFile made = TryingFile(own);
+    EXPECT_TRUE(utils_->ShowHelpByTopic(0, u"tries.htm", made.Path().u16string()));
+    EXPECT_EQ(Page().toPlainText().simplified(), QStringLiteral("[Other] file:///etc/passwd Run"));
+    EXPECT_FALSE(Page().toHtml().contains(QStringLiteral("<img")));
+    EXPECT_FALSE(Page().toHtml().contains(QStringLiteral("background-image")));
+    EXPECT_FALSE(Page().toHtml().contains(QStringLiteral("#ff0000")));
+    ClickLink("passwd");
+    ClickLink("Run");
+    EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").text().endsWith("javascript:run()"));
+    EXPECT_EQ(Page().documentTitle(), QString());
+}
+
+TEST_F(HelpViewerTest, FindsPagesByIndexAndBySearch) {
+    const MadeHelpFile made = TryingFile("/none");
+    utils_->ShowHelpByTopic(0, u"tries.htm", made.Path().u16string());
+    EXPECT_TRUE(Soon([] { return Viewer().isActiveWindow(); }));
+    PressKey(Viewer(), Qt::CTRL | Qt::Key_I);
+    QTest::keyClicks(&Find(Viewer(), "txtIndex"), "be");
+    PressKey(Viewer(), Qt::Key_Return);
+    EXPECT_EQ(Page().documentTitle(), QStringLiteral("Second"));
+    PressKey(Viewer(), Qt::CTRL | Qt::Key_I);
+    QTest::keyClicks(&Find(Viewer(), "txtIndex"), "gam");
+    PressKey(Viewer(), Qt::Key_Down);
+    PressKey(Viewer(), Qt::Key_Return);
+    PressKey(Viewer(), Qt::Key_Return);
+    EXPECT_EQ(Page().documentTitle(), QStringLiteral("First"));
+
+    PressKey(Viewer(), Qt::CTRL | Qt::SHIFT | Qt::Key_F);
+    QTest::keyClicks(&Find(Viewer(), "txtSearch"), "needle");
+    PressKey(Viewer(), Qt::Key_Return);
+    const QLabel& told = Find<QLabel>(Viewer(), "lblSearch");
+    EXPECT_TRUE(Soon([&] { return told.text() == QLatin1String("Found in 2 pages"); }));
+    QListWidget& found = Find<QListWidget>(Viewer(), "lstFound");
+    EXPECT_EQ(found.item(0)->text(), QStringLiteral("First (2)\none needle, two needles"));
+    found.setFocus();
+    found.setCurrentRow(1);
+    PressKey(Viewer(), Qt::Key_Return);
+    EXPECT_EQ(Page().documentTitle(), QStringLiteral("Second"));
+    EXPECT_EQ(Page().textCursor().selectedText(), QStringLiteral("needle"));
+}
+
+TEST_F(HelpViewerTest, AsksTheHostAboutAddressesOutside) {
+    const MadeHelpFile made = TryingFile("/none");
+    std::string asked;
+    desktop_.OnOutsideAddress([&](TextIn address) {
+        asked += ToUtf8(address) + ' ';
+        return address != u"javascript:run()";
+    });
+    utils_->ShowHelpByTopic(0, u"tries.htm", made.Path().u16string());
+    EXPECT_TRUE(Soon([] { return Viewer().isActiveWindow(); }));
+    QTreeWidget& contents = Find<QTreeWidget>(Viewer(), "trvContents");
+    contents.setFocus();
+    contents.setCurrentItem(contents.topLevelItem(0));
+    PressKey(Viewer(), Qt::Key_Return);
+    EXPECT_FALSE(Find<QLabel>(Viewer(), "lblOutside").isVisible());
+    ClickLink("Run");
+    EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").isVisible());
+    EXPECT_EQ(asked, "https://example.org/help javascript:run() ");
+    desktop_.OnOutsideAddress({});
+}
+
+TEST_F(HelpViewerTest, PreviewsThePageThatIsShown) {
+    Open(200);
+    PressKey(Viewer(), Qt::CTRL | Qt::Key_P);
+    const auto preview = [] { return Viewer().findChild<QDialog*>("frmPrintPreview"); };
+    EXPECT_TRUE(Soon([&] { return preview() != nullptr && preview()->isVisible(); }));
+    const auto* const pages = preview()->findChild<QPrintPreviewWidget*>();
+    EXPECT_TRUE(Soon([&] { return pages->pageCount() > 10; }));
+    preview()->close();
 }
 
 }  // namespace

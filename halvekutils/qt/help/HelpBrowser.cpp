@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/help/HelpText.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/help/HelpBrowser.h>
-#include <halvekutils/qt/help/HelpMarkup.h>
-#include <halvekutils/qt/help/HelpPages.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPalette>
 #include <QScrollBar>
 #include <QStyle>
@@ -25,17 +23,12 @@ namespace halvek {
 namespace {
 
 constexpr double kPageMargin = 12;
-constexpr qint64 kMaxPixelsOnPage = 64'000'000;
+constexpr qint64 kMaxPixelsOnPage = 16'000'000;
+constexpr qint64 kMaxPictureTime = 1000;  // milliseconds
+constexpr int kMaxPictureSize = 4000;
 
 QString ContextKey() {
     return QStringLiteral("context");
-}
-
-/// Pages are written for black on white.
-QPalette PaperPalette(QPalette palette) {
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
 }
 
 /// The text engine takes the colour of links from the desktop, which may be dark.
@@ -46,11 +39,9 @@ QString PaperStyle() {
 }  // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
-    setPalette(PaperPalette(palette()));
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);
-    document()->setDefaultStyleSheet(PaperStyle());
 }
 
 HelpBrowser::~HelpBrowser() = default;
@@ -65,13 +56,6 @@ void HelpBrowser::SetHelp(std::shared_ptr<CompiledHelp> help, const std::u16stri
 
 QUrl HelpBrowser::Root() const {
     return QUrl(QStringLiteral("help://file%1/").arg(fileNumber_));
-}
-
-QUrl HelpBrowser::AddressOf(const HelpTopic& topic) const {
-    QUrl address = Root();
-    address.setPath(ToQString(topic.path), QUrl::DecodedMode);
-    if (!topic.anchor.empty()) address.setFragment(ToQString(topic.anchor), QUrl::DecodedMode);
-    return address;
 }
 
 bool HelpBrowser::IsInside(const QUrl& address) const {
@@ -91,29 +75,25 @@ void HelpBrowser::ShowMissingContext(std::int32_t contextId) {
 // files; for a picture it does so even when the result is not a picture.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     const QUrl address = source().resolved(name);
-    switch (type) {
-        case QTextDocument::HtmlResource:
-            return PageAt(address);
-        case QTextDocument::ImageResource:
-            return PictureAt(address);
-        case QTextDocument::StyleSheetResource:
-            return StyleAt(address);
-        default:
-            return QByteArray("");
-    }
+    if (type == QTextDocument::ImageResource) return PictureAt(address);
+    if (type != QTextDocument::HtmlResource) return QByteArray("");
+    pixelsLeft_ = kMaxPixelsOnPage;
+    timeLeft_ = kMaxPictureTime;
+    const HelpPage page = PageAt(address);
+    UsePaper(page.isPaper);
+    return page.html;
 }
 
-QString HelpBrowser::PageAt(const QUrl& address) {
-    pixelsLeft_ = kMaxPixelsOnPage;
+HelpPage HelpBrowser::PageAt(const QUrl& address) {
     if (help_ == nullptr) return UnreadablePage(fault_);
     const QString context = QUrlQuery(address).queryItemValue(ContextKey());
     if (!context.isEmpty()) return MissingContextPage(*help_, context);
     const QString path = address.path(QUrl::FullyDecoded);
     if (!IsInside(address) || !help_->Has(path)) return MissingTopicPage(*help_, path);
-    QString page = UnreadablePage(u"");
+    HelpPage page = UnreadablePage(u"");
     GuardEvent(u"HelpBrowser.PageAt", [&] {
         try {
-            page = SanitizedHtml(PageOf(*help_, path));
+            page = PageOf(*help_, path, Root());
         } catch (const std::exception& caught) {
             page = UnreadablePage(AsRuntimeError(caught).Description());
             throw;
@@ -122,22 +102,35 @@ QString HelpBrowser::PageAt(const QUrl& address) {
     return page;
 }
 
+/// Pages that give colours are written for black on white; others take the desktop's.
+void HelpBrowser::UsePaper(bool isPaper) {
+    QPalette paper;
+    if (isPaper) {
+        paper.setColor(QPalette::Base, Qt::white);
+        paper.setColor(QPalette::Text, Qt::black);
+    }
+    setPalette(paper);
+    document()->setDefaultStyleSheet(isPaper ? PaperStyle() : QString());
+}
+
+/// The size at which the picture is shown follows the "?".
 QImage HelpBrowser::PictureAt(const QUrl& address) {
     QImage picture;
     const QString path = address.path(QUrl::FullyDecoded);
-    if (help_ != nullptr && IsInside(address) && help_->Has(path) && pixelsLeft_ > 0) {
-        picture = Quietly(QImage(), [&] { return PictureOf(help_->Read(path)); });
+    const bool isThere = help_ != nullptr && IsInside(address) && help_->Has(path);
+    if (isThere && pixelsLeft_ > 0 && timeLeft_ > 0) {
+        const QStringList size = address.query().split(QLatin1Char('x'));
+        QSize most(size.value(0).toInt(), size.value(1).toInt());
+        most = most.isEmpty() ? QSize(kMaxPictureSize, kMaxPictureSize)
+                              : (QSizeF(most) * devicePixelRatioF()).toSize();
+        QElapsedTimer timer;
+        timer.start();
+        picture = Quietly(QImage(), [&] { return PictureOf(help_->Read(path), most); });
+        timeLeft_ -= timer.elapsed();
         pixelsLeft_ -= qint64{picture.width()} * picture.height();
     }
     if (!picture.isNull()) return picture;
     return style()->standardIcon(QStyle::SP_FileIcon).pixmap(16).toImage();
-}
-
-QString HelpBrowser::StyleAt(const QUrl& address) {
-    const QString path = address.path(QUrl::FullyDecoded);
-    if (help_ == nullptr || !IsInside(address) || !help_->Has(path)) return QStringLiteral(" ");
-    return Quietly(QStringLiteral(" "),
-                   [&] { return SanitizedHtml(ToQString(HelpTextOf(help_->Read(path)))); });
 }
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <halvekutils/help/CompiledHelp.h>
+#include <halvekutils/qt/help/HelpPages.h>
 
 #include <QTextBrowser>
 #include <QUrl>
@@ -29,7 +30,7 @@ class HelpBrowser : public QTextBrowser {
     void ShowTopic(const HelpTopic& topic) { setSource(AddressOf(topic)); }
     void ShowMissingContext(std::int32_t contextId);
 
-    QUrl AddressOf(const HelpTopic& topic) const;
+    QUrl AddressOf(const HelpTopic& topic) const { return HelpAddressOf(Root(), topic); }
     /// True for an address within the file.
     bool IsInside(const QUrl& address) const;
 
@@ -56,9 +57,9 @@ class HelpBrowser : public QTextBrowser {
 
   private:
     QUrl Root() const;
-    QString PageAt(const QUrl& address);
+    HelpPage PageAt(const QUrl& address);
     QImage PictureAt(const QUrl& address);
-    QString StyleAt(const QUrl& address);
+    void UsePaper(bool isPaper);
     double ScrolledTo() const;
     void ScrollTo(double place);
     void Settle();
@@ -69,7 +70,9 @@ class HelpBrowser : public QTextBrowser {
     int fileNumber_ = 0;
     bool isFirstPage_ = false;  ///< of a file: the way back does not lead to the file before
     int zoom_ = 100;
+    // Of the pictures on the page
     qint64 pixelsLeft_ = 0;
+    qint64 timeLeft_ = 0;
 };
 
 }  // namespace halvek

@@ -77,9 +77,17 @@ void PaintLarger(QPainter& painter) {
     Stroke(painter, Line({13, 9}, {13, 17}), 3);
 }
 
+void PaintPrinter(QPainter& painter) {
+    Fill(painter, Polygon({{4, 12}, {28, 12}, {28, 23}, {4, 23}}));
+    Fill(painter, Polygon({{9, 4}, {23, 4}, {23, 12}, {9, 12}}));
+    Fill(painter, Polygon({{11, 6}, {21, 6}, {21, 12}, {11, 12}}), kPaper);
+    Fill(painter, Polygon({{9, 19}, {23, 19}, {23, 28}, {9, 28}}));
+    Fill(painter, Polygon({{11, 21}, {21, 21}, {21, 26}, {11, 26}}), kPaper);
+}
+
 using Paint = void (*)(QPainter& painter);
-constexpr Paint kPaints[] = {PaintBack, PaintForward, PaintHome,  PaintContents,
-                             PaintLens, PaintSmaller, PaintLarger};
+constexpr Paint kPaints[] = {PaintBack, PaintForward, PaintHome,   PaintContents,
+                             PaintLens, PaintSmaller, PaintLarger, PaintPrinter};
 
 class Engine : public QIconEngine {
   public:

@@ -3,7 +3,11 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/help/HelpBrowser.h>
+#include <halvekutils/qt/help/HelpEntryTree.h>
 #include <halvekutils/qt/help/HelpIcons.h>
+#include <halvekutils/qt/help/HelpIndexPane.h>
+#include <halvekutils/qt/help/HelpPrint.h>
+#include <halvekutils/qt/help/HelpSearchPane.h>
 #include <halvekutils/qt/help/HelpViewer.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
@@ -20,12 +24,13 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStyle>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolButton>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <iterator>
@@ -36,8 +41,7 @@ namespace halvek {
 namespace {
 
 constexpr QSize kOrdinarySize(920, 640);
-constexpr int kContentsWidth = 240;
-constexpr int kAddressRole = Qt::UserRole;
+constexpr int kContentsWidth = 260;
 constexpr std::array kZooms = {50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
 QToolButton* ButtonOf(QAction* action) {
@@ -63,7 +67,11 @@ void TakeOut(QWindow& lower, QWindow* window) {
 
 HelpViewer::HelpViewer()
     : browser_(new HelpBrowser),
-      trvContents_(new QTreeWidget),
+      columns_(new QSplitter),
+      panes_(new QTabWidget),
+      contents_(new HelpEntryTree("trvContents", tr("Contents"))),
+      index_(new HelpIndexPane),
+      search_(new HelpSearchPane),
       find_(new FindBar(std::make_unique<FindInText<HelpBrowser>>(*browser_),
                         tr("Find in this page"))) {
     notice_ = MakeNotice();
@@ -71,9 +79,7 @@ HelpViewer::HelpViewer()
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(tr("Help"));
     browser_->setObjectName(QLatin1String("txtPage"));
-    trvContents_->setObjectName(QLatin1String("trvContents"));
-    trvContents_->setAccessibleName(tr("Contents"));
-    trvContents_->setHeaderHidden(true);
+    MakePanes();
     auto* const page = new QWidget;
     auto* const pageColumn = new QVBoxLayout(page);
     pageColumn->setContentsMargins(0, 0, 0, 0);
@@ -82,38 +88,32 @@ HelpViewer::HelpViewer()
          {static_cast<QWidget*>(browser_), notice_, static_cast<QWidget*>(find_)}) {
         pageColumn->addWidget(part);
     }
-    auto* const columns = new QSplitter;
-    columns->addWidget(trvContents_);
-    columns->addWidget(page);
-    columns->setStretchFactor(1, 1);
-    columns->setSizes({kContentsWidth, kOrdinarySize.width() - kContentsWidth});
-    columns->setChildrenCollapsible(false);
+    columns_->addWidget(panes_);
+    columns_->addWidget(page);
+    columns_->setStretchFactor(1, 1);
+    columns_->setChildrenCollapsible(false);
     setContextMenuPolicy(Qt::NoContextMenu);  // would hide the tools
     MakeTools();
     auto* const body = new QWidget;
     auto* const rows = new QVBoxLayout(body);
     const int margin = design::Margin();
     rows->setContentsMargins(margin, 0, margin, margin);
-    rows->addWidget(columns);
+    rows->addWidget(columns_);
     setCentralWidget(body);
-    setTabOrder(trvContents_, browser_);
+    setTabOrder(panes_, browser_);
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         GuardEvent(u"HelpViewer.Link_Click", [&] { Follow(link); });
     });
     connect(browser_, &HelpBrowser::PageShown, this, [this] {
         GuardEvent(u"HelpViewer.PageShown", [this] {
             notice_->hide();
-            MarkInContents();
+            contents_->Mark(Shown());
             ShowTitle();
         });
     });
     connect(browser_, &HelpBrowser::ZoomAsked, this,
             [this](int step) { GuardEvent(u"HelpViewer.Wheel", [&] { ChangeZoom(step); }); });
-    const auto open = [this](QTreeWidgetItem* item) {
-        GuardEvent(u"HelpViewer.Contents_Click", [&] { GoTo(item); });
-    };
-    connect(trvContents_, &QTreeWidget::itemClicked, this, open);
-    connect(trvContents_, &QTreeWidget::itemActivated, this, open);
+    ConnectPanes();
 }
 
 HelpViewer::~HelpViewer() = default;
@@ -140,10 +140,15 @@ void HelpViewer::MakeTools() {
                    [this] { browser_->forward(); });
     home_ = MakeAction("actHome", tr("Home"), QStringLiteral("Alt+Home"), [this] { GoHome(); });
     showContents_ = MakeAction("actContents", tr("Contents"), QStringLiteral("F9"),
-                               [this] { trvContents_->setVisible(showContents_->isChecked()); });
+                               [this] { panes_->setVisible(showContents_->isChecked()); });
     showContents_->setCheckable(true);
     QAction* const find =
         MakeAction("actFind", tr("Find"), QStringLiteral("Ctrl+F"), [this] { find_->Open(); });
+    QAction* const print =
+        MakeAction("actPrint", tr("Print"), QStringLiteral("Ctrl+P"), [this] { Print(); });
+    MakeAction("actIndex", tr("Index"), QStringLiteral("Ctrl+I"), [this] { TurnTo(index_); });
+    MakeAction("actSearch", tr("Search"), QStringLiteral("Ctrl+Shift+F"),
+               [this] { TurnTo(search_); });
     MakeAction("actFindNext", tr("Find next"), QStringLiteral("F3; Ctrl+G"),
                [this] { find_->FindNext(false); });
     MakeAction("actFindPrevious", tr("Find previous"), QStringLiteral("Shift+F3; Ctrl+Shift+G"),
@@ -154,6 +159,7 @@ void HelpViewer::MakeTools() {
     home_->setIcon(HelpIcon(HelpPicture::Home));
     showContents_->setIcon(HelpIcon(HelpPicture::Contents));
     find->setIcon(HelpIcon(HelpPicture::Find));
+    print->setIcon(HelpIcon(HelpPicture::Print));
     for (QAction* const action : {back, forward}) action->setEnabled(false);
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
@@ -174,7 +180,7 @@ void HelpViewer::MakeTools() {
     const int margin = design::Margin();
     row->setContentsMargins(margin, margin, margin, design::Gap());
     row->setSpacing(design::Gap());
-    for (QAction* const action : {back, forward, home_, showContents_, find}) {
+    for (QAction* const action : {back, forward, home_, showContents_, find, print}) {
         row->addWidget(ButtonOf(action));
     }
     row->addStretch();
@@ -239,8 +245,8 @@ void HelpViewer::ShowContext(const std::filesystem::path& file, std::int32_t con
 }
 
 void HelpViewer::ShowTopic(const std::filesystem::path& file, TextIn topic) {
-    HelpTopic asked = ParseHelpTopic(topic);
     Open(file);
+    HelpTopic asked = help_->TopicOf(topic);
     if (asked.path.empty()) asked.path = help_->DefaultTopic().path;
     ShowPage(asked);
 }
@@ -251,7 +257,7 @@ void HelpViewer::Open(const std::filesystem::path& file) {
     std::exception_ptr fault;
     std::u16string description;
     try {
-        help_ = std::make_shared<CompiledHelp>(file);
+        help_ = std::make_shared<CompiledHelp>(file, DecodedHelpText);
     } catch (const std::exception& caught) {
         fault = std::current_exception();
         description = AsRuntimeError(caught).Description();
@@ -259,7 +265,7 @@ void HelpViewer::Open(const std::filesystem::path& file) {
     browser_->SetHelp(help_, description);
     ShowTitle();
     home_->setEnabled(help_ != nullptr);
-    FillContents();
+    FillPanes();
     if (fault == nullptr) return;
     BringForward();
     std::rethrow_exception(fault);
@@ -286,6 +292,7 @@ void HelpViewer::BringForward() {
         if (!testAttribute(Qt::WA_Moved)) {
             resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
             move(CentredPlace(size(), CurrentOwner()).topLeft());
+            ShareWidth();
         }
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -330,6 +337,8 @@ bool HelpViewer::event(QEvent* event) {
 void HelpViewer::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
         QMainWindow::keyPressEvent(event);
+    } else if (search_->Stop()) {
+        return;
     } else if (find_->isVisible()) {
         find_->Close();
     } else {
@@ -337,71 +346,109 @@ void HelpViewer::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void HelpViewer::FillContents() {
-    trvContents_->clear();
-    std::vector<QTreeWidgetItem*> path;
-    if (help_ != nullptr) {
-        for (const HelpContentsEntry& entry : help_->Contents()) {
-            path.resize(static_cast<std::size_t>(entry.depth));
-            auto* const item =
-                path.empty() ? new QTreeWidgetItem(trvContents_) : new QTreeWidgetItem(path.back());
-            item->setText(0, ToQString(entry.title));
-            item->setToolTip(0, ToToolTip(entry.title));
-            if (!entry.topic.path.empty()) {
-                item->setData(0, kAddressRole, browser_->AddressOf(entry.topic));
-            }
-            path.push_back(item);
-        }
+void HelpViewer::MakePanes() {
+    // Not without a parent while they are in no tab
+    for (QWidget* const pane : {static_cast<QWidget*>(contents_), static_cast<QWidget*>(index_)}) {
+        pane->setParent(panes_);
+        pane->hide();
     }
-    trvContents_->expandToDepth(0);
-    const bool hasContents = trvContents_->topLevelItemCount() > 0;
-    showContents_->setEnabled(hasContents);
-    showContents_->setChecked(hasContents);
-    trvContents_->setVisible(hasContents);
+    panes_->setObjectName(QLatin1String("tabPanes"));
+    panes_->tabBar()->setObjectName(QLatin1String("tabsPanes"));
+    panes_->addTab(search_, tr("Search"));
+    panes_->setDocumentMode(true);
+    panes_->setUsesScrollButtons(false);
+    panes_->setElideMode(Qt::ElideRight);
 }
 
-/// Marks the entry of the page that is shown; prefers the entry of its anchor.
-void HelpViewer::MarkInContents() {
+/// The panes get what their tabs need, the page the larger part of a small window.
+void HelpViewer::ShareWidth() {
+    const int wanted = std::max(kContentsWidth, panes_->tabBar()->sizeHint().width());
+    const int panes = std::min(wanted, width() * 2 / 5);
+    columns_->setSizes({panes, width() - panes});
+}
+
+void HelpViewer::ConnectPanes() {
+    const auto go = [this](const HelpEntry& entry) {
+        GuardEvent(u"HelpViewer.Contents_Click", [&] { GoTo(entry); });
+    };
+    connect(contents_, &HelpEntryTree::Chosen, this, go);
+    connect(index_, &HelpIndexPane::Chosen, this, go);
+    connect(search_, &HelpSearchPane::Chosen, this,
+            [this](const QString& path, const QString& word) {
+                GuardEvent(u"HelpViewer.Found_Click", [&] { GoToFound(path, word); });
+            });
+}
+
+/// A file without contents or index has no tab for them, and without either opens without panes.
+void HelpViewer::FillPanes() {
+    static const std::vector<HelpEntry> none;
+    const auto& contents = help_ == nullptr ? none : help_->Contents();
+    const auto& index = help_ == nullptr ? none : help_->Index();
+    contents_->Fill(contents);
+    index_->Fill(index);
+    search_->SetHelp(help_);
+    panes_->clear();
+    if (!contents.empty()) panes_->addTab(contents_, tr("Contents"));
+    if (!index.empty()) panes_->addTab(index_, tr("Index"));
+    panes_->addTab(search_, tr("Search"));
+    showContents_->setEnabled(help_ != nullptr);
+    showContents_->setChecked(!contents.empty() || !index.empty());
+    panes_->setVisible(showContents_->isChecked());
+}
+
+void HelpViewer::TurnTo(QWidget* pane) {
+    if (help_ == nullptr || panes_->indexOf(pane) < 0) return;
+    showContents_->setChecked(true);
+    panes_->show();
+    panes_->setCurrentWidget(pane);
+    if (pane == index_) index_->TakeKeyboard();
+    if (pane == search_) search_->TakeKeyboard();
+}
+
+HelpTopic HelpViewer::Shown() const {
     const QUrl shown = browser_->source();
-    QTreeWidgetItem* found = nullptr;
-    for (QTreeWidgetItemIterator it(trvContents_); *it != nullptr; ++it) {
-        const QUrl address = (*it)->data(0, kAddressRole).toUrl();
-        if (address.isEmpty() || address.path().compare(shown.path(), Qt::CaseInsensitive) != 0) {
-            continue;
-        }
-        if (address.fragment() == shown.fragment()) {
-            found = *it;
-            break;
-        }
-        if (found == nullptr) found = *it;
-    }
-    trvContents_->setCurrentItem(found);
+    return {shown.path(QUrl::FullyDecoded).toStdU16String(),
+            shown.fragment(QUrl::FullyDecoded).toStdU16String()};
 }
 
 void HelpViewer::Follow(const QUrl& link) {
     const QUrl address = browser_->source().resolved(link);
-    if (!browser_->IsInside(address)) {
-        NoteOutside(link);
-        return;
+    if (browser_->IsInside(address)) {
+        browser_->setSource(address);
+    } else {
+        OpenOutside(link.toString());
     }
-    browser_->setSource(address);
 }
 
-void HelpViewer::NoteOutside(const QUrl& link) {
-    const QString address = link.toString();
+void HelpViewer::OpenOutside(const QString& address) {
+    if (openOutside_ && openOutside_(address)) return;
     notice_->setProperty("address", address);
     lblOutside_->setText(tr("This address is outside of the help and is not opened: %1")
                              .arg(ToQString(TextIn(address).substr(0, 500))));
     notice_->show();
 }
 
-void HelpViewer::GoTo(const QTreeWidgetItem* item) {
-    const QUrl address = item->data(0, kAddressRole).toUrl();
-    if (!address.isEmpty()) Follow(address);
+void HelpViewer::GoTo(const HelpEntry& entry) {
+    if (!entry.outside.empty()) {
+        OpenOutside(ToQString(entry.outside));
+    } else {
+        browser_->setSource(browser_->AddressOf(entry.topic));
+    }
+}
+
+/// Shows the first place of the word; F3 goes to the next.
+void HelpViewer::GoToFound(const QString& path, const QString& word) {
+    browser_->setSource(browser_->AddressOf({path.toStdU16String(), {}}));
+    find_->FindFirst(word);
+}
+
+void HelpViewer::Print() {
+    const QString title = browser_->documentTitle();
+    ShowPrintPreview(this, *browser_->document(), title.isEmpty() ? windowTitle() : title);
 }
 
 void HelpViewer::GoHome() {
-    if (help_ != nullptr) Follow(browser_->AddressOf(help_->DefaultTopic()));
+    if (help_ != nullptr) browser_->setSource(browser_->AddressOf(help_->DefaultTopic()));
 }
 
 void HelpViewer::ChangeZoom(int step) {

@@ -15,15 +15,19 @@
 
 class QAction;
 class QLabel;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QSplitter;
+class QTabWidget;
 
 namespace halvek {
 
 class FindBar;
 class HelpBrowser;
+class HelpEntryTree;
+class HelpIndexPane;
+class HelpSearchPane;
 
-/// The window that shows compiled help: its contents at the left, a page at the right.
+/// The window that shows compiled help: contents, index and search at the left, a page at the
+/// right.
 ///
 /// It is modeless and usable beside whatever the host shows: a modal dialog does not block it. It
 /// opens no address outside its file.
@@ -40,6 +44,10 @@ class HelpViewer : public QMainWindow {
 
     /// The same for a topic as hosts write it; empty for the file's first page.
     void ShowTopic(const std::filesystem::path& file, TextIn topic);
+
+    /// Gets the addresses of links that lead out of the file, when the user follows them; one that
+    /// returns true has dealt with it. Otherwise a notice shows the address.
+    void SetOutsideOpener(std::function<bool(TextIn address)> open) { openOutside_ = open; }
 
   protected:
     bool event(QEvent* event) override;
@@ -60,19 +68,30 @@ class HelpViewer : public QMainWindow {
     void StayAboveDialogs();
     void BelongTo(QWindow* owner);
 
-    void FillContents();
-    void MarkInContents();
+    void MakePanes();
+    void ConnectPanes();
+    void FillPanes();
+    void ShareWidth();
+    void TurnTo(QWidget* pane);
+    HelpTopic Shown() const;
     void Follow(const QUrl& link);
-    void GoTo(const QTreeWidgetItem* item);
+    void GoTo(const HelpEntry& entry);
+    void GoToFound(const QString& path, const QString& word);
+    void Print();
     void GoHome();
     void ChangeZoom(int step);
-    void NoteOutside(const QUrl& link);
+    void OpenOutside(const QString& address);
 
     QMetaObject::Connection ownerHides_;
     std::shared_ptr<CompiledHelp> help_;
     HelpBrowser* browser_;
-    QTreeWidget* trvContents_;
+    QSplitter* columns_;
+    QTabWidget* panes_;
+    HelpEntryTree* contents_;
+    HelpIndexPane* index_;
+    HelpSearchPane* search_;
     FindBar* find_;
+    std::function<bool(TextIn address)> openOutside_;
     QWidget* notice_ = nullptr;
     QWidget* tools_ = nullptr;
     QLabel* lblOutside_ = nullptr;

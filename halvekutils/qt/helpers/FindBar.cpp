@@ -104,6 +104,11 @@ bool FindBar::HasKeyboard() const {
     return focus != nullptr && isAncestorOf(focus);
 }
 
+void FindBar::FindFirst(const QString& word) {
+    txtFind_->setText(word);
+    FindTyped();
+}
+
 void FindBar::FindTyped() {
     target_->Find(txtFind_->text());
     Say(Now());

@@ -32,6 +32,9 @@ class FindBar : public QWidget {
     /// Whether a part of the bar has the keyboard.
     bool HasKeyboard() const;
 
+    /// Finds a word, which the bar then holds, without showing the bar or taking the keyboard.
+    void FindFirst(const QString& word);
+
     /// Goes to the next place, or the one before, and on at the other end; opens the bar when there
     /// is nothing to find yet.
     void FindNext(bool backwards);
