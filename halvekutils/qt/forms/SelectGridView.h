@@ -12,6 +12,7 @@
 namespace halvek {
 
 struct SelectGridLayout;
+class SpokenPicker;
 
 /// Row 0 of the grid: one strip over all columns that accepts the choice when it is clicked.
 class SelectGridHeader : public QHeaderView {
@@ -73,6 +74,7 @@ class SelectGridView : public QTableView {
     SelectGrid& rules_;
     SelectGridModel model_;
     SelectGridHeader* header_;
+    SpokenPicker* spoken_;
     QPersistentModelIndex pressed_;
     QElapsedTimer sinceLetter_;
 };

@@ -112,9 +112,13 @@ QLayout* frmDebug::MakeButtonRow() {
         Tell(console_->KillLogFile(), tr("Deleted %1"));
     });
     const QString file = ToQString(console_->LogFile());
+    const auto explain = [](QPushButton* button, const QString& what) {
+        button->setToolTip(ToToolTip(what));
+        button->setAccessibleDescription(what);  // which would else be the tool tip's markup
+    };
     clear->setToolTip(tr("Clear (F7)"));
-    save->setToolTip(ToToolTip(tr("Adds the lines to %1").arg(file)));
-    kill->setToolTip(ToToolTip(tr("Deletes %1").arg(file)));
+    explain(save, tr("Adds the lines to %1").arg(file));
+    explain(kill, tr("Deletes %1").arg(file));
     design::MakeAlike({clear, save, kill});
     auto* const row = new QHBoxLayout;
     row->setSpacing(design::Gap());

@@ -35,7 +35,7 @@ frmSelectGrid::frmSelectGrid(const std::shared_ptr<SelectGrid>& rules, const Des
       cancelButton_(MakeButton(this, "cmdExit", tr("C&ancel"), tr("Close"))) {
     setWindowTitle(ToWindowTitle(rules_.Caption()));
     setFont(ToQFont(CodeFont()));
-    grid_->setAccessibleName(windowTitle());
+    grid_->setAccessibleName(tr("Codes"));
     grid_->MayTakeFocus = [this] { return MayLeaveBox(); };
     connect(okButton_, &QPushButton::clicked, this,
             [this] { GuardEvent(u"frmSelectGrid.cmdOK_Click", [this] { rules_.Accept(); }); });

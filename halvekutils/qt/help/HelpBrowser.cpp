@@ -7,7 +7,9 @@
 #include <halvekutils/qt/help/HelpPages.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/SpokenNotice.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPalette>
 #include <QScrollBar>
@@ -45,12 +47,15 @@ QString PaperStyle() {
 
 }  // namespace
 
-HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent), notice_(new SpokenNotice(*this)) {
     setPalette(PaperPalette(palette()));
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);
     document()->setDefaultStyleSheet(PaperStyle());
+    connect(this, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
+        GuardEvent(u"HelpBrowser.SayLink", [&] { SayLink(link); });
+    });
 }
 
 HelpBrowser::~HelpBrowser() = default;
@@ -179,10 +184,22 @@ void HelpBrowser::Settle() {
     setWordWrapMode(WrappingOf(toPlainText()).wrapMode());
     const QString title = documentTitle();
     setAccessibleName(title.isEmpty() ? tr("Help page") : title);
+    // Screen readers read along with a caret; for everybody else the arrow keys scroll.
+    setTextInteractionFlags(QAccessible::isActive()
+                                ? Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard
+                                : Qt::TextBrowserInteraction);
     const double place = ScrolledTo();
     ScaleFonts();
     ScrollTo(place);
     emit PageShown();
+}
+
+/// The Tab key selects links one after the other; the pointer only passes over them.
+void HelpBrowser::SayLink(const QUrl& link) {
+    const QTextCursor cursor = textCursor();
+    const QUrl selected = source().resolved(QUrl(cursor.charFormat().anchorHref()));
+    if (!cursor.hasSelection() || selected != source().resolved(link)) return;
+    notice_->Say(tr("Link %1").arg(cursor.selectedText()));
 }
 
 void HelpBrowser::SetZoom(int percent) {

@@ -11,6 +11,8 @@
 
 namespace halvek {
 
+class SpokenNotice;
+
 /// Shows the pages of a compiled help file, and nothing else: whatever a page asks for, only
 /// objects of that file are read.
 ///
@@ -62,6 +64,7 @@ class HelpBrowser : public QTextBrowser {
     double ScrolledTo() const;
     void ScrollTo(double place);
     void Settle();
+    void SayLink(const QUrl& link);
     void ScaleFonts();
 
     std::shared_ptr<CompiledHelp> help_;
@@ -70,6 +73,7 @@ class HelpBrowser : public QTextBrowser {
     bool isFirstPage_ = false;  ///< of a file: the way back does not lead to the file before
     int zoom_ = 100;
     qint64 pixelsLeft_ = 0;
+    SpokenNotice* notice_;
 };
 
 }  // namespace halvek

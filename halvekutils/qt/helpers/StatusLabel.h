@@ -5,6 +5,8 @@
 
 namespace halvek {
 
+class SpokenNotice;
+
 /// A line that says how something went; screen readers say it at once.
 class StatusLabel : public QLabel {
     Q_OBJECT
@@ -13,6 +15,9 @@ class StatusLabel : public QLabel {
     explicit StatusLabel(const char* name, QWidget* parent = nullptr);
 
     void Tell(const QString& text);
+
+  private:
+    SpokenNotice* notice_;
 };
 
 }  // namespace halvek

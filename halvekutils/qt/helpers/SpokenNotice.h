@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace halvek {
+
+class SpokenNoticePart;
+
+/// Says what changes in a window without moving the focus. Screen readers say a notification as
+/// soon as it appears; most ignore a changed description.
+class SpokenNotice : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Belongs to the control that the notices are about, and says them only while it is shown.
+    explicit SpokenNotice(QWidget& about);
+    ~SpokenNotice() override;
+
+    void Say(const QString& text);
+
+  private:
+    QWidget& about_;
+    SpokenNoticePart* last_ = nullptr;  ///< belongs to the desktop's register
+};
+
+}  // namespace halvek
