@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QTextCursor>
@@ -51,6 +52,7 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     : QPlainTextEdit(parent), console_(console) {
     setObjectName(QLatin1String("txtDebug"));
     setAccessibleName(tr("Debug lines"));
+    new FieldOutline(*this);
     setFont(ToQFont({u"Courier New", kPoints, false}));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -127,6 +127,9 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);
     setVerticalHeaderFormat(NoVerticalHeader);
+    for (QToolButton* const button : findChildren<QToolButton*>()) {
+        button->setMinimumHeight(design::kMinTarget);
+    }
     MakeDaysReadable();
     MakeArrow(kPreviousMonth, isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
     MakeArrow(kNextMonth, isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);

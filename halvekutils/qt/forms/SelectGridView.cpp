@@ -5,6 +5,7 @@
 #include <halvekutils/qt/forms/SelectGridView.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/SpokenPicker.h>
@@ -110,6 +111,7 @@ SelectGridView::SelectGridView(SelectGrid& rules, QWidget* parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
+    new FieldOutline(*this);
     setCornerButtonEnabled(false);
     setShowGrid(true);
     setTabKeyNavigation(false);

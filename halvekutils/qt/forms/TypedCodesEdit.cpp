@@ -2,6 +2,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Keys.h>
 
 #include <QKeyEvent>
@@ -23,6 +24,7 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     : QLineEdit(parent), rules_(rules) {
     setObjectName(QLatin1String("txtSelect"));
     setAccessibleName(tr("Selected codes"));
+    new FieldOutline(*this);
     setMaxLength(std::numeric_limits<int>::max());
     connect(this, &QLineEdit::textChanged, this, &TypedCodesEdit::TextEdited);
 }

@@ -74,6 +74,7 @@ QCheckBox* frmDebug::MakeBox(const char* name, const QString& caption,
     auto* const box = new QCheckBox(caption);
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(caption);
+    box->setMinimumHeight(design::kMinTarget);
     connect(box, &QCheckBox::clicked, this, [this, set](bool checked) {
         GuardEvent(u"frmDebug.Check_Click", [&] { ((*console_).*set)(checked); });
     });
@@ -174,7 +175,7 @@ void frmDebug::PlaceInCorner(const Desktop& desktop) {
     const Size added = desktop.FrameSize();
     const QSize frame(TwipsToPixels(added.width), TwipsToPixels(added.height));
     const QRect usable = ToQRect(desktop.ScreenRect());
-    const QSize outer = (kSize + frame).boundedTo(usable.size());
+    const QSize outer = (kSize.expandedTo(minimumSizeHint()) + frame).boundedTo(usable.size());
     resize(outer - frame);
     move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
 }

@@ -9,6 +9,7 @@
 #include <halvekutils/qt/helpers/CloseBox.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
@@ -125,6 +126,7 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
         button->setAutoRepeat(true);
         button->setPalette(colors);
         button->setFocusPolicy(Qt::NoFocus);
+        new FocusRing(*button);
         button->setGeometry(ToQRect(box_->Layout().scrollButtons[static_cast<std::size_t>(i)]));
         button->setVisible(box_->Layout().canScroll);
         connect(button, &QToolButton::clicked, this, [this, i] {

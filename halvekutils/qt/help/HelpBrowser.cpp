@@ -53,9 +53,6 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent), notice_(new Sp
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);
     document()->setDefaultStyleSheet(PaperStyle());
-    connect(this, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
-        GuardEvent(u"HelpBrowser.SayLink", [&] { SayLink(link); });
-    });
 }
 
 HelpBrowser::~HelpBrowser() = default;
@@ -194,12 +191,15 @@ void HelpBrowser::Settle() {
     emit PageShown();
 }
 
-/// The Tab key selects links one after the other; the pointer only passes over them.
-void HelpBrowser::SayLink(const QUrl& link) {
-    const QTextCursor cursor = textCursor();
-    const QUrl selected = source().resolved(QUrl(cursor.charFormat().anchorHref()));
-    if (!cursor.hasSelection() || selected != source().resolved(link)) return;
-    notice_->Say(tr("Link %1").arg(cursor.selectedText()));
+// The Tab key selects links one after the other, which is not a move of the focus.
+bool HelpBrowser::focusNextPrevChild(bool next) {
+    const bool moved = QTextBrowser::focusNextPrevChild(next);
+    GuardEvent(u"HelpBrowser.Tab", [this] {
+        const QTextCursor cursor = textCursor();
+        if (!hasFocus() || !cursor.hasSelection() || !cursor.charFormat().isAnchor()) return;
+        notice_->Say(tr("Link %1").arg(cursor.selectedText()));
+    });
+    return moved;
 }
 
 void HelpBrowser::SetZoom(int percent) {

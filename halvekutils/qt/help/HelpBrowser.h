@@ -55,6 +55,7 @@ class HelpBrowser : public QTextBrowser {
   protected:
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     QUrl Root() const;
@@ -64,7 +65,6 @@ class HelpBrowser : public QTextBrowser {
     double ScrolledTo() const;
     void ScrollTo(double place);
     void Settle();
-    void SayLink(const QUrl& link);
     void ScaleFonts();
 
     std::shared_ptr<CompiledHelp> help_;

@@ -7,7 +7,9 @@
 #include <halvekutils/qt/help/HelpViewer.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QAction>
@@ -45,7 +47,9 @@ QToolButton* ButtonOf(QAction* action) {
     button->setObjectName(QLatin1String("cmd") + action->objectName().mid(3));
     button->setDefaultAction(action);
     button->setAccessibleName(action->text());
+    button->setMinimumHeight(design::kMinTarget);
     button->setFocusPolicy(Qt::StrongFocus);
+    new FocusRing(*button);
     button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
                                                        : Qt::ToolButtonTextBesideIcon);
     return button;
@@ -73,6 +77,10 @@ HelpViewer::HelpViewer()
     trvContents_->setObjectName(QLatin1String("trvContents"));
     trvContents_->setAccessibleName(tr("Contents"));
     trvContents_->setHeaderHidden(true);
+    for (QWidget* const field :
+         {static_cast<QWidget*>(trvContents_), static_cast<QWidget*>(browser_)}) {
+        new FieldOutline(*field);
+    }
     auto* const page = new QWidget;
     auto* const pageColumn = new QVBoxLayout(page);
     pageColumn->setContentsMargins(0, 0, 0, 0);
@@ -211,7 +219,9 @@ QWidget* HelpViewer::MakeNotice() {
     copy->setObjectName(QLatin1String("cmdCopyAddress"));
     copy->setText(tr("Copy address"));
     copy->setAccessibleName(copy->text());
+    copy->setMinimumHeight(design::kMinTarget);
     copy->setFocusPolicy(Qt::StrongFocus);
+    new FocusRing(*copy);
     connect(copy, &QToolButton::clicked, this, [this] {
         GuardEvent(u"HelpViewer.cmdCopyAddress_Click", [this] {
             QGuiApplication::clipboard()->setText(notice_->property("address").toString());

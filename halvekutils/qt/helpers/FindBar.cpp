@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/StatusLabel.h>
 
@@ -37,6 +38,7 @@ FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
     setObjectName(QLatin1String("FindBar"));
     txtFind_->setObjectName(QLatin1String("txtFind"));
     txtFind_->setAccessibleName(prompt);
+    new FieldOutline(*txtFind_);
     txtFind_->setPlaceholderText(prompt);
     txtFind_->setMaxLength(kMaxWordLength);
     txtFind_->setClearButtonEnabled(true);

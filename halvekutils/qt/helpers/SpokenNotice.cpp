@@ -34,8 +34,11 @@ SpokenNotice::~SpokenNotice() {
 
 void SpokenNotice::Say(const QString& text) {
     if (!QAccessible::isActive() || !about_.isVisible()) return;
-    Forget(std::exchange(last_, new SpokenNoticePart(about_, text)));
-    QAccessible::registerAccessibleInterface(last_);
+    // A reader that is late finds the same text again.
+    if (last_ == nullptr || last_->text(QAccessible::Name) != text) {
+        Forget(std::exchange(last_, new SpokenNoticePart(about_, text)));
+        QAccessible::registerAccessibleInterface(last_);
+    }
     Send(*last_, QAccessible::ObjectShow);
 }
 
