@@ -11,8 +11,6 @@ namespace halvek {
 
 namespace {
 
-constexpr int kPoints = 9;
-
 /// Qt lays out a line as a whole: a line of megabytes would freeze the program.
 constexpr int kMaxLineLength = 1000;
 
@@ -53,7 +51,7 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     setObjectName(QLatin1String("txtDebug"));
     setAccessibleName(tr("Debug lines"));
     new FieldOutline(*this);
-    setFont(ToQFont({u"Courier New", kPoints, false}));
+    setFont(ToQFont({u"Courier New", 0}));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);

@@ -34,7 +34,7 @@ frmSelectGrid::frmSelectGrid(const std::shared_ptr<SelectGrid>& rules, const Des
       okButton_(MakeButton(this, "cmdOK", tr("&OK"), tr("Select and Close"))),
       cancelButton_(MakeButton(this, "cmdExit", tr("C&ancel"), tr("Close"))) {
     setWindowTitle(ToWindowTitle(rules_.Caption()));
-    setFont(ToQFont(CodeFont()));
+    setFont(ToQFont(SelectControlFont()));
     grid_->setAccessibleName(tr("Codes"));
     grid_->MayTakeFocus = [this] { return MayLeaveBox(); };
     connect(okButton_, &QPushButton::clicked, this,
