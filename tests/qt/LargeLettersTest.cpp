@@ -140,6 +140,8 @@ struct LargeLettersTest : FormTest, testing::WithParamInterface<int> {
         QFont font = font_;
         font.setPointSize(GetParam());
         QApplication::setFont(font);
+        const QPoint corner = QApplication::screens().constLast()->geometry().topLeft();
+        host_ = OpenHostWindow(QRect(corner + QPoint(40, 40), QSize(200, 100)));
         StringArray colors(1, 30);
         for (int i = 1; i <= 30; ++i) colors[i] = QString::number(i * 400'000).toStdU16String();
         utils_->InitPrefs(colors, 0, 0, 0, 0);
@@ -156,6 +158,7 @@ struct LargeLettersTest : FormTest, testing::WithParamInterface<int> {
     }
 
     const QFont font_ = QApplication::font();
+    std::unique_ptr<QWidget> host_;
 };
 
 INSTANTIATE_TEST_SUITE_P(Points, LargeLettersTest, testing::Values(9, 12, 16, 20));

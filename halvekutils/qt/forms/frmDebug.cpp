@@ -175,7 +175,10 @@ void frmDebug::PlaceInCorner(const Desktop& desktop) {
     const Size added = desktop.FrameSize();
     const QSize frame(TwipsToPixels(added.width), TwipsToPixels(added.height));
     const QRect usable = ToQRect(desktop.ScreenRect());
-    const QSize outer = (kSize.expandedTo(minimumSizeHint()) + frame).boundedTo(usable.size());
+    // Large letters ask for more, and the find bar may open.
+    const int findBar = findBar_->minimumSizeHint().width() + 2 * design::Margin();
+    const QSize inner = kSize.expandedTo(minimumSizeHint()).expandedTo(QSize(findBar, 0));
+    const QSize outer = (inner + frame).boundedTo(usable.size());
     resize(outer - frame);
     move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
 }

@@ -28,6 +28,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <iterator>
@@ -47,11 +48,11 @@ QToolButton* ButtonOf(QAction* action) {
     button->setObjectName(QLatin1String("cmd") + action->objectName().mid(3));
     button->setDefaultAction(action);
     button->setAccessibleName(action->text());
-    button->setMinimumHeight(design::kMinTarget);
     button->setFocusPolicy(Qt::StrongFocus);
     new FocusRing(*button);
     button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
                                                        : Qt::ToolButtonTextBesideIcon);
+    button->setMinimumHeight(std::max(button->sizeHint().height(), design::kMinTarget));
     return button;
 }
 
