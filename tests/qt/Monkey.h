@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/qt/User.h"
+#include "tests/stage/Calls.h"
 
 #include <QClipboard>
 #include <QDrag>
@@ -63,9 +64,7 @@ class Monkey {
     QPoint Place(const QWidget& window) { return {Below(window.width()), Below(window.height())}; }
 
     QWidget* Front() const {
-        if (QWidget* const popup = QApplication::activePopupWidget()) return popup;
-        if (QWidget* const modal = QApplication::activeModalWidget()) return modal;
-        return window_ != nullptr && window_->isVisible() ? window_.data() : nullptr;
+        return ::Front(window_ != nullptr && window_->isVisible() ? window_.data() : nullptr);
     }
 
     /// A few acts, faster than windows are painted.
