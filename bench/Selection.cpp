@@ -124,13 +124,42 @@ Case Toggle(double scale) {
                 }};
 }
 
+/// A letter typed into the find bar: `word` is looked for from scratch.
+Case FindWord(double scale, const QString& word) {
+    const auto entries = static_cast<std::size_t>(100'000 * scale);
+    const auto list = std::make_shared<std::u16string>(ListText(entries));
+    const std::shared_ptr<SelectGrid> grid = Open(*list, {});
+    const auto texts = std::make_shared<QStringList>(ToQString(*list).split(u':'));
+    return {.floor =
+                [list] {
+                    std::size_t found = 0;
+                    for (const char16_t c : *list) found += c == u'q' ? 1 : 0;
+                    Use(&found);
+                },
+            .ours =
+                [grid, word] {
+                    grid->Find({});
+                    grid->Find(word);
+                    Use(grid.get());
+                },
+            .peer =
+                [texts, word] {
+                    const QStringList found = texts->filter(word, Qt::CaseInsensitive);
+                    Use(&found);
+                }};
+}
+
 }  // namespace
 
 Rows SelectionRows() {
     return {{"selection list: load 100,000 entries, mark 10,000 codes", "one pass over the text", 0,
              "a scan per code", 500, LoadAndMark},
             {"selection: toggle one of 10,000 chosen codes on and off",
-             "10,000 codes moved in memory, twice", 5, "split and join", 20, Toggle}};
+             "10,000 codes moved in memory, twice", 5, "split and join", 20, Toggle},
+            {"find bar, 100,000 entries: a letter that all have", "one pass over the text", 0,
+             "QStringList::filter", 1, [](double scale) { return FindWord(scale, "u"); }},
+            {"find bar, 100,000 entries: a letter that none has", "one pass over the text", 0,
+             "QStringList::filter", 1, [](double scale) { return FindWord(scale, "q"); }}};
 }
 
 }  // namespace bench

@@ -109,16 +109,15 @@ class Play {
     }
 
     void Search() {
-        const char16_t letter = CharacterOf(input_.ConsumeIntegral<std::uint8_t>());
         const std::int32_t before = grid_->CurrentEntry();
-        grid_->TypeLetter(letter, false);
-        if (grid_->CurrentEntry() == before) return;
-        const CellPlace place = grid_->CurrentCell();
-        const auto begins = [&](std::int32_t row) {
-            const auto text = Trimmed(grid_->Cell(place.row + row, place.column).text);
-            return !text.empty() && FoldCase(text[0]) == FoldCase(letter);
-        };
-        Require(begins(1) || begins(2), "what is found begins with the letter");
+        grid_->Find(FuzzText(input_, 3));
+        const std::int32_t found = grid_->CurrentEntry();
+        const bool isFound = grid_->FoundCount() > 0;
+        Require(isFound || found == before, "a miss moves nowhere");
+        Require(isFound == (grid_->FoundPlace() > 0), "what is found is current");
+        Require(grid_->ToggleFound() == isFound, "only what is found is ticked");
+        if (isFound) model_.Toggle(static_cast<std::size_t>(found) - 1);
+        grid_->FindNext(input_.ConsumeBool());
     }
 
     void PressKey() {

@@ -2,8 +2,6 @@
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/qt/QtText.h>
 
-#include <QTextDocument>
-
 #include <cstddef>
 
 namespace halvek {
@@ -13,7 +11,10 @@ QString ToQString(TextIn text) {
 }
 
 QString ToToolTip(TextIn text) {
-    return Qt::convertFromPlainText(ToQString(text), Qt::WhiteSpaceNormal);
+    if (text.empty()) return {};
+    // A paragraph that wraps and keeps its blanks; Qt's own conversions do one or the other.
+    return QLatin1String("<p style=\"white-space:pre-wrap\">") + ToQString(text).toHtmlEscaped() +
+           QLatin1String("</p>");
 }
 
 QString ToWindowTitle(TextIn text) {

@@ -79,16 +79,16 @@ void Erase(std::u16string& codes, std::size_t start, std::size_t length) {
 }  // namespace
 
 bool ChosenCodes::Add(std::u16string_view code) {
-    bool emptied = false;
+    const bool heldText = !box_.text.empty();
     if (!boxIsChoice_) {
         std::u16string codes = JoinedWithout(box_.text, {});
         codes.reserve(codes.size() + 1 + code.size());
-        emptied = SetText(std::move(codes));
+        SetText(std::move(codes));
     }
     Append(box_.text, code);
     hasComma_ = hasComma_ || HoldsComma(code);
     TakeBox();
-    return emptied;
+    return heldText && box_.text.empty();
 }
 
 bool ChosenCodes::Remove(std::u16string_view code) {

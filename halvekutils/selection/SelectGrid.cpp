@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/selection/EachCode.h>
 #include <halvekutils/selection/SelectGrid.h>
+#include <halvekutils/selection/SelectionSearch.h>
 #include <halvekutils/text/CharacterFilter.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace halvek {
@@ -14,6 +18,14 @@ namespace halvek {
 namespace {
 
 constexpr std::u16string_view kInvalidEntry = u"Invalid Entry";
+constexpr std::int32_t kLeastColumns = 5;
+
+/// Whether a code becomes another by capitals for some of its small letters.
+bool IsInSmallLetters(std::u16string_view code, std::u16string_view listed) {
+    return std::ranges::equal(code, listed, [](char16_t small, char16_t character) {
+        return small == character || small == FoldCase(character);
+    });
+}
 
 }  // namespace
 
@@ -22,7 +34,8 @@ SelectGrid::SelectGrid(SelectionRequest request, Services& session, MessageSink 
       session_(session),
       showMessage_(std::move(showMessage)),
       list_(std::move(request_.allValues), request_.doNotIncludeDeleted),
-      marks_(static_cast<std::size_t>(list_.LastShown()) + 1) {}
+      marks_(static_cast<std::size_t>(list_.LastShown()) + 1),
+      search_(std::make_unique<SelectionSearch>(list_)) {}
 
 SelectGrid::~SelectGrid() = default;
 
@@ -43,6 +56,7 @@ void SelectGrid::Prepare() {
         codes_.Type(text + request_.typedCharacter);
     }
     codes_.Select(Box().text.size(), 0);
+    if (const std::int32_t ticked = NextTicked(0); ticked > 0) cursor_.GoTo(ticked);
     busy_ = false;
 }
 
@@ -58,6 +72,32 @@ std::u16string SelectGrid::HeaderText() const {
     std::u16string text;
     text.reserve(request_.listName.size() + Choice().size() + 4);
     return text.append(request_.listName).append(u"  (").append(Choice()).append(u")");
+}
+
+std::int32_t SelectGrid::ShownColumns() const {
+    if (list_.RowCount() > SelectionList::kRowsPerBand) return ColumnCount();
+    std::int32_t last = list_.LastShown();
+    while (last > kLeastColumns && !list_.HasCode(last)) --last;
+    return std::max(last, kLeastColumns);
+}
+
+std::u16string SelectGrid::ChoiceInWords(std::size_t maxLines) const {
+    if (Choice().empty()) return {};
+    const std::size_t count = CountOf(Choice(), u',') + 1;
+    std::u16string text = IntegerText(static_cast<std::int64_t>(count)) + u" selected";
+    std::size_t lines = 0;
+    ForEachCode(Choice(), [&](std::u16string_view code) {
+        if (lines == maxLines) return false;
+        ++lines;
+        text.append(u"\n").append(code);
+        const std::int32_t entry = list_.Find(code);
+        if (entry > 0) text.append(u"  ").append(Trimmed(list_.Description(entry)));
+        return true;
+    });
+    if (count > lines) {
+        text += u"\nand " + IntegerText(static_cast<std::int64_t>(count - lines)) + u" more";
+    }
+    return text;
 }
 
 SelectCell SelectGrid::Cell(std::int32_t row, std::int32_t column) const {
@@ -93,6 +133,7 @@ void SelectGrid::ClickHeader() {
 }
 
 void SelectGrid::Toggle(std::int32_t entry) {
+    ++ticksVersion_;
     const auto toggle = [&] {
         const bool on = !IsTicked(entry);
         entry == SelectionList::kAllCodes ? ToggleAll(on) : ToggleOne(entry, on);
@@ -125,6 +166,10 @@ void SelectGrid::ClearChoice() {
     codes_.Clear();
 }
 
+void SelectGrid::GoTo(std::int32_t entry) {
+    if (entry > 0 && cursor_.GoTo(entry)) NotifyChanged();
+}
+
 void SelectGrid::KeyDown(Key key, std::int32_t bandsOnPage) {
     if (key == Key::Enter) return Accept();
     if (!IsOpen() || CurrentEntry() == 0) return;
@@ -132,8 +177,45 @@ void SelectGrid::KeyDown(Key key, std::int32_t bandsOnPage) {
     if (cursor_.Move(key, bandsOnPage)) NotifyChanged();
 }
 
-void SelectGrid::TypeLetter(char16_t letter, bool continues) {
-    if (IsOpen() && cursor_.TypeLetter(letter, continues)) NotifyChanged();
+void SelectGrid::GoToNextTicked() {
+    if (IsOpen()) GoTo(NextTicked(CurrentEntry()));
+}
+
+/// The first ticked entry after one, and on at the start of the list; 0 for none.
+std::int32_t SelectGrid::NextTicked(std::int32_t entry) const {
+    const std::int32_t last = list_.LastShown();
+    for (std::int32_t i = 0; i < last; ++i) {
+        const std::int32_t next = (entry + i) % last + 1;
+        if (IsTicked(next) && list_.HasCode(next)) return next;
+    }
+    return 0;
+}
+
+// Finding an entry by its name
+
+void SelectGrid::Find(TextIn word) {
+    if (!IsOpen()) return;
+    search_->Find(word);
+    if (search_->Best() > 0) cursor_.GoTo(search_->Best());
+    NotifyChanged();
+}
+
+void SelectGrid::FindNext(bool backwards) {
+    if (IsOpen()) GoTo(search_->NextAfter(CurrentEntry(), backwards));
+}
+
+bool SelectGrid::ToggleFound() {
+    if (!IsOpen() || FoundPlace() == 0) return false;
+    Toggle(CurrentEntry());
+    return true;
+}
+
+std::int32_t SelectGrid::FoundCount() const {
+    return search_->Count();
+}
+
+std::int32_t SelectGrid::FoundPlace() const {
+    return search_->PlaceOf(CurrentEntry());
 }
 
 // The box of typed codes
@@ -144,6 +226,7 @@ void SelectGrid::EditBox(TextIn text, std::int32_t caret, std::int32_t selected)
         codes_.Type(text.Str());
         if (Box().text.empty()) {
             changed_ = true;
+            ++ticksVersion_;
             ClearChoice();
         }
     }
@@ -159,6 +242,24 @@ void SelectGrid::EnableBox(bool enabled) {
 void SelectGrid::FocusBox(BoxFocus how) {
     const bool openedByTyping = std::exchange(openedByTyping_, false);
     if (IsOpen() && how == BoxFocus::Entered && !openedByTyping) CheckTypedCodes();
+}
+
+void SelectGrid::CapitalizeCodes() {
+    if (!IsOpen() || busy_ || !Box().enabled) return;
+    std::u16string text = Box().text;
+    ForEachCode(text, [&](std::u16string_view code) {
+        if (code.empty() || list_.Find(code) > 0) return true;
+        const std::int32_t entry = list_.FindInAnyCase(code);
+        const std::u16string_view listed = entry > 0 ? Trimmed(list_.Code(entry)) : TextIn();
+        if (IsInSmallLetters(code, listed)) {
+            std::ranges::copy(listed, text.begin() + (code.data() - text.data()));
+        }
+        return true;
+    });
+    if (text == Box().text) return;
+    codes_.Type(std::move(text));
+    codes_.Select(static_cast<std::size_t>(Box().caret), static_cast<std::size_t>(Box().selected));
+    NotifyChanged();
 }
 
 void SelectGrid::ReleaseComma() {
@@ -177,9 +278,24 @@ bool SelectGrid::CheckTypedCodes() {
     busy_ = true;
     const bool accepted = Logged(u"UpdateGrid", false, [&] { return RunCheck(); });
     busy_ = false;
-    if (marks_ != before) changed_ = true;
+    if (marks_ != before) {
+        changed_ = true;
+        ++ticksVersion_;
+        if (const std::int32_t entry = LastChosenBeside(before); entry > 0) cursor_.GoTo(entry);
+    }
     NotifyChanged();
     return accepted;
+}
+
+/// The entry of the last chosen code that was not ticked before; 0 for none.
+std::int32_t SelectGrid::LastChosenBeside(const std::vector<bool>& before) const {
+    for (std::u16string_view codes = Choice(); !codes.empty();) {
+        const std::size_t start = codes.rfind(u',') + 1;  // 0 where there is no comma
+        const std::int32_t entry = list_.Find(codes.substr(start));
+        if (!before[static_cast<std::size_t>(entry)]) return entry;
+        codes = codes.substr(0, start > 0 ? start - 1 : 0);
+    }
+    return 0;
 }
 
 bool SelectGrid::RunCheck() {

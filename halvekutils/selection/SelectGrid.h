@@ -12,12 +12,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace halvek {
 
+class SelectionSearch;
 class Services;
 
 /// What a selection dialog is asked to show.
@@ -74,17 +76,28 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     std::int32_t RowCount() const { return list_.RowCount(); }
     /// The number of columns, 10.
     static constexpr std::int32_t ColumnCount() { return SelectionList::kColumns; }
+    /// How many of them hold an entry, of a single band 5 at least.
+    std::int32_t ShownColumns() const;
     /// The cell at row 0 to RowCount(), column 1 to 10; a plain one for any other place.
     SelectCell Cell(std::int32_t row, std::int32_t column) const;
     /// What screen readers call the entry: code and description; empty for a blank cell.
     std::u16string AccessibleText(std::int32_t row, std::int32_t column) const;
     /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return list_.LongestCodeLength(); }
+    /// The longest descriptions; the widest is one of them in any font.
+    std::vector<std::u16string_view> LongestDescriptions() const {
+        return list_.LongestDescriptions();
+    }
     /// Where the dialog should open.
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
     /// The codes chosen so far.
     std::u16string_view Choice() const { return codes_.Text(); }
+    /// Their number and, a line each, the codes with their descriptions; empty without a choice.
+    /// @param maxLines  how many codes are named; a last line counts the others
+    std::u16string ChoiceInWords(std::size_t maxLines) const;
+    /// Grows whenever an entry is ticked or unticked.
+    std::uint32_t TicksVersion() const { return ticksVersion_; }
     /// The box of typed codes.
     const TypedCodesBox& Box() const { return codes_.Box(); }
     /// Grows whenever the rules, not the user, change the box; the window then copies it.
@@ -92,7 +105,8 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
 
     // The current cell
 
-    /// The entry that keys act on, the pseudo-entry at first; 0 when no band is shown.
+    /// The entry that keys act on, at first the first ticked one or else the pseudo-entry; 0 when
+    /// no band is shown. A code that is typed into the box and accepted becomes current.
     std::int32_t CurrentEntry() const { return cursor_.Entry(); }
     /// Its check cell; its code and its description are below.
     CellPlace CurrentCell() const { return CheckCellOf(CurrentEntry()); }
@@ -114,11 +128,25 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     /// @param bandsOnPage  how many bands the grid shows at a time
     void KeyDown(Key key, std::int32_t bandsOnPage = 1);
 
-    /// A character typed in the grid without Ctrl or Alt: moves to the next entry whose code or
-    /// description begins with what was typed, letter case ignored, and does nothing else.
-    /// @param letter  the character
-    /// @param continues  it follows closely on the last one and is added to it
-    void TypeLetter(char16_t letter, bool continues);
+    /// Goes to the next ticked entry, and on at the start of the list.
+    void GoToNextTicked();
+
+    // Finding an entry by its name
+
+    /// Looks for a word in codes and descriptions, letter case and accents ignored, and goes to the
+    /// best entry: one whose code begins with the word, else its description, else a word in
+    /// either, else any; of several the first. Stays where it is when there is none or no word.
+    void Find(TextIn word);
+    /// Goes to the next entry that was found, or the one before, and on at the other end of the
+    /// list.
+    void FindNext(bool backwards);
+    /// Ticks or unticks the current entry if it is one of those found; false, and nothing is
+    /// ticked, if it is not.
+    bool ToggleFound();
+    /// How many entries were found.
+    std::int32_t FoundCount() const;
+    /// The place of the current entry among them, from 1; 0 when it is none of them.
+    std::int32_t FoundPlace() const;
 
     // What the user does in the box of typed codes
 
@@ -133,6 +161,10 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     /// The box has got the focus. If the user entered it, its text is checked, except the first
     /// time after opening with a typed character.
     void FocusBox(BoxFocus how);
+
+    /// Call before the box is checked: small letters become capitals in each code that differs from
+    /// one of the list in nothing else, unless another code matches it too.
+    void CapitalizeCodes();
 
     /// The comma key is released in the box: its text is checked and ticked.
     void ReleaseComma();
@@ -163,11 +195,14 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     void Finish(std::u16string result);
 
     bool IsTicked(std::int32_t entry) const { return marks_[static_cast<std::size_t>(entry)]; }
+    std::int32_t NextTicked(std::int32_t entry) const;
+    std::int32_t LastChosenBeside(const std::vector<bool>& before) const;
     void Toggle(std::int32_t entry);
     void ToggleOne(std::int32_t entry, bool on);
     void ToggleAll(bool on);
     void ClearMarks() { marks_.assign(marks_.size(), false); }
     void ClearChoice();
+    void GoTo(std::int32_t entry);
 
     bool CheckTypedCodes();
     bool RunCheck();
@@ -189,6 +224,8 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     std::vector<bool> marks_;  ///< which entries are ticked, 0 to the last that is shown
     ChosenCodes codes_;
     SelectionCursor cursor_{list_};
+    std::unique_ptr<SelectionSearch> search_;
+    std::uint32_t ticksVersion_ = 0;
     bool changed_ = false;
     bool busy_ = false;
     bool openedByTyping_ = false;

@@ -16,23 +16,34 @@ using design::kGap;
 using design::kMargin;
 
 constexpr std::int32_t kBoxPadding = 150;
-constexpr std::int32_t kCellPadding = 150;
+constexpr std::int32_t kCellPadding = 210;  // the grid's line and rounding take some of it
 constexpr std::int32_t kRowPadding = 60;
 constexpr std::int32_t kHeaderPadding = 120;
 
 constexpr std::int32_t kReadableLength = 8;
-constexpr std::int32_t kMeasuredLength = 200;  // wider than any column
+constexpr std::int32_t kColumnsInView = 5;    // of those that do not fit on the screen
+constexpr std::size_t kMeasuredLength = 200;  // wider than any column
 
 std::int32_t CodeWidth(std::int32_t length, const TextMeter& meter) {
-    const auto count = static_cast<std::size_t>(std::clamp(length, 0, kMeasuredLength));
+    const auto count = std::min(static_cast<std::size_t>(std::max(length, 0)), kMeasuredLength);
     return meter.TextWidth(std::u16string(count, u'W'), CodeFont()) + kCellPadding;
 }
 
-std::int32_t ColumnWidth(std::int32_t longest, const TextMeter& meter, std::int32_t space) {
-    const std::int32_t name = meter.TextWidth(kAllCodesName, DescriptionFont()) + kCellPadding;
-    const std::int32_t wanted = std::max(CodeWidth(longest, meter), name);
+std::int32_t NameWidth(std::u16string_view name, const TextMeter& meter) {
+    return meter.TextWidth(name.substr(0, kMeasuredLength), DescriptionFont()) + kCellPadding;
+}
+
+std::int32_t ColumnWidth(const SelectGridContent& content, const TextMeter& meter,
+                         std::int32_t space) {
+    const std::int32_t longest = content.longestCodeLength;
+    std::int32_t wanted = std::max(CodeWidth(longest, meter), NameWidth(kAllCodesName, meter));
+    for (const std::u16string_view name : content.longestDescriptions) {
+        wanted = std::max(wanted, NameWidth(name, meter));
+    }
     const std::int32_t least = CodeWidth(std::min(longest, kReadableLength), meter);
-    return std::max(std::min(wanted, space / SelectionList::kColumns), least);
+    if (least * content.columns <= space) return std::min(wanted, space / content.columns);
+    // It scrolls across anyway.
+    return std::clamp(wanted, least, std::max(space / kColumnsInView, least));
 }
 
 void MeasureRows(SelectGridLayout& layout, const TextMeter& meter) {
@@ -74,8 +85,12 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
 
     // Across: there is room for the bar, whether the bands need it or not.
     const std::int32_t besideColumns = 2 * kMargin + bars + content.scrollBarWidth;
-    layout.columnWidth = ColumnWidth(content.longestCodeLength, meter, most.width - besideColumns);
-    const std::int32_t columns = layout.columnWidth * SelectionList::kColumns;
+    const std::int32_t besideBar = 2 * kMargin + 2 * (button.width + kGap);
+    layout.columnWidth = ColumnWidth(content, meter, most.width - besideColumns);
+    layout.columnWidth = std::max(
+        layout.columnWidth,
+        (std::min(besideBar + content.findBarWidth, most.width) - besideColumns) / content.columns);
+    const std::int32_t columns = layout.columnWidth * content.columns;
     layout.inner.width = std::min(columns + besideColumns, most.width);
     layout.scrollsAcross = columns + besideColumns > most.width;
 
@@ -95,6 +110,7 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
     layout.exit = {kMargin + width - button.width, buttonTop, button.width, button.height};
     layout.ok = layout.exit;
     layout.ok.left -= button.width + kGap;
+    layout.find = {kMargin, buttonTop, layout.ok.left - kGap - kMargin, button.height};
     layout.form = {layout.inner.width + frame.width, layout.inner.height + frame.height};
     return layout;
 }

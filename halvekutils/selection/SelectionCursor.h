@@ -5,8 +5,6 @@
 #include <halvekutils/selection/SelectionList.h>
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace halvek {
 
@@ -24,8 +22,8 @@ enum class SelectionKey {
     Down,      ///< the band below
 };
 
-/// The current entry of a selection list and how it moves, from one entry with a code to another:
-/// by keys, or to an entry that begins with typed letters.
+/// The current entry of a selection list and how keys move it, from one entry with a code to
+/// another.
 class HALVEK_EXPORT SelectionCursor {
   public:
     /// Starts on the pseudo-entry, or nowhere when the list shows no entry. `list` outlives the
@@ -39,25 +37,20 @@ class HALVEK_EXPORT SelectionCursor {
 
     /// Goes to an entry with a code.
     bool GoTo(std::int32_t entry);
-    /// Moves by a key; Enter and Space do not. Left and right cross the bands.
+    /// Moves by a key; Enter and Space do not. Left and right cross the bands; up and down keep to
+    /// the column, also past a band that is too short for it.
     /// @param key  the key
     /// @param bandsOnPage  how many bands the grid shows at a time
     bool Move(SelectionKey key, std::int32_t bandsOnPage);
-    /// Goes to the next entry whose code or description begins with what was typed, letter case
-    /// ignored.
-    /// @param letter  the character; a blank or control character moves nowhere
-    /// @param continues  it follows closely on the last one and is added to it
-    bool TypeLetter(char16_t letter, bool continues);
 
   private:
     std::int32_t NearestWithCode(std::int32_t entry, std::int32_t step) const;
     bool GoToNearest(std::int32_t entry, std::int32_t step);
     bool MoveAcrossBands(std::int32_t bands);
-    std::int32_t FindByStart(std::u16string_view start, std::int32_t from) const;
 
     const SelectionList& list_;
     std::int32_t entry_;
-    std::u16string searched_;
+    std::int32_t column_ = 1;  ///< the one that up and down keep to
 };
 
 }  // namespace halvek

@@ -17,6 +17,7 @@ constexpr char16_t kEntryEnd = u':';
 constexpr char16_t kFieldEnd = u'\t';
 constexpr std::u16string_view kAllCodesPiece = u" \t *** ALL CODES *** ";
 constexpr std::u16string_view kDeleted = u"1";
+constexpr std::size_t kLongestKept = 64;
 
 /// The field that a text starts with.
 std::u16string_view FirstField(std::u16string_view text) {
@@ -28,11 +29,12 @@ class Piece {
   public:
     void Start(std::size_t start) {
         start_ = flagStart_ = start;
-        codeEnd_ = flagEnd_ = kOpen;
+        codeEnd_ = nameEnd_ = flagEnd_ = kOpen;
         field_ = 1;
     }
     void EndField(std::size_t at) {
         if (field_ == 1) codeEnd_ = at;
+        if (field_ == 2) nameEnd_ = at;
         if (field_ == fields_) flagEnd_ = at;
         ++field_;
         if (field_ == fields_ || fields_ == 0) flagStart_ = at + 1;
@@ -46,6 +48,9 @@ class Piece {
     std::u16string_view Code(std::u16string_view text) const {
         return text.substr(start_, std::min(codeEnd_, end_) - start_);
     }
+    std::size_t DescriptionLength() const {
+        return codeEnd_ == kOpen ? 0 : std::min(nameEnd_, end_) - codeEnd_ - 1;
+    }
     bool IsDeleted(std::u16string_view text) const {
         return field_ >= fields_ &&
                text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_) == kDeleted;
@@ -56,6 +61,7 @@ class Piece {
 
     std::size_t start_ = 0;
     std::size_t codeEnd_ = kOpen;
+    std::size_t nameEnd_ = kOpen;
     std::size_t flagStart_ = 0;
     std::size_t flagEnd_ = kOpen;
     std::size_t end_ = 0;
@@ -78,6 +84,7 @@ void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
     const std::u16string_view text = values_;
     const std::size_t pieces = CountOf(text, kEntryEnd) + 1;
     starts_.reserve(pieces);
+    longest_.reserve(std::min(pieces, kLongestKept));
     if (!doNotIncludeDeleted) deleted_.reserve(pieces);
     starts_.push_back(0);
     if (!doNotIncludeDeleted) deleted_.push_back(false);
@@ -90,6 +97,7 @@ void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
         starts_.push_back(static_cast<std::uint32_t>(piece.Start()));
         if (!doNotIncludeDeleted) deleted_.push_back(isDeleted);
         MeasureCode(Trimmed(piece.Code(text)).size());
+        MeasureDescription(piece.DescriptionLength());
     };
     bool inHeader = true;
     for (std::size_t at; (at = separators.Next()) < text.size();) {
@@ -109,12 +117,29 @@ void SelectionList::MeasureCode(std::size_t length) {
     codeCharacters_ += length;
 }
 
+void SelectionList::MeasureDescription(std::size_t length) {
+    if (length == 0) return;
+    if (longest_.size() == kLongestKept) {
+        if (length <= longest_.front().length) return;
+        std::ranges::pop_heap(longest_, IsLonger);
+        longest_.pop_back();
+    }
+    longest_.push_back({length, Count()});
+    std::ranges::push_heap(longest_, IsLonger);
+}
+
+std::vector<std::u16string_view> SelectionList::LongestDescriptions() const {
+    std::vector<std::u16string_view> texts;
+    for (const Length& kept : longest_) texts.push_back(Description(kept.entry));
+    return texts;
+}
+
 void SelectionList::PrepareFind() const {
     if (!index_) index_ = IndexOfCodes();
 }
 
 SelectionList::Index SelectionList::IndexOfCodes() const {
-    Index index;
+    Index index(KeyCase::Exact);
     // A short text with many codes can only repeat a few of them.
     const std::size_t distinct = std::min(codes_, values_.size() / 8);
     index.codes.Reserve(distinct, codeCharacters_);
@@ -131,6 +156,29 @@ std::int32_t SelectionList::Find(std::u16string_view code) const {
     PrepareFind();
     const std::size_t found = index_->codes.Find(code);
     return found == KeyIndex::kNone ? 0 : index_->entries[found];
+}
+
+SelectionList::Index SelectionList::IndexInAnyCase() const {
+    PrepareFind();
+    Index index(KeyCase::Ignored);
+    index.codes.Reserve(index_->entries.size(), codeCharacters_);
+    index.entries.reserve(index_->entries.size());
+    for (const std::int32_t entry : index_->entries) {
+        const std::u16string_view code = TrimmedCode(entry);
+        if (index.codes.Add(code)) {
+            index.entries.push_back(entry);
+        } else {
+            index.entries[index.codes.Find(code)] = 0;
+        }
+    }
+    return index;
+}
+
+std::int32_t SelectionList::FindInAnyCase(std::u16string_view code) const {
+    if (code.empty()) return 0;
+    if (!anyCase_) anyCase_ = IndexInAnyCase();
+    const std::size_t found = anyCase_->codes.Find(code);
+    return found == KeyIndex::kNone ? 0 : anyCase_->entries[found];
 }
 
 std::int32_t SelectionList::RowCount() const {

@@ -55,27 +55,46 @@ class HALVEK_EXPORT SelectionList {
     std::int32_t Find(std::u16string_view code) const;
     /// Builds the index for Find, which cannot fail afterwards.
     void PrepareFind() const;
+    /// The same for the only code that differs from this one in letter case at most; 0 when none
+    /// or several different codes do.
+    std::int32_t FindInAnyCase(std::u16string_view code) const;
 
     /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return longestCodeLength_; }
+    /// The longest descriptions, kept while the list is read: the widest is one of them in any
+    /// font.
+    std::vector<std::u16string_view> LongestDescriptions() const;
 
   private:
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
     void ReadEntries(bool doNotIncludeDeleted);
     void MeasureCode(std::size_t length);
+    void MeasureDescription(std::size_t length);
     struct Index {
-        KeyIndex codes{KeyCase::Exact};
+        explicit Index(KeyCase keyCase) : codes(keyCase) {}
+        KeyIndex codes;
         std::vector<std::int32_t> entries;  ///< the first one of each code
     };
     Index IndexOfCodes() const;
+    Index IndexInAnyCase() const;
+
+    struct Length {
+        std::size_t length;
+        std::int32_t entry;
+    };
+    static bool IsLonger(const Length& one, const Length& other) {
+        return one.length > other.length;
+    }
 
     std::u16string values_;
-    std::vector<std::uint32_t> starts_;   ///< where each entry's piece starts
-    std::vector<bool> deleted_;           ///< empty when deleted entries are left out
-    mutable std::optional<Index> index_;  ///< made when a code is first looked up
-    std::size_t codes_ = 0;               ///< how many entries have one
-    std::size_t codeCharacters_ = 0;      ///< of all codes together
+    std::vector<std::uint32_t> starts_;  ///< where each entry's piece starts
+    std::vector<bool> deleted_;          ///< empty when deleted entries are left out
+    std::vector<Length> longest_;        ///< of the descriptions, a heap with the shortest in front
+    mutable std::optional<Index> index_;    ///< made when a code is first looked up
+    mutable std::optional<Index> anyCase_;  ///< likewise; entry 0 where several codes are alike
+    std::size_t codes_ = 0;                 ///< how many entries have one
+    std::size_t codeCharacters_ = 0;        ///< of all codes together
     std::int32_t lastShown_ = 0;
     std::int32_t longestCodeLength_ = 0;
 };

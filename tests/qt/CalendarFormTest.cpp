@@ -3,6 +3,7 @@
 
 #include <halvekutils/qt/QtText.h>
 
+#include <QAccessible>
 #include <gtest/gtest.h>
 
 #include <tuple>

@@ -7,11 +7,14 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <QToolTip>
 #include <gtest/gtest.h>
@@ -103,7 +106,8 @@ class SelectGridFormTest : public FormTest {
                    std::u16string typed = {}, std::shared_ptr<PopupTarget> target = nullptr) {
         const User user([&](QDialog& dialog) {
             acts({dialog});
-            if (dialog.isVisible()) PressKey(dialog, Qt::Key_Escape);
+            // The first one may close the find bar only.
+            for (int i = 0; i < 2 && dialog.isVisible(); ++i) PressKey(dialog, Qt::Key_Escape);
         });
         const QString chosen = ToQString(utils_->ShowSelectionGridAndCalculateCoordinates(
             u"Codes", list, selected, target, nullptr, typed));
@@ -164,7 +168,7 @@ TEST_F(SelectGridFormTest, EntriesAreTickedByTheMouseAndBySpace) {
         seen.ClickEntry(3);
         seen.Press(Qt::Key_Return);
     };
-    EXPECT_EQ(Chosen(tick), "D,C,A");
+    EXPECT_EQ(Chosen(tick, kList + ":E\tAfter a blank\t0:"), "D,C,A");
 }
 
 TEST_F(SelectGridFormTest, KeysMoveTheVisibleCurrentEntry) {
@@ -174,7 +178,7 @@ TEST_F(SelectGridFormTest, KeysMoveTheVisibleCurrentEntry) {
             {Qt::Key_Right, 2}, {Qt::Key_Down, 12},
             {Qt::Key_Left, 11}, {Qt::Key_End, 1001},
             {Qt::Key_Up, 991},  {Qt::Key_Home, 1},
-            {Qt::Key_N, 2},     {Qt::Key_PageDown, 2 + 10 * bands},
+            {Qt::Key_Right, 2}, {Qt::Key_PageDown, 2 + 10 * bands},
             {Qt::Key_PageUp, 2}};
         seen.Press(Qt::Key_Tab);
         for (const auto& [key, entry] : moves) {
@@ -198,13 +202,15 @@ TEST_F(SelectGridFormTest, EveryWayOutOfTheBoxTakesOrKeepsOrRefuses) {
         {"Enter", Press({Qt::Key_Return}), true, true},
         {"Enter in the grid", Press({Qt::Key_Tab, Qt::Key_Return}), true, true},
         {"Enter on OK", Press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}), true, true},
-        {"Enter on Cancel", Press({Qt::Key_Backtab, Qt::Key_Return}), false, false},
         {"OK", ClickOn("cmdOK"), true, true},
-        {"Backtab", Press({Qt::Key_Backtab}), false, false},
+        {"Backtab", Press({Qt::Key_Backtab}), false, true},
+        {"Down", Press({Qt::Key_Down}), false, true},
+        {"the find bar", [](const Seen& seen) { seen.Press(Qt::CTRL | Qt::Key_F); }, false, true},
+        {"F3", Press({Qt::Key_F3}), false, true},
         {"Cancel", ClickOn("cmdExit"), false, false},
         {"Escape", Press({Qt::Key_Escape}), false, false},
         {"close box", [](const Seen& seen) { CloseRequest(seen.dialog); }, false, false},
-        {"header", [](const Seen& seen) { Click(seen.dialog, seen.Header()); }, true, false},
+        {"header", [](const Seen& seen) { Click(seen.dialog, seen.Header()); }, true, true},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.way);
@@ -216,8 +222,66 @@ TEST_F(SelectGridFormTest, EveryWayOutOfTheBoxTakesOrKeepsOrRefuses) {
             const QString message = MessageOf([&] { row.act(seen); });
             EXPECT_EQ(message.contains("'ZZ' is not a valid entry."), row.refusesBadCodes);
             EXPECT_EQ(seen.dialog.isVisible() && seen.box.hasFocus(), row.refusesBadCodes);
+            EXPECT_TRUE(!row.refusesBadCodes || seen.box.selectedText() == "ZZ");
         });
     }
+}
+
+TEST_F(SelectGridFormTest, ARefusedOkReturnsToTheWrongCodeAndSaysSoOnce) {
+    const std::pair<const char*, Acts> ways[] = {
+        {"Enter in the grid", Press({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})},
+        {"Enter on OK", Press({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Return})}};
+    for (const auto& [way, act] : ways) {
+        SCOPED_TRACE(way);
+        // Codes with a "|" can be ticked but not accepted.
+        Chosen(
+            [&, act = act](const Seen& seen) {
+                EXPECT_EQ(MessageOf([&] { act(seen); }), "Invalid Entry");
+                EXPECT_EQ(seen.box.selectedText(), "A|B");
+                EXPECT_TRUE(seen.box.hasFocus());
+            },
+            "H:A|B\tAlpha\t0:");
+    }
+}
+
+TEST_F(SelectGridFormTest, AMissIsRedAndTheBarIsClosedByEscape) {
+    const auto find = [](const Seen& seen) {
+        auto& word = Find<QLineEdit>(seen.dialog, "txtFind");
+        auto& told = Find<QLabel>(seen.dialog, "lblFind");
+        const QColor ordinary = word.palette().color(QPalette::Text);
+        const QRect before = seen.grid.geometry();
+        seen.Press(Qt::Key_Tab);
+        seen.Type("delt");
+        EXPECT_EQ(word.text() + ", " + told.text(), "delt, 1 of 1");
+        EXPECT_EQ(seen.grid.geometry(), before);
+        seen.Type("x");
+        EXPECT_EQ(told.text(), "Not found");
+        EXPECT_GT(word.palette().color(QPalette::Text).red(), ordinary.red() + 100);
+        seen.Press(Qt::Key_Return);
+        EXPECT_EQ(seen.Ticked(), "");
+        seen.Press(Qt::Key_Backspace);
+        EXPECT_EQ(word.palette().color(QPalette::Text), ordinary);
+        // Wherever the keyboard is, Escape closes the bar before the dialog.
+        seen.ClickEntry(2);
+        seen.Press(Qt::Key_Escape);
+        EXPECT_FALSE(word.isVisible());
+        EXPECT_TRUE(seen.dialog.isVisible() && seen.grid.hasFocus());
+    };
+    Chosen(find);
+}
+
+TEST_F(SelectGridFormTest, ChangesOfTheCurrentEntryAndOfTicksAreTold) {
+    Chosen([](const Seen& seen) {
+        QSignalSpy entries(&seen.grid, SIGNAL(CurrentEntryChanged()));
+        QSignalSpy ticks(&seen.grid, SIGNAL(TicksChanged()));
+        seen.Press(Qt::Key_Tab);
+        seen.Press(Qt::Key_Right);
+        EXPECT_EQ(std::pair(entries.count(), ticks.count()),
+                  (std::pair<qsizetype, qsizetype>(1, 0)));
+        seen.Press(Qt::Key_Space);
+        EXPECT_EQ(std::pair(entries.count(), ticks.count()),
+                  (std::pair<qsizetype, qsizetype>(1, 1)));
+    });
 }
 
 TEST_F(SelectGridFormTest, AHugeChoiceIsKeptWhole) {
@@ -274,16 +338,24 @@ TEST_F(SelectGridFormTest, FixedColoursHoldOnADarkDesktopToo) {
     QApplication::setPalette(light);
 }
 
-TEST_F(SelectGridFormTest, ToolTipsShowCheckAndDescription) {
+TEST_F(SelectGridFormTest, ToolTipsShowCheckDescriptionAndChoice) {
     const auto look = [](const Seen& seen) {
         const QRect entry = seen.grid.visualRect(seen.IndexOf(3));
-        const std::pair<int, QString> parts[] = {{entry.top() + 4, " SELECTED "},
-                                                 {entry.bottom() - 4, " <b>Beta</b> "}};
-        for (const auto& [y, toolTip] : parts) {
+        QWidget& cells = *seen.grid.viewport();
+        const struct {
+            QWidget& part;
+            int y;
+            QString toolTip;
+        } rows[] = {{cells, entry.top() + 4, " SELECTED "},
+                    {cells, entry.bottom() - 4, " <b>Beta</b> "},
+                    {seen.Header(), 4, "1 selected\nB  <b>Beta</b>"}};
+        for (const auto& [part, y, toolTip] : rows) {
             const QPoint place(entry.center().x(), y);
-            QHelpEvent help(QEvent::ToolTip, place, seen.grid.viewport()->mapToGlobal(place));
-            QApplication::sendEvent(seen.grid.viewport(), &help);
-            EXPECT_EQ(QToolTip::text(), ToToolTip(toolTip));
+            QHelpEvent help(QEvent::ToolTip, place, part.mapToGlobal(place));
+            QApplication::sendEvent(&part, &help);
+            QTextDocument shown;
+            shown.setHtml(QToolTip::text());
+            EXPECT_EQ(shown.toPlainText(), toolTip);
         }
     };
     Chosen(look, kList, "B");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/scripted/ScriptedPlatform.h>
+#include <halvekutils/selection/SelectCell.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 
 #include <gtest/gtest.h>
@@ -25,6 +26,27 @@ TEST(SelectGridLayout, TenColumnsOfEightLettersFitOnASmallScreen) {
     const SelectGridLayout narrow = LayOut(30, 3, {6000, 11520});
     EXPECT_TRUE(narrow.scrollsAcross);  // rather than hiding codes
     EXPECT_GE(narrow.columnWidth, 8 * 80);
+}
+
+TEST(SelectGridLayout, ColumnsGrowToTheLongestNameAsFarAsTheScreenGoes) {
+    const ScriptedPlatform meter;
+    const std::u16string name(24, u'n');
+    const std::int32_t width = meter.TextWidth(name, DescriptionFont());
+    SelectGridContent content{.longestCodeLength = 3, .rowCount = 3, .columns = 5};
+    const auto layOut = [&](std::int32_t screen) {
+        return LayOutSelectGrid(content, meter, {screen, 11520}, {30, 450});
+    };
+    const SelectGridLayout bare = layOut(40'000);
+    EXPECT_GT(bare.columnWidth, meter.TextWidth(kAllCodesName, DescriptionFont()) + 150);
+    content.longestDescriptions = {u"short", name};
+    const SelectGridLayout wide = layOut(40'000);
+    EXPECT_GT(wide.columnWidth, width + 150);
+    EXPECT_EQ(wide.inner.width - bare.inner.width, 5 * (wide.columnWidth - bare.columnWidth));
+    EXPECT_LT(layOut(7000).columnWidth, width);
+    EXPECT_FALSE(layOut(7000).scrollsAcross);
+    content.findBarWidth = 20'000;  // has its room beside the buttons
+    EXPECT_GE(layOut(40'000).find.width, 20'000 - content.columns);
+    EXPECT_LT(layOut(40'000).find.Right(), layOut(40'000).ok.left);
 }
 
 TEST(SelectGridLayout, TheHeightFollowsTheBands) {

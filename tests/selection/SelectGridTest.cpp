@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
+#include <halvekutils/selection/PastedCodes.h>
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <functional>
@@ -199,17 +200,74 @@ TEST_F(SelectGridTest, MovesFromCodeToCode) {
     }
 }
 
-TEST_F(SelectGridTest, TypedLettersFindCodesAndDescriptions) {
-    SelectGrid& grid = Open(u"H:ab\tOne\t0:AC\tTwo\t0:\tAlone\t0:x\t\u00C9col\t0:aa1\t*\t0:");
-    const std::tuple<char16_t, bool, int> letters[] = {
-        {u'a', false, 2}, {u'c', true, 3},       {u'a', false, 6}, {u'a', false, 2},
-        {u't', false, 3}, {u'\u00E9', false, 5}, {u'q', false, 5}, {u'a', false, 6},
-        {u'a', true, 6},  {u'a', true, 2},       {u' ', false, 2}, {u'*', false, 6},
-        {u'*', false, 1}};
-    for (const auto& [letter, continues, entry] : letters) {
-        grid.TypeLetter(letter, continues);
-        EXPECT_EQ(grid.CurrentEntry(), entry) << static_cast<int>(letter);
+TEST_F(SelectGridTest, UpAndDownKeepToTheirColumnPastAShortBand) {
+    SelectGrid& grid = Open(ListOf(NumberedCodes(23)));  // the last band ends with entry 24
+    Click(7);
+    const std::pair<Key, int> moves[] = {{Key::PageDown, 24}, {Key::PageUp, 7}, {Key::Down, 17},
+                                         {Key::Down, 24},     {Key::Up, 17},    {Key::Right, 18},
+                                         {Key::Down, 24},     {Key::Left, 23},  {Key::Up, 13}};
+    for (const auto& [key, entry] : moves) {
+        grid.KeyDown(key, 2);
+        EXPECT_EQ(grid.CurrentEntry(), entry);
     }
+}
+
+TEST_F(SelectGridTest, OnlyWhatIsFoundIsTicked) {
+    SelectGrid& grid = Open(u"H:X\tPatel, Sam\t0:Y\tPatel, Gr\u00E1ce\t0:PA\tNobody\t0:");
+    grid.Find(u"patel, g");
+    EXPECT_TRUE(grid.ToggleFound());
+    grid.Find(u"patel");
+    grid.FindNext(true);
+    EXPECT_EQ(std::pair(grid.FoundPlace(), grid.FoundCount()), std::pair(2, 2));
+    grid.Find(u"pa");
+    EXPECT_EQ(grid.CurrentEntry(), 4);
+    for (const char16_t* const word : {u"patelx", u""}) {
+        grid.Find(word);
+        EXPECT_EQ(grid.CurrentEntry(), 4);
+        EXPECT_FALSE(grid.ToggleFound());
+    }
+    grid.Find(u"patel");
+    Click(4);
+    EXPECT_FALSE(grid.ToggleFound());
+    EXPECT_EQ(grid.Choice(), u"Y,PA");
+}
+
+TEST_F(SelectGridTest, TheCurrentEntryFollowsTheChoice) {
+    SelectGrid& grid = Open(kCodes, u"C,B");
+    EXPECT_EQ(grid.CurrentEntry(), 3);
+    Type(u"C,B,A,x");
+    EXPECT_FALSE(grid.ValidateBox());
+    EXPECT_EQ(grid.CurrentEntry(), 2);
+    for (const int entry : {3, 4, 2}) {
+        grid.GoToNextTicked();
+        EXPECT_EQ(grid.CurrentEntry(), entry);
+    }
+    EXPECT_EQ(grid.ChoiceInWords(9), u"3 selected\nC  Ceta\nB  Beta\nA  Alpha");
+    EXPECT_EQ(grid.ChoiceInWords(1), u"3 selected\nC  Ceta\nand 2 more");
+}
+
+TEST_F(SelectGridTest, SmallLettersBecomeTheOnlyCodeThatTheyCanMean) {
+    SelectGrid& grid = Open(u"H:AB\t\t0:Cd\t\t0:EF\t\t0:Ef\t\t0:\u00C4\t\t0:");
+    const std::pair<const char16_t*, const char16_t*> rows[] = {{u" ab,x", u" AB,x"},
+                                                                {u"aB", u"AB"},
+                                                                {u"cd,CD", u"Cd,CD"},
+                                                                {u"ef", u"ef"},
+                                                                {u"\u00E4,", u"\u00C4,"}};
+    for (const auto& [typed, written] : rows) {
+        Type(typed);
+        grid.CapitalizeCodes();
+        EXPECT_EQ(grid.Box().text, written);
+    }
+    EXPECT_EQ(grid.Choice(), u"");
+}
+
+TEST(PastedCodes, AreSeparatedByCommas) {
+    const std::pair<const char16_t*, const char16_t*> rows[] = {{u"A\r\nB\r\n", u"A,B"},
+                                                                {u"\tA;B ;\n, C", u"A,B,C"},
+                                                                {u",A,\nB,", u",A,B,"},
+                                                                {u" A,,B ", u" A,,B "},
+                                                                {u";\n", u""}};
+    for (const auto& [pasted, codes] : rows) EXPECT_EQ(PastedCodes(pasted), codes);
 }
 
 TEST_F(SelectGridTest, LogsAFaultAndStaysUsable) {

@@ -107,6 +107,7 @@ void Conversation::Answer(const QString& line) {
     if (auto* const desk = dynamic_cast<Desk*>(window_.get()); desk && word == "load")
         desk->Load(rest.section(' ', 0, 0), rest.section(' ', 1));
     if (word == "clipboard") QApplication::clipboard()->setText(rest);
+    if (word == "lines") QApplication::clipboard()->setText(QString(rest).replace(';', "\r\n"));
     if (word == "locale") QLocale::setDefault(QLocale(rest));
     if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
     if (word == "await") {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Desk.h"
 
+#include "Providers.h"
 #include "Record.h"
 
 #include <halvekutils/qt/CurrencyField.h>
@@ -63,6 +64,7 @@ Desk::Desk(std::shared_ptr<Utils> utils) : utils_(std::move(utils)), page_(new P
     BuildRecords();
     BuildDialogButtons();
     BuildDates();
+    BuildLists();
     BuildClosingButtons();
     BuildActions();
     utils_->InitServerTime(QString("1/1/2001 10:00"));
@@ -159,6 +161,21 @@ void Desk::BuildDates() {
     left_->addRow(AddButton("Digits", [this] {
         Record::Got("date", Blank(utils_->ConvertNumberToDate(note_->text(), true)));
     }));
+}
+
+/// What is chosen before stands in the field for the visit.
+void Desk::BuildLists() {
+    const std::pair<const char*, QString> lists[] = {{"Providers", ProviderList()},
+                                                     {"Insurance", InsuranceList()}};
+    for (const auto& [name, list] : lists) {
+        QPushButton* const button = AddButton(name, {});
+        connect(button, &QPushButton::clicked, this, [this, button, list] {
+            const QString chosen = Blank(utils_->ShowSelectionGridAndCalculateCoordinates(
+                button->text(), list, visit_->text(), Beside(button)));
+            Record::Got(button->text().toLower(), chosen);
+        });
+        left_->addRow(button);
+    }
 }
 
 void Desk::BuildClosingButtons() {

@@ -37,6 +37,7 @@ class Desk : public QMainWindow {
     void BuildDialogButtons();
     void BuildClosingButtons();
     void BuildDates();
+    void BuildLists();
     void BuildActions();
     QPushButton* AddButton(const QString& name, const std::function<void()>& act);
 

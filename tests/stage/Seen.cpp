@@ -48,6 +48,15 @@ QString RowOf(const QWidget& grid, int row) {
     return cells.join(' ');
 }
 
+/// The code of the current entry, if it is in view.
+QString CurrentOf(const QWidget& grid) {
+    const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
+    if (view == nullptr || !view->currentIndex().isValid()) return "none";
+    const QRect place = view->visualRect(view->currentIndex());
+    const bool isShown = view->viewport()->rect().contains(place);
+    return isShown ? view->currentIndex().data().toString() : QString("out of view");
+}
+
 QString TextOf(const QWidget& control) {
     if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) return line->text();
     if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
@@ -65,6 +74,7 @@ QString TextOf(const QWidget& control) {
 
 QString PartOf(const QWidget& control, const QString& part) {
     const auto* const line = qobject_cast<const QLineEdit*>(&control);
+    if (part == "current") return CurrentOf(control);
     if (part.startsWith("row")) return RowOf(control, part.mid(3).toInt());
     if (part == "selected" && line != nullptr) return line->selectedText();
     if (part == "caret" && line != nullptr) return QString::number(line->cursorPosition());

@@ -7,7 +7,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../desktop/desktop.sh"
 declare -A code=(
     [Escape]=09 [1]=10 [2]=11 [3]=12 [4]=13 [5]=14 [6]=15 [7]=16 [8]=17 [9]=18 [0]=19 [-]=20
     [=]=21 [+]=50+21 [\*]=50+17 [BackSpace]=22 [Tab]=23 [Back]=50+23 [Enter]=36 [Ctrl]=37
-    [Shift]=50 [Alt]=64 [Space]=65 [" "]=65 [,]=59 [.]=60 [/]=61 [F2]=68 [F3]=69 [F7]=73 [F9]=75
+    [Shift]=50 [Alt]=64 [Space]=65 [" "]=65 [,]=59 [.]=60 [/]=61 [F2]=68 [F3]=69 [F4]=70 [\;]=47 ["'"]=48 [F7]=73 [F9]=75
     [NumLock]=77 [$]=50+13 [(]=50+18 [)]=50+19
     [a]=38 [b]=56 [c]=54 [d]=40 [e]=26 [f]=41 [g]=42 [h]=43 [i]=31 [j]=44 [k]=45 [l]=46 [m]=58
     [n]=57 [o]=32 [p]=33 [q]=24 [r]=27 [s]=39 [t]=28 [u]=30 [v]=55 [w]=25 [x]=53 [y]=29 [z]=52
@@ -186,6 +186,7 @@ take_step() {
     @release=*) act 0 "keyup ${code[${1#*=}]}" ;;
     @picture) picture "$look$((++pictures))-${name_of_story//[: ]/-}" ;;
     @paste=*) echo "clipboard ${1#*=}" >&"$questions" && press Ctrl+v ;;
+    @lines=*) echo "lines ${1#*=}" >&"$questions" && press Ctrl+v ;;
     @load=*) echo "load ${1#*=}" >&"$questions" && act 0 ;;
     @locale=*) echo "locale ${1#*=}" >&"$questions" && act 0 ;;
     *) press "$1" ;;

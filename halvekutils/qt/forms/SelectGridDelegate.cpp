@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
@@ -16,6 +17,9 @@ namespace {
 
 constexpr int kParts = SelectionList::kRowsPerBand;
 constexpr int kTextMargin = 5;
+
+/// How much of the colour of selected texts the ticked entries have, in per cent.
+constexpr int kTint = 22;
 
 /// No cell is wide enough to show more.
 constexpr qsizetype kMaxShown = 500;
@@ -66,6 +70,10 @@ void SelectGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     GuardEvent(u"frmSelectGrid_grdSelection.GetStyleRowCol", [&] {
         painter->save();
         const QPalette& palette = option.palette;
+        if (model_.CellOf(index, 0).checked) {
+            painter->fillRect(option.rect, design::Blended(palette.color(QPalette::Highlight),
+                                                           palette.color(QPalette::Base), kTint));
+        }
         for (int part = 0; part < kParts; ++part) {
             const SelectCell cell = model_.CellOf(index, part);
             const QRect area = PartOf(option.rect, part);

@@ -39,7 +39,7 @@ int SelectGridModel::rowCount(const QModelIndex& parent) const {
 }
 
 int SelectGridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : SelectGrid::ColumnCount();
+    return parent.isValid() ? 0 : rules_.ShownColumns();
 }
 
 QVariant SelectGridModel::data(const QModelIndex& index, int role) const {

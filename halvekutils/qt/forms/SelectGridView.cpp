@@ -11,12 +11,10 @@
 #include <halvekutils/qt/helpers/SpokenPicker.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 
-#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyleHints>
 #include <QToolTip>
 
 #include <algorithm>
@@ -32,8 +30,6 @@ struct GridKey {
 };
 
 constexpr GridKey kKeys[] = {
-    {Qt::Key_Return, SelectGrid::Key::Enter},
-    {Qt::Key_Enter, SelectGrid::Key::Enter},
     {Qt::Key_Space, SelectGrid::Key::Space},
     {Qt::Key_PageUp, SelectGrid::Key::PageUp},
     {Qt::Key_PageDown, SelectGrid::Key::PageDown},
@@ -45,7 +41,8 @@ constexpr GridKey kKeys[] = {
     {Qt::Key_Down, SelectGrid::Key::Down},
 };
 
-constexpr std::size_t kMaxToolTipLength = 2000;
+constexpr std::size_t kMaxNameLength = 2000;
+constexpr std::size_t kMaxToolTipLines = 30;
 
 Qt::ScrollBarPolicy Bar(bool shown) {
     return shown ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
@@ -57,13 +54,14 @@ Qt::ScrollBarPolicy Bar(bool shown) {
 
 SelectGridHeader::SelectGridHeader(SelectGrid& rules, QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), rules_(rules) {
+    setObjectName(QLatin1String("hdrSelection"));
     setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(1);
 }
 
 void SelectGridHeader::Refresh() {
     cell_ = rules_.Cell(0, 1);
-    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kMaxToolTipLength)));
+    setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kMaxNameLength)));
     viewport()->update();
 }
 
@@ -77,7 +75,10 @@ void SelectGridHeader::paintEvent(QPaintEvent*) {
 }
 
 void SelectGridHeader::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    pressed_ = false;
+    if (event->button() != Qt::LeftButton) return;
+    GuardEvent(u"frmSelectGrid.grdSelection_OnLButtonHitRowCol",
+               [this] { pressed_ = !MayTakeFocus || MayTakeFocus(); });
 }
 
 void SelectGridHeader::mouseReleaseEvent(QMouseEvent* event) {
@@ -93,8 +94,11 @@ void SelectGridHeader::mouseDoubleClickEvent(QMouseEvent*) {}
 bool SelectGridHeader::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QHeaderView::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
-    const TextIn text = std::u16string_view(cell_.text).substr(0, kMaxToolTipLength);
-    QToolTip::showText(help->globalPos(), ToToolTip(text), this);
+    GuardEvent(u"frmSelectGrid_grdSelection.GetStyleRowCol", [&] {
+        const std::u16string chosen = rules_.ChoiceInWords(kMaxToolTipLines);
+        QToolTip::showText(help->globalPos(), ToToolTip(chosen.empty() ? cell_.text : chosen),
+                           this);
+    });
     return true;
 }
 
@@ -125,6 +129,11 @@ SelectGridView::SelectGridView(SelectGrid& rules, QWidget* parent)
     setModel(&model_);
 }
 
+void SelectGridView::AskBeforeFocus(const std::function<bool()>& mayTakeFocus) {
+    mayTakeFocus_ = mayTakeFocus;
+    header_->MayTakeFocus = mayTakeFocus;
+}
+
 void SelectGridView::ApplyLayout(const SelectGridLayout& layout) {
     QRect place = ToQRect(layout.grid);
     const int headerHeight = TwipsToPixels(layout.headerHeight);
@@ -143,7 +152,7 @@ void SelectGridView::ApplyLayout(const SelectGridLayout& layout) {
     verticalHeader()->setDefaultSectionSize(band);
     setItemDelegate(new SelectGridDelegate(model_, description, this));
 
-    const int columns = SelectGrid::ColumnCount();
+    const int columns = model_.columnCount();
     int width = place.width() - 2 * frameWidth() - (layout.scrollsDown ? bar : 0);
     if (layout.scrollsAcross) width = columns * TwipsToPixels(layout.columnWidth);
     for (int i = 0; i < columns; ++i) {
@@ -160,32 +169,44 @@ void SelectGridView::Refresh() {
     if (current != currentIndex()) {
         selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
         viewport()->update();
+        emit CurrentEntryChanged();
     }
+    if (std::exchange(shownTicks_, rules_.TicksVersion()) != rules_.TicksVersion()) {
+        emit TicksChanged();
+    }
+}
+
+void SelectGridView::ShowCurrent() {
+    executeDelayedItemsLayout();
+    const QModelIndex current = currentIndex();
+    if (!viewport()->rect().contains(visualRect(current))) scrollTo(current, PositionAtCenter);
+}
+
+void SelectGridView::KeepRing(bool isKept) {
+    if (std::exchange(keepsRing_, isKept) != isKept) viewport()->update();
 }
 
 void SelectGridView::keyPressEvent(QKeyEvent* event) {
     bool taken = false;
-    GuardEvent(u"frmSelectGrid.grdSelection_OnGridKeyDown", [&] {
-        const auto* const known = std::ranges::find(kKeys, event->key(), &GridKey::key);
-        if (known != std::end(kKeys)) {
-            const int band = std::max(verticalHeader()->defaultSectionSize(), 1);
-            rules_.KeyDown(known->action, std::max(viewport()->height() / band, 1));
-            taken = true;
-        } else {
-            taken = TypeLetter(*event);
-        }
-    });
+    GuardEvent(u"frmSelectGrid.grdSelection_OnGridKeyDown", [&] { taken = PressKey(*event); });
     event->setAccepted(taken);
 }
 
-bool SelectGridView::TypeLetter(const QKeyEvent& event) {
-    const char16_t letter = TypedBy(event);
-    if (letter == 0) return false;
-    const int interval = QGuiApplication::styleHints()->keyboardInputInterval();
-    const bool continues = sinceLetter_.isValid() && sinceLetter_.elapsed() < interval;
-    sinceLetter_.start();
-    rules_.TypeLetter(letter, continues);
-    return true;
+bool SelectGridView::PressKey(const QKeyEvent& event) {
+    if (IsEnter(event)) {
+        emit Accepted();
+        return true;
+    }
+    const auto* const known = std::ranges::find(kKeys, event.key(), &GridKey::key);
+    if (known != std::end(kKeys)) {
+        const int band = std::max(verticalHeader()->defaultSectionSize(), 1);
+        rules_.KeyDown(known->action, std::max(viewport()->height() / band, 1));
+        return true;
+    }
+    const QChar typed(TypedBy(event));
+    const bool asks = typed.isLetterOrNumber() || typed == u'/';
+    if (asks) emit FindAsked(typed == u'/' ? QString() : QString(typed));
+    return asks;
 }
 
 void SelectGridView::mousePressEvent(QMouseEvent* event) {
@@ -193,7 +214,11 @@ void SelectGridView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     GuardEvent(u"frmSelectGrid.grdSelection_OnLButtonHitRowCol", [&] {
         const QModelIndex entry = indexAt(event->position().toPoint());
-        if (MayTakeFocus && !MayTakeFocus()) return;
+        // A code accepted on the way must not scroll the entry away from under the mouse.
+        setAutoScroll(false);
+        const bool may = !mayTakeFocus_ || mayTakeFocus_();
+        setAutoScroll(true);
+        if (!may) return;
         setFocus(Qt::MouseFocusReason);
         pressed_ = entry;
     });
@@ -233,7 +258,7 @@ void SelectGridView::paintEvent(QPaintEvent* event) {
     if (!current.isValid()) return;
     QPainter painter(viewport());
     const QRect entry = visualRect(current);
-    if (hasFocus()) {
+    if (hasFocus() || keepsRing_) {
         design::PaintRing(painter, entry,
                           design::Visible(palette().color(QPalette::Highlight), Qt::white));
     } else {

@@ -3,7 +3,6 @@
 
 #include <halvekutils/qt/forms/SelectGridModel.h>
 
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QTableView>
 
@@ -20,6 +19,9 @@ class SelectGridHeader : public QHeaderView {
 
   public:
     SelectGridHeader(SelectGrid& rules, QWidget* parent);
+
+    /// Asked before a click moves the focus into the grid; a refused click does nothing.
+    std::function<bool()> MayTakeFocus;
 
     /// The rules have changed.
     void Refresh();
@@ -45,8 +47,8 @@ class SelectGridView : public QTableView {
   public:
     SelectGridView(SelectGrid& rules, QWidget* parent);
 
-    /// Asked before a click moves the focus into the grid; a refused click does nothing.
-    std::function<bool()> MayTakeFocus;
+    /// Asks this before a click moves the focus into the grid; a refused click does nothing.
+    void AskBeforeFocus(const std::function<bool()>& mayTakeFocus);
 
     /// Applies its place and the sizes of its rows and columns.
     void ApplyLayout(const SelectGridLayout& layout);
@@ -54,7 +56,22 @@ class SelectGridView : public QTableView {
     /// The rules have changed: repaints what is visible and follows the current entry.
     void Refresh();
 
+    /// Scrolls to the current entry when the dialog opens.
+    void ShowCurrent();
+    /// Rings the current entry while keys elsewhere act on it, those of the find bar.
+    void KeepRing(bool isKept);
+
     void keyboardSearch(const QString&) override {}
+
+  signals:
+    /// Another entry is the current one.
+    void CurrentEntryChanged();
+    /// Entries were ticked or unticked.
+    void TicksChanged();
+    /// Enter: OK.
+    void Accepted();
+    /// The user typed a letter or digit to find an entry, or "/", for which the text is empty.
+    void FindAsked(const QString& typed);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -68,15 +85,17 @@ class SelectGridView : public QTableView {
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
   private:
-    bool TypeLetter(const QKeyEvent& event);
+    bool PressKey(const QKeyEvent& event);
     void Click(const QModelIndex& entry);
 
     SelectGrid& rules_;
     SelectGridModel model_;
     SelectGridHeader* header_;
     SpokenPicker* spoken_;
+    std::function<bool()> mayTakeFocus_;
     QPersistentModelIndex pressed_;
-    QElapsedTimer sinceLetter_;
+    std::uint32_t shownTicks_ = 0;
+    bool keepsRing_ = false;
 };
 
 }  // namespace halvek

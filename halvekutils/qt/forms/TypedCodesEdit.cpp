@@ -4,10 +4,12 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/selection/PastedCodes.h>
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -20,11 +22,18 @@ constexpr std::size_t kMaxShown = 1000;
 
 }  // namespace
 
+QString TypedCodesEdit::Hint() {
+    return tr(
+        "Type codes and a comma after each.\n"
+        "Tab goes to the list; there, letters or Ctrl+F find a name and Space ticks it.");
+}
+
 TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     : QLineEdit(parent), rules_(rules) {
     setObjectName(QLatin1String("txtSelect"));
     setAccessibleName(tr("Selected codes"));
     new FieldOutline(*this);
+    setPlaceholderText(tr("Codes, separated by commas"));
     setMaxLength(std::numeric_limits<int>::max());
     connect(this, &QLineEdit::textChanged, this, &TypedCodesEdit::TextEdited);
 }
@@ -32,9 +41,27 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
 void TypedCodesEdit::TextEdited() {
     if (mirroring_) return;
     GuardEvent(u"frmSelectGrid.txtSelect_Change", [this] {
+        TidyInserted(ToQString(rules_.Box().text));
         const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
         rules_.EditBox(text(), caret, selectionLength());
     });
+}
+
+/// Codes come in several characters at once when they are pasted or dropped.
+void TypedCodesEdit::TidyInserted(const QString& before) {
+    const QString now = text();
+    const qsizetype shorter = std::min(before.size(), now.size());
+    const auto ends = std::mismatch(now.crbegin(), now.crbegin() + shorter, before.crbegin());
+    const qsizetype after = ends.first - now.crbegin();
+    const auto starts =
+        std::mismatch(now.cbegin(), now.cbegin() + (shorter - after), before.cbegin());
+    const qsizetype start = starts.first - now.cbegin();
+    const QString inserted = now.mid(start, now.size() - after - start);
+    const QString codes = ToQString(PastedCodes(inserted));
+    if (inserted.size() < 2 || codes == inserted) return;
+    const QScopedValueRollback mirroring(mirroring_, true);
+    setSelection(static_cast<int>(start), static_cast<int>(inserted.size()));
+    insert(codes);
 }
 
 void TypedCodesEdit::Refresh() {
@@ -45,13 +72,28 @@ void TypedCodesEdit::Refresh() {
     // Every change of a line edit costs time in proportion to its text.
     const bool tooLong = box.text.size() > kMaxEdited;
     setReadOnly(tooLong);
-    setToolTip(tooLong ? tr("Too many codes to be edited here") : QString());
+    setToolTip(tooLong ? tr("Too many codes to be edited here") : Hint());
     const QString wanted =
         tooLong ? ToQString(std::u16string_view(box.text).substr(0, kMaxShown)) + QChar(0x2026)
                 : ToQString(box.text);
     if (text() != wanted) setText(wanted);
+    SelectAsRulesDo();
+}
+
+void TypedCodesEdit::SelectAsRulesDo() {
+    const TypedCodesBox& box = rules_.Box();
     setCursorPosition(box.caret);
     if (box.selected > 0) setSelection(box.caret, box.selected);
+}
+
+bool TypedCodesEdit::MayBeLeft() {
+    rules_.CapitalizeCodes();
+    return rules_.ValidateBox();
+}
+
+void TypedCodesEdit::Return() {
+    setFocus(Qt::OtherFocusReason);
+    SelectAsRulesDo();
 }
 
 void TypedCodesEdit::focusInEvent(QFocusEvent* event) {
@@ -92,7 +134,11 @@ void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
 
 void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {
     if (IsEnter(*event)) {
-        GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { rules_.Accept(); });
+        GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { emit Accepted(); });
+        return;
+    }
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::NoModifier) {
+        GuardEvent(u"frmSelectGrid.txtSelect_KeyDown", [this] { emit WentDown(); });
         return;
     }
     if (!event->isAutoRepeat() && !event->text().isEmpty() && !EndComma()) return;
@@ -106,7 +152,7 @@ bool TypedCodesEdit::EndComma() {
     commaEnded_ = std::exchange(commaIsDown_, false);
     bool accepted = true;
     if (commaEnded_) {
-        GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [&] { accepted = rules_.ValidateBox(); });
+        GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [&] { accepted = MayBeLeft(); });
     }
     return accepted;
 }
@@ -116,7 +162,10 @@ void TypedCodesEdit::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Comma || event->isAutoRepeat()) return;
     commaIsDown_ = false;
     if (std::exchange(commaEnded_, false)) return;
-    GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [this] { rules_.ReleaseComma(); });
+    GuardEvent(u"frmSelectGrid.txtSelect_KeyUp", [this] {
+        rules_.CapitalizeCodes();
+        rules_.ReleaseComma();
+    });
 }
 
 }  // namespace halvek

@@ -19,6 +19,17 @@ class TypedCodesEdit : public QLineEdit {
     /// Shows what the rules, not the user, have changed in the box.
     void Refresh();
 
+    /// Checks the text before the box is left; false when it is refused.
+    bool MayBeLeft();
+    /// Takes the keyboard after a refusal, with the wrong code selected.
+    void Return();
+
+  signals:
+    /// Enter: OK.
+    void Accepted();
+    /// Down: on to the grid.
+    void WentDown();
+
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -28,8 +39,11 @@ class TypedCodesEdit : public QLineEdit {
 
   private:
     void TextEdited();
+    void TidyInserted(const QString& before);
+    void SelectAsRulesDo();
     void EnterBox(SelectGrid::BoxFocus how);
     bool EndComma();
+    static QString Hint();
 
     SelectGrid& rules_;
     std::uint32_t shownVersion_ = 0;

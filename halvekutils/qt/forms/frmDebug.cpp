@@ -43,7 +43,8 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
     : console_(std::move(console)),
       hostWindow_(QApplication::activeWindow()),
       txtDebug_(new DebugTextView(*console_, this)),
-      findBar_(new FindBar(*txtDebug_, tr("Find"), this)),
+      findBar_(
+          new FindBar(std::make_unique<FindInText<DebugTextView>>(*txtDebug_), tr("Find"), this)),
       lblStatus_(new StatusLabel("lblStatus", this)),
       chkNoLog_(MakeBox("chkNoLog", tr("STOP logging"), &DebugConsole::StopLogging)),
       chkToFile_(MakeBox("chkToFile", tr("All goes to file"), &DebugConsole::SendAllToFile)),
@@ -149,8 +150,8 @@ void frmDebug::BuildShortcuts() {
     };
     add(Qt::Key_F7, [this] { console_->Clear(); });
     add(QKeySequence::Find, [this] { findBar_->Open(); });
-    add(Qt::Key_F3, [this] { findBar_->Find(false); });
-    add(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->Find(true); });
+    add(Qt::Key_F3, [this] { findBar_->FindNext(false); });
+    add(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->FindNext(true); });
 }
 
 void frmDebug::ShowInBackground() {

@@ -10,6 +10,7 @@ class QPushButton;
 
 namespace halvek {
 
+class FindBar;
 class SelectGridView;
 class TypedCodesEdit;
 
@@ -24,17 +25,25 @@ class frmSelectGrid : public DialogForm {
   protected:
     void Refresh() override;
     bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:
     void ApplyLayout(const Desktop& desktop);
+    void BuildParts();
+    void ConnectParts();
     bool MayLeaveBox();
+    void Accept();
+    void OpenFind(const QString& word);
+    bool PressKey(const QKeyEvent& event);
 
     SelectGrid& rules_;
-    TypedCodesEdit* typedCodes_;
-    SelectGridView* grid_;
-    QPushButton* okButton_;
-    QPushButton* cancelButton_;
+    TypedCodesEdit* typedCodes_ = nullptr;
+    SelectGridView* grid_ = nullptr;
+    FindBar* findBar_ = nullptr;
+    QPushButton* okButton_ = nullptr;
+    QPushButton* cancelButton_ = nullptr;
 };
 
 }  // namespace halvek

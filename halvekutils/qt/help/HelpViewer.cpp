@@ -69,7 +69,8 @@ void TakeOut(QWindow& lower, QWindow* window) {
 HelpViewer::HelpViewer()
     : browser_(new HelpBrowser),
       trvContents_(new QTreeWidget),
-      find_(new FindBar(*browser_, tr("Find in this page"))) {
+      find_(new FindBar(std::make_unique<FindInText<HelpBrowser>>(*browser_),
+                        tr("Find in this page"))) {
     notice_ = MakeNotice();
     setObjectName(QLatin1String("HelpViewer"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -153,9 +154,9 @@ void HelpViewer::MakeTools() {
     QAction* const find =
         MakeAction("actFind", tr("Find"), QStringLiteral("Ctrl+F"), [this] { find_->Open(); });
     MakeAction("actFindNext", tr("Find next"), QStringLiteral("F3; Ctrl+G"),
-               [this] { find_->Find(false); });
+               [this] { find_->FindNext(false); });
     MakeAction("actFindPrevious", tr("Find previous"), QStringLiteral("Shift+F3; Ctrl+Shift+G"),
-               [this] { find_->Find(true); });
+               [this] { find_->FindNext(true); });
     MakeAction("actClose", tr("Close"), QStringLiteral("Ctrl+W"), [this] { close(); });
     back->setIcon(HelpIcon(HelpPicture::Back));
     forward->setIcon(HelpIcon(HelpPicture::Forward));

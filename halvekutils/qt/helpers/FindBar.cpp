@@ -3,13 +3,14 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/StatusLabel.h>
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace halvek {
@@ -17,6 +18,16 @@ namespace halvek {
 namespace {
 
 constexpr int kMaxWordLength = 200;
+constexpr int kWordInView = 12;  // letters
+constexpr int kAroundText = 2;
+constexpr double kReadable = 4.5;                     // the least contrast of a text
+constexpr QRgb kMissed[] = {0xFFC01010, 0xFFFF8A80};  // reds for light and for dark ground
+
+QColor MissedOn(const QColor& ground) {
+    const QColor onLight(kMissed[0]);
+    const bool isLight = design::Contrast(onLight, ground) >= kReadable;
+    return isLight ? onLight : design::Visible(QColor(kMissed[1]), ground, kReadable);
+}
 
 template <class Press>
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& toolTip,
@@ -30,9 +41,9 @@ QPushButton* MakeButton(const char* name, const QString& caption, const QString&
 
 }  // namespace
 
-FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
+FindBar::FindBar(std::unique_ptr<FindTarget> target, const QString& prompt, QWidget* parent)
     : QWidget(parent),
-      text_(std::move(text)),
+      target_(std::move(target)),
       txtFind_(new QLineEdit),
       lblFind_(new StatusLabel("lblFind")) {
     setObjectName(QLatin1String("FindBar"));
@@ -47,85 +58,130 @@ FindBar::FindBar(Searched text, const QString& prompt, QWidget* parent)
     row->setSpacing(design::Gap());
     row->addWidget(txtFind_, 1);
     QPushButton* const previous = MakeButton("cmdFindPrevious", tr("Pre&vious"),
-                                             tr("Previous (Shift+F3)"), [this] { Find(true); });
+                                             tr("Previous (Shift+F3)"), [this] { FindNext(true); });
     QPushButton* const next =
-        MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { Find(false); });
+        MakeButton("cmdFindNext", tr("Ne&xt"), tr("Next (F3)"), [this] { FindNext(false); });
     QPushButton* const close =
-        MakeButton("cmdFindClose", tr("Close"), tr("Close (Escape)"), [this] { Close(); });
-    design::MakeAlike({previous, next, close});
+        MakeButton("cmdFindClose", tr("\u00D7"), tr("Close (Escape)"), [this] { Close(); });
     row->addWidget(previous);
     row->addWidget(next);
     row->addWidget(lblFind_);
     row->addWidget(close);
+    // A button with the word, beside those of a dialog, would seem to close the dialog.
+    close->setAccessibleName(tr("Close"));
+    design::MakeAlike({previous, next});
+    close->setFixedWidth(previous->minimumHeight());
+    close->setMinimumHeight(previous->minimumHeight());
     // The box is not to jump while a word is typed.
-    lblFind_->setMinimumWidth(lblFind_->fontMetrics().horizontalAdvance(NotFound()));
+    const QFontMetrics letters = lblFind_->fontMetrics();
+    lblFind_->setMinimumWidth(std::max(letters.horizontalAdvance(tr("Not found")),
+                                       letters.horizontalAdvance(target_->LongestText())) +
+                              kAroundText);
+    txtFind_->setMinimumWidth(letters.averageCharWidth() * kWordInView);
     connect(txtFind_, &QLineEdit::textEdited, this,
             [this] { GuardEvent(u"FindBar.txtFind_Change", [this] { FindTyped(); }); });
-    connect(txtFind_, &QLineEdit::returnPressed, this,
-            [this] { GuardEvent(u"FindBar.txtFind_Enter", [this] { Find(false); }); });
     hide();
 }
 
 FindBar::~FindBar() = default;
 
 void FindBar::Open() {
-    ShowOutcome(true);
+    target_->Start();
+    Refresh();
     show();
     txtFind_->setFocus(Qt::ShortcutFocusReason);
     txtFind_->selectAll();
 }
 
+void FindBar::Open(const QString& word) {
+    Open();
+    txtFind_->setText(word);
+    FindTyped();
+}
+
 void FindBar::Close() {
+    const bool hadKeyboard = HasKeyboard();
     hide();
-    text_.widget->setFocus(Qt::OtherFocusReason);
+    if (hadKeyboard) target_->Widget().setFocus(Qt::OtherFocusReason);
 }
 
-/// Searches from the start of the place found, so it stays found while the word grows.
+bool FindBar::HasKeyboard() const {
+    const QWidget* const focus = window()->focusWidget();
+    return focus != nullptr && isAncestorOf(focus);
+}
+
 void FindBar::FindTyped() {
-    QTextCursor cursor = text_.cursor();
-    cursor.setPosition(cursor.selectionStart());
-    text_.setCursor(cursor);
-    if (txtFind_->text().isEmpty()) {
-        ShowOutcome(true);
-    } else {
-        Find(false);
-    }
+    target_->Find(txtFind_->text());
+    Say(Now());
 }
 
-void FindBar::Find(bool backwards) {
+void FindBar::FindNext(bool backwards) {
     if (txtFind_->text().isEmpty()) {
         Open();
         return;
     }
-    const QTextCursor before = text_.cursor();
-    QTextCursor otherEnd = before;
-    otherEnd.movePosition(backwards ? QTextCursor::End : QTextCursor::Start);
-    const bool found = FindFrom(before, backwards) || FindFrom(otherEnd, backwards);
-    if (!found) text_.setCursor(before);
-    ShowOutcome(found);
+    target_->FindNext(txtFind_->text(), backwards);
+    Say(Now());
 }
 
-QString FindBar::NotFound() {
-    return tr("Not found");
+void FindBar::Take() {
+    if (target_->Take()) {
+        txtFind_->selectAll();
+        Say(Now());
+    } else {
+        FindNext(false);
+    }
 }
 
-bool FindBar::FindFrom(const QTextCursor& cursor, bool backwards) {
-    text_.setCursor(cursor);
-    const auto direction = backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    return text_.find(txtFind_->text(), direction);
+void FindBar::Refresh() {
+    const FindTarget::Outcome outcome = Now();
+    const bool isSaid =
+        outcome.text == lblFind_->text() && outcome.spoken == lblFind_->accessibleName();
+    if (!isSaid) Say(outcome);
 }
 
-void FindBar::ShowOutcome(bool found) {
-    lblFind_->Tell(found ? QString() : NotFound());
-    txtFind_->setAccessibleDescription(lblFind_->text());
+FindTarget::Outcome FindBar::Now() const {
+    FindTarget::Outcome outcome;
+    if (!txtFind_->text().isEmpty()) outcome = target_->Now();
+    if (outcome.missed) outcome.text = tr("Not found");
+    if (outcome.spoken.isEmpty()) outcome.spoken = outcome.text;
+    return outcome;
+}
+
+void FindBar::Say(const FindTarget::Outcome& outcome) {
+    QPalette box;
+    QPalette label;
+    if (outcome.missed) {
+        box.setColor(QPalette::Text, MissedOn(palette().color(QPalette::Base)));
+        label.setColor(QPalette::WindowText, MissedOn(palette().color(QPalette::Window)));
+    }
+    txtFind_->setPalette(box);
+    txtFind_->setAccessibleDescription(outcome.spoken);
+    lblFind_->setPalette(label);
+    lblFind_->setAccessibleName(outcome.spoken);
+    lblFind_->Tell(outcome.text);
+}
+
+bool FindBar::PressKey(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Escape) {
+        Close();
+    } else if (!txtFind_->hasFocus()) {
+        return false;
+    } else if (IsEnter(event)) {
+        // A key held down would take what it has just taken.
+        if (!event.isAutoRepeat()) Take();
+    } else if (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) {
+        FindNext(event.key() == Qt::Key_Up);
+    } else {
+        return false;
+    }
+    return true;
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) {
-        Close();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
+    bool taken = true;
+    GuardEvent(u"FindBar.KeyDown", [&] { taken = PressKey(*event); });
+    if (!taken) QWidget::keyPressEvent(event);
 }
 
 }  // namespace halvek

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-#include <QTextCursor>
-#include <QTextDocument>
+#include <halvekutils/qt/helpers/FindTarget.h>
+
 #include <QWidget>
 
-#include <functional>
+#include <memory>
 
 class QLineEdit;
 
@@ -14,51 +13,43 @@ namespace halvek {
 
 class StatusLabel;
 
-/// A line below a text that finds words in it, letter case ignored; hidden until Open.
+/// A line that finds words in a text or entries in a list as they are typed; hidden until Open.
 class FindBar : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param text  a QTextEdit or a QPlainTextEdit, whose base class lacks the members used here
+    /// @param target  what is searched
     /// @param prompt  names the box where the word is typed
-    template <class Text>
-    FindBar(Text& text, const QString& prompt, QWidget* parent = nullptr)
-        : FindBar(Searched{&text,
-                           [&text](const QString& word, QTextDocument::FindFlags flags) {
-                               return text.find(word, flags);
-                           },
-                           [&text] { return text.textCursor(); },
-                           [&text](const QTextCursor& cursor) { text.setTextCursor(cursor); }},
-                  prompt, parent) {}
+    FindBar(std::unique_ptr<FindTarget> target, const QString& prompt, QWidget* parent = nullptr);
     ~FindBar() override;
 
-    /// Shows the bar and takes the keyboard.
+    /// Shows the bar and takes the keyboard; the next letter replaces the word.
     void Open();
-    /// Hides the bar and gives the keyboard to the text.
+    /// The same with this word, to which the next letter is added.
+    void Open(const QString& word);
+    /// Hides the bar and gives the keyboard, if the bar has it, to what was searched.
     void Close();
+    /// Whether a part of the bar has the keyboard.
+    bool HasKeyboard() const;
 
-    /// Goes to the next place, or the one before, and on at the other end of the text; opens the
-    /// bar when there is nothing to find yet.
-    void Find(bool backwards);
+    /// Goes to the next place, or the one before, and on at the other end; opens the bar when there
+    /// is nothing to find yet.
+    void FindNext(bool backwards);
+
+    /// Says how the search stands; call it when what was found has changed.
+    void Refresh();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    struct Searched {
-        QWidget* widget;
-        std::function<bool(const QString&, QTextDocument::FindFlags)> find;
-        std::function<QTextCursor()> cursor;
-        std::function<void(const QTextCursor&)> setCursor;
-    };
-
-    FindBar(Searched text, const QString& prompt, QWidget* parent);
-    bool FindFrom(const QTextCursor& cursor, bool backwards);
+    bool PressKey(const QKeyEvent& event);
     void FindTyped();
-    static QString NotFound();
-    void ShowOutcome(bool found);
+    void Take();
+    FindTarget::Outcome Now() const;
+    void Say(const FindTarget::Outcome& outcome);
 
-    Searched text_;
+    std::unique_ptr<FindTarget> target_;
     QLineEdit* txtFind_;
     StatusLabel* lblFind_;
 };

@@ -12,7 +12,7 @@ StatusLabel::StatusLabel(const char* name, QWidget* parent)
 
 void StatusLabel::Tell(const QString& text) {
     setText(text);
-    if (!text.isEmpty()) notice_->Say(text);
+    if (!text.isEmpty()) notice_->Say(accessibleName().isEmpty() ? text : accessibleName());
 }
 
 }  // namespace halvek

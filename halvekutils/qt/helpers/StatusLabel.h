@@ -14,6 +14,7 @@ class StatusLabel : public QLabel {
   public:
     explicit StatusLabel(const char* name, QWidget* parent = nullptr);
 
+    /// Shows a text and has readers say it, or else the accessible name.
     void Tell(const QString& text);
 
   private:

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include <halvekutils/base/Characters.h>
+#include <halvekutils/base/PlainLetter.h>
+#include <halvekutils/selection/SelectionSearch.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace halvek {
+
+namespace {
+
+constexpr auto kPlain = [] {
+    std::array<char16_t, 0x180> plain{};
+    for (std::size_t i = 0; i < plain.size(); ++i) plain[i] = PlainLetter(static_cast<char16_t>(i));
+    return plain;
+}();
+
+/// PlainLetter by a table of most characters that it may change.
+char16_t Plain(char16_t character) {
+    return character < kPlain.size() ? kPlain[character] : PlainLetter(character);
+}
+
+/// How well an entry fits, the best first.
+enum Fit { StartsCode, StartsDescription, StartsWord, Contains, AllCodes, None };
+
+bool IsInWord(char16_t character) {
+    const char16_t plain = Plain(character);
+    const bool isSymbol = plain == 0xD7 || plain == 0xF7 || (plain >= 0x2000 && plain < 0x2C00);
+    return IsLetter(plain) || IsDigit(plain) || (plain >= 0xC0 && !isSymbol);
+}
+
+/// Whether a text has the word at this place; its first character is known to be there.
+bool HasWordAt(std::u16string_view text, std::size_t at, std::u16string_view word) {
+    if (text.size() - at < word.size()) return false;
+    for (std::size_t i = 1; i < word.size(); ++i) {
+        if (Plain(text[at + i]) != word[i]) return false;
+    }
+    return true;
+}
+
+/// The fit of a text in which `atStart` is the best that there is.
+Fit FitIn(std::u16string_view text, std::u16string_view word, Fit atStart) {
+    Fit fit = None;
+    for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
+        if (Plain(text[at]) != word.front() || !HasWordAt(text, at, word)) continue;
+        if (at == 0) return atStart;
+        if (!IsInWord(text[at - 1])) return StartsWord;
+        fit = Contains;
+    }
+    return fit;
+}
+
+}  // namespace
+
+void SelectionSearch::Find(TextIn word) {
+    std::u16string plain = word.Str();
+    std::ranges::transform(plain, plain.begin(), Plain);
+    const bool narrows = !word_.empty() && plain.find(word_) != plain.npos;
+    std::vector<std::int32_t> found;
+    std::int32_t best = 0;
+    Fit bestFit = None;
+    const auto look = [&](std::int32_t entry) {
+        const Fit inCode = FitIn(Trimmed(list_.Code(entry)), plain, StartsCode);
+        Fit fit = inCode == StartsCode ? inCode
+                                       : std::min(inCode, FitIn(Trimmed(list_.Description(entry)),
+                                                                plain, StartsDescription));
+        if (fit == None || !list_.HasCode(entry)) return;
+        // Nobody ticks all entries by a name that the list lacks.
+        if (entry == SelectionList::kAllCodes) fit = AllCodes;
+        found.push_back(entry);
+        if (fit < bestFit) best = entry;
+        bestFit = std::min(bestFit, fit);
+    };
+    if (narrows) {
+        for (const std::int32_t entry : found_) look(entry);
+    } else if (!plain.empty()) {
+        for (std::int32_t entry = 1; entry <= list_.LastShown(); ++entry) look(entry);
+    }
+    word_ = std::move(plain);
+    found_ = std::move(found);
+    best_ = best;
+}
+
+std::int32_t SelectionSearch::PlaceOf(std::int32_t entry) const {
+    const auto at = std::ranges::lower_bound(found_, entry);
+    const bool isFound = at != found_.end() && *at == entry;
+    return isFound ? static_cast<std::int32_t>(at - found_.begin()) + 1 : 0;
+}
+
+std::int32_t SelectionSearch::NextAfter(std::int32_t entry, bool backwards) const {
+    if (found_.empty()) return 0;
+    if (backwards) {
+        const auto at = std::ranges::lower_bound(found_, entry);
+        return at == found_.begin() ? found_.back() : at[-1];
+    }
+    const auto at = std::ranges::upper_bound(found_, entry);
+    return at == found_.end() ? found_.front() : *at;
+}
+
+}  // namespace halvek
