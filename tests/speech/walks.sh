@@ -15,8 +15,16 @@ start_reader() {
     start /usr/libexec/at-spi-bus-launcher --launch-immediately
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
     : >"$said"
-    start /usr/bin/python3 "$here/reader.py" "$said" "$work/reader"
+    start env LC_ALL=C.UTF-8 /usr/bin/python3 "$here/reader.py" "$said" "$work/reader"
     wait_until "the reader speaks" grep -q . "$said"
+}
+
+keys() {
+    xdotool key --clearmodifiers "$@"
+}
+
+has_active_title() {
+    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1" ]]
 }
 
 mark() {
@@ -24,20 +32,26 @@ mark() {
     marked=${#lines[@]}
 }
 
-# What has been said since the mark, as far as nothing cut it short; sets $heard.
+# What has been said since the mark; sets $heard, and $whole with what was cut short.
 listen() {
     local line
-    heard=""
+    heard="" whole=""
     mapfile -t -s "$marked" lines <"$said"
     for line in "${lines[@]}"; do
-        if [ -z "$line" ]; then heard=""; else heard+=${heard:+ / }$line; fi
+        if [ -z "$line" ]; then
+            heard=""
+        else
+            heard+=${heard:+ / }$line
+            whole+=${whole:+ / }$line
+        fi
     done
 }
 
-# Whether what is heard is, or ends with, a text; longer texts are often said in parts.
+# Whether what is heard is, or ends with, a text. On a busy machine a key may cut short what it has
+# caused itself.
 hears() {
     listen
-    [ "$heard" = "$1" ]
+    [[ "$heard" == "$1" || "$whole" == "$1" ]]
 }
 hears_last() {
     listen
@@ -46,7 +60,7 @@ hears_last() {
 
 # Waits a while until a condition holds. Usage: soon COMMAND...
 soon() {
-    local tries=400
+    local tries=1000
     until "$@"; do
         ((tries-- > 0)) || return
         sleep 0.02
@@ -57,7 +71,7 @@ start_stage() {
     "$program" >"$work/stage.log" 2>&1 &
     stage=$!
     started+=("$stage")
-    wait_for_window Stage
+    wait_until "the stage is shown" has_active_title Stage
     soon hears_last "Call text."
 }
 
@@ -125,5 +139,5 @@ while IFS='|' read -r acts wanted; do
     esac
 done <"$here/walks.txt"
 echo "$steps steps"
-[ "$failures" -eq 0 ] || tail -n 50 "$work/python3.log" "$work/stage.log"
+[ "$failures" -eq 0 ] || tail -n 50 "$work/env.log" "$work/stage.log"
 finish
