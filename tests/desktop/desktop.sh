@@ -73,10 +73,6 @@ start_desktop() {
     wait_until "the window manager starts" wmctrl -m
 }
 
-has_ended() {
-    ! kill -0 "$1"
-}
-
 # Leaves a picture of the screen when HALVEK_PICTURES names a folder. Usage: picture NAME
 picture() {
     [ -n "${HALVEK_PICTURES:-}" ] && [ -n "${DISPLAY:-}" ] || return 0

@@ -17,6 +17,7 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -60,6 +61,23 @@ std::uint32_t AtomOf(const char* name) {
     const std::uint32_t atom = reply == nullptr ? 0 : reply->atom;
     std::free(reply);
     return atom;
+}
+
+/// Whether a click would reach this program. The frame of a window that has just been closed stays
+/// until the window manager takes it away.
+bool PointerIsOverHost() {
+    auto* const display = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    std::uint32_t window = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+    for (std::uint32_t child = window; child != 0;) {
+        window = child;
+        auto* const reply =
+            xcb_query_pointer_reply(display, xcb_query_pointer(display, window), nullptr);
+        child = reply == nullptr ? 0 : reply->child;
+        std::free(reply);
+    }
+    return std::ranges::any_of(QGuiApplication::allWindows(), [window](const QWindow* own) {
+        return own->handle() != nullptr && own->winId() == window;
+    });
 }
 
 /// "right", "X,Y" or "" for the usual place
@@ -112,7 +130,8 @@ void Conversation::Answer(const QString& line) {
     if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
     if (word == "await") {
         marksAwaited_ = rest.section(' ', 0, 0).toInt();
-        clicksAwaited_ = rest.section(' ', 1).toInt();
+        clicksAwaited_ = rest.section(' ', 1, 1).toInt();
+        pointerAwaited_ = rest.section(' ', 2) == "pointer";
         isAsked_ = true;
         looks_ = 0;
         check_.start();
@@ -175,7 +194,8 @@ bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 /// Called whenever the event loop has nothing else to do.
 void Conversation::Check() {
     const bool isThere = marksSeen_ >= marksAwaited_ && clicksSeen_ >= clicksAwaited_;
-    if (!isThere || !IsSettled()) calm_ = 0;
+    const bool isOver = !pointerAwaited_ || PointerIsOverHost();
+    if (!isThere || !isOver || !IsSettled()) calm_ = 0;
     check_.setInterval(calm_ == 0 ? kPause : 0);
     const bool isDone = calm_++ >= kCalmRounds;
     if (!isAsked_ || (!isDone && ++looks_ < kLooks)) return;

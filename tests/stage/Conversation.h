@@ -22,7 +22,8 @@
 ///     load FIELD TEXT          the program sets a text
 ///     clipboard|locale TEXT    what the desktop offers
 ///     slow-hand                both clicks of a double click may be far apart
-///     await MARKS CLICKS       "done" once all that was done before has had its effect; "stuck:"
+///     await MARKS CLICKS [pointer]
+///                              "done" once all that was done before has had its effect; "stuck:"
 ///                              and what is not there yet when it never comes
 ///
 /// The player marks the end of an act by a property of a window that the host names at first, which
@@ -55,6 +56,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     int clicksSeen_ = 0;
     int marksAwaited_ = 0;
     int clicksAwaited_ = 0;
+    bool pointerAwaited_ = false;  ///< over a window of this program
     bool isAsked_ = false;
     int looks_ = 0;  ///< since it was asked
     int calm_ = 0;   ///< rounds of the event loop without news

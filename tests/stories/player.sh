@@ -45,7 +45,7 @@ act() {
     ((marks += 1, clicks += $1))
     shift
     printf '%s\n' "$@" "set_window --role mark$marks $marked" get_num_desktops >&"$hand"
-    echo "await $marks $clicks" >&"$questions"
+    echo "await $marks $clicks ${over:-}" >&"$questions"
     hear
 }
 
@@ -101,6 +101,7 @@ numbers_are() {
 
 # Presses and releases a button without the tenth of a second that xdotool's own click takes.
 click_here() {
+    over=pointer act 0 || return
     act 1 "mousedown 1" "mouseup 1"
 }
 
@@ -179,7 +180,6 @@ take_step() {
     @at=*) new_window "${1#*=}" ;;
     @open=*) open_call "${1#*=}" ;;
     @open) open_call "${name_of_story%%:*}" ;;
-    @once=*) type_at_once "${1#*=}" ;;
     @close) request_close ;;
     @closed) await_outcome ;;
     @hold=*) act 0 "keydown ${code[${1#*=}]}" ;;
