@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/FuzzText.h"
 
+#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
@@ -49,11 +50,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(list.RowCount() == 3 * bands, "a band has three rows");
     Require(list.LastShown() == std::min(count, 10 * bands), "the bands hold what is shown");
     std::size_t longest = 0;
+    std::size_t longestName = 0;
     std::map<std::u16string, std::int32_t> first = {{u"", 0}};
     for (std::int32_t i = 1; i <= count; ++i) {
         const Entry& entry = entries[static_cast<std::size_t>(i) - 1];
         const std::u16string code = Trimmed(entry.code);
         longest = std::max(longest, code.size());
+        if (i > 1) longestName = std::max(longestName, entry.description.size());
         if (i <= list.LastShown()) first.emplace(code, i);
         Require(list.Code(i) == entry.code, "field 1 is the code");
         Require(list.Description(i) == entry.description, "field 2 is the description");
@@ -64,6 +67,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& [code, number] : first) {
         Require(list.Find(code) == number, "a code finds its first entry");
     }
+    std::size_t kept = 0;
+    for (const auto name : list.LongestDescriptions()) kept = std::max(kept, name.size());
+    Require(kept == longestName, "the longest description is kept");
+    first.erase(u"");
+    std::erase_if(first, [&](const auto& code) { return !EqualFolded(code.first, sought); });
+    Require(list.FindInAnyCase(sought) == (first.size() == 1 ? first.begin()->second : 0),
+            "only one code in other letter case is meant");
     const auto found = first.find(sought);
     Require(list.Find(sought) == (found == first.end() ? 0 : found->second), "no other is found");
     return 0;

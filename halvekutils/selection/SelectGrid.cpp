@@ -56,7 +56,8 @@ void SelectGrid::Prepare() {
         codes_.Type(text + request_.typedCharacter);
     }
     codes_.Select(Box().text.size(), 0);
-    if (const std::int32_t ticked = NextTicked(0); ticked > 0) cursor_.GoTo(ticked);
+    const std::int32_t firstTicked = Choice().empty() ? 0 : NextTicked(0);
+    if (firstTicked > 0) cursor_.GoTo(firstTicked);
     busy_ = false;
 }
 

@@ -198,12 +198,18 @@ std::u16string_view SelectionList::TrimmedCode(std::int32_t entry) const {
     return Trimmed(Code(entry));
 }
 
-std::u16string_view SelectionList::Description(std::int32_t entry) const {
+SelectionList::Texts SelectionList::TextsOf(std::int32_t entry) const {
     std::u16string_view text = From(entry);
-    text.remove_prefix(Code(entry).size());
-    if (!text.starts_with(kFieldEnd)) return {};
+    Texts texts{FirstField(text), {}};
+    text.remove_prefix(texts.code.size());
+    if (!text.starts_with(kFieldEnd)) return texts;
     text.remove_prefix(1);
-    return FirstField(text);
+    texts.description = FirstField(text);
+    return texts;
+}
+
+std::u16string_view SelectionList::Description(std::int32_t entry) const {
+    return TextsOf(entry).description;
 }
 
 bool SelectionList::IsDeleted(std::int32_t entry) const {

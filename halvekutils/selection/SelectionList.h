@@ -41,6 +41,12 @@ class HALVEK_EXPORT SelectionList {
 
     // What an entry holds; its number is 1 to Count(). Views stay valid as long as the list.
 
+    /// Code and description of an entry, for callers that want both.
+    struct Texts {
+        std::u16string_view code;         ///< as Code gives it
+        std::u16string_view description;  ///< as Description gives it
+    };
+    Texts TextsOf(std::int32_t entry) const;
     /// The code of an entry.
     std::u16string_view Code(std::int32_t entry) const;
     /// The description of an entry.

@@ -40,14 +40,16 @@ bool HasWordAt(std::u16string_view text, std::size_t at, std::u16string_view wor
     return true;
 }
 
-/// The fit of a text in which `atStart` is the best that there is.
-Fit FitIn(std::u16string_view text, std::u16string_view word, Fit atStart) {
+/// The fit of a text in which `atStart` is the best that there is. Nobody needs to know one that is
+/// not better than `best`, if only there is one.
+Fit FitIn(std::u16string_view text, std::u16string_view word, Fit atStart, Fit best) {
     Fit fit = None;
     for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
         if (Plain(text[at]) != word.front() || !HasWordAt(text, at, word)) continue;
         if (at == 0) return atStart;
         if (!IsInWord(text[at - 1])) return StartsWord;
         fit = Contains;
+        if (best <= StartsWord) break;
     }
     return fit;
 }
@@ -62,11 +64,15 @@ void SelectionSearch::Find(TextIn word) {
     std::int32_t best = 0;
     Fit bestFit = None;
     const auto look = [&](std::int32_t entry) {
-        const Fit inCode = FitIn(Trimmed(list_.Code(entry)), plain, StartsCode);
-        Fit fit = inCode == StartsCode ? inCode
-                                       : std::min(inCode, FitIn(Trimmed(list_.Description(entry)),
-                                                                plain, StartsDescription));
-        if (fit == None || !list_.HasCode(entry)) return;
+        const SelectionList::Texts texts = list_.TextsOf(entry);
+        const std::u16string_view code = Trimmed(texts.code);
+        if (code.empty() && entry != SelectionList::kAllCodes) return;
+        Fit fit = FitIn(code, plain, StartsCode, bestFit);
+        if (fit == None || bestFit > StartsDescription) {
+            fit =
+                std::min(fit, FitIn(Trimmed(texts.description), plain, StartsDescription, bestFit));
+        }
+        if (fit == None) return;
         // Nobody ticks all entries by a name that the list lacks.
         if (entry == SelectionList::kAllCodes) fit = AllCodes;
         found.push_back(entry);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Internal.h>
 #include <halvekutils/base/TextIn.h>
 #include <halvekutils/selection/SelectionList.h>
 
@@ -13,7 +12,7 @@ namespace halvek {
 
 /// Finds the entries of a selection list whose code or description contains a word. Letter case and
 /// accents do not matter; a blank is a character like any other.
-class HALVEK_INTERNAL SelectionSearch {
+class SelectionSearch {
   public:
     /// `list` outlives the search.
     explicit SelectionSearch(const SelectionList& list) : list_(list) {}

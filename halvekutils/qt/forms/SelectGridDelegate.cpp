@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace halvek {
 
 namespace {
@@ -38,10 +40,22 @@ void DrawCheckMark(QPainter& painter, const QStyleOptionViewItem& option, const 
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &mark, &painter, mark.widget);
 }
 
+/// A text with its end cut off, or its middle if a text beside it would then read the same.
+QString CutToWidth(const QString& text, const TextsBeside& beside, const QFontMetrics& letters,
+                   int width) {
+    const QString cut = letters.elidedText(text, Qt::ElideRight, width);
+    if (cut == text || !beside) return cut;
+    const bool isAlike = std::ranges::any_of(beside(), [&](const QString& other) {
+        return other != text &&
+               letters.elidedText(other.left(kMaxShown), Qt::ElideRight, width) == cut;
+    });
+    return isAlike ? letters.elidedText(text, Qt::ElideMiddle, width) : cut;
+}
+
 }  // namespace
 
-void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
-                  const QColor& color) {
+void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell, const QColor& color,
+                  const TextsBeside& beside) {
     const QRect inner = area.adjusted(kTextMargin, 0, -kTextMargin, 0);
     const QString text = ToQString(std::u16string_view(cell.text).substr(0, kMaxShown));
     QFont font = ToQFont(cell.font);
@@ -51,7 +65,7 @@ void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
     const bool centred = cell.alignment == SelectCell::Alignment::Centre;
     painter.drawText(
         inner, Qt::AlignVCenter | Qt::TextSingleLine | (centred ? Qt::AlignHCenter : Qt::AlignLeft),
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()));
+        CutToWidth(text, beside, painter.fontMetrics(), inner.width()));
 }
 
 SelectGridDelegate::SelectGridDelegate(const SelectGridModel& model, int descriptionHeight,
@@ -86,7 +100,8 @@ void SelectGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             if (cell.kind == SelectCell::Kind::Check) {
                 DrawCheckMark(*painter, option, area, cell.checked);
             } else {
-                DrawCellText(*painter, area, cell, text);
+                DrawCellText(*painter, area, cell, text,
+                             [&] { return model_.TextsBeside(index, part); });
             }
         }
         painter->restore();

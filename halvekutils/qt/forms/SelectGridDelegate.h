@@ -4,6 +4,10 @@
 #include <halvekutils/qt/forms/SelectGridModel.h>
 
 #include <QAbstractItemDelegate>
+#include <QString>
+
+#include <functional>
+#include <vector>
 
 namespace halvek {
 
@@ -30,8 +34,12 @@ class SelectGridDelegate : public QAbstractItemDelegate {
     int descriptionHeight_;
 };
 
-/// Draws a text of a cell, cut off with an ellipsis where it does not fit.
-void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell,
-                  const QColor& color);
+/// Gives the texts beside one that does not fit.
+using TextsBeside = std::function<std::vector<QString>()>;
+
+/// Draws a text of a cell, cut with an ellipsis where it does not fit: at its end, or in its middle
+/// if a text beside it would then read the same.
+void DrawCellText(QPainter& painter, const QRect& area, const SelectCell& cell, const QColor& color,
+                  const TextsBeside& beside = {});
 
 }  // namespace halvek

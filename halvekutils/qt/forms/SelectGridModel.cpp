@@ -28,6 +28,17 @@ SelectCell SelectGridModel::CellOf(const QModelIndex& index, int part) const {
     return rules_.Cell(check.row + part, check.column);
 }
 
+std::vector<QString> SelectGridModel::TextsBeside(const QModelIndex& index, int part) const {
+    std::vector<QString> texts;
+    const int entry = index.row() * columnCount() + index.column();
+    for (const int other : {entry - 1, entry + 1}) {
+        const QModelIndex beside =
+            this->index(other / columnCount(), other < 0 ? -1 : other % columnCount());
+        if (beside.isValid()) texts.push_back(ToQString(CellOf(beside, part).text));
+    }
+    return texts;
+}
+
 void SelectGridModel::Refresh(int firstBand, int lastBand) {
     const int last = std::min(lastBand, rowCount() - 1);
     if (firstBand < 0 || firstBand > last) return;

@@ -4,6 +4,9 @@
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <QAbstractTableModel>
+#include <QString>
+
+#include <vector>
 
 namespace halvek {
 
@@ -22,6 +25,9 @@ class SelectGridModel : public QAbstractTableModel {
 
     /// One of the three cells of an entry: 0 the check, 1 the code, 2 the description.
     SelectCell CellOf(const QModelIndex& index, int part) const;
+
+    /// The same part's texts of the entries before and after.
+    std::vector<QString> TextsBeside(const QModelIndex& index, int part) const;
 
     /// Makes the views repaint the entries of these bands.
     void Refresh(int firstBand, int lastBand);
