@@ -81,11 +81,10 @@ end_stage() {
     is_open=0
 }
 
-# Acts: keys by their names, a quoted text, or a window's title to go to it
+# Acts: keys by their names, or a quoted text
 act() {
     case $1 in
     \"*\") xdotool type --delay 0 -- "${1:1:-1}" ;;
-    @*) wmctrl -a "${1#@}" ;;
     *) read -ra names <<<"$1" && keys "${names[@]}" ;;
     esac
 }
@@ -100,7 +99,8 @@ open_call() {
 
 # Whether the stage has the keyboard again and the reader has said so.
 is_back() {
-    has_active_title Stage && hears_last "selected."
+    listen
+    [[ "$whole" == *"Stage frame."* ]] && has_active_title Stage
 }
 
 # One row of a walk; once one has failed, the others of the walk are skipped.

@@ -4,8 +4,6 @@
 
 #include <QApplication>
 
-#include <utility>
-
 namespace halvek {
 
 class SpokenNoticePart : public SpokenPart {
@@ -29,17 +27,18 @@ class SpokenNoticePart : public SpokenPart {
 SpokenNotice::SpokenNotice(QWidget& about) : QObject(&about), about_(about) {}
 
 SpokenNotice::~SpokenNotice() {
-    Forget(last_);
+    for (SpokenNoticePart* const part : said_) Forget(part);
 }
 
 void SpokenNotice::Say(const QString& text) {
     if (!QAccessible::isActive() || !about_.isVisible()) return;
-    // A reader that is late finds the same text again.
-    if (last_ == nullptr || last_->text(QAccessible::Name) != text) {
-        Forget(std::exchange(last_, new SpokenNoticePart(about_, text)));
-        QAccessible::registerAccessibleInterface(last_);
+    constexpr qsizetype kKept = 8;
+    if (said_.isEmpty() || said_.constLast()->text(QAccessible::Name) != text) {
+        said_ += new SpokenNoticePart(about_, text);
+        QAccessible::registerAccessibleInterface(said_.constLast());
     }
-    Send(*last_, QAccessible::ObjectShow);
+    if (said_.size() > kKept) Forget(said_.takeFirst());
+    Send(*said_.constLast(), QAccessible::ObjectShow);
 }
 
 }  // namespace halvek

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -24,7 +25,8 @@ class SpokenNotice : public QObject {
 
   private:
     QWidget& about_;
-    SpokenNoticePart* last_ = nullptr;  ///< belongs to the desktop's register
+    // The latest ones, for readers that are late; they belong to the desktop's register.
+    QList<SpokenNoticePart*> said_;
 };
 
 }  // namespace halvek
