@@ -92,7 +92,7 @@ TEST_F(AccessibilityTest, EveryControlOfADialogIsCalledWhatItIsAndReachedByTab) 
          "txtPalette_1 txtPalette_2 txtPalette_3"},
         {[&] { utils_->ShowSelection(u"Codes", u"H:A\tAlpha\t0:B\tBeta\t1:", u"B"); },
          "frmSelectGrid Dialog Codes    [Total: 2]; txtSelect EditableText Selected codes; "
-         "grdSelection List Codes; CheckBox *** ALL CODES ***; cmdOK Button OK; "
+         "grdSelection List Codes; CheckBox B, Beta; cmdOK Button OK; "
          "cmdExit Button Cancel > txtSelect grdSelection cmdOK cmdExit"},
     };
     for (const auto& [open, expected] : dialogs) {
