@@ -1,22 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "CallLog.h"
 
-#include <utility>
-
 namespace frontdesk {
 
-QStringList CallLog::Add(const QString& function, const QStringList& arguments,
-                         const QString& result) {
-    const QString call = function + '(' + arguments.join(", ") + ')';
-    AddLine(result.isEmpty() ? call : call + " = " + result);
-    QStringList messages = errorLog_.NewMessages();
-    for (const QString& message : std::as_const(messages)) AddLine("    error log: " + message);
-    return messages;
+namespace {
+
+/// Texts stand in quotes, without the middle of long ones.
+QString Shown(const QVariant& value) {
+    constexpr qsizetype kMostLetters = 56;
+    constexpr qsizetype kKeptEnd = 18;
+    if (value.typeId() != QMetaType::QString) return value.toString();
+    QString text = value.toString();
+    if (text.size() > kMostLetters) {
+        text = text.first(kMostLetters - kKeptEnd) + QChar(0x2026) + text.last(kKeptEnd);
+    }
+    return '"' + text.replace("\r", "\\r").replace("\n", "\\n").replace("\t", "\\t") + '"';
 }
 
-void CallLog::AddLine(const QString& line) {
-    lines_ << line;
-    for (const Listener& listener : listeners_) listener(line);
+}  // namespace
+
+void CallLog::Add(const QString& function, const QVariantList& arguments, const QVariant& result) {
+    QStringList shown;
+    for (const QVariant& argument : arguments) shown << Shown(argument);
+    const QString call = function + '(' + shown.join(", ") + ')';
+    lines_ << (result.isNull() ? call : call + " = " + Shown(result));
+    emit Added(lines_.last());
 }
 
 }  // namespace frontdesk

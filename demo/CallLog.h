@@ -1,40 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ErrorLogFile.h"
-
-#include <QString>
+#include <QObject>
 #include <QStringList>
-
-#include <functional>
-#include <vector>
+#include <QVariantList>
 
 namespace frontdesk {
 
-/// What the library returned: one line for every call that the client made, followed by what the
-/// call wrote to the error log.
-class CallLog {
+/// The calls of the library that the client has made, for programmers who watch it work.
+class CallLog : public QObject {
+    Q_OBJECT
+
   public:
-    using Listener = std::function<void(const QString& line)>;
-
-    explicit CallLog(ErrorLogFile& errorLog) : errorLog_(errorLog) {}
-
-    /// Notes a call and its result, empty for a member that returns nothing. Returns the messages
-    /// that the call wrote to the error log.
-    QStringList Add(const QString& function, const QStringList& arguments,
-                    const QString& result = {});
+    /// Notes a call and its result, null for a member that returns nothing.
+    void Add(const QString& function, const QVariantList& arguments = {},
+             const QVariant& result = {});
 
     const QStringList& Lines() const { return lines_; }
 
-    /// Adds a listener, which is called with every later line.
-    void Listen(Listener listener) { listeners_.push_back(std::move(listener)); }
+  signals:
+    void Added(const QString& line);
 
   private:
-    void AddLine(const QString& line);
-
-    ErrorLogFile& errorLog_;
     QStringList lines_;
-    std::vector<Listener> listeners_;
 };
 
 }  // namespace frontdesk

@@ -12,65 +12,25 @@ namespace frontdesk {
 
 namespace {
 
-struct RoleColors {
-    QPalette::ColorRole role;
-    QRgb enabled;
-    QRgb disabled;
+/// The colours that a desktop's palette is made of.
+struct Colors {
+    QRgb window, base, button, text, quiet, highlight, highlightedText;
 };
 
-constexpr RoleColors kLight[] = {
-    {QPalette::Window, 0xEFEFEF, 0xEFEFEF},
-    {QPalette::WindowText, 0x1A1A1A, 0x757575},
-    {QPalette::Base, 0xFFFFFF, 0xF7F7F7},
-    {QPalette::AlternateBase, 0xF5F7FA, 0xF2F2F2},
-    {QPalette::Text, 0x1A1A1A, 0x757575},
-    {QPalette::PlaceholderText, 0x707070, 0x8A8A8A},
-    {QPalette::Button, 0xEFEFEF, 0xEFEFEF},
-    {QPalette::ButtonText, 0x1A1A1A, 0x757575},
-    {QPalette::BrightText, 0xB00020, 0xB00020},
-    {QPalette::ToolTipBase, 0xFFFFDC, 0xFFFFDC},
-    {QPalette::ToolTipText, 0x1A1A1A, 0x1A1A1A},
-    {QPalette::Highlight, 0x1F6FC4, 0x9A9A9A},
-    {QPalette::HighlightedText, 0xFFFFFF, 0xFFFFFF},
-    {QPalette::Link, 0x0A58B0, 0x757575},
-    {QPalette::LinkVisited, 0x6A3DA0, 0x757575},
-    {QPalette::Light, 0xFFFFFF, 0xFFFFFF},
-    {QPalette::Midlight, 0xF7F7F7, 0xF7F7F7},
-    {QPalette::Mid, 0xB8B8B8, 0xB8B8B8},
-    {QPalette::Dark, 0x9F9F9F, 0xBEBEBE},
-    {QPalette::Shadow, 0x767676, 0xB1B1B1},
-};
+constexpr Colors kLight = {0xEFEFEF, 0xFFFFFF, 0xEFEFEF, 0x1A1A1A, 0x757575, 0x1F6FC4, 0xFFFFFF};
+constexpr Colors kDark = {0x2B2D30, 0x1E1F22, 0x3B3E43, 0xE8E8E8, 0x9A9DA1, 0x6AB0FF, 0x10151C};
 
-constexpr RoleColors kDark[] = {
-    {QPalette::Window, 0x2B2D30, 0x2B2D30},
-    {QPalette::WindowText, 0xE8E8E8, 0x9A9DA1},
-    {QPalette::Base, 0x1E1F22, 0x26282B},
-    {QPalette::AlternateBase, 0x25272A, 0x26282B},
-    {QPalette::Text, 0xE8E8E8, 0x9A9DA1},
-    {QPalette::PlaceholderText, 0x9DA1A6, 0x85898E},
-    {QPalette::Button, 0x3B3E43, 0x323539},
-    {QPalette::ButtonText, 0xE8E8E8, 0x9A9DA1},
-    {QPalette::BrightText, 0xFF8A80, 0xFF8A80},
-    {QPalette::ToolTipBase, 0x45494E, 0x45494E},
-    {QPalette::ToolTipText, 0xF2F2F2, 0xF2F2F2},
-    {QPalette::Highlight, 0x6AB0FF, 0x5A5E63},
-    {QPalette::HighlightedText, 0x10151C, 0xE8E8E8},
-    {QPalette::Link, 0x7DBBFF, 0x9A9DA1},
-    {QPalette::LinkVisited, 0xCDA9FF, 0x9A9DA1},
-    {QPalette::Light, 0x55595F, 0x4A4E53},
-    {QPalette::Midlight, 0x484C51, 0x404449},
-    {QPalette::Mid, 0x5C6066, 0x4A4E53},
-    {QPalette::Dark, 0x18191B, 0x18191B},
-    {QPalette::Shadow, 0x0C0D0E, 0x0C0D0E},
-};
-
-template <std::size_t n>
-QPalette MakePalette(const RoleColors (&table)[n]) {
-    QPalette palette;
-    for (const RoleColors& row : table) {
-        palette.setColor(QPalette::All, row.role, QColor(row.enabled));
-        palette.setColor(QPalette::Disabled, row.role, QColor(row.disabled));
+QPalette MakePalette(const Colors& colors) {
+    QPalette palette(QColor(colors.button), QColor(colors.window));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, QColor(colors.text));
+        palette.setColor(QPalette::Disabled, role, QColor(colors.quiet));
     }
+    palette.setColor(QPalette::Base, QColor(colors.base));
+    palette.setColor(QPalette::PlaceholderText, QColor(colors.quiet));
+    palette.setColor(QPalette::Highlight, QColor(colors.highlight));
+    palette.setColor(QPalette::HighlightedText, QColor(colors.highlightedText));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colors.quiet));
     return palette;
 }
 

@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CollectionBuilder::Add(*codes, text, services);
 
     std::set<std::u16string> keys;
-    for (const auto& code : *codes) {
+    for (const auto& code : codes) {
         if (code->CodeKey().empty()) continue;
         Require(keys.insert(Folded(code->CodeKey())).second, "no key is there twice");
         Require(codes->Item(code->CodeKey()) == code, "a key finds its own record");

@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(items->Item(asked) == found, "a key gives the same item again");
     Require(static_cast<std::size_t>(items->Count()) == granted.size(), "a miss adds one item");
     std::int32_t position = 0;
-    for (const auto& item : *items) {
+    for (const auto& item : items) {
         Require(items->Item(++position) == item, "a position finds its item");
         Require(items->Item(item->ItemKey()) == item, "a key finds its item");
         Require(RightsOf(*item) == granted.at(Folded(item->ItemKey())), "no right but those sent");

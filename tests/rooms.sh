@@ -48,16 +48,21 @@ done
 cups=$(grep -rn '#include <cups/' halvekutils | grep -v '^halvekutils/printers/' || true)
 [ -z "$cups" ] || fail "$cups"
 
-# Public headers: no other header exports anything, and they and the demo include only public ones
+# Public headers: no other header exports anything, and they, demo and examples include only public ones
 exporting=$(grep -rl HALVEK_EXPORT halvekutils --include='*.h' | sed 's,^halvekutils/,,' |
     grep -vxFf "$public" || true)
 [ -z "$exporting" ] || fail "HALVEK_EXPORT in headers that are not public: $exporting"
-private=$(sed 's,^,halvekutils/,' "$public" | cat - <(find demo -name '*.h' -o -name '*.cpp') |
+private=$(sed 's,^,halvekutils/,' "$public" | cat - <(find demo examples -name '*.h' -o -name '*.cpp') |
     xargs grep -HoE '#include <halvekutils/[^>]+' |
     awk -F'<halvekutils/' -v public="$public" '
         BEGIN { while ((getline header < public) > 0) listed[header] }
         !($2 in listed)')
 [ -z "$private" ] || fail "includes of headers that are not public: $private"
+
+# The tools include public headers, and besides only what is internal to the libraries and them
+hidden=$(grep -hoE '#include <halvekutils/[^>]+' tools/*.h tools/*.cpp | sed 's,.*<,,' | sort -u |
+    grep -vxFf <(sed 's,^,halvekutils/,' "$public") | xargs grep -L HALVEK_INTERNAL || true)
+[ -z "$hidden" ] || fail "headers that are not for the tools: $hidden"
 
 needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
     grep -vE '^(libc|libm|libstdc\+\+|libgcc_s|ld-linux.*|libasan|libubsan)\.so' || true)
@@ -66,7 +71,7 @@ needed=$(readelf -d "$library" | sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' |
 # Every source and every script names its licence
 unmarked=$(find . \( -name build -o -name .git -o -name .cache -o -name install \) -prune -o \
     -type f \( -name '*.cpp' -o -name '*.h' -o -name '*.sh' -o -name '*.cmake' -o -name '*.in' \
-    -o -name CMakeLists.txt -o -name '*.map' -o -name '*.awk' -o -name '*.svg' -o -name '*.desktop' \
+    -o -name CMakeLists.txt -o -name Makefile -o -name '*.map' -o -name '*.awk' -o -name '*.svg' -o -name '*.desktop' \
     -o -name '*.1' -o -path './scripts/*' -o -perm -u+x \) -print0 |
     xargs -0 grep -L 'SPDX-License-Identifier: MIT' || true)
 [ -z "$unmarked" ] || fail "without a licence: $unmarked"

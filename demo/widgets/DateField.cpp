@@ -1,43 +1,60 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/DateField.h"
 
-#include <QHBoxLayout>
+#include "Texts.h"
+#include "widgets/Icons.h"
 
-#include <utility>
+#include <halvekutils/qt/QtText.h>
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
 
 namespace frontdesk {
 
 namespace {
 
-constexpr int kLineWidth = 140;
+constexpr int kLetters = 18;
 
 }  // namespace
 
-DateField::DateField(const QString& name, Choose choose) : choose_(std::move(choose)) {
-    line_.setAccessibleName(name);
-    line_.setFixedWidth(kLineWidth);
-    button_.setText("...");
-    button_.setFocusPolicy(Qt::StrongFocus);
-    button_.setAccessibleName("Calendar: " + name);
-    button_.setToolTip("Choose from a calendar (Enter)");
-    setFocusProxy(&line_);
-    setFocusPolicy(Qt::StrongFocus);
+DateField::DateField(Desk& desk, const QString& name)
+    : desk_(desk), line_(new QLineEdit), button_(new QToolButton) {
+    line_->setAccessibleName(name);
+    line_->setPlaceholderText("mm/dd/yyyy");
+    line_->setFixedWidth(line_->fontMetrics().averageCharWidth() * kLetters);
+    line_->installEventFilter(this);
+    button_->setIcon(MakeIcon(Glyph::Calendar));
+    button_->setFocusPolicy(Qt::StrongFocus);
+    button_->setAccessibleName("Calendar: " + name);
+    button_->setToolTip("Choose from the calendar (F2)");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
-    row->addWidget(&line_);
-    row->addWidget(&button_);
+    row->setSpacing(4);
+    row->addWidget(line_);
+    row->addWidget(button_);
     row->addStretch();
-    connect(&line_, &QLineEdit::returnPressed, &button_, &QToolButton::click);
-    connect(&button_, &QToolButton::clicked, this, [this] {
-        chosen_ = choose_(*this);
-        if (!chosen_.isEmpty()) SetDate(chosen_);
-    });
+    setFocusProxy(line_);
+    connect(button_, &QToolButton::clicked, this, [this] { Choose(); });
 }
 
-QString DateField::PressButton() {
-    button_.click();
-    return chosen_;
+QDate DateField::Day() const {
+    const auto day = halvek::ParseDateTime(Text(), desk_.Library().ServerTime());
+    return day ? DayFrom(halvek::ToQString(halvek::DateOnlyText(*day))) : QDate();
+}
+
+void DateField::Choose() {
+    const QString day = desk_.ChooseDay(button_, Text());
+    if (!day.isEmpty()) SetText(day);
+    line_->setFocus();
+}
+
+bool DateField::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        !desk_.SearchBy(static_cast<QKeyEvent*>(event)->key()).isEmpty()) {
+        Choose();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace frontdesk

@@ -1,36 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Desk.h"
+
 #include <QLineEdit>
-#include <QString>
 #include <QToolButton>
 #include <QWidget>
 
-#include <functional>
-
 namespace frontdesk {
 
-/// A field for a date and a button, beside which the calendar opens; Enter presses the button.
+/// A field for a day, and a button that opens the library's calendar beside it; so do the look-up
+/// keys.
 class DateField : public QWidget {
   public:
-    /// Opens the calendar and returns the chosen day, empty for none.
-    using Choose = std::function<QString(DateField& field)>;
+    DateField(Desk& desk, const QString& name);
 
-    DateField(const QString& name, Choose choose);
+    QString Text() const { return line_->text().trimmed(); }
+    void SetText(const QString& text) { line_->setText(text); }
+    /// The day; a null one when the text is none.
+    QDate Day() const;
 
-    QString Date() const { return line_.text(); }
-    void SetDate(const QString& date) { line_.setText(date); }
+    QToolButton* Button() { return button_; }
 
-    QWidget& Button() { return button_; }
-
-    /// Presses the button and returns the result.
-    QString PressButton();
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    Choose choose_;
-    QLineEdit line_;
-    QToolButton button_;
-    QString chosen_;
+    void Choose();
+
+    Desk& desk_;
+    QLineEdit* line_;
+    QToolButton* button_;
 };
 
 }  // namespace frontdesk

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Compiler.h>
+
 #include <type_traits>
 
 namespace halvek {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Internal.h>
+#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <cstdint>
@@ -16,15 +16,15 @@ namespace halvek {
 /// survives the round trip. A character that the page lacks becomes the code of "?".
 
 /// The code of a character, 0 to 255.
-std::uint8_t CodeOf(char16_t character) noexcept;
+HALVEK_EXPORT std::uint8_t CodeOf(char16_t character) noexcept;
 
 /// The character of a code.
-char16_t CharacterOf(std::uint8_t code) noexcept;
+HALVEK_EXPORT char16_t CharacterOf(std::uint8_t code) noexcept;
 
 /// The text as bytes of the code page, one byte a character.
-HALVEK_INTERNAL std::string ToCodePage(TextIn text);
+HALVEK_EXPORT std::string ToCodePage(TextIn text);
 
 /// Bytes of the code page as text.
-HALVEK_INTERNAL std::u16string FromCodePage(std::string_view bytes);
+HALVEK_EXPORT std::u16string FromCodePage(std::string_view bytes);
 
 }  // namespace halvek

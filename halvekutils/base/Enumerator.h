@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/Compiler.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -11,7 +13,8 @@
 namespace halvek {
 
 /// Steps through a collection by position and keeps the collection alive, so that a loop survives a
-/// rebuild of the library's current collection and sees items added at its end.
+/// rebuild of the library's current collection and sees items added at its end. One without a
+/// collection is at its end.
 template <class Collection>
 class Enumerator {
   public:
@@ -37,7 +40,7 @@ class Enumerator {
     void operator++(int) { ++position_; }
     /// True after the last item that the collection has at this moment.
     friend bool operator==(const Enumerator& at, std::default_sentinel_t) {
-        return at.position_ > at.collection_->Count();
+        return at.collection_ == nullptr || at.position_ > at.collection_->Count();
     }
 
   private:

@@ -3,6 +3,6 @@
 
 /// @file
 
-/// Marks what the library without windows offers to the one with windows and to nobody else;
-/// headers that use it are not installed.
+/// Marks what the library without windows offers to the one with windows, to the tools, and to
+/// nobody else; headers that use it are not installed.
 #define HALVEK_INTERNAL [[gnu::visibility("default")]]

@@ -149,6 +149,13 @@ double Val(TextIn text) {
     return length == 0 ? 0 : WithSign(ReadNumber(rest.substr(0, length)), negative);
 }
 
+std::size_t NumberLength(TextIn text) {
+    std::u16string_view rest = WithoutLeadingBlanks(text);
+    if (!rest.empty() && IsSign(rest.front())) rest.remove_prefix(1);
+    const std::size_t length = NumberEnd(rest, SkipDigits(rest, 0));
+    return length == 0 ? 0 : text.size() - rest.size() + length;
+}
+
 std::optional<double> ToNumber(TextIn text) {
     std::u16string_view number = Trimmed(text, u" \t");
     const bool negative = TakeMarks(number);

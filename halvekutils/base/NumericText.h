@@ -4,6 +4,7 @@
 #include <halvekutils/base/Internal.h>
 #include <halvekutils/base/TextIn.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,6 +24,9 @@ namespace halvek {
 /// Val(u" 12.5 mg") == 12.5;  Val(u"1e") == 1;  Val(u"1,234") == 1;
 /// @endcode
 double Val(TextIn text);
+
+/// How many characters Val reads, the blanks before the number included; 0 when there is no number.
+std::size_t NumberLength(TextIn text);
 
 /// The value of a text that as a whole is a number or an amount; nothing for any other.
 ///

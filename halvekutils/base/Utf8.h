@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Internal.h>
+#include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
 
 #include <string>
@@ -10,9 +10,9 @@
 namespace halvek {
 
 /// The text as UTF-8; a surrogate without its partner becomes U+FFFD.
-std::string ToUtf8(TextIn text);
+HALVEK_EXPORT std::string ToUtf8(TextIn text);
 
 /// UTF-8 as text; every byte outside a well-formed sequence becomes U+FFFD.
-HALVEK_INTERNAL std::u16string FromUtf8(std::string_view bytes);
+HALVEK_EXPORT std::u16string FromUtf8(std::string_view bytes);
 
 }  // namespace halvek

@@ -7,11 +7,13 @@
 #include <halvekutils/core/Session.h>
 #include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Desktop.h>
+#include <halvekutils/platform/LogEcho.h>
 #include <halvekutils/platform/NativePath.h>
 
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -124,12 +126,31 @@ std::string LogLine(const Session& session, TextIn message) {
 }
 
 void ReportFailure(const Session& session, const std::exception& caught) {
+    const std::u16string fault = AsRuntimeError(caught).Description();
+    EchoLogLine(u"the error log cannot be written: " + fault, session.debugMode);
     Beep();
     Desktop* const desktop = Desktop::Installed();
-    if (!session.debugMode || desktop == nullptr) return;
-    desktop->ShowStockMessage(
-        u"ERROR in LocalRef.LogError\r\n" + AsRuntimeError(caught).Description(),
-        StockIcon::Critical, session.appName);
+    if (!session.debugMode || desktop == nullptr || !Desktop::IsOnItsThread()) return;
+    desktop->ShowStockMessage(u"ERROR in LocalRef.LogError\r\n" + fault, StockIcon::Critical,
+                              session.appName);
+}
+
+/// For the faults of calls that are refused because they come from another thread. Recursive,
+/// because a host's machine may log too.
+std::recursive_mutex& LogMutex() {
+    static auto* const mutex = new std::recursive_mutex;
+    return *mutex;
+}
+
+void WriteLine(Session& session, TextIn message) {
+    const std::lock_guard lock(LogMutex());
+    Machine& machine = *session.machine;
+    if (session.loginUserName.empty()) session.loginUserName = machine.LoginName();
+    const fs::path& file = LogPath(session);
+    const std::string line = LogLine(session, message);
+    if (machine.TryAppend(file, line, kRotationLength)) return;
+    PrepareFile(session, file);
+    machine.Append(file, line);
 }
 
 }  // namespace
@@ -137,12 +158,8 @@ void ReportFailure(const Session& session, const std::exception& caught) {
 void Session::LogError(TextIn message) noexcept {
     try {
         try {
-            if (loginUserName.empty()) loginUserName = machine->LoginName();
-            const fs::path& file = LogPath(*this);
-            const std::string line = LogLine(*this, message);
-            if (machine->TryAppend(file, line, kRotationLength)) return;
-            PrepareFile(*this, file);
-            machine->Append(file, line);
+            EchoLogLine(message, debugMode);
+            WriteLine(*this, message);
         } catch (const std::exception& caught) {
             ReportFailure(*this, caught);
         }

@@ -21,6 +21,7 @@ Platform::~Platform() = default;
 
 Platform& Platform::Installed() {
     if (installedPlatform == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"desktop");
+    RequireItsThread();
     return *installedPlatform;
 }
 

@@ -15,7 +15,8 @@ class HALVEK_EXPORT Platform : public Desktop, public Forms {
   public:
     ~Platform() override;
 
-    /// The installed platform. Throws ObjectNotSet when there is none.
+    /// The installed platform. Throws ObjectNotSet when there is none, and InvalidArgument off the
+    /// user-interface thread.
     static Platform& Installed();
 
   protected:

@@ -8,6 +8,7 @@
 #include <halvekutils/base/Fetchable.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/controls/Placement.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
@@ -30,7 +31,8 @@ namespace halvek {
 /// Create one at start-up, call InitUtils on it, then InitPrefs and InitOtherSettings as the
 /// practice's settings arrive. All Utils objects of the process share the session's values and the
 /// reference collections; bins, open windows, preferences, the server's clock and the application
-/// data folders belong to one object. Use it on the user-interface thread only.
+/// data folders belong to one object. Use it on the user-interface thread only, the one that made
+/// the platform: on another, members that may open a window are refused, as by a fault.
 ///
 /// Unless its description says otherwise, a member never throws: it logs the fault and returns an
 /// empty text, false or 0.
@@ -285,7 +287,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param Buttons  the button set
     /// @param Icon  the picture
     /// @param Title  empty for the application's name
-    /// @param BackgroundColor, fontSize  corrected and written back when out of range, see their
+    /// @param BackgroundColor,fontSize  corrected and written back when out of range, see their
     ///     enumerations
     /// @param FontBold  a bold font
     /// @param CloseAfterNSec  seconds after which the box closes itself; below 1 it stays
@@ -453,7 +455,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// Lets the user choose a day from a calendar.
     ///
     /// A fault beeps and is logged with "Error in Utils.ShowCalendar ".
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the calendar's left edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the calendar's left edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param DateToShow  any date; without one, or before 1753, the calendar opens on DefaultDate
@@ -520,7 +522,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param ErrFileName  name or path of the error log, with "/" or "\" between folders. A name
     ///     without a folder means a file in the library's own folder; an empty one, "Error.Log".
     /// @param AppName  the title of the library's message boxes
-    /// @param AppType, ExeFileStamp  stored for the host
+    /// @param AppType,ExeFileStamp  stored for the host
     /// @param DebugMode  true to allow the debug console, and messages about some faults
     void InitUtils(TextIn ErrFileName, TextIn AppName, TextIn AppType, bool DebugMode,
                    TextIn ExeFileStamp);
@@ -680,8 +682,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// If it is, a message says so, the field is emptied and Cancel becomes true. An amount that is
     /// 0, or not a number, passes.
     /// @param ctr  the upper field
-    /// @param strMin, strMax  the amounts as their fields show them
-    /// @param lblMin, lblMax  what the message calls the two fields
+    /// @param strMin,strMax  the amounts as their fields show them
+    /// @param lblMin,lblMax  what the message calls the two fields
     /// @param Cancel  set to true when the check fails; otherwise not written
     ///
     /// @code{.cpp}
@@ -713,7 +715,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///
     /// The palette shows entry 1 and, from entry 2 to the last but two, those above -1. A fault,
     /// such as a missing entry 1, beeps and is logged with "Error in Utils.ShowColor ".
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the palette's left edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the palette's left edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param FormToRefresh  repainted when the palette ends; null for none
@@ -764,7 +766,7 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param AllValues  entries separated by ":", a header first. TABs separate the fields of an
     ///     entry: its code, its description and, last, "1" when it is deleted
     /// @param SelectedValues  the codes chosen so far, separated by ","
-    /// @param posLeft, posTopUp, posTopDown  twips on the screen: the dialog's right edge, its
+    /// @param posLeft,posTopUp,posTopDown  twips on the screen: the dialog's right edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param FormToRefresh  repainted when the dialog ends; null for none
@@ -799,3 +801,5 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

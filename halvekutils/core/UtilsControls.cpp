@@ -5,14 +5,14 @@
 #include <halvekutils/controls/ControlHelpers.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
-#include <halvekutils/platform/Desktop.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/core/WayIn.h>
 
 namespace halvek {
 
 namespace {
 
 HeldKeys KeysHeld() {
+    Desktop::RequireItsThread();
     const Desktop* const desktop = Desktop::Installed();
     return desktop == nullptr ? HeldKeys{} : desktop->KeysHeld();
 }
@@ -22,18 +22,20 @@ HeldKeys KeysHeld() {
 // Headings
 
 void Utils::UnhighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool UseBlack) {
-    Guarded(OnFault::Beep, u"Error in Utils.UnhighlightHeading ", *this, [&] {
-        halvek::UnhighlightHeading(EditCtr, UseBlack ? kBlack : TheSession().formTextColor);
-    });
+    const auto unhighlight = [&](const std::shared_ptr<HeadingControl>& control) {
+        halvek::UnhighlightHeading(control, UseBlack ? kBlack : TheSession().formTextColor);
+    };
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.UnhighlightHeading ", unhighlight, EditCtr);
 }
 
 void Utils::HighlightHeading(const std::shared_ptr<HeadingControl>& EditCtr, bool,
                              std::int16_t iBorderStyle) {
-    Guarded(OnFault::Beep, u"Error in Utils.HighlightHeading ", *this, [&] {
+    const auto highlight = [&](const std::shared_ptr<HeadingControl>& control) {
         const Session& state = TheSession();
-        halvek::HighlightHeading(EditCtr, iBorderStyle, state.highlightBackColor,
+        halvek::HighlightHeading(control, iBorderStyle, state.highlightBackColor,
                                  state.highlightForeColor);
-    });
+    };
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.HighlightHeading ", highlight, EditCtr);
 }
 
 // Keys
@@ -62,7 +64,7 @@ std::u16string Utils::ConvertLookupKeyToSearchBy(std::int16_t CodeKey) const {
 // Windows
 
 void Utils::KillCloseButton(std::int32_t hwnd) {
-    Guarded(OnFault::Beep, u"Error in Utils.KillCloseButton ", *this, [&] {
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.KillCloseButton ", [&] {
         if (Desktop* const desktop = Desktop::Installed()) desktop->RemoveCloseButton(hwnd);
     });
 }
@@ -73,8 +75,11 @@ std::int32_t Utils::FindInCombo(const std::shared_ptr<ComboBox>& cboComboBox,
                                 TextIn strStringToFind, bool blnPartialMatch, bool blnMatchCase,
                                 bool blnShowErrors) {
     const auto self = shared_from_this();
+    const auto find = [&](const std::shared_ptr<ComboBox>& box, const std::u16string& text) {
+        return halvek::FindInCombo(box, text, blnPartialMatch, blnMatchCase);
+    };
     try {
-        return halvek::FindInCombo(cboComboBox, strStringToFind, blnPartialMatch, blnMatchCase);
+        return WithKept(find, cboComboBox, strStringToFind);
     } catch (const std::exception& caught) {
         return Quietly(-1, [&] {
             const RuntimeError fault = AsRuntimeError(caught);
@@ -91,23 +96,31 @@ std::int32_t Utils::FindInCombo(const std::shared_ptr<ComboBox>& cboComboBox,
 }
 
 bool Utils::FillCombo(TextIn Items, const std::shared_ptr<ComboBox>& cboComboBox, bool bMaxLength) {
-    return Guarded(OnFault::Beep, u"Error in Utils.FillCombo ", *this, false, [&] {
-        halvek::FillCombo(cboComboBox, Items, bMaxLength);
+    const auto fill = [&](const std::u16string& items, const std::shared_ptr<ComboBox>& box) {
+        halvek::FillCombo(box, items, bMaxLength);
         return true;
-    });
+    };
+    return Entered(*this, OnFault::Beep, u"Error in Utils.FillCombo ", false, fill, Items,
+                   cboComboBox);
 }
 
 // Fonts
 
 bool Utils::SetFontProperties(const std::shared_ptr<ControlFont>& ob, TextIn fontName,
                               float fontSize) {
-    return Guarded(OnFault::Beep, u"Error in Utils.SetFontProperties ", *this, false,
-                   [&] { return halvek::SetFontProperties(ob, fontName, fontSize); });
+    const auto set = [&](const std::shared_ptr<ControlFont>& font, const std::u16string& name) {
+        return halvek::SetFontProperties(font, name, fontSize);
+    };
+    return Entered(*this, OnFault::Beep, u"Error in Utils.SetFontProperties ", false, set, ob,
+                   fontName);
 }
 
 void Utils::GridSetFontObject(const std::shared_ptr<GridFont>& GridFontObject, TextIn FontCode) {
-    Guarded(OnFault::Beep, u"Error in Utils.GridSetFontObject ", *this,
-            [&] { halvek::GridSetFontObject(GridFontObject, FontCode); });
+    const auto set = [](const std::shared_ptr<GridFont>& font, const std::u16string& code) {
+        halvek::GridSetFontObject(font, code);
+    };
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.GridSetFontObject ", set, GridFontObject,
+                FontCode);
 }
 
 }  // namespace halvek

@@ -20,6 +20,9 @@ std::int16_t Utils::CURRENCY_NUMFRACT() const {
     return kFractionDigits;
 }
 
+// CurrencyEvents is the way in here: it checks the thread and holds the control. The session, which
+// it works on, is never destroyed.
+
 void Utils::OnCurrencyCtrKeyPress(const std::shared_ptr<TextControl>& ctr, std::int16_t& KeyAscii) {
     Events().PressKey(ctr, KeyAscii);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/core/NoPrinters.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
-#include <halvekutils/platform/Desktop.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/core/WayIn.h>
 #include <halvekutils/platform/PrinterSource.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
@@ -14,15 +14,6 @@
 namespace halvek {
 
 namespace {
-
-/// Used when no desktop is installed or the installed one has no printers.
-class NoPrinters : public PrinterSource {
-  public:
-    std::vector<PrinterConnection> Connections() override {
-        throw RuntimeError(Fault::ObjectNotSet, u"printer source");
-    }
-    std::vector<InstalledPrinter> Installed() override { return {}; }
-};
 
 std::unique_ptr<PrinterSource> ThePrinters() {
     Desktop* const desktop = Desktop::Installed();
@@ -41,13 +32,14 @@ std::shared_ptr<UserPrefs> CopyOf(const UserPrefs& prefs) {
 // Codes
 
 void Utils::BuildCodesCollection(TextIn CodesData) {
-    Guarded(OnFault::Quiet, u"BuildCodesCollection ", *this, [&] {
-        // The old collection goes first: a build that fails leaves part of the new one, never the
-        // old one.
+    EnteredVoid(*this, OnFault::Quiet, u"BuildCodesCollection ", [&] {
+        // The old collection goes first, even before the copy of the text: a build that fails
+        // leaves part of the new one, never the old one.
         TheSession().codes = nullptr;
+        const std::u16string data = Kept(CodesData);
         const auto codes = CollectionBuilder::Codes();
         TheSession().codes = codes;
-        CollectionBuilder::Add(*codes, CodesData, TheSession());
+        CollectionBuilder::Add(*codes, data, TheSession());
     });
 }
 
@@ -61,13 +53,14 @@ void Utils::ClearCodesCollection() {
 // Security items
 
 void Utils::BuildSecurityCollection(TextIn SecurityData) {
-    // Before anything can fail: no fault may leave the full access of an earlier build on.
-    CollectionBuilder::EndFullAccess();
-    Guarded(OnFault::Beep, u"BuildSecurityCollection ", *this, [&] {
+    EnteredVoid(*this, OnFault::Beep, u"BuildSecurityCollection ", [&] {
+        // Before anything can fail: no fault may leave earlier rights on, full access above all.
+        CollectionBuilder::EndFullAccess();
         TheSession().securityItems = nullptr;
+        const std::u16string data = Kept(SecurityData);
         const auto items = CollectionBuilder::SecurityItems(TheSession());
         TheSession().securityItems = items;
-        CollectionBuilder::Add(*items, SecurityData);
+        CollectionBuilder::Add(*items, data);
     });
 }
 
@@ -81,14 +74,15 @@ void Utils::ClearSecurityCollection() {
 // Printers
 
 void Utils::BuildPrintersCollection(TextIn SerialPrintersList) {
-    Guarded(OnFault::Quiet, u"BuildPrintersCollection ", *this, [&] {
+    const auto build = [](const std::u16string& serialPrinters) {
         if (TheSession().printers == nullptr) TheSession().printers = CollectionBuilder::Printers();
         const auto printers = TheSession().printers;
         const auto source = ThePrinters();
         PrinterListBuilder builder(*printers, *source, TheSession());
-        builder.AddSerialPrinters(SerialPrintersList);
+        builder.AddSerialPrinters(serialPrinters);
         builder.AddWorkstationPrinters();
-    });
+    };
+    EnteredVoid(*this, OnFault::Quiet, u"BuildPrintersCollection ", build, SerialPrintersList);
 }
 
 std::shared_ptr<PrintersCollection> Utils::GetPrintersCollection() const {
@@ -107,7 +101,7 @@ std::shared_ptr<PrintersCollection> Utils::GetPrintersCollectionFiltered(bool Ex
         if (printers == nullptr) return nullptr;
         return printers->Filtered({ExcludeSpool, ExcludeFile, ExcludeWindows, ExcludeSerial});
     };
-    return Guarded(OnFault::Quiet, u"GetPrintersCollectionFiltered ", *this,
+    return Entered(*this, OnFault::Quiet, u"GetPrintersCollectionFiltered ",
                    std::shared_ptr<PrintersCollection>(), filter);
 }
 
@@ -140,8 +134,9 @@ std::shared_ptr<UserPrefs> Utils::GetCurrentUserPrefs() const {
 // Bins
 
 void Utils::AddBin(TextIn BinKey, TextIn BinData, TextIn BinType) {
-    Guarded(OnFault::Beep, u"Error in Utils.AddBin ", *this,
-            [&] { d_->bins.Add(BinKey, BinData, BinType); });
+    const auto add = [&](const std::u16string& key, const std::u16string& data,
+                         const std::u16string& type) { d_->bins.Add(key, data, type); };
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.AddBin ", add, BinKey, BinData, BinType);
 }
 
 std::u16string Utils::GetBinData(TextIn BinKey) const {

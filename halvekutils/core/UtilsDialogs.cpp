@@ -3,6 +3,7 @@
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
+#include <halvekutils/core/WayIn.h>
 #include <halvekutils/dialogs/Calculator.h>
 #include <halvekutils/dialogs/Calendar.h>
 #include <halvekutils/dialogs/ColorPalette.h>
@@ -24,6 +25,7 @@ namespace halvek {
 namespace {
 
 constexpr float kNotGiven = -1;
+constexpr char16_t kPlaceFault[] = u"Error in Utils.CalculateCellCoordinates ";
 
 float PositionOf(const std::optional<std::int32_t>& twips) {
     return twips ? static_cast<float>(*twips) : kNotGiven;
@@ -33,16 +35,15 @@ float PositionOf(const std::optional<std::int32_t>& twips) {
 /// and for a destroyed one, which is logged.
 PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTarget>& target) {
     PopupAnchor anchor;
-    Guarded(OnFault::Beep, u"Error in Utils.CalculateCellCoordinates ", utils, [&] {
+    Guarded(OnFault::Beep, kPlaceFault, utils, [&] {
         if (target != nullptr) anchor = AnchorBeside(edge, *target);
     });
     return anchor;
 }
 
 /// Repaints a host's form after a dialog, unless there is none or it was destroyed. A fault is
-/// logged with the prefix. The dialog's call has held a copy of the pointer: the host may have
-/// released its own.
-void Refresh(Utils& utils, const char16_t* faultPrefix, std::shared_ptr<OwnerForm>&& form) {
+/// logged with the prefix.
+void Refresh(Utils& utils, const char16_t* faultPrefix, const std::shared_ptr<OwnerForm>& form) {
     Guarded(OnFault::Quiet, faultPrefix, utils, [&] {
         if (form != nullptr && form->Exists()) form->Refresh();
     });
@@ -56,41 +57,46 @@ MbMsgBoxResult Utils::ShowMsgBox(TextIn Prompt, ButtonsChoice Buttons, IconChoic
                                  TextIn Title, ByRef<ColorChoice> BackgroundColor,
                                  ByRef<FontSizeChoice> fontSize, bool FontBold,
                                  std::int32_t CloseAfterNSec) {
-    const auto self = shared_from_this();
     BackgroundColor.Set(NormalizedBackground(BackgroundColor.Get()));
     fontSize.Set(NormalizedFontSize(fontSize.Get()));
-    const auto show = [&] {
+    const auto show = [&](std::u16string prompt, std::u16string title) {
         Platform& platform = Platform::Installed();
-        const MessageBoxRequest request{
-            Prompt.Str(),          Buttons,        Icon,     Title.Str(),
-            BackgroundColor.Get(), fontSize.Get(), FontBold, CloseAfterNSec};
-        const auto box = std::make_shared<MessageBox>(request, Services::Current(), platform);
+        MessageBoxRequest request{std::move(prompt),     Buttons,        Icon,     std::move(title),
+                                  BackgroundColor.Get(), fontSize.Get(), FontBold, CloseAfterNSec};
+        const auto box =
+            std::make_shared<MessageBox>(std::move(request), Services::Current(), platform);
         platform.Show(box, Modality::Modal);
         return box->ReturnedValue();
     };
-    return Guarded(OnFault::Beep, u"Error in Utils.ShowMsgBox ", *this, kNotAnswered, show);
+    return Entered(*this, OnFault::Beep, u"Error in Utils.ShowMsgBox ", kNotAnswered, show, Prompt,
+                   Title);
 }
 
 std::u16string Utils::Calculate(TextIn InitValue) {
-    const auto self = shared_from_this();
-    const auto calculate = [&] {
+    const auto calculate = [&](const std::u16string& value) {
         Platform& platform = Platform::Installed();
-        const auto calculator =
-            std::make_shared<Calculator>(InitValue, Services::Current(), platform);
+        const auto calculator = std::make_shared<Calculator>(value, Services::Current(), platform);
         platform.Show(calculator);
         return calculator->Result();
     };
-    return Guarded(OnFault::Beep, u"Error in Utils.Calculate ", *this, std::u16string(), calculate);
+    return Entered(*this, OnFault::Beep, u"Error in Utils.Calculate ", std::u16string(), calculate,
+                   InitValue);
 }
 
 // Places
 
 void Utils::CalculateCellCoordinates(const std::shared_ptr<PopupTarget>& Target, float& posLeft,
                                      float& posTopUp, float& posTopDown, PopupEdge Edge) {
-    const PopupAnchor anchor = AnchorOf(*this, Edge, Target);
-    posLeft = PositionOf(anchor.left);
-    posTopUp = PositionOf(anchor.topUp);
-    posTopDown = PositionOf(anchor.topDown);
+    // Not after a fault, whose message the variables may not outlive
+    posLeft = posTopUp = posTopDown = kNotGiven;
+    const auto place = [&](const std::shared_ptr<PopupTarget>& target) {
+        if (target == nullptr) return;
+        const PopupAnchor anchor = AnchorBeside(Edge, *target);
+        posLeft = PositionOf(anchor.left);
+        posTopUp = PositionOf(anchor.topUp);
+        posTopDown = PositionOf(anchor.topDown);
+    };
+    EnteredVoid(*this, OnFault::Beep, kPlaceFault, place, Target);
 }
 
 // Calendar
@@ -99,19 +105,16 @@ namespace {
 
 constexpr char16_t kCalendarFault[] = u"Error in Utils.ShowCalendar ";
 
-/// `makeRequest` copies the caller's texts.
-template <class MakeRequest>
-std::u16string OpenCalendar(Utils& utils, const MakeRequest& makeRequest,
-                            std::shared_ptr<OwnerForm> formToRefresh) {
-    const auto self = utils.shared_from_this();
+std::u16string OpenCalendar(Utils& utils, const CalendarRequest& request,
+                            const std::shared_ptr<OwnerForm>& formToRefresh) {
     const auto show = [&] {
         Services::Current();  // throws before the first InitUtils
-        const auto calendar = std::make_shared<Calendar>(makeRequest(), *TheSession().machine);
+        const auto calendar = std::make_shared<Calendar>(request, *TheSession().machine);
         Platform::Installed().Show(calendar);
         return calendar->Result();
     };
     std::u16string day = Guarded(OnFault::Beep, kCalendarFault, utils, std::u16string(), show);
-    Refresh(utils, kCalendarFault, std::move(formToRefresh));
+    Refresh(utils, kCalendarFault, formToRefresh);
     return day;
 }
 
@@ -121,21 +124,29 @@ std::u16string Utils::ShowCalendar(float posLeft, float posTopUp, float posTopDo
                                    TextIn DateToShow, TextIn DefaultDate,
                                    const std::shared_ptr<OwnerForm>& FormToRefresh,
                                    bool bNeedsConversions) {
-    const auto request = [&] {
-        return CalendarRequest{DateToShow.Str(), DefaultDate.Str(), bNeedsConversions,
-                               AnchorAt(PopupEdge::Left, posLeft, posTopUp, posTopDown)};
+    const auto open = [&](std::u16string dateToShow, std::u16string defaultDate,
+                          const std::shared_ptr<OwnerForm>& form) {
+        const PopupAnchor anchor = AnchorAt(PopupEdge::Left, posLeft, posTopUp, posTopDown);
+        return OpenCalendar(
+            *this, {std::move(dateToShow), std::move(defaultDate), bNeedsConversions, anchor},
+            form);
     };
-    return OpenCalendar(*this, request, FormToRefresh);
+    return Entered(*this, OnFault::Beep, kCalendarFault, std::u16string(), open, DateToShow,
+                   DefaultDate, FormToRefresh);
 }
 
 std::u16string Utils::ShowCalendarAndCalculateCoordinates(
     const std::shared_ptr<PopupTarget>& CmdButtonOrCell, TextIn DateToShow, TextIn DefaultDate,
     const std::shared_ptr<OwnerForm>& FormToRefresh, bool bNeedsConversions) {
-    const auto request = [&] {
-        return CalendarRequest{DateToShow.Str(), DefaultDate.Str(), bNeedsConversions,
-                               AnchorOf(*this, PopupEdge::Left, CmdButtonOrCell)};
+    const auto open = [&](const std::shared_ptr<PopupTarget>& target, std::u16string dateToShow,
+                          std::u16string defaultDate, const std::shared_ptr<OwnerForm>& form) {
+        const PopupAnchor anchor = AnchorOf(*this, PopupEdge::Left, target);
+        return OpenCalendar(
+            *this, {std::move(dateToShow), std::move(defaultDate), bNeedsConversions, anchor},
+            form);
     };
-    return OpenCalendar(*this, request, FormToRefresh);
+    return Entered(*this, OnFault::Beep, kCalendarFault, std::u16string(), open, CmdButtonOrCell,
+                   DateToShow, DefaultDate, FormToRefresh);
 }
 
 // Colour palette
@@ -143,17 +154,15 @@ std::u16string Utils::ShowCalendarAndCalculateCoordinates(
 namespace {
 
 std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
-                           std::shared_ptr<OwnerForm> formToRefresh) {
-    const auto self = utils.shared_from_this();
+                           const std::shared_ptr<OwnerForm>& formToRefresh) {
     std::shared_ptr<ColorPalette> palette;
     Guarded(OnFault::Beep, kPaletteFault, utils, [&] {
         palette =
             std::make_shared<ColorPalette>(TheSession().colorArray, anchor, Services::Current());
         Platform::Installed().Show(palette);
     });
-    Refresh(utils, kPaletteFault, std::move(formToRefresh));
-    return Guarded(OnFault::Beep, kPaletteFault, utils, std::u16string(),
-                   [&] { return palette == nullptr ? std::u16string() : palette->Result(); });
+    Refresh(utils, kPaletteFault, formToRefresh);
+    return palette == nullptr ? std::u16string() : palette->Result();
 }
 
 }  // namespace
@@ -161,13 +170,20 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
 std::u16string Utils::ShowColorAndCalculateCoordinates(
     const std::shared_ptr<PopupTarget>& CmdButtonOrCell,
     const std::shared_ptr<OwnerForm>& FormToRefresh) {
-    return OpenPalette(*this, AnchorOf(*this, PopupEdge::Left, CmdButtonOrCell), FormToRefresh);
+    const auto open = [&](const std::shared_ptr<PopupTarget>& target,
+                          const std::shared_ptr<OwnerForm>& form) {
+        return OpenPalette(*this, AnchorOf(*this, PopupEdge::Left, target), form);
+    };
+    return Entered(*this, OnFault::Beep, kPaletteFault, std::u16string(), open, CmdButtonOrCell,
+                   FormToRefresh);
 }
 
 std::u16string Utils::ShowColor(float posLeft, float posTopUp, float posTopDown,
                                 const std::shared_ptr<OwnerForm>& FormToRefresh) {
-    return OpenPalette(*this, AnchorAt(PopupEdge::Left, posLeft, posTopUp, posTopDown),
-                       FormToRefresh);
+    const auto open = [&](const std::shared_ptr<OwnerForm>& form) {
+        return OpenPalette(*this, AnchorAt(PopupEdge::Left, posLeft, posTopUp, posTopDown), form);
+    };
+    return Entered(*this, OnFault::Beep, kPaletteFault, std::u16string(), open, FormToRefresh);
 }
 
 // Selection lists
@@ -194,11 +210,11 @@ void ShowModal(const std::shared_ptr<SelectGrid>& grid) {
 }
 
 /// Shows a selection dialog and returns its result for the host. Clears the caller's variable of
-/// the typed character.
-std::u16string OpenSelection(Utils& utils, SelectionRequest request,
+/// the typed character before anything can open a window, a fault in `place` included.
+template <class Place>
+std::u16string OpenSelection(Utils& utils, SelectionRequest request, const Place& place,
                              ByRef<std::u16string> typedCharacter,
-                             std::shared_ptr<OwnerForm> formToRefresh) {
-    const auto self = utils.shared_from_this();
+                             const std::shared_ptr<OwnerForm>& formToRefresh) {
     if (request.allValues.empty()) {
         utils.ShowMsgBox(u"Incomplete data received for Lookup Selection Grid.", mbOkOnly,
                          mbCritical, utils.AppName());
@@ -206,15 +222,16 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request,
     }
     std::shared_ptr<SelectGrid> grid;
     const auto show = [&] {
+        Services& session = Services::Current();
         request.typedCharacter = typedCharacter.Get();
-        grid = std::make_shared<SelectGrid>(std::move(request), Services::Current(),
-                                            MessagesOf(utils));
         typedCharacter.Set({});
+        request.anchor = place();
+        grid = std::make_shared<SelectGrid>(std::move(request), session, MessagesOf(utils));
         grid->Prepare();
         ShowModal(grid);
     };
     Guarded(OnFault::Quiet, kSelectionFault, utils, show);
-    Refresh(utils, kSelectionFault, std::move(formToRefresh));
+    Refresh(utils, kSelectionFault, formToRefresh);
     if (grid == nullptr) return {};
     return grid->IsOpen() ? std::u16string(grid->Choice()) : grid->Result();
 }
@@ -235,13 +252,17 @@ std::u16string Utils::ShowSelectionGridAndCalculateCoordinates(
     const std::shared_ptr<PopupTarget>& CmdButtonOrCell,
     const std::shared_ptr<OwnerForm>& FormToRefresh, ByRef<std::u16string> TypedCharacter,
     bool DoNotIncludeDeleted) {
-    const auto self = shared_from_this();
-    return Guarded(OnFault::Quiet, kSelectionFault, *this, std::u16string(), [&] {
-        SelectionRequest request{ListName.Str(), AllValues.Str(), SelectedValues.Str()};
+    const auto open = [&](std::u16string listName, std::u16string allValues,
+                          std::u16string selectedValues, const std::shared_ptr<PopupTarget>& target,
+                          const std::shared_ptr<OwnerForm>& form) {
+        SelectionRequest request{std::move(listName), std::move(allValues),
+                                 std::move(selectedValues)};
         request.doNotIncludeDeleted = DoNotIncludeDeleted;
-        request.anchor = AnchorOf(*this, PopupEdge::Right, CmdButtonOrCell);
-        return OpenSelection(*this, std::move(request), std::move(TypedCharacter), FormToRefresh);
-    });
+        const auto place = [&] { return AnchorOf(*this, PopupEdge::Right, target); };
+        return OpenSelection(*this, std::move(request), place, TypedCharacter, form);
+    };
+    return Entered(*this, OnFault::Quiet, kSelectionFault, std::u16string(), open, ListName,
+                   AllValues, SelectedValues, CmdButtonOrCell, FormToRefresh);
 }
 
 std::u16string Utils::ShowSelection(TextIn ListName, TextIn AllValues, TextIn SelectedValues,
@@ -257,12 +278,18 @@ std::u16string Utils::ShowSelectionGrid(TextIn ListName, TextIn AllValues, TextI
                                         const std::shared_ptr<OwnerForm>& FormToRefresh,
                                         ByRef<std::u16string> TypedCharacter,
                                         bool DoNotIncludeDeleted) {
-    return Guarded(OnFault::Quiet, kSelectionFault, *this, std::u16string(), [&] {
-        SelectionRequest request{ListName.Str(), AllValues.Str(), SelectedValues.Str()};
+    const auto open = [&](std::u16string listName, std::u16string allValues,
+                          std::u16string selectedValues, const std::shared_ptr<OwnerForm>& form) {
+        SelectionRequest request{std::move(listName), std::move(allValues),
+                                 std::move(selectedValues)};
         request.doNotIncludeDeleted = DoNotIncludeDeleted;
-        request.anchor = AnchorAt(PopupEdge::Right, posLeft, posTopUp, posTopDown);
-        return OpenSelection(*this, std::move(request), std::move(TypedCharacter), FormToRefresh);
-    });
+        const auto place = [&] {
+            return AnchorAt(PopupEdge::Right, posLeft, posTopUp, posTopDown);
+        };
+        return OpenSelection(*this, std::move(request), place, TypedCharacter, form);
+    };
+    return Entered(*this, OnFault::Quiet, kSelectionFault, std::u16string(), open, ListName,
+                   AllValues, SelectedValues, FormToRefresh);
 }
 
 // Help
@@ -272,9 +299,9 @@ namespace {
 /// Opens help in the given file, otherwise in the stored one; false, with a message to the user,
 /// when there is no such file. A later fault is logged and does not change the result.
 template <class Open>
-bool OpenHelp(Utils& utils, const char16_t* faultPrefix, TextIn location, const Open& open) {
-    const auto self = utils.shared_from_this();
-    const std::u16string file = location.empty() ? TheSession().helpFilePath : location.Str();
+bool OpenHelp(Utils& utils, const char16_t* faultPrefix, const std::u16string& location,
+              const Open& open) {
+    const std::u16string file = location.empty() ? TheSession().helpFilePath : location;
     const auto exists = [&] {
         return !file.empty() && TheSession().machine->StateOf(NativePath(file)).exists;
     };
@@ -291,6 +318,9 @@ bool OpenHelp(Utils& utils, const char16_t* faultPrefix, TextIn location, const 
     return found;
 }
 
+constexpr char16_t kHelpFault[] = u"Error in Utils.ShowHelp ";
+constexpr char16_t kTopicFault[] = u"Error in Utils.ShowHelpByTopic ";
+
 }  // namespace
 
 void Utils::InitHelp(TextIn FilePath) {
@@ -301,18 +331,23 @@ std::u16string Utils::HelpFilePath() const {
 }
 
 bool Utils::ShowHelp(std::int32_t /*hwnd*/, std::int32_t ContextID, TextIn HelpFileLocation) {
-    return OpenHelp(*this, u"Error in Utils.ShowHelp ", HelpFileLocation,
-                    [&](Platform& platform, const std::filesystem::path& file) {
-                        platform.ShowHelpContext(file, ContextID);
-                    });
+    const auto open = [&](const std::u16string& location) {
+        return OpenHelp(*this, kHelpFault, location,
+                        [&](Platform& platform, const std::filesystem::path& file) {
+                            platform.ShowHelpContext(file, ContextID);
+                        });
+    };
+    return Entered(*this, OnFault::Quiet, kHelpFault, false, open, HelpFileLocation);
 }
 
 bool Utils::ShowHelpByTopic(std::int32_t /*hwnd*/, TextIn TopicPath, TextIn HelpFileLocation) {
-    const std::u16string topic = TopicPath.Str();
-    return OpenHelp(*this, u"Error in Utils.ShowHelpByTopic ", HelpFileLocation,
-                    [&](Platform& platform, const std::filesystem::path& file) {
-                        platform.ShowHelpTopic(file, topic);
-                    });
+    const auto open = [&](const std::u16string& topic, const std::u16string& location) {
+        return OpenHelp(*this, kTopicFault, location,
+                        [&](Platform& platform, const std::filesystem::path& file) {
+                            platform.ShowHelpTopic(file, topic);
+                        });
+    };
+    return Entered(*this, OnFault::Quiet, kTopicFault, false, open, TopicPath, HelpFileLocation);
 }
 
 }  // namespace halvek

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/UtilsPrivate.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/core/WayIn.h>
 #include <halvekutils/text/ServerDates.h>
 
 #include <chrono>
@@ -149,15 +149,15 @@ void Utils::InitServerTime(TextIn TimeFromServer) {
 }
 
 DateTime Utils::ServerTime() {
-    return Guarded(OnFault::Quiet, u"Error in Utils.ServerTime ", *this, DateTime(), [&] {
+    return Entered(*this, OnFault::Quiet, u"Error in Utils.ServerTime ", DateTime(), [&] {
         return TheSession().machine->Now() + std::chrono::seconds(d_->serverClockOffset);
     });
 }
 
 void Utils::Sleep(std::int32_t MilliSeconds) {
     if (MilliSeconds <= 0) return;
-    Guarded(OnFault::Beep, u"Error in Utils.Sleep ", *this,
-            [&] { TheSession().machine->Sleep(std::chrono::milliseconds(MilliSeconds)); });
+    EnteredVoid(*this, OnFault::Beep, u"Error in Utils.Sleep ",
+                [&] { TheSession().machine->Sleep(std::chrono::milliseconds(MilliSeconds)); });
 }
 
 // Error log and debug console

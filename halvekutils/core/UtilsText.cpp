@@ -2,7 +2,7 @@
 #include <halvekutils/core/Platform.h>
 #include <halvekutils/core/Session.h>
 #include <halvekutils/core/Utils.h>
-#include <halvekutils/platform/Guard.h>
+#include <halvekutils/core/WayIn.h>
 #include <halvekutils/text/CharacterFilter.h>
 #include <halvekutils/text/DelimitedText.h>
 #include <halvekutils/text/ServerDates.h>
@@ -39,8 +39,8 @@ bool Utils::ChunkStrToArr(TextIn Str, StringArray& Arr, std::int32_t ChunkLength
 void Utils::SplitLeftRight(TextIn strSplit, TextIn Delimiter, std::u16string& strLeft,
                            std::u16string& strRight) {
     const auto prefix = [&] { return u"Error in SplitLeftRight :" + strSplit.Str() + u", "; };
-    Guarded(OnFault::Beep, prefix, *this,
-            [&] { halvek::SplitLeftRight(strSplit, Delimiter, strLeft, strRight); });
+    EnteredVoid(*this, OnFault::Beep, prefix,
+                [&] { halvek::SplitLeftRight(strSplit, Delimiter, strLeft, strRight); });
 }
 
 // Characters
@@ -52,6 +52,7 @@ bool Utils::IsAlpha(TextIn strText) const {
 bool Utils::RemoveUnwantedChars(TextIn strIN, std::u16string& strOUT, TextIn strReplaceWith,
                                 bool bShowMessage, bool bDoNotRemoveUnwantedChars,
                                 TextIn strExceptions) {
+    const auto self = shared_from_this();
     const FilterReport report = halvek::RemoveUnwantedChars(
         strIN, strOUT, strReplaceWith, bDoNotRemoveUnwantedChars, strExceptions);
     if (bShowMessage && report.found) {
@@ -74,20 +75,20 @@ std::u16string Utils::RemoveUnprintableChars(TextIn Str) const {
 // Dates of the server
 
 std::u16string Utils::ConvertNumberToDate(TextIn strDate, bool bConvert) {
-    return Guarded(
-        OnFault::Quiet, u"Error in Utils.ConvertNumberToDate ", *this, std::u16string(), [&] {
-            return bConvert ? DateOfDigits(strDate, *TheSession().machine) : DigitsOfDate(strDate);
-        });
+    const auto convert = [&] {
+        return bConvert ? DateOfDigits(strDate, *TheSession().machine) : DigitsOfDate(strDate);
+    };
+    return Entered(*this, OnFault::Quiet, u"Error in Utils.ConvertNumberToDate ", std::u16string(),
+                   convert);
 }
 
 std::u16string Utils::ConvertHDate(TextIn HDate) {
     std::u16string text;
-    Guarded(OnFault::Quiet, u"Error in Utils.ConvertHDate ", *this, [&] {
+    EnteredVoid(*this, OnFault::Quiet, u"Error in Utils.ConvertHDate ", [&] {
         if (HDate.empty()) return;
         const std::optional<DateTime> when = ReadServerDate(HDate, *TheSession().machine);
         text = when ? DateTimeText(*when) : kIncorrectTime;
         if (when || !DBG()) return;
-        const auto self = shared_from_this();
         Platform::Installed().ShowStockMessage(u"Hey this time is not correct.....",
                                                StockIcon::None, AppName());
     });

@@ -35,7 +35,10 @@ void Handle(const EventName& name, AmountSign sign, Services& session,
                (isSigned ? name.signedField : name.unsignedField) + u"  ";
     };
     const auto log = [&session](TextIn line) { session.LogError(line); };
-    Guarded(OnFault::Quiet, prefix, log, [&] { body(Existing(ctr, u"control")); });
+    Guarded(OnFault::Quiet, prefix, log, [&] {
+        Desktop::RequireItsThread();
+        body(Existing(ctr, u"control"));
+    });
 }
 
 }  // namespace

@@ -113,7 +113,7 @@ std::u16string Calculator::LastOperator() const {
     return lastOperator_ == 0 ? std::u16string() : std::u16string(1, lastOperator_);
 }
 
-std::u16string_view Calculator::Caption(int index) {
+TextIn Calculator::Caption(int index) {
     return index < 0 || index >= kButtonCount ? std::u16string_view() : kCaptions[index];
 }
 

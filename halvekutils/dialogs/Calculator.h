@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/Dialog.h>
 
@@ -60,7 +61,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// The button that has the focus, or kBox; the button RET at first.
     int Focus() const { return focus_; }
     /// The caption of button 0 to 18.
-    static std::u16string_view Caption(int index);
+    static TextIn Caption(int index);
 
     /// Called when a button is pressed in any way: it flashes.
     std::function<void(int index)> Flashed;
@@ -95,7 +96,7 @@ class HALVEK_EXPORT Calculator : public Dialog {
     /// Enters a number or an amount from the clipboard as if its digits were pressed, or replaces
     /// the selection in the box. Beeps when the text is not a number or does not fit.
     /// @param text  what the clipboard holds
-    /// @param start, selected  the selected characters, counted from 0
+    /// @param start,selected  the selected characters, counted from 0
     void Paste(TextIn text, std::size_t start = 0, std::size_t selected = 0);
     /// The number shown, for the clipboard; empty with a beep when none is shown.
     std::u16string Copy();
@@ -127,3 +128,5 @@ class HALVEK_EXPORT Calculator : public Dialog {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/dialogs/MessageBoxButtons.h>
@@ -93,7 +94,7 @@ MessageBox::MessageBox(MessageBoxRequest request, const Services& session, const
 
 MessageBox::~MessageBox() = default;
 
-std::u16string_view MessageBox::ButtonCaption(int index) const {
+TextIn MessageBox::ButtonCaption(int index) const {
     if (index < 0 || index > 2) return {};
     return CaptionOf(set_->results[static_cast<std::size_t>(index)]);
 }
@@ -137,8 +138,18 @@ std::u16string MessageBox::CopyText() const {
     return text;
 }
 
+void MessageBox::Press(MbMsgBoxResult button) {
+    const auto found = std::ranges::find(set_->results, button);
+    if (button == kNotAnswered || found == set_->results.end()) {
+        throw RuntimeError(Fault::InvalidArgument,
+                           u"no such button in the message box: " + IntegerText(button));
+    }
+    Press(static_cast<int>(found - set_->results.begin()));
+}
+
 void MessageBox::Press(int index) {
-    if (!IsOpen() || ButtonCaption(index).empty()) return;
+    if (ButtonCaption(index).empty()) throw RuntimeError(Fault::SubscriptOutOfRange, u"button");
+    if (!IsOpen()) return;
     End(IntegerText(set_->results[static_cast<std::size_t>(index)]));
 }
 

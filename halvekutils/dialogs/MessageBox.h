@@ -4,6 +4,7 @@
 #include <halvekutils/base/Color.h>
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/dialogs/MessageBoxLayout.h>
 #include <halvekutils/dialogs/MessageBoxTypes.h>
 #include <halvekutils/platform/Controls.h>
@@ -62,7 +63,7 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     /// The title bar's text, with the countdown once it has started.
     TextIn Caption() const { return caption_; }
     /// The caption of button 0, 1 or 2; empty for a hidden one.
-    std::u16string_view ButtonCaption(int index) const;
+    TextIn ButtonCaption(int index) const;
     /// The picture's number from 1, or 0 for none.
     int Picture() const;
     /// The button set; mbOkOnly for an unknown value.
@@ -99,7 +100,9 @@ class HALVEK_EXPORT MessageBox : public Dialog {
 
     // What the user does
 
-    /// Presses button 0, 1 or 2. A hidden button cannot be pressed.
+    /// Presses the button that gives a result. Throws InvalidArgument when the set lacks it.
+    void Press(MbMsgBoxResult button);
+    /// Presses button 0, 1 or 2 from the left. Throws SubscriptOutOfRange when it is hidden.
     void Press(int index);
 
     /// What a window does about a key.
@@ -155,3 +158,5 @@ class HALVEK_EXPORT MessageBox : public Dialog {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Desktop.h>
 #include <halvekutils/platform/PrinterSource.h>
 
 #include <exception>
+#include <thread>
 #include <utility>
 
 namespace halvek {
@@ -11,6 +13,7 @@ namespace halvek {
 namespace {
 
 Desktop* installedDesktop = nullptr;
+std::thread::id userInterfaceThread;
 
 }  // namespace
 
@@ -21,7 +24,17 @@ Desktop* Desktop::Installed() noexcept {
 }
 
 Desktop* Desktop::Install(Desktop* desktop) noexcept {
+    userInterfaceThread = std::this_thread::get_id();
     return std::exchange(installedDesktop, desktop);
+}
+
+bool Desktop::IsOnItsThread() noexcept {
+    return installedDesktop == nullptr || userInterfaceThread == std::this_thread::get_id();
+}
+
+void Desktop::RequireItsThread() {
+    if (IsOnItsThread()) return;
+    throw RuntimeError(Fault::InvalidArgument, u"not the user-interface thread");
 }
 
 bool Desktop::AllowsModelessWindows() const {

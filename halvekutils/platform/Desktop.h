@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/platform/Geometry.h>
 #include <halvekutils/platform/TextMeter.h>
 
@@ -33,8 +34,16 @@ class HALVEK_EXPORT Desktop : public TextMeter {
     /// The installed desktop, or null.
     static Desktop* Installed() noexcept;
 
-    /// Makes this the installed desktop; null for none. Returns the previous one.
+    /// Makes this the installed desktop, of the thread that calls; null for none. Returns the
+    /// previous one.
     static Desktop* Install(Desktop* desktop) noexcept;
+
+    /// Whether this is the user-interface thread, the one that installed the desktop. True without
+    /// a desktop.
+    static bool IsOnItsThread() noexcept;
+
+    /// Throws InvalidArgument on any other thread.
+    static void RequireItsThread();
 
     /// Whether modeless windows, such as the debug console, may be shown; true unless overridden.
     virtual bool AllowsModelessWindows() const;
@@ -80,3 +89,5 @@ class HALVEK_EXPORT Desktop : public TextMeter {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

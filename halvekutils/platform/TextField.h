@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Internal.h>
+#include <halvekutils/base/Export.h>
 #include <halvekutils/platform/Controls.h>
 
 namespace halvek {
@@ -14,7 +14,7 @@ namespace halvek {
 /// utils->OnCurrencyCtrValidate(box, cancel);
 /// box->Text();  // $12.50
 /// @endcode
-class HALVEK_INTERNAL TextField : public TextControl {
+class HALVEK_EXPORT TextField : public TextControl {
   public:
     TextField();
     /// A field that shows a text, with the caret and selection given.

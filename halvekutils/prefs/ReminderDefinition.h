@@ -11,6 +11,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// The reminders that the server sends for an account: titled tabs of text lines.
 ///
 /// A line that begins with "-" should be highlighted; a line that begins with "P-", in either
@@ -19,7 +21,10 @@ namespace halvek {
 /// @code{.cpp}
 /// ReminderDefinition reminder;
 /// reminder.PopulateReminder(account, server.reminder());
-/// for (const auto& title : reminder.Tabs()) tabs.add(title);
+/// const StringArray titles = reminder.Tabs();
+/// for (std::int32_t i = 1; i <= titles.UBound(); ++i) {
+///     tabs.add(titles[i], reminder.TabData(reminder.TabNumber(i)));
+/// }
 /// @endcode
 class HALVEK_EXPORT ReminderDefinition {
   public:
@@ -38,12 +43,16 @@ class HALVEK_EXPORT ReminderDefinition {
     /// The lines of a tab, from element 1; element 0 is empty.
     ///
     /// Tabs count from 1, including those without a title, so the number of a tab can differ from
-    /// the position of its title. An object without data returns element 0 alone; for a tab that
-    /// does not exist, the array is unallocated.
+    /// the position of its title: see TabNumber. An object without data returns element 0 alone;
+    /// for a tab that does not exist, the array is unallocated.
     StringArray TabData(std::int16_t TabNo) const;
 
     /// The titles in order, from element 1. A tab with an empty title has none here.
     StringArray Tabs() const;
+
+    /// The number with which TabData gives the lines below a title.
+    /// @param title  the title's position in Tabs, from 1; any other gives 0, which is no tab
+    std::int16_t TabNumber(std::int32_t title) const;
 
     /// True when a line is patient-specific.
     bool HasPatientSpecificData() const { return hasPatientSpecificData_; }
@@ -55,6 +64,9 @@ class HALVEK_EXPORT ReminderDefinition {
     std::u16string AcctNo() const { return acctNo_; }
 
   private:
+    friend struct ServerTextCheck;
+
+    void Read(TextIn reminderData, Remarks* remarks);
     void AddTab(TextIn tab);
     void AddLine(TextIn line);
 
@@ -63,6 +75,7 @@ class HALVEK_EXPORT ReminderDefinition {
     bool hasPatientSpecificData_ = false;
     bool soundAlert_ = false;
     std::vector<std::u16string> titles_;
+    std::vector<std::int16_t> titledTabs_;            // the tab's number, one for each title
     std::vector<std::vector<std::u16string>> lines_;  // one list for each tab
 };
 

@@ -8,8 +8,13 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace halvek {
+
+class Remarks;
 
 /// One user's preferences: colours, switches and a text for each screen of the host, which the
 /// server keeps as one settings text.
@@ -142,7 +147,12 @@ class HALVEK_EXPORT UserPrefs {
     std::u16string SolvaneImagesFolder() const { return solvaneImagesFolder_; }
 
   private:
+    friend struct ServerTextCheck;
     struct Table;
+
+    void Populate(TextIn settings, Remarks* remarks);
+    /// The names of the settings text's fields, and what they hold as they are written.
+    std::vector<std::pair<std::u16string_view, std::u16string>> Fields() const;
 
     static constexpr Color kNotSet = -1;
     static constexpr Color kDefaultFormText = kWhite;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/currency/ShownAmount.h>
+#include <halvekutils/platform/Desktop.h>
 #include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/currency/CurrencyFilter.h>
 #include <halvekutils/qt/currency/CurrencyWatch.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
 
 #include <utility>
 
@@ -17,29 +19,50 @@ CurrencyFilter& FieldOf(QLineEdit& line) {
     return field != nullptr ? *field : CurrencyFilter::Attach(line, AmountSign::Unsigned, nullptr);
 }
 
+bool LeaveFieldsOf(QWidget& window) {
+    const QWidget* const top = window.window();
+    for (const QPointer<CurrencyFilter>& field : CurrencyWatch::OfApplication().Fields()) {
+        QLineEdit* const line = field != nullptr ? field->Line() : nullptr;
+        if (line != nullptr && line->window() == top && !field->Leave(*line)) return false;
+    }
+    return true;
+}
+
+/// The way into what the host calls: off the user-interface thread it is a fault.
+template <class Body>
+void Enter(const char16_t* name, const Body& body) {
+    GuardEvent(name, [&] {
+        Desktop::RequireItsThread();
+        body();
+    });
+}
+
 }  // namespace
 
 void MakeCurrencyField(QLineEdit* line, std::shared_ptr<Utils> utils) {
-    if (line != nullptr) CurrencyFilter::Attach(*line, AmountSign::Unsigned, std::move(utils));
+    if (line == nullptr) return;
+    Enter(u"MakeCurrencyField",
+          [&] { CurrencyFilter::Attach(*line, AmountSign::Unsigned, std::move(utils)); });
 }
 
 void MakeSignedCurrencyField(QLineEdit* line, std::shared_ptr<Utils> utils) {
-    if (line != nullptr) CurrencyFilter::Attach(*line, AmountSign::Signed, std::move(utils));
+    if (line == nullptr) return;
+    Enter(u"MakeSignedCurrencyField",
+          [&] { CurrencyFilter::Attach(*line, AmountSign::Signed, std::move(utils)); });
 }
 
 void CheckCurrencyRange(QLineEdit* from, QLineEdit* to, TextIn lblMin, TextIn lblMax) {
     if (to == nullptr) return;
-    FieldOf(*to).CheckRange({from, ToQString(lblMin), ToQString(lblMax)});
+    Enter(u"CheckCurrencyRange", [&] {
+        FieldOf(*to).CheckRange({from, ToQString(lblMin), ToQString(lblMax)});
+    });
 }
 
 bool LeaveCurrencyFields(QWidget* window) {
     if (window == nullptr) return true;
-    for (const QPointer<CurrencyFilter>& field : CurrencyWatch::OfApplication().Fields()) {
-        QLineEdit* const line = field != nullptr ? field->Line() : nullptr;
-        const bool isInWindow = line != nullptr && line->window() == window->window();
-        if (isInWindow && !field->Leave(*line)) return false;
-    }
-    return true;
+    bool left = false;
+    Enter(u"LeaveCurrencyFields", [&] { left = LeaveFieldsOf(*window); });
+    return left;
 }
 
 std::optional<std::int64_t> CurrencyCents(const QLineEdit* line) {
@@ -51,8 +74,10 @@ std::optional<std::int64_t> CurrencyCents(const QLineEdit* line) {
 
 void SetCurrencyCents(QLineEdit* line, std::optional<std::int64_t> cents) {
     if (line == nullptr) return;
-    FieldOf(*line);
-    line->setText(cents ? ToQString(u'$' + FormatCents(*cents)) : QString());
+    Enter(u"SetCurrencyCents", [&] {
+        FieldOf(*line);
+        line->setText(cents ? ToQString(u'$' + FormatCents(*cents)) : QString());
+    });
 }
 
 }  // namespace halvek

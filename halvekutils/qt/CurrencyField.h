@@ -51,7 +51,7 @@ HALVEK_EXPORT void MakeSignedCurrencyField(QLineEdit* line, std::shared_ptr<Util
 ///
 /// @param from  the field of the lower amount; without it any amount is in order
 /// @param to  the currency field that is checked; an ordinary line edit is made one
-/// @param lblMin, lblMax  what the message calls the two
+/// @param lblMin,lblMax  what the message calls the two
 ///
 /// @code{.cpp}
 /// CheckCurrencyRange(&from, &to, u"From", u"To");

@@ -33,15 +33,25 @@ class WidgetOwnerForm : public OwnerForm {
     QPointer<QWidget> window_;
 };
 
-/// What a widget and a cell have in common as targets.
-class WidgetTarget : public PopupTarget {
+/// What all targets have in common: a place in pixels and its screen.
+class PixelTarget : public PopupTarget {
   public:
     Rect Place() const override { return ToRect(Seen()); }
     Rect Screen() const override {
         const QScreen* const screen = QGuiApplication::screenAt(Seen().center());
-        return ToRect((screen != nullptr ? screen : Widget().screen())->availableGeometry());
+        return ToRect(
+            Existing(screen != nullptr ? screen : OwnScreen(), u"screen").availableGeometry());
     }
 
+  protected:
+    /// The visible part of the target.
+    virtual QRect Seen() const = 0;
+    /// The screen for a target that is on none.
+    virtual const QScreen* OwnScreen() const = 0;
+};
+
+/// What a widget and a cell have in common.
+class WidgetTarget : public PixelTarget {
   protected:
     /// The widget, which must exist.
     virtual const QWidget& Widget() const = 0;
@@ -49,10 +59,11 @@ class WidgetTarget : public PopupTarget {
     virtual QRect Inside() const = 0;
 
   private:
-    QRect Seen() const {
+    QRect Seen() const override {
         const QRect inside = Inside();
         return QRect(Widget().mapToGlobal(inside.topLeft()), inside.size());
     }
+    const QScreen* OwnScreen() const override { return Widget().screen(); }
 };
 
 class WholeWidgetTarget : public WidgetTarget {
@@ -91,6 +102,18 @@ class CellTarget : public WidgetTarget {
     QPersistentModelIndex cell_;
 };
 
+class PlaceTarget : public PixelTarget {
+  public:
+    explicit PlaceTarget(const QRect& place) : place_(place) {}
+    bool Exists() const override { return true; }
+
+  private:
+    QRect Seen() const override { return place_; }
+    const QScreen* OwnScreen() const override { return QGuiApplication::primaryScreen(); }
+
+    QRect place_;
+};
+
 }  // namespace
 
 std::shared_ptr<OwnerForm> AsOwnerForm(QWidget* window) {
@@ -103,6 +126,10 @@ std::shared_ptr<PopupTarget> Beside(QWidget* widget) {
 
 std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell) {
     return view == nullptr ? nullptr : std::make_shared<CellTarget>(view, cell);
+}
+
+std::shared_ptr<PopupTarget> Beside(const QRect& place) {
+    return std::make_shared<PlaceTarget>(place);
 }
 
 }  // namespace halvek

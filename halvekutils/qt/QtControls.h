@@ -9,6 +9,7 @@
 class QAbstractItemView;
 class QComboBox;
 class QModelIndex;
+class QRect;
 class QWidget;
 
 namespace halvek {
@@ -28,6 +29,15 @@ HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QWidget* widget);
 /// A cell of a grid or list as such a target: the part of it that the view shows. Null for a null
 /// view. The target ends with the view, the row or the column of the cell.
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell);
+
+/// A place on the screen as such a target, in the pixels that QWidget::mapToGlobal and
+/// QQuickItem::mapToGlobal give: for a host whose buttons are not widgets.
+///
+/// @code{.cpp}
+/// const QRectF place(item->mapToGlobal(QPointF()), item->size());
+/// auto day = utils->ShowCalendarAndCalculateCoordinates(Beside(place.toRect()));
+/// @endcode
+HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(const QRect& place);
 
 // Controls for the members of Utils that work on them; null for null. Each may be destroyed at any
 // time.

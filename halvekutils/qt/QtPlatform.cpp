@@ -90,7 +90,8 @@ std::int32_t QtPlatform::WrappedHeight(TextIn text, const FontSpec& font,
 }
 
 void QtPlatform::Beep() {
-    QApplication::beep();
+    // At once, but on another thread, whose calls are refused with a beep, when the user's is free
+    QMetaObject::invokeMethod(qApp, [] { QApplication::beep(); });
 }
 
 void QtPlatform::ShowStockMessage(TextIn text, StockIcon icon, TextIn title) {

@@ -21,7 +21,8 @@ namespace halvek {
 /// @endcode
 class HALVEK_EXPORT QtPlatform : public Platform {
   public:
-    /// Throws ObjectNotSet without an application object and InvalidArgument off its thread.
+    /// Throws ObjectNotSet without a QApplication (a QGuiApplication, as Qt Quick programs have, is
+    /// not enough for widgets) and InvalidArgument off its thread.
     QtPlatform();
     ~QtPlatform() override;
 

@@ -10,6 +10,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// One code table of the client: what it is called, how it is looked up, sorted and printed. Only
 /// Utils::BuildCodesCollection makes one; if its record was too short, all getters are empty or
 /// false.
@@ -43,7 +45,7 @@ class HALVEK_EXPORT CodeDefinition {
         std::size_t length = 0;
     };
 
-    CodeDefinition();
+    HALVEK_HIDDEN CodeDefinition();
 
     /// Sets the fields from one record of the codes data, without its "|".
     ///
@@ -51,7 +53,8 @@ class HALVEK_EXPORT CodeDefinition {
     /// flag, report name, sort list, then optionally the sort list's second half, the
     /// entity-specific flag and the system-code flag. Flags are true when their numeric value is 1;
     /// the menu flag alone must be exactly "1". A record of fewer than six fields sets nothing.
-    void Init(TextIn codeData);
+    /// `remarks` hears of fields that are not as they should be; it is null in a client.
+    HALVEK_HIDDEN void Init(TextIn codeData, Remarks* remarks);
 
     std::u16string_view ViewOf(const Field& field) const {
         return std::u16string_view(record_).substr(field.start, field.length);

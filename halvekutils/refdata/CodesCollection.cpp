@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Pieces.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/refdata/CodesCollection.h>
@@ -33,19 +34,21 @@ std::int32_t CodesCollection::Count() const {
     return definitions_.Count();
 }
 
-Enumerator<const CodesCollection> CodesCollection::begin() const {
-    return Enumerator<const CodesCollection>(shared_from_this());
-}
-
-void CodesCollection::AddRecords(TextIn codesData, Services& services) {
+void CodesCollection::AddRecords(TextIn codesData, Services& services, Remarks* remarks) {
+    if (remarks != nullptr) remarks->Begin(codesData);
     for (const TextIn record : Pieces(codesData, kRecordSeparator)) {
-        if (!record.empty()) AddRecord(record, services);
+        if (remarks != nullptr) remarks->NextRecord();
+        if (!record.empty()) {
+            AddRecord(record, services, remarks);
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(codesData, record);
+        }
     }
 }
 
-void CodesCollection::AddRecord(TextIn record, Services& services) {
+void CodesCollection::AddRecord(TextIn record, Services& services, Remarks* remarks) {
     const std::shared_ptr<CodeDefinition> definition = store_.Make();
-    definition->Init(record);
+    definition->Init(record, remarks);
     const TextIn key = definition->ViewOf(definition->codeKey_);
     try {
         if (key.empty()) {
@@ -59,6 +62,10 @@ void CodesCollection::AddRecord(TextIn record, Services& services) {
                           u"\r\n\r\nPossible duplicate CodeKey/CodeDescription:  " + key.Str() +
                           u'/' + definition->CodeDescription());
         if (services.DebugMode()) Beep();
+        if (remarks != nullptr) {
+            remarks->Add(RemarkKind::Doubled, 1, record.substr(definition->codeKey_.start),
+                         u"CodeKey " + Quoted(key) + u" is taken: record left out");
+        }
     }
 }
 

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 namespace halvek {
 
@@ -19,9 +20,8 @@ class Services;
 /// The code tables that the server described, in its order; read-only to the host.
 ///
 /// @code{.cpp}
-/// const auto codes = utils->GetCodesCollection();
-/// for (const auto& code : *codes) list.add(code->CodeDescription());
-/// bool lookup = codes->Item(u"INS")->CodeHasLookup();
+/// for (const auto& code : utils->GetCodesCollection()) list.add(code->CodeDescription());
+/// bool lookup = utils->GetCodesCollection()->Item(u"INS")->CodeHasLookup();
 /// @endcode
 class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesCollection> {
   public:
@@ -36,19 +36,26 @@ class HALVEK_EXPORT CodesCollection : public std::enable_shared_from_this<CodesC
     /// How many definitions there are.
     std::int32_t Count() const;
 
-    /// The first definition, for loops.
-    Enumerator<const CodesCollection> begin() const;
+    /// The first definition, for a loop over the shared pointer, which holds the collection. A loop
+    /// over null does nothing.
+    friend Enumerator<const CodesCollection> begin(
+        std::shared_ptr<const CodesCollection> collection) {
+        return Enumerator(std::move(collection));
+    }
     /// After the last definition.
-    std::default_sentinel_t end() const { return {}; }
+    friend std::default_sentinel_t end(const std::shared_ptr<const CodesCollection>&) { return {}; }
+
+    void begin() const = delete;  ///< loop over the shared pointer: `*pointer` holds nothing
+    void end() const = delete;    ///< the same
 
   private:
     friend struct CollectionBuilder;
     struct Definition : CodeDefinition {};
 
-    CodesCollection();
-    static std::shared_ptr<CodesCollection> CreateEmpty();
-    void AddRecords(TextIn codesData, Services& services);
-    void AddRecord(TextIn record, Services& services);
+    HALVEK_HIDDEN CodesCollection();
+    HALVEK_HIDDEN static std::shared_ptr<CodesCollection> CreateEmpty();
+    HALVEK_HIDDEN void AddRecords(TextIn codesData, Services& services, Remarks* remarks);
+    HALVEK_HIDDEN void AddRecord(TextIn record, Services& services, Remarks* remarks);
 
     ObjectStore<Definition> store_;
     KeyedCollection<CodeDefinition> definitions_;

@@ -19,8 +19,10 @@ struct CollectionBuilder {
 
     /// Adds the definitions of a codes data text. The first of two equal keys wins; the second is
     /// logged. A definition without a key can be found by position only.
-    static void Add(CodesCollection& codes, TextIn codesData, Services& services) {
-        codes.AddRecords(codesData, services);
+    /// @param remarks  hears what the text holds besides; may be null
+    static void Add(CodesCollection& codes, TextIn codesData, Services& services,
+                    Remarks* remarks = nullptr) {
+        codes.AddRecords(codesData, services, remarks);
     }
 
     /// A collection without items.
@@ -34,9 +36,14 @@ struct CollectionBuilder {
     ///
     /// Items are separated by the character of code 230; the last character of each is its rights
     /// digit. The first of two equal keys wins; the second is logged.
-    static void Add(SecurityItemsCollection& items, TextIn securityData) {
-        items.AddItems(securityData);
+    /// @param remarks  hears what the text holds besides; may be null
+    static void Add(SecurityItemsCollection& items, TextIn securityData,
+                    Remarks* remarks = nullptr) {
+        items.AddItems(securityData, remarks);
     }
+
+    /// True while full access is on.
+    static bool HasFullAccess() noexcept { return SecurityItemsCollection::HasFullAccess(); }
 
     /// Switches full access off for all collections of the process; rights that an item already has
     /// stay.

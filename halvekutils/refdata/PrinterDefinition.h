@@ -43,7 +43,7 @@ class HALVEK_EXPORT PrinterDefinition {
 
   private:
     friend class PrintersCollection;
-    explicit PrinterDefinition(PrinterFields fields);
+    HALVEK_HIDDEN explicit PrinterDefinition(PrinterFields fields);
 
     PrinterFields fields_;
 };

@@ -2,6 +2,7 @@
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
@@ -61,19 +62,30 @@ PrinterListBuilder::PrinterListBuilder(PrintersCollection& printers, PrinterSour
     : printers_(printers), source_(source), services_(services) {}
 PrinterListBuilder::~PrinterListBuilder() = default;
 
-void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList) {
+void PrinterListBuilder::AddSerialPrinters(TextIn serialPrintersList, Remarks* remarks) {
+    if (remarks != nullptr) remarks->Begin(serialPrintersList);
     std::int32_t position = 0;
     for (const TextIn entry : Pieces(serialPrintersList, kEntrySeparator)) {
-        if (!entry.empty()) AddSerialPrinter(entry, position);
+        if (remarks != nullptr) remarks->NextRecord();
+        if (!entry.empty()) {
+            AddSerialPrinter(entry, position, remarks);
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(serialPrintersList, entry);
+        }
         ++position;
     }
 }
 
-void PrinterListBuilder::AddSerialPrinter(TextIn entry, std::int32_t position) {
+void PrinterListBuilder::AddSerialPrinter(TextIn entry, std::int32_t position, Remarks* remarks) {
     Fields fields;
-    if (CutInto(fields, entry, kFieldSeparator) == kFieldCount) {
+    const std::size_t count = CutInto(fields, entry, kFieldSeparator);
+    if (count == kFieldCount) {
         AddNext(SerialPrinter(fields));
         return;
+    }
+    if (remarks != nullptr) {
+        remarks->Add(RemarkKind::Ignored, std::min<std::size_t>(count, kFieldCount), entry,
+                     Quoted(entry) + u" does not have 4 fields: entry left out");
     }
     Beep();
     services_.LogError(u"BuildPrintersCollection error; format is invalid for item " +

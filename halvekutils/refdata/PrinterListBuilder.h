@@ -11,6 +11,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// One build of the printers collection: the server's list, then the workstation's printers, all
 /// numbered by one counter that starts at 0.
 class PrinterListBuilder {
@@ -28,7 +30,8 @@ class PrinterListBuilder {
     /// Adds the entries of the server's list. Tabs separate entries, ":" separates their four
     /// fields: identifier, an ignored one, description, port. An entry with another number of
     /// fields beeps, is logged and skipped. Throws DuplicateKey.
-    void AddSerialPrinters(TextIn serialPrintersList);
+    /// @param remarks  hears of entries that are left out; may be null
+    void AddSerialPrinters(TextIn serialPrintersList, Remarks* remarks = nullptr);
 
     /// Adds the workstation's printers, from the source that the session's special mode chooses:
     /// "printerlistold" means the printer list, "printerlistnew" the connections. With neither word
@@ -37,7 +40,7 @@ class PrinterListBuilder {
     void AddWorkstationPrinters();
 
   private:
-    void AddSerialPrinter(TextIn entry, std::int32_t position);
+    void AddSerialPrinter(TextIn entry, std::int32_t position, Remarks* remarks);
     bool AddConnections();
     void AddInstalledPrinters();
     void AddNext(PrinterFields fields);

@@ -37,10 +37,6 @@ std::int32_t PrintersCollection::Count() const {
     return printers_.Count();
 }
 
-Enumerator<const PrintersCollection> PrintersCollection::begin() const {
-    return Enumerator<const PrintersCollection>(shared_from_this());
-}
-
 void PrintersCollection::Add(PrinterFields fields, std::int32_t number) {
     const std::shared_ptr<PrinterDefinition> printer(new PrinterDefinition(std::move(fields)));
     printers_.Add(printer, IntegerText(number) + u"KEY");
@@ -49,7 +45,7 @@ void PrintersCollection::Add(PrinterFields fields, std::int32_t number) {
 std::shared_ptr<PrintersCollection> PrintersCollection::Filtered(
     const PrinterFilter& filter) const {
     auto filtered = CreateEmpty();
-    for (const auto& printer : *this) {
+    for (const auto& printer : shared_from_this()) {
         if (!Passes(printer->fields_, filter)) continue;
         filtered->Add(printer->fields_, filtered->Count() + 1);
     }

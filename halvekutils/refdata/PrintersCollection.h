@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 namespace halvek {
 
@@ -28,8 +29,9 @@ struct PrinterFilter {
 /// filtered one.
 ///
 /// @code{.cpp}
-/// const auto printers = utils->GetPrintersCollectionFiltered();  // held for the whole loop
-/// for (const auto& printer : *printers) list.add(printer->PrinterDescription());
+/// for (const auto& printer : utils->GetPrintersCollectionFiltered()) {
+///     list.add(printer->PrinterDescription());
+/// }
 /// @endcode
 class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<PrintersCollection> {
   public:
@@ -44,10 +46,19 @@ class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<Pri
     /// How many printers there are.
     std::int32_t Count() const;
 
-    /// The first printer, for loops.
-    Enumerator<const PrintersCollection> begin() const;
+    /// The first printer, for a loop over the shared pointer, which holds the collection. A loop
+    /// over null does nothing.
+    friend Enumerator<const PrintersCollection> begin(
+        std::shared_ptr<const PrintersCollection> collection) {
+        return Enumerator(std::move(collection));
+    }
     /// After the last printer.
-    std::default_sentinel_t end() const { return {}; }
+    friend std::default_sentinel_t end(const std::shared_ptr<const PrintersCollection>&) {
+        return {};
+    }
+
+    void begin() const = delete;  ///< loop over the shared pointer: `*pointer` holds nothing
+    void end() const = delete;    ///< the same
 
     /// Copies of the printers that pass the filter, in their order. The spool, the entry with the
     /// identifier "S", does not count as a serial printer, even when its type says so.
@@ -56,9 +67,9 @@ class HALVEK_EXPORT PrintersCollection : public std::enable_shared_from_this<Pri
   private:
     friend struct CollectionBuilder;
 
-    PrintersCollection();
-    static std::shared_ptr<PrintersCollection> CreateEmpty();
-    void Add(PrinterFields fields, std::int32_t number);
+    HALVEK_HIDDEN PrintersCollection();
+    HALVEK_HIDDEN static std::shared_ptr<PrintersCollection> CreateEmpty();
+    HALVEK_HIDDEN void Add(PrinterFields fields, std::int32_t number);
 
     KeyedCollection<PrinterDefinition> printers_;
 };

@@ -40,11 +40,11 @@ class HALVEK_EXPORT SecurityItem {
 
     enum Right : std::uint8_t { kDelete = 1, kModify = 2, kAdd = 4, kRead = 8 };
 
-    SecurityItem();
+    HALVEK_HIDDEN SecurityItem();
 
     /// Stores the key and adds the rights of one hexadecimal digit, in either letter case, to those
     /// that the item has. Any other character adds none.
-    void Init(TextIn itemKey, char16_t rightsDigit);
+    HALVEK_HIDDEN void Init(TextIn itemKey, char16_t rightsDigit);
 
     std::u16string itemKey_;
     std::uint8_t rights_ = 0;

@@ -2,6 +2,7 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
@@ -21,6 +22,20 @@ constexpr char16_t kNoRight = u'0';
 
 bool fullAccess = false;
 
+void RemarkOn(TextIn piece, bool taken, Remarks& remarks) {
+    const TextIn key = piece.substr(0, piece.size() - 1);
+    const TextIn digit = piece.substr(key.size());
+    if (key.empty() && !taken) remarks.Add(RemarkKind::Defaulted, 0, key, u"item without a key");
+    if (taken) {
+        remarks.Add(RemarkKind::Doubled, 0, key,
+                    u"key " + Quoted(key) + u" is taken: item left out");
+    }
+    if (digit.find_first_of(u"0123456789ABCDEFabcdef") == digit.npos) {
+        remarks.Add(RemarkKind::Defaulted, 1, digit,
+                    Quoted(digit) + u" is not a hexadecimal digit: no rights");
+    }
+}
+
 }  // namespace
 
 SecurityItemsCollection::SecurityItemsCollection(Services& services) : services_(services) {}
@@ -32,6 +47,10 @@ std::shared_ptr<SecurityItemsCollection> SecurityItemsCollection::CreateEmpty(Se
 
 void SecurityItemsCollection::EndFullAccess() noexcept {
     fullAccess = false;
+}
+
+bool SecurityItemsCollection::HasFullAccess() noexcept {
+    return fullAccess;
 }
 
 std::shared_ptr<SecurityItem> SecurityItemsCollection::Item(std::int32_t position) {
@@ -62,18 +81,18 @@ std::int32_t SecurityItemsCollection::Count() const {
     return items_.Count();
 }
 
-Enumerator<const KeyedCollection<SecurityItem>> SecurityItemsCollection::begin() const {
-    // Holds this collection, but steps through its store: Item would grant rights.
-    return Enumerator(
-        std::shared_ptr<const KeyedCollection<SecurityItem>>(shared_from_this(), &items_));
-}
-
-void SecurityItemsCollection::AddItems(TextIn securityData) {
+void SecurityItemsCollection::AddItems(TextIn securityData, Remarks* remarks) {
     fullAccess = securityData == kFullAccessData;
     if (fullAccess) return;
     MakeRoomFor(securityData);
+    if (remarks != nullptr) remarks->Begin(securityData);
     for (const TextIn piece : Pieces(securityData, kItemSeparator)) {
-        if (!piece.empty()) Add(piece.substr(0, piece.size() - 1), piece.back());
+        if (remarks != nullptr) remarks->NextRecord();
+        if (!piece.empty()) {
+            Add(piece, remarks);
+        } else if (remarks != nullptr) {
+            remarks->OnEmptyRecord(securityData, piece);
+        }
     }
 }
 
@@ -85,7 +104,10 @@ void SecurityItemsCollection::MakeRoomFor(TextIn securityData) {
     items_.Reserve(most, characters);
 }
 
-void SecurityItemsCollection::Add(TextIn key, char16_t rightsDigit) {
+void SecurityItemsCollection::Add(TextIn piece, Remarks* remarks) {
+    const TextIn key = piece.substr(0, piece.size() - 1);
+    const char16_t rightsDigit = piece.back();
+    if (remarks != nullptr) RemarkOn(piece, items_.Find(key) != nullptr, *remarks);
     std::shared_ptr<SecurityItem> item = store_.Make();
     item->Init(key, rightsDigit);
     const auto prefix = [&] { return u"AddSecurity Item error: " + key.Str() + u' '; };

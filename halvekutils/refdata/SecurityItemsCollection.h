@@ -14,6 +14,7 @@
 
 namespace halvek {
 
+class Remarks;
 class Services;
 
 /// The signed-in user's rights, as the server described them; read-only to the host.
@@ -46,22 +47,34 @@ class HALVEK_EXPORT SecurityItemsCollection
     /// How many items there are, including those that look-ups have added.
     std::int32_t Count() const;
 
-    /// Steps through the items as they are: a loop looks nothing up and so grants nothing.
-    Enumerator<const KeyedCollection<SecurityItem>> begin() const;
+    /// The first item, for a loop over the shared pointer, which holds the collection. A loop looks
+    /// nothing up and so grants nothing; one over null does nothing.
+    friend Enumerator<const KeyedCollection<SecurityItem>> begin(
+        const std::shared_ptr<const SecurityItemsCollection>& collection) {
+        // Holds the collection, but steps through its store: Item would grant rights.
+        const auto* const items = collection == nullptr ? nullptr : &collection->items_;
+        return Enumerator(std::shared_ptr<const KeyedCollection<SecurityItem>>(collection, items));
+    }
     /// After the last item.
-    std::default_sentinel_t end() const { return {}; }
+    friend std::default_sentinel_t end(const std::shared_ptr<const SecurityItemsCollection>&) {
+        return {};
+    }
+
+    void begin() const = delete;  ///< loop over the shared pointer: `*pointer` holds nothing
+    void end() const = delete;    ///< the same
 
   private:
     friend struct CollectionBuilder;
     struct StoredItem : SecurityItem {};
 
-    explicit SecurityItemsCollection(Services& services);
-    static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
-    static void EndFullAccess() noexcept;
-    void AddItems(TextIn securityData);
-    void MakeRoomFor(TextIn securityData);
-    void Add(TextIn key, char16_t rightsDigit);
-    void ReportMissing(TextIn key);
+    HALVEK_HIDDEN explicit SecurityItemsCollection(Services& services);
+    HALVEK_HIDDEN static std::shared_ptr<SecurityItemsCollection> CreateEmpty(Services& services);
+    HALVEK_HIDDEN static void EndFullAccess() noexcept;
+    HALVEK_HIDDEN static bool HasFullAccess() noexcept;
+    HALVEK_HIDDEN void AddItems(TextIn securityData, Remarks* remarks);
+    HALVEK_HIDDEN void MakeRoomFor(TextIn securityData);
+    HALVEK_HIDDEN void Add(TextIn piece, Remarks* remarks);
+    HALVEK_HIDDEN void ReportMissing(TextIn key);
 
     Services& services_;
     ObjectStore<StoredItem> store_;

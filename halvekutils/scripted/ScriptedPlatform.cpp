@@ -27,19 +27,6 @@ void ForEachLine(std::u16string_view text, const Each& each) {
     }
 }
 
-/// Plays the next answer in the queue on a dialog; a fault when there is none.
-template <class Rules, class Answer>
-void Play(Rules& dialog, std::deque<Answer>& answers, std::u16string_view name, TextIn caption) {
-    if (answers.empty()) {
-        throw RuntimeError(Fault::InvalidArgument,
-                           u"no answer for the " + std::u16string(name) + u" " + caption.Str());
-    }
-    const Answer answer = std::move(answers.front());
-    answers.pop_front();
-    answer(dialog);
-    dialog.Abandon();
-}
-
 class ScriptedPrinters : public PrinterSource {
   public:
     ScriptedPrinters(std::optional<std::vector<PrinterConnection>> connections,
@@ -132,6 +119,20 @@ void ScriptedPlatform::ShowHelpContext(const std::filesystem::path& file, std::i
 
 void ScriptedPlatform::ShowHelpTopic(const std::filesystem::path& file, TextIn topic) {
     helpShown_.push_back({file, std::nullopt, topic.Str()});
+}
+
+/// Plays the next answer in the queue on a dialog; a fault when there is none.
+template <class Rules, class Answer>
+void ScriptedPlatform::Play(Rules& dialog, std::deque<Answer>& answers, TextIn kind,
+                            TextIn caption) {
+    if (answers.empty()) {
+        unanswered_.push_back(kind.Str() + u" " + caption.Str());
+        throw RuntimeError(Fault::InvalidArgument, u"no answer for the " + unanswered_.back());
+    }
+    const Answer answer = std::move(answers.front());
+    answers.pop_front();
+    answer(dialog);
+    dialog.Abandon();
 }
 
 void ScriptedPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality) {

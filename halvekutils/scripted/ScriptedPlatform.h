@@ -26,8 +26,9 @@ namespace halvek {
 ///
 /// @code{.cpp}
 /// ScriptedPlatform desktop;
-/// desktop.OnMessageBox([](MessageBox& box) { box.Press(0); });
+/// desktop.OnMessageBox([](MessageBox& box) { box.Press(mbYes); });
 /// EXPECT_EQ(host.DeleteVisit(), true);  // asks "Delete the visit?"
+/// EXPECT_EQ(desktop.AnswersLeft() + desktop.Unanswered().size(), 0u);
 /// @endcode
 class HALVEK_EXPORT ScriptedPlatform : public Platform {
   public:
@@ -70,6 +71,9 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
 
     /// The answers that no dialog has taken yet.
     std::size_t AnswersLeft() const;
+    /// The dialogs that found no answer, the oldest first, each as its kind and what it shows:
+    /// "message box Visits".
+    const std::vector<std::u16string>& Unanswered() const { return unanswered_; }
     /// The modeless boxes on the screen.
     const std::vector<std::shared_ptr<MessageBox>>& ModelessBoxes() const { return modeless_; }
 
@@ -123,6 +127,10 @@ class HALVEK_EXPORT ScriptedPlatform : public Platform {
     void Show(const std::shared_ptr<SelectGrid>& grid) override;
 
   private:
+    template <class Rules, class Answer>
+    void Play(Rules& dialog, std::deque<Answer>& answers, TextIn kind, TextIn caption);
+
+    std::vector<std::u16string> unanswered_;
     std::deque<MessageBoxAnswer> messageBoxAnswers_;
     std::deque<CalculatorAnswer> calculatorAnswers_;
     std::deque<CalendarAnswer> calendarAnswers_;

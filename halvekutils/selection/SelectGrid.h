@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/Export.h>
 #include <halvekutils/base/TextIn.h>
+#include <halvekutils/base/XlibOff.h>
 #include <halvekutils/controls/Placement.h>
 #include <halvekutils/platform/Dialog.h>
 #include <halvekutils/selection/ChosenCodes.h>
@@ -92,7 +93,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     const PopupAnchor& Anchor() const { return request_.anchor; }
 
     /// The codes chosen so far.
-    std::u16string_view Choice() const { return codes_.Text(); }
+    TextIn Choice() const { return codes_.Text(); }
     /// Their number and, a line each, the codes with their descriptions; empty without a choice.
     /// @param maxLines  how many codes are named; a last line counts the others
     std::u16string ChoiceInWords(std::size_t maxLines) const;
@@ -233,3 +234,5 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
 };
 
 }  // namespace halvek
+
+#include <halvekutils/base/XlibOn.h>

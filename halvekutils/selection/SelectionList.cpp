@@ -2,11 +2,13 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace halvek {
@@ -45,15 +47,22 @@ class Piece {
     }
 
     std::size_t Start() const { return start_; }
+    std::size_t End() const { return end_; }
+    /// How many fields the piece has, and how many it should have.
+    std::size_t Fields() const { return field_; }
+    std::size_t ExpectedFields() const { return fields_; }
     std::u16string_view Code(std::u16string_view text) const {
         return text.substr(start_, std::min(codeEnd_, end_) - start_);
+    }
+    /// The last of the expected fields, if the piece has that many.
+    std::u16string_view Flag(std::u16string_view text) const {
+        return text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_);
     }
     std::size_t DescriptionLength() const {
         return codeEnd_ == kOpen ? 0 : std::min(nameEnd_, end_) - codeEnd_ - 1;
     }
     bool IsDeleted(std::u16string_view text) const {
-        return field_ >= fields_ &&
-               text.substr(flagStart_, std::min(flagEnd_, end_) - flagStart_) == kDeleted;
+        return field_ >= fields_ && Flag(text) == kDeleted;
     }
 
   private:
@@ -69,18 +78,97 @@ class Piece {
     std::size_t fields_ = 0;  ///< of the first piece that was not empty; its last field is the flag
 };
 
+/// Remarks on the entries of a list, for a reader with a listener.
+class EntryRemarks {
+  public:
+    EntryRemarks(std::u16string_view text, Remarks& remarks) : text_(text), remarks_(remarks) {
+        remarks_.Begin(text);
+        remarks_.NextRecord();  // the header
+    }
+
+    void On(const Piece& piece) {
+        remarks_.NextRecord();
+        const bool isLast = piece.End() == text_.size();
+        if (piece.Start() != piece.End()) {
+            OnCode(piece.Code(text_));
+            OnFields(piece);
+            OnFlag(piece);
+            if (isLast) Add(RemarkKind::Ignored, 0, piece.End(), kOpenEnd);
+        } else if (!isLast) {
+            Add(RemarkKind::Defaulted, 0, piece.Start(), u"empty entry: a cell without a code");
+        }
+    }
+
+  private:
+    static constexpr std::u16string_view kOpenEnd =
+        u"no colon after the last entry: the total leaves it out";
+
+    void Add(RemarkKind kind, std::size_t field, std::size_t at, std::u16string_view remark) {
+        remarks_.Add(kind, field, text_.substr(at), std::u16string(remark));
+    }
+
+    void OnCode(std::u16string_view code) {
+        const TextIn trimmed = Trimmed(TextIn(code));
+        const auto at = static_cast<std::size_t>(code.data() - text_.data());
+        if (trimmed.empty()) {
+            Add(RemarkKind::Defaulted, 0, at, u"no code: the entry cannot be chosen");
+        } else if (!codes_.Add(trimmed)) {
+            Add(RemarkKind::Doubled, 0, at,
+                u"code " + Quoted(trimmed) + u" is taken: typing it ticks the first");
+        }
+    }
+
+    void OnFields(const Piece& piece) {
+        const std::size_t expected = piece.ExpectedFields();
+        const auto number = [](std::size_t count) {
+            return IntegerText(static_cast<std::int64_t>(count));
+        };
+        if (expected < kUsualFields && !std::exchange(fewFieldsTold_, true)) {
+            Add(RemarkKind::Defaulted, expected, piece.End(),
+                number(expected) + u" fields in an entry: the last is also the deleted flag");
+        }
+        if (piece.Fields() < expected) {
+            Add(RemarkKind::Defaulted, piece.Fields(), piece.End(),
+                number(piece.Fields()) + u" of " + number(expected) + u" fields: not deleted");
+        } else if (piece.Fields() > expected) {
+            Add(RemarkKind::Ignored, expected, piece.End(),
+                u"fields after field " + number(expected - 1) + u" ignored");
+        }
+    }
+
+    void OnFlag(const Piece& piece) {
+        const std::size_t expected = piece.ExpectedFields();
+        if (expected < kUsualFields || piece.Fields() < expected) return;
+        const std::u16string_view flag = piece.Flag(text_);
+        if (flag == u"0" || flag == kDeleted) return;
+        Add(RemarkKind::Defaulted, expected - 1,
+            static_cast<std::size_t>(flag.data() - text_.data()),
+            u"deleted flag " + Quoted(flag) + u" is neither 0 nor 1: not deleted");
+    }
+
+    static constexpr std::size_t kUsualFields = 3;
+
+    std::u16string_view text_;
+    Remarks& remarks_;
+    KeyIndex codes_{KeyCase::Exact};
+    bool fewFieldsTold_ = false;
+};
+
 }  // namespace
 
 SelectionList::SelectionList(std::u16string allValues, bool doNotIncludeDeleted)
+    : SelectionList(std::move(allValues), doNotIncludeDeleted, nullptr) {}
+
+SelectionList::SelectionList(std::u16string allValues, bool doNotIncludeDeleted, Remarks* remarks)
     : values_(std::move(allValues)) {
     if (values_.size() >= std::size_t{std::numeric_limits<std::int32_t>::max()}) {
         throw RuntimeError(Fault::OutOfMemory);
     }
-    ReadEntries(doNotIncludeDeleted);
+    ReadEntries(doNotIncludeDeleted, remarks);
     lastShown_ = std::min(Count(), RowCount() / kRowsPerBand * kColumns);
 }
 
-void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
+void SelectionList::ReadEntries(bool doNotIncludeDeleted, Remarks* remarks) {
     const std::u16string_view text = values_;
     const std::size_t pieces = CountOf(text, kEntryEnd) + 1;
     starts_.reserve(pieces);
@@ -90,9 +178,12 @@ void SelectionList::ReadEntries(bool doNotIncludeDeleted) {
     if (!doNotIncludeDeleted) deleted_.push_back(false);
     CharacterScan separators(text, kEntryEnd, kFieldEnd);
     Piece piece;
+    std::optional<EntryRemarks> entryRemarks;
+    if (remarks != nullptr) entryRemarks.emplace(text, *remarks);
     const auto readTo = [&](std::size_t end) {
         piece.End(end);
         const bool isDeleted = piece.IsDeleted(text);
+        if (entryRemarks) entryRemarks->On(piece);
         if (doNotIncludeDeleted && isDeleted) return;
         starts_.push_back(static_cast<std::uint32_t>(piece.Start()));
         if (!doNotIncludeDeleted) deleted_.push_back(isDeleted);

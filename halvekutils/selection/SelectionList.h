@@ -12,6 +12,8 @@
 
 namespace halvek {
 
+class Remarks;
+
 /// A code list as the server sends it, read in place: one text and the start of each entry in it.
 ///
 /// ":" separates entries, TAB separates fields. The first piece is a header; the pseudo-entry for
@@ -41,6 +43,10 @@ class HALVEK_EXPORT SelectionList {
 
     // What an entry holds; its number is 1 to Count(). Views stay valid as long as the list.
 
+    /// True for an entry that is nothing at all, not even a blank.
+    bool IsEmpty(std::int32_t entry) const {
+        return Code(entry).empty() && Description(entry).empty();
+    }
     /// Code and description of an entry, for callers that want both.
     struct Texts {
         std::u16string_view code;         ///< as Code gives it
@@ -72,9 +78,12 @@ class HALVEK_EXPORT SelectionList {
     std::vector<std::u16string_view> LongestDescriptions() const;
 
   private:
+    friend struct ServerTextCheck;
+
+    SelectionList(std::u16string allValues, bool doNotIncludeDeleted, Remarks* remarks);
     std::u16string_view From(std::int32_t entry) const;
     std::u16string_view TrimmedCode(std::int32_t entry) const;
-    void ReadEntries(bool doNotIncludeDeleted);
+    void ReadEntries(bool doNotIncludeDeleted, Remarks* remarks);
     void MeasureCode(std::size_t length);
     void MeasureDescription(std::size_t length);
     struct Index {

@@ -86,8 +86,24 @@ struct stat StatusOf(const Descriptor& open, const fs::path& file) {
     return status;
 }
 
-void RequireRegular(const Descriptor& open, const fs::path& file) {
-    if (!S_ISREG(StatusOf(open, file).st_mode)) {
+/// Whether users other than this process's and the superuser may put files into a folder.
+bool OthersMayWrite(const fs::path& folder) {
+    struct stat status {};
+    if (::stat(folder.empty() ? "." : folder.c_str(), &status) != 0) ThrowLastError(folder);
+    const bool trusted = status.st_uid == 0 || status.st_uid == ::geteuid();
+    return !trusted || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+}
+
+/// Whether somebody else may have put this file in the log's place, to read what is logged or to
+/// have it written into another file. Only a folder that others can write lets them.
+bool MayBePlanted(const struct stat& status, const fs::path& file) {
+    const bool foreign = status.st_uid != ::geteuid() || status.st_nlink > 1;
+    return foreign && OthersMayWrite(file.parent_path());
+}
+
+void RequireOwnLog(const Descriptor& open, const fs::path& file) {
+    const struct stat status = StatusOf(open, file);
+    if (!S_ISREG(status.st_mode) || MayBePlanted(status, file)) {
         throw RuntimeError(Fault::PermissionDenied, FromUtf8(file.native()));
     }
 }
@@ -161,7 +177,7 @@ void LocalMachine::MakeWritable(const fs::path& file) {
     // not go to its target.
     const Descriptor open(::open(file.c_str(), O_PATH | O_CLOEXEC | O_NOFOLLOW));
     if (open.Number() < 0) ThrowLastError(file);
-    RequireRegular(open, file);
+    RequireOwnLog(open, file);
     const fs::path self = "/proc/self/fd/" + std::to_string(open.Number());
     const mode_t mode = (StatusOf(open, file).st_mode & 07777) | S_IWUSR;
     if (::chmod(self.c_str(), mode) != 0) ThrowLastError(file);
@@ -202,7 +218,7 @@ void LocalMachine::Append(const fs::path& file, std::string_view bytes) {
     }
     Descriptor open(number);
     if (number < 0) ThrowLastError(file);
-    RequireRegular(open, file);
+    RequireOwnLog(open, file);
     WriteAll(open, bytes, file);
 }
 
@@ -211,7 +227,8 @@ bool LocalMachine::TryAppend(const fs::path& file, std::string_view bytes, std::
     if (open.Number() < 0) return false;
     const struct stat status = StatusOf(open, file);
     const bool ready = S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0 &&
-                       static_cast<std::uintmax_t>(status.st_size) < length;
+                       static_cast<std::uintmax_t>(status.st_size) < length &&
+                       !MayBePlanted(status, file);
     if (ready) WriteAll(open, bytes, file);
     return ready;
 }

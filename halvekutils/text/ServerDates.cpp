@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/base/Remarks.h>
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/text/ServerDates.h>
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 
@@ -30,6 +32,24 @@ std::int64_t CountIn(TextIn text) {
         count = 10 * count + (digit - u'0');
     }
     return std::min(count, kFar);
+}
+
+void RemarkOnCount(TextIn text, std::size_t field, std::u16string_view name, Remarks& remarks) {
+    const FieldRemarks on(remarks, field, name, text);
+    if (!on.OnNumber()) return;
+    const double number = Val(text);
+    if (number != std::trunc(number))
+        on.AddWithText(RemarkKind::Ignored, u": the fraction is ignored");
+}
+
+void RemarkOn(TextIn date, std::size_t comma, Remarks& remarks) {
+    if (comma != 0) RemarkOnCount(date.substr(0, comma), 0, u"day", remarks);
+    if (comma == TextIn::npos) return;
+    const TextIn time = date.substr(comma + 1);
+    RemarkOnCount(time, 1, u"time", remarks);
+    if (CountIn(time) < kSecondsInDay) return;
+    FieldRemarks(remarks, 1, u"time", time)
+        .AddWithText(RemarkKind::Ignored, u" of 86,400 seconds or more: no date");
 }
 
 DateTime DayOf(TextIn count) {
@@ -76,8 +96,9 @@ void DropCommaBeforeTime(std::u16string& text) {
 
 }  // namespace
 
-std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine) {
+std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine, Remarks* remarks) {
     const std::size_t comma = HDate.find(u',');
+    if (remarks != nullptr) RemarkOn(HDate, comma, *remarks);
     if (comma == TextIn::npos) return DayOf(HDate);
     const std::int64_t time = CountIn(HDate.substr(comma + 1));
     if (time >= kSecondsInDay) return std::nullopt;

@@ -11,18 +11,21 @@
 
 namespace halvek {
 
+class Remarks;
+
 // The server writes a date as the number of days since 12/31/1840 and a time as seconds since
 // midnight. The machine's clock says what day it is here; it is read only when needed.
 
 /// Reads a server's text: "days", "days,seconds", or ",seconds" for a time today. Fractions are
 /// ignored, a part that is not a number counts as 0, and negative numbers go back.
 ///
-/// Returns nothing from 86,400 seconds on. The result may lie outside the range of dates.
+/// Returns nothing from 86,400 seconds on. The result may lie outside the range of dates. `remarks`
+/// hears of the parts that count as 0 or are ignored; it may be null.
 ///
 /// @code{.cpp}
 /// ReadServerDate(u"60000,43200", machine)  // 4/10/2005 12:00:00 PM
 /// @endcode
-std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine);
+std::optional<DateTime> ReadServerDate(TextIn HDate, Machine& machine, Remarks* remarks = nullptr);
 
 /// "3/5/2024" as "03052024": month and day get two digits, the year stays as it is. A text that
 /// lacks a first slash, or a second one at its fourth character or later, just loses its slashes.

@@ -6,7 +6,7 @@ using namespace halvek;
 
 int main() {
     ScriptedPlatform desktop;
-    desktop.OnMessageBox([](MessageBox& box) { box.Press(1); });
+    desktop.OnMessageBox([](MessageBox& box) { box.Press(mbNo); });
     const auto utils = Utils::Create();
     utils->InitUtils(u"/dev/null/none", u"Consumer", u"test", false, u"1");
     utils->BuildCodesCollection(u"Insurance\u00E6INS\u00E61\u00E61\u00E6List\u00E6Name");

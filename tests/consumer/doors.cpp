@@ -26,13 +26,13 @@ int main() {
 #ifdef HALVEK_DOORS
     TheSession().debugMode = true;
     CollectionBuilder::Add(*rights, u"***");
-    rights->AddItems(u"***");
+    rights->AddItems(u"***", nullptr);
     rights->Item(1)->Init(u"PATIENTS", u'F');
     SecurityItemsCollection::EndFullAccess();
     SecurityItemsCollection::CreateEmpty(Services::Current());
     ObjectStore<SecurityItem>().Make();
-    codes->AddRecords(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6", Services::Current());
-    codes->Item(1)->Init(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6");
+    codes->AddRecords(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6", Services::Current(), nullptr);
+    codes->Item(1)->Init(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6", nullptr);
     CodesCollection::CreateEmpty();
     ObjectStore<CodeDefinition>().Make();
     printers->Add(PrinterFields{}, 7);

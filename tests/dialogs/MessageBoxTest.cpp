@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FakeServices.h"
+#include "tests/FaultOf.h"
 
 #include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/scripted/ScriptedPlatform.h>
@@ -215,15 +216,23 @@ TEST_F(MessageBoxTest, EverySetAnswersByItsButtonsItsCloseBoxAndItsKeys) {
             EXPECT_EQ(open.ButtonCaption(i), shown ? u"&" + row.captions[at] : u"");
             EXPECT_EQ(at < 3 && open.Layout().buttons[at].has_value(), shown);
             const auto pressThenAbandon = [&](MessageBox& box) {
-                box.Press(i);
+                EXPECT_EQ(FaultOf([&] { box.Press(i); }), shown ? 0 : 9);
                 box.Abandon();
             };
             EXPECT_EQ(AnswerAfter(row.set, pressThenAbandon),
                       shown ? row.results[at] : row.closed.value_or(kNotAnswered));
         }
-        const auto closeThenPress = [](MessageBox& box) {
+        for (int value = kNotAnswered; value <= mbHelp + 1; ++value) {
+            const auto result = static_cast<MbMsgBoxResult>(value);
+            const bool shown = std::ranges::count(row.results, result) > 0;
+            const auto press = [&](MessageBox& box) {
+                EXPECT_EQ(FaultOf([&] { box.Press(result); }), shown ? 0 : 5) << value;
+            };
+            EXPECT_EQ(AnswerAfter(row.set, press), shown ? std::optional(result) : std::nullopt);
+        }
+        const auto closeThenPress = [&](MessageBox& box) {
             box.Close();
-            box.Press(0);
+            if (!row.results.empty()) box.Press(0);
         };
         EXPECT_EQ(AnswerAfter(row.set, closeThenPress), row.closed ? row.closed : row.results[0]);
         const auto escape = [](MessageBox& box) {

@@ -8,6 +8,7 @@ pages=$1/docs/pages
 xml=$2/docs/xml
 complain() { echo "$*" >&2; exit 1; }
 
+rm -rf "$2/docs/html" "$xml"
 cmake --build "$2" --target docs
 
 # Members of Utils, from the lines that declare them
@@ -15,6 +16,15 @@ members=$(sed -nE '/^  private:/q; s/^    [A-Za-z:][^(=]* ([A-Za-z_]+)\(.*/\1/p'
 [ "$(wc -w <<<"$members")" -gt 100 ]
 for member in $members; do
     grep -q "<name>$member</name>" "$xml/classhalvek_1_1Utils.xml" || complain "no entry: $member"
+done
+
+# Every member of Utils stands below a task, once
+diff <(sort -u <<<"$members") <(sed '/^#/d; s/^[^:]*: //' "$1/docs/tasks.txt" | tr ' ' '\n' | sort) >&2 ||
+    complain "docs/tasks.txt lacks (<) or repeats (>) members"
+
+# Every page links what it names
+for page in "$2"/docs/html/{index,md_*}.html; do
+    grep -q '<code><a class="el" href="[a-z]*halvek' "$page" || complain "no link to the reference: $page"
 done
 
 # Values of public enumerations
@@ -26,7 +36,12 @@ awk '/<memberdef/ { public = /prot="public"/ } /<name>/ { name = $0 } /<para>/ {
 while IFS= read -r line; do
     grep -qF -- "$line" "$pages/error-log.md" || complain "not explained: $line"
 done < <(grep -rhv '^ *///' --include='*.cpp' --include='*.h' "$rooms" | sed -nE \
-    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |OpenHelp\(\*this, |prefix = .*return )u"([^"\\]+).*/\2/p')
+    's/.*(OnFault::[A-Za-z]+, |LogError\(|Fault\[\] = |prefix = .*return )u"([^"\\]+).*/\2/p')
+
+# Headers of the samples are installed
+for header in $(sed -nE 's/^#include <halvekutils\/([^>]+)>/\1/p' "$pages"/*.md | sort -u); do
+    grep -qxF "$header" "$2/public-headers.txt" || complain "a sample includes $header, which is not installed"
+done
 
 # Links and pictures of the pages
 for link in $(grep -hoE '\]\([a-z./-]+\.(md|png)' "$pages"/*.md | tr -d ']('); do

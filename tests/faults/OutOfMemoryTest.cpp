@@ -118,7 +118,7 @@ template <class Collection, class Show>
 Text Lines(const std::shared_ptr<Collection>& collection, const Show& show) {
     Text lines;
     if (collection == nullptr) return lines;
-    for (const auto& item : *collection) lines += std::invoke(show, *item) + u'\n';
+    for (const auto& item : collection) lines += std::invoke(show, *item) + u'\n';
     return lines;
 }
 Text Lines(const StringArray& array) {

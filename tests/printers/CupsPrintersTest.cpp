@@ -40,7 +40,7 @@ class CupsPrintersTest : public CleanState {
         utils_->ClearPrintersCollection();
         utils_->BuildPrintersCollection(u"");
         std::string shown;
-        for (const auto& printer : *utils_->GetPrintersCollection()) {
+        for (const auto& printer : utils_->GetPrintersCollection()) {
             shown += ToUtf8(printer->PrinterID() + u'/' + printer->PrinterDeviceName() + u'/' +
                             printer->PrinterPort() + u'/' + printer->PrinterDriverName() + u'\n');
         }

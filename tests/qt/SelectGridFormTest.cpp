@@ -389,6 +389,9 @@ TEST(PopupTargets, AreTheVisiblePartOfAWidgetOrCellUntilItIsGone) {
     const auto cell = Beside(view.get(), model.index(1, 1));
     const auto whole = Beside(view.get());
     EXPECT_EQ(whole->Place(), (Rect{1500, 1500, 4500, 3000}));
+    const auto place = Beside(QRect(100, 100, 300, 200));  // of a host without widgets
+    EXPECT_EQ(place->Place(), whole->Place());
+    EXPECT_EQ(place->Screen(), whole->Screen());
     EXPECT_GT(cell->Place().top, 1500);
     EXPECT_LE(cell->Place().Right(), 6000);
     model.removeRows(0, 10);

@@ -50,7 +50,7 @@ TEST_F(CodesCollectionTest, HoldsTheServersTablesInTheirOrder) {
     for (const auto& row : rows) data += row.record + u"||";
     const auto codes = Build(data);
     std::int32_t position = 0;
-    for (const auto& code : *codes) {
+    for (const auto& code : codes) {
         EXPECT_EQ(FieldsOf(*code), rows[position].fields) << ToUtf8(rows[position].record);
         EXPECT_EQ(codes->Item(++position), code);
         EXPECT_TRUE(code->CodeKey().empty() || codes->Item(code->CodeKey()) == code);
@@ -97,10 +97,11 @@ TEST_F(CodesCollectionTest, KeepsTheFirstOfTwoEqualKeysAndLogsTheSecond) {
 
 TEST_F(CodesCollectionTest, ARebuildLeavesTheHostsCollectionAndItsLoopsAlone) {
     EXPECT_EQ(utils_->GetCodesCollection(), nullptr);
+    for (const auto& code : utils_->GetCodesCollection()) FAIL() << "null holds " << code;
     std::weak_ptr<CodesCollection> old = Build(u"OneæAæ1æ1ææ|TwoæBæ1æ1ææ|ThreeæCæ1æ1ææ");
     EXPECT_EQ(Utils::Create()->GetCodesCollection(), old.lock());
     std::u16string seen;
-    for (const auto& code : *utils_->GetCodesCollection()) {
+    for (const auto& code : utils_->GetCodesCollection()) {
         EXPECT_EQ(Build(u"NewæAæ1æ1ææ")->Item(u"a")->CodeDescription(), u"New");
         seen += old.lock()->Item(code->CodeKey())->CodeDescription();
     }

@@ -23,10 +23,10 @@ std::string Shown(const PrinterDefinition& printer) {
 }
 
 /// The identifiers of all printers, each of which must be found by its number's key.
-std::string Identifiers(const PrintersCollection& printers, int number) {
+std::string Identifiers(const std::shared_ptr<const PrintersCollection>& printers, int number) {
     std::string identifiers;
     for (const auto& printer : printers) {
-        EXPECT_EQ(printers.Item(FromUtf8(std::to_string(number++) + "Key")), printer);
+        EXPECT_EQ(printers->Item(FromUtf8(std::to_string(number++) + "Key")), printer);
         identifiers += ToUtf8(printer->PrinterID()) + ' ';
     }
     return identifiers;
@@ -75,7 +75,7 @@ TEST_F(PrintersCollectionTest, ListsTheServersEntriesAndThenTheWorkstations) {
     };
     ASSERT_EQ(printers->Count(), 6);
     for (std::int32_t i = 0; i < 6; ++i) EXPECT_EQ(Shown(*printers->Item(i + 1)), expected[i]);
-    EXPECT_EQ(Identifiers(*printers, 0), "S 7 9 x 1WIN 2WIN ");
+    EXPECT_EQ(Identifiers(printers, 0), "S 7 9 x 1WIN 2WIN ");
     EXPECT_EQ(NewMessages(), "");
     EXPECT_EQ(FaultOf([&] { printers->Item(u"6KEY"); }), 5);
     EXPECT_EQ(FaultOf([&] { printers->Item(7); }), 9);
@@ -96,7 +96,7 @@ TEST_F(PrintersCollectionTest, SkipsBadEntriesWithTheirPosition) {
     for (const auto& row : rows) {
         utils_->ClearPrintersCollection();
         const int beeps = desktop_.Beeps();
-        EXPECT_EQ(Identifiers(*Build(row.list), 0), row.identifiers);
+        EXPECT_EQ(Identifiers(Build(row.list), 0), row.identifiers);
         EXPECT_EQ(NewMessages(), row.messages);
         EXPECT_EQ(desktop_.Beeps() - beeps, std::ranges::count(row.messages, '|'));
     }
@@ -154,11 +154,11 @@ TEST_F(PrintersCollectionTest, ASecondBuildWithoutClearFailsAtTheFirstTakenKey) 
     for (const auto& row : rows) {
         EXPECT_EQ(Build(row.second, row.specialMode), printers);
         EXPECT_EQ(NewMessages(), row.messages);
-        EXPECT_EQ(Identifiers(*printers, 0), "a 1WIN ");
+        EXPECT_EQ(Identifiers(printers, 0), "a 1WIN ");
     }
     utils_->ClearPrintersCollection();
     Build(u"");
-    EXPECT_EQ(Identifiers(*Build(u""), 0), "1WIN 1WIN 2WIN ")
+    EXPECT_EQ(Identifiers(Build(u""), 0), "1WIN 1WIN 2WIN ")
         << "with one key taken, the fall-back counts on behind it to the end of its list";
 }
 
@@ -180,10 +180,10 @@ TEST_F(PrintersCollectionTest, TheFilterLeavesOutByKind) {
     for (const auto& row : rows) {
         const auto printers =
             utils_->GetPrintersCollectionFiltered(row.spool, row.file, row.windows, row.serial);
-        EXPECT_EQ(Identifiers(*printers, 1), row.identifiers);
+        EXPECT_EQ(Identifiers(printers, 1), row.identifiers);
     }
     const auto filtered = utils_->GetPrintersCollectionFiltered();
-    EXPECT_EQ(Identifiers(*filtered, 1), rows[0].identifiers);
+    EXPECT_EQ(Identifiers(filtered, 1), rows[0].identifiers);
     EXPECT_EQ(Shown(*filtered->Item(5)), Shown(*all->Item(6)));
     EXPECT_NE(filtered->Item(5), all->Item(6));
 }
@@ -192,7 +192,7 @@ TEST_F(PrintersCollectionTest, ADesktopWithoutPrintersFailsItsConnectionsAndList
     struct Printerless : ScriptedPlatform {
         std::unique_ptr<PrinterSource> Printers() override { return nullptr; }
     } desktop;
-    EXPECT_EQ(Identifiers(*Build(u"a:0:x:y"), 0), "a ");
+    EXPECT_EQ(Identifiers(Build(u"a:0:x:y"), 0), "a ");
     EXPECT_EQ(NewMessages(),
               "AddWindowsPrintersWSH Object not set: printer source|"
               "Adding Printers the old way 100 max. Total count: 0|");

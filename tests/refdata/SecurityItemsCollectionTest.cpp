@@ -20,7 +20,7 @@ std::size_t RightsOf(const SecurityItem& item) {
 }
 
 /// "key=digit" of each item.
-std::u16string Shown(const SecurityItemsCollection& items) {
+std::u16string Shown(const std::shared_ptr<const SecurityItemsCollection>& items) {
     std::u16string shown;
     for (const auto& item : items) {
         shown += shown.empty() ? u"" : u" ";
@@ -62,17 +62,17 @@ TEST_F(SecurityItemsCollectionTest, ReadsItemsAsKeyAndDigitAndOnlyThreeStarsOthe
                                            {u"æ***", u"**=0"},
                                            {u" ***", u" **=0"},
                                            {u"***æAF", u"**=0 A=F"}};
-    EXPECT_EQ(Shown(*Build(u"***\0æA\0F"sv)), u"***=0 A\0=F"sv);
+    EXPECT_EQ(Shown(Build(u"***\0æA\0F"sv)), u"***=0 A\0=F"sv);
     for (const auto& [data, shown] : rows) {
         Build(u"***");
         const auto items = Build(data);
-        EXPECT_EQ(Shown(*items), shown) << ToUtf8(data);
+        EXPECT_EQ(Shown(items), shown) << ToUtf8(data);
         EXPECT_EQ(RightsOf(*items->Item(u"ANYTHING")), 0u) << ToUtf8(data);
     }
 }
 
 TEST_F(SecurityItemsCollectionTest, LogsADroppedItemAndGoesOn) {
-    EXPECT_EQ(Shown(*Build(u"PATIENTS8æpatientsFæLAST1")), u"PATIENTS=8 LAST=1");
+    EXPECT_EQ(Shown(Build(u"PATIENTS8æpatientsFæLAST1")), u"PATIENTS=8 LAST=1");
     EXPECT_TRUE(Log().ends_with("error: patients Key already in the collection: patients\r\n"));
     EXPECT_EQ(desktop_.Beeps(), 0);
 }
@@ -83,14 +83,14 @@ TEST_F(SecurityItemsCollectionTest, FullAccessGrantsEveryRightAtEachLookUp) {
     const auto full = Build(u"***");
     EXPECT_EQ(full->Count(), 0);
     const auto found = full->Item(u"ANYTHING");
-    EXPECT_EQ(Shown(*full), u"ANYTHING=F");
+    EXPECT_EQ(Shown(full), u"ANYTHING=F");
     EXPECT_EQ(full->Item(u"anything"), found);
-    EXPECT_EQ(Shown(*full), u"anything=F") << "the key of the last look-up";
+    EXPECT_EQ(Shown(full), u"anything=F") << "the key of the last look-up";
     EXPECT_EQ(full->Item(1), found);
-    EXPECT_EQ(Shown(*full), u"1=F");
-    EXPECT_EQ(Shown(*old), u"PATIENTS=8 REPORTS=4") << "a loop looks nothing up";
+    EXPECT_EQ(Shown(full), u"1=F");
+    EXPECT_EQ(Shown(old), u"PATIENTS=8 REPORTS=4") << "a loop looks nothing up";
     old->Item(u"patients");
-    EXPECT_EQ(Shown(*old), u"patients=F REPORTS=4");
+    EXPECT_EQ(Shown(old), u"patients=F REPORTS=4");
     EXPECT_EQ(Log(), "(missing)");
 }
 
@@ -127,7 +127,7 @@ TEST_F(SecurityItemsCollectionTest, RemembersAMissingKeyAndLogsItOnlyWhenAsked) 
         const auto missing = items->Item(u"Missing");
         EXPECT_EQ(Log().ends_with("\tMissing security item was not found\r\n"), row.logged);
         EXPECT_EQ(items->Item(u"MISSING"), missing);
-        EXPECT_EQ(Shown(*items), u"A=8 Missing=0");
+        EXPECT_EQ(Shown(items), u"A=8 Missing=0");
         EXPECT_EQ(desktop_.Beeps() - beeps, row.logged ? 1 : 0) << "once only";
         EXPECT_TRUE(utils_->ExistsInColl(items, u"fetched")) << "by a look-up like any other";
     }
@@ -137,21 +137,21 @@ TEST_F(SecurityItemsCollectionTest, AMissingPositionTakesTheEmptyKeyOnce) {
     for (const std::int32_t position : {3, 0, -1}) {
         const auto items = Build(u"A8");
         const auto missing = items->Item(position);
-        EXPECT_EQ(Shown(*items), u"A=8 =0");
+        EXPECT_EQ(Shown(items), u"A=8 =0");
         EXPECT_EQ(items->Item(u""), missing);
         EXPECT_EQ(FaultOf([&] { items->Item(position); }), 457) << position;
         EXPECT_EQ(items->Count(), 2);
     }
     const auto full = Build(u"***");
     full->Item(3);
-    EXPECT_EQ(Shown(*full), u"3=F");
+    EXPECT_EQ(Shown(full), u"3=F");
     EXPECT_EQ(FaultOf([&] { full->Item(3); }), 457);
 }
 
 TEST_F(SecurityItemsCollectionTest, ALoopSurvivesARebuildAndSeesLaterItems) {
     std::u16string seen;
     Build(u"A8æB4");
-    for (const auto& item : *utils_->GetSecurityItemsCollection()) {
+    for (const auto& item : utils_->GetSecurityItemsCollection()) {
         if (seen.empty()) {
             for (int i = 0; i < 100; ++i) utils_->GetSecurityItemsCollection()->Item(u"C");
             Build(u"X8");

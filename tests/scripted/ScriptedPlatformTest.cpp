@@ -4,6 +4,8 @@
 
 #include <halvekutils/platform/Beep.h>
 
+#include <gmock/gmock.h>
+
 namespace halvek {
 namespace {
 
@@ -58,6 +60,16 @@ TEST_F(ScriptedPlatformTest, AFaultIsLoggedAndAnswersNothing) {
     EXPECT_EQ(Ask(mbOkOnly), kNotAnswered);
     EXPECT_TRUE(Log().ends_with(start + "Object not set: current Utils\r\n")) << Log();
     EXPECT_EQ(desktop_.Beeps(), 3);
+    EXPECT_THAT(desktop_.Unanswered(), testing::ElementsAre(u"message box Front Desk"));
+}
+
+TEST_F(ScriptedPlatformTest, AFailingTestPrintsTexts) {
+    desktop_.OnMessageBox([](MessageBox& box) {
+        EXPECT_EQ(testing::PrintToString(box.ButtonCaption(0)), "u\"&Yes\"");
+        EXPECT_EQ(testing::PrintToString(TextIn(u"caf\u00E9 \u20AC")), "u\"caf\u00E9 \u20AC\"");
+        box.Press(mbYes);
+    });
+    EXPECT_EQ(Ask(mbYesNo), mbYes);
 }
 
 TEST(NoPlatform, IsAFault) {

@@ -5,7 +5,6 @@
 #include "StageWindow.h"
 
 #include <halvekutils/core/DebugConsole.h>
-#include <halvekutils/dialogs/MessageBox.h>
 #include <halvekutils/qt/QtPlatform.h>
 #include <halvekutils/qt/QtText.h>
 
@@ -26,10 +25,6 @@ class RecordingPlatform : public halvek::QtPlatform {
     }
 
     using QtPlatform::Show;
-    void Show(const std::shared_ptr<halvek::MessageBox>& box, halvek::Modality modality) override {
-        Record::Got("box", halvek::ToQString(box->Prompt()));
-        QtPlatform::Show(box, modality);
-    }
     void Show(const std::shared_ptr<halvek::DebugConsole>& console) override {
         const auto isStage = [](const QWidget* window) {
             return dynamic_cast<const StageWindow*>(window) != nullptr;

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QTableView>
+#include <QTextEdit>
 #include <QVariant>
 
 namespace {
@@ -62,6 +63,9 @@ QString TextOf(const QWidget& control) {
     if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
     if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
         return button->text();
+    }
+    if (const auto* const lines = qobject_cast<const QTextEdit*>(&control)) {
+        return lines->toPlainText();
     }
     // Of a picker, the entry that a screen reader says
     if (qobject_cast<const QAbstractItemView*>(&control) != nullptr) {

@@ -146,6 +146,31 @@ TEST_F(LocalMachineFiles, MakeWritableAddsTheOwnersRightAndNoOther) {
     EXPECT_EQ(ModeOf(file), 0400u);
 }
 
+TEST_F(LocalMachineFiles, APlantedLogIsRefusedWhereOthersCanWrite) {
+    const fs::path file = folder_ / "a.log";
+    bool owned = false;  // only the superuser gives files away
+    const std::pair<const char*, std::function<void()>> plants[] = {
+        {"a second name", [&] { fs::create_hard_link(file, folder_ / "b.log"); }},
+        {"another owner", [&] { owned = ::chown(file.c_str(), 65534, 65534) != 0; }},
+    };
+    for (const auto& [what, plant] : plants) {
+        WriteFile(file, "kept");
+        plant();
+        if (owned) continue;
+        for (const mode_t mode : {0777u, 01777u, 0775u}) {
+            ::chmod(folder_.Path().c_str(), mode);
+            EXPECT_EQ(Append(file, "x"), 70) << what;
+            EXPECT_FALSE(machine_.TryAppend(file, "x", 9999)) << what;
+            EXPECT_EQ(FaultOf([&] { machine_.MakeWritable(file); }), 70) << what;
+        }
+        EXPECT_EQ(ReadFile(file), "kept") << what;
+        ::chmod(folder_.Path().c_str(), 0755);
+        EXPECT_EQ(Append(file, "x"), 0) << what;
+        fs::remove(file);
+        fs::remove(folder_ / "b.log");
+    }
+}
+
 TEST_F(LocalMachineFiles, VisitsTheFilesOfAFolderUntilTold) {
     for (const char* name : {"a.log", "b.log", "c.log"}) WriteFile(folder_ / name, "x");
     fs::create_directory(folder_ / "sub");

@@ -1,0 +1,144 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# One visit at the demo's front desk by real keys and clicks: the patient who is due is checked in and
+# paid with three clicks, or with six keys, and is still paid when the client was killed.
+# Usage: visit.sh DEMO
+set -u
+source "$(dirname "$0")/desktop.sh"
+demo=$1
+
+has_active_title() {
+    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1"* ]]
+}
+is_active() {
+    [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ]
+}
+has_ended() {
+    ! kill -0 "$1"
+}
+# The active window once its title starts with a text. Usage: wait_for_window TITLE; sets $window.
+wait_for_window() {
+    wait_until "a window \"$1\" opens and becomes active" has_active_title "$1"
+    window=$(xdotool getactivewindow)
+}
+keys() {
+    xdotool key --clearmodifiers "$@"
+}
+# Clicks into a window, in pixels from its inner corner. Usage: click WINDOW X Y
+click() {
+    xdotool mousemove --sync --window "$1" "$2" "$3" click 1
+}
+
+# Starts the client on a practice of its own. Usage: open_desk FILE [OPTIONS...]; sets $main, $client.
+open_desk() {
+    practice=$work/$1 calls=$work/$1.calls
+    shift
+    start "$demo" --data "$practice" --calls "$calls" --palette light "$@"
+    client=$!
+    wait_for_window "Front Desk"
+    main=$window
+    wait_until "the printers are known" grep -q BuildPrintersCollection "$calls"
+}
+# What the practice's file says. Usage: ask SQL
+ask() {
+    python3 -c 'import sqlite3, sys
+print(*[row[0] for row in sqlite3.connect(sys.argv[1]).execute(sys.argv[2])])' "$practice" "$1"
+}
+holds() {
+    [ "$(ask "$1")" = "$2" ] || fail "$1 gives $(ask "$1") instead of $2"
+}
+# The visit of today as the file has it: state 3 is paid; the copay of $25.00 came and went.
+is_paid() {
+    holds "SELECT state FROM visit WHERE patient = 10117 AND day = '2024-03-05'" 3
+    holds "SELECT amount FROM payment WHERE patient = 10117 ORDER BY id DESC LIMIT 1" 2500
+    holds "SELECT balance FROM patient WHERE number = 10117" 4000
+    holds "SELECT count(*) FROM visit WHERE patient = 10117 AND day > '2024-03-05'" 1
+}
+called() {
+    grep -q "$1" "$calls"
+}
+kill_client() {
+    kill -KILL "$client"
+    wait_until "the client is gone" has_ended "$client"
+}
+start_desktop
+
+# Six keys, all by name: check-in, check in and post, yes
+open_desk keys.db
+picture visit-schedule
+keys ctrl+3
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
+picture visit-check-in
+keys ctrl+Return
+wait_for_window "Payment"
+picture visit-post
+keys y
+wait_until "the payment is posted" called '^ShowMsgBox("Post \$25.00?.* = 6$'
+wait_until "the client is active again" is_active "$main"
+kill_client
+is_paid
+
+# Three clicks: the tool bar, the button below the form, the question. The places are those of the
+# tests' font at 96 dots per inch.
+open_desk clicks.db
+click "$main" 250 44
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
+click "$main" 110 374
+wait_for_window "Payment"
+click "$window" 136 93
+wait_until "the payment is posted" called '^ShowMsgBox("Post \$25.00?.* = 6$'
+wait_until "the client is active again" is_active "$main"
+kill_client
+is_paid
+
+# What was posted is there again, and a second patient by search, look-up, calendar and full keys
+start "$demo" --data "$practice" --calls "$calls" --palette dark
+client=$!
+wait_for_window "Front Desk"
+main=$window
+keys d u b o i s comma space f r a n Return
+wait_until "the account opens" called 'AddItem("ACCOUNT", 10204)'
+keys ctrl+3
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
+keys Tab Tab Tab Tab ctrl+a O V 3 0 F2
+wait_for_window "Procedures"
+keys Escape
+wait_until "the client is active again" is_active "$main"
+keys alt+x F2
+wait_for_window " "  # the calendar has no other title
+keys Right Return
+wait_until "the day is chosen" called '^ShowCalendar.* = "03/20/2024"'
+keys ctrl+Return
+wait_for_window "Payment"
+keys n
+wait_until "nothing is posted" called '^ShowMsgBox("Post \$20.00?.* = 7$'
+wait_until "the client is active again" is_active "$main"
+keys alt+j minus 5 Tab ctrl+Return
+wait_for_window "Payment"
+keys y
+wait_until "the payment is posted" called '^ShowMsgBox("Post \$20.00 with an adj.* = 6$'
+wait_until "the client is active again" is_active "$main"
+keys alt+F4
+wait_until "the client ends" has_ended "$client"
+holds "SELECT procedures FROM visit WHERE patient = 10204 AND day = '2024-03-05'" OV30
+holds "SELECT amount || ' ' || adjustment FROM payment WHERE patient = 10204" "2000 -500"
+
+# Nobody at the desk: a countdown, and the open account is closed.
+open_desk idle.db --idle 2
+keys Return
+wait_until "the account opens" called 'AddItem("ACCOUNT", 10117)'
+wait_until "the account is closed" called 'ClearAll()'
+called '^ShowMsgBox("Nobody has used.* = 99$' || fail "no countdown closed the account"
+kill_client
+
+# A file that is none: the client names it, and starts afresh beside it when asked to.
+echo "Dear diary" >"$work/diary.db"
+start "$demo" --data "$work/diary.db"
+client=$!
+wait_for_window "Front Desk"
+picture visit-damaged
+keys y
+wait_until "another file is made" test -s "$work/diary-2.db"
+[ "$(cat "$work/diary.db")" = "Dear diary" ] || fail "the foreign file was changed"
+kill_client
+finish
