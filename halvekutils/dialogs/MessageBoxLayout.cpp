@@ -17,9 +17,9 @@ constexpr std::int32_t kMessageLeftAlone = 400;
 constexpr std::int32_t kButtonTop = 135;
 constexpr std::int32_t kButtonBottom = 150;
 constexpr Rect kIcon = {150, 280, 480, 480};
-constexpr std::int32_t kLabelLeft = 105;
+constexpr std::int32_t kLabelLeft = 60;  // leaves room for the scroll buttons at the right
 constexpr std::int32_t kLabelTop = 45;
-constexpr Size kScrollButton = {270, 270};
+constexpr Size kScrollButton = {360, 360};
 constexpr std::int32_t kScrollMargin = 30;
 
 // Measuring more of a line cannot change the layout: no character is that narrow on any screen.
@@ -172,7 +172,7 @@ void PlaceText(MessageBoxLayout& layout, bool hasButtons, std::int32_t textHeigh
         label.top = std::max((visible - textHeight) / 2, kLabelTop);
     }
     layout.viewHeight = visible - label.top;
-    const std::int32_t left = layout.messageFrame.width - kScrollButton.width - kScrollMargin;
+    const std::int32_t left = layout.messageFrame.width - kScrollButton.width;
     const std::int32_t last = kLabelTop + view - kScrollButton.height - kScrollMargin;
     layout.scrollButtons[0] = {left, last, kScrollButton.width, kScrollButton.height};
     layout.scrollButtons[1] = {left, kScrollMargin, kScrollButton.width, kScrollButton.height};

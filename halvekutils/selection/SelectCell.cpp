@@ -88,15 +88,13 @@ SelectCell EntryCell(const SelectionList& list, CellPlace place, bool ticked) {
     return cell;
 }
 
-std::u16string AccessibleText(const SelectionList& list, std::int32_t entry, bool ticked) {
+std::u16string AccessibleText(const SelectionList& list, std::int32_t entry) {
     if (entry == 0 || !list.HasCode(entry)) return {};
     std::u16string text(Trimmed(list.Code(entry)));
     if (const TextIn name = Trimmed(list.Description(entry)); !name.empty()) {
         if (!text.empty()) text += u", ";
         text += name;
     }
-    text += ticked ? u", selected" : u", not selected";
-    if (list.IsDeleted(entry)) text += u", deleted";
     return text;
 }
 

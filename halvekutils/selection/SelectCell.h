@@ -84,8 +84,7 @@ HALVEK_EXPORT SelectCell HeaderCell(std::u16string text);
 /// Any other cell, of an entry that is ticked or not; a plain one outside the grid.
 HALVEK_EXPORT SelectCell EntryCell(const SelectionList& list, CellPlace place, bool ticked);
 
-/// Code, description, ticked or not and deleted or not in words; empty for an entry without a code.
-HALVEK_EXPORT std::u16string AccessibleText(const SelectionList& list, std::int32_t entry,
-                                            bool ticked);
+/// What screen readers call an entry: code and description; empty for an entry without a code.
+HALVEK_EXPORT std::u16string AccessibleText(const SelectionList& list, std::int32_t entry);
 
 }  // namespace halvek

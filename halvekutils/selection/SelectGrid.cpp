@@ -113,8 +113,7 @@ SelectCell SelectGrid::Cell(std::int32_t row, std::int32_t column) const {
 }
 
 std::u16string SelectGrid::AccessibleText(std::int32_t row, std::int32_t column) const {
-    const std::int32_t entry = EntryAt(list_, {row, column});
-    return halvek::AccessibleText(list_, entry, IsTicked(entry));
+    return halvek::AccessibleText(list_, EntryAt(list_, {row, column}));
 }
 
 // Choosing entries

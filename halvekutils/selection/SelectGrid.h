@@ -81,7 +81,7 @@ class HALVEK_EXPORT SelectGrid : public Dialog {
     std::int32_t ShownColumns() const;
     /// The cell at row 0 to RowCount(), column 1 to 10; a plain one for any other place.
     SelectCell Cell(std::int32_t row, std::int32_t column) const;
-    /// Code, description, ticked or not and deleted or not in words; empty for a blank cell.
+    /// What screen readers call the entry: code and description; empty for a blank cell.
     std::u16string AccessibleText(std::int32_t row, std::int32_t column) const;
     /// The length of the longest code without the blanks around it.
     std::int32_t LongestCodeLength() const { return list_.LongestCodeLength(); }

@@ -12,7 +12,6 @@ namespace halvek {
 
 namespace {
 
-using design::kButton;
 using design::kGap;
 using design::kMargin;
 
@@ -63,6 +62,16 @@ std::int32_t FitBands(SelectGridLayout& layout, std::int32_t bands, std::int32_t
     return std::min(besideBands + layout.bandsOnPage * band, std::max(space, 0));
 }
 
+/// The size of the buttons, which their captions in the desktop's font ask for.
+Size ButtonSize(const TextMeter& meter) {
+    Size widest;
+    for (const char16_t* const caption : {u"OK", u"Cancel"}) {
+        widest.width = std::max(widest.width, meter.TextWidth(caption, SelectControlFont()));
+        widest.height = std::max(widest.height, meter.TextHeight(caption, SelectControlFont()));
+    }
+    return design::ButtonFor(widest);
+}
+
 }  // namespace
 
 SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMeter& meter,
@@ -70,12 +79,13 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
     SelectGridLayout layout;
     MeasureRows(layout, meter);
     const Size most = {screen.width - frame.width, screen.height - frame.height};
-    const std::int32_t boxHeight = meter.TextHeight({}, CodeFont()) + kBoxPadding;
+    const Size button = ButtonSize(meter);
+    const std::int32_t boxHeight = meter.TextHeight({}, SelectControlFont()) + kBoxPadding;
     const std::int32_t bars = 2 * content.gridBorder;
 
     // Across: there is room for the bar, whether the bands need it or not.
     const std::int32_t besideColumns = 2 * kMargin + bars + content.scrollBarWidth;
-    const std::int32_t besideBar = 2 * kMargin + 2 * (kButton.width + kGap);
+    const std::int32_t besideBar = 2 * kMargin + 2 * (button.width + kGap);
     layout.columnWidth = ColumnWidth(content, meter, most.width - besideColumns);
     layout.columnWidth = std::max(
         layout.columnWidth,
@@ -86,7 +96,7 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
 
     // Down
     const std::int32_t gridTop = kMargin + boxHeight + kGap;
-    const std::int32_t belowGrid = kGap + kButton.height + kMargin;
+    const std::int32_t belowGrid = kGap + button.height + kMargin;
     const std::int32_t besideBands =
         layout.headerHeight + bars + (layout.scrollsAcross ? content.scrollBarWidth : 0);
     const std::int32_t gridHeight = FitBands(layout, content.rowCount / SelectionList::kRowsPerBand,
@@ -94,13 +104,13 @@ SelectGridLayout LayOutSelectGrid(const SelectGridContent& content, const TextMe
     layout.inner.height = std::min(gridTop + gridHeight + belowGrid, most.height);
 
     const std::int32_t width = layout.inner.width - 2 * kMargin;
-    const std::int32_t buttonTop = layout.inner.height - kMargin - kButton.height;
+    const std::int32_t buttonTop = layout.inner.height - kMargin - button.height;
     layout.box = {kMargin, kMargin, width, boxHeight};
     layout.grid = {kMargin, gridTop, width, gridHeight};
-    layout.exit = {kMargin + width - kButton.width, buttonTop, kButton.width, kButton.height};
+    layout.exit = {kMargin + width - button.width, buttonTop, button.width, button.height};
     layout.ok = layout.exit;
-    layout.ok.left -= kButton.width + kGap;
-    layout.find = {kMargin, buttonTop, layout.ok.left - kGap - kMargin, kButton.height};
+    layout.ok.left -= button.width + kGap;
+    layout.find = {kMargin, buttonTop, layout.ok.left - kGap - kMargin, button.height};
     layout.form = {layout.inner.width + frame.width, layout.inner.height + frame.height};
     return layout;
 }

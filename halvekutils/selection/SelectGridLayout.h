@@ -40,6 +40,11 @@ struct SelectGridContent {
     std::int32_t gridBorder = 15;  ///< the width of the grid's own border on each side
 };
 
+/// The font of the box and the buttons: the desktop's own size.
+inline FontSpec SelectControlFont() {
+    return {u"Tahoma", 0};
+}
+
 /// Lays out a selection dialog on a screen, for a window frame that adds `frame` to its inner size.
 ///
 /// Columns are as wide as the widest description and the longest code, and at least as wide as the

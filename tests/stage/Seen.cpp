@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -65,6 +66,12 @@ QString TextOf(const QWidget& control) {
     }
     if (const auto* const lines = qobject_cast<const QTextEdit*>(&control)) {
         return lines->toPlainText();
+    }
+    // Of a picker, the entry that a screen reader says
+    if (qobject_cast<const QAbstractItemView*>(&control) != nullptr) {
+        auto* const list = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
+        QAccessibleInterface* const entry = list == nullptr ? nullptr : list->child(0);
+        if (entry != nullptr) return entry->text(QAccessible::Name);
     }
     return control.accessibleName();
 }

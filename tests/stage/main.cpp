@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     options.addOptions({
         {"player", "Do what the standard input says, for stories by real keys."},
         {"pictures", "Leave pictures of all windows in <folder>.", "folder"},
-        {"palette", "Use these <colours>: light or dark.", "colours", "light"},
+        {"palette", "Use these <colours>: light, dark or contrast.", "colours", "light"},
         {"font", "Use a font of so many <points>.", "points", "0"},
     });
     options.process(app);

@@ -3,6 +3,7 @@
 #include <halvekutils/qt/forms/CalculatorBox.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 
 #include <QFocusEvent>
 #include <QFontMetrics>
@@ -24,6 +25,7 @@ const char* const kWidestNumber = "-8.88888888888888E+888";
 CalculatorBox::CalculatorBox(Calculator& rules, QWidget* form) : QLineEdit(form), rules_(rules) {
     setObjectName(QLatin1String("txtOutput"));
     setAccessibleName(tr("Display"));
+    new FieldOutline(*this);
     setAlignment(Qt::AlignRight);
     setFont(design::ScaledFont(kDisplayFont));
     const QFontMetrics metrics(font());

@@ -6,6 +6,7 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/SpokenNotice.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -69,7 +70,11 @@ QSize ButtonSize(const QFontMetrics& metrics) {
 
 }  // namespace
 
-CalculatorPad::CalculatorPad(Calculator& rules, QWidget* form) : rules_(rules) {
+CalculatorPad::CalculatorPad(Calculator& rules, QWidget* form)
+    : rules_(rules),
+      notice_(new SpokenNotice(*form)),
+      focus_(rules.Focus()),
+      display_(ToQString(rules.Display())) {
     for (int row = 0; row < 4; ++row) {
         for (int column = 0; column < 5; ++column) {
             const int index = kFace[row][column];
@@ -112,13 +117,38 @@ int CalculatorPad::IndexOf(const QObject* object) const {
                                     : static_cast<int>(button - buttons_.begin());
 }
 
-void CalculatorPad::Announce() {
+QString CalculatorPad::SpokenDisplay() const {
     const QString shown = ToQString(rules_.Display());
-    const QString display = tr("Display") + u' ' + (shown.isEmpty() ? tr("empty") : shown);
+    return tr("Display") + u' ' + (shown.isEmpty() ? tr("empty") : shown);
+}
+
+void CalculatorPad::Announce() {
+    const QString display = SpokenDisplay();
     for (FlashButton* const button : buttons_) {
-        const bool focused = IndexOf(button) == rules_.Focus();
-        button->setAccessibleDescription(focused ? display : QString());
+        const QString told = IndexOf(button) == rules_.Focus() ? display : QString();
+        if (button->accessibleDescription() != told) button->setAccessibleDescription(told);
     }
+    // Some changes come in steps.
+    QMetaObject::invokeMethod(
+        this, [this] { GuardEvent(u"frmCalculator.Announce", [this] { SayChange(); }); },
+        Qt::QueuedConnection);
+}
+
+void CalculatorPad::SayChange() {
+    const QString shown = ToQString(rules_.Display());
+    const bool isHeard = rules_.Focus() == Calculator::kBox || rules_.Focus() != focus_ ||
+                         shown == display_ || IsTyped(shown);
+    focus_ = rules_.Focus();
+    display_ = shown;
+    numberDone_ = rules_.NumberDone();
+    if (!isHeard) notice_->Say(SpokenDisplay());
+}
+
+/// Whether the display has got one more digit, a key that people hear already.
+bool CalculatorPad::IsTyped(const QString& display) const {
+    const QString before = numberDone_ ? QString() : display_;
+    return !rules_.NumberDone() && display.startsWith(before) &&
+           display.size() == before.size() + 1;
 }
 
 void CalculatorPad::EndFlashes() {

@@ -4,12 +4,14 @@
 #include <halvekutils/dialogs/Calculator.h>
 
 #include <QGridLayout>
+#include <QString>
 
 #include <array>
 
 namespace halvek {
 
 class FlashButton;
+class SpokenNotice;
 
 /// The buttons of the calculator as the user sees them. They belong to the form, which sees their
 /// events first.
@@ -24,15 +26,25 @@ class CalculatorPad : public QGridLayout {
     /// The number of a button; Calculator::kBox for anything else.
     int IndexOf(const QObject* object) const;
 
-    /// Adds the displayed number to what screen readers say of the focused button.
+    /// Has screen readers say the displayed number: together with a button that gets the focus, or
+    /// at once when anything but a typed digit has changed it.
     void Announce();
     void EndFlashes();
 
   private:
     FlashButton* MakeButton(int index, QWidget* form);
+    QString SpokenDisplay() const;
+    void SayChange();
+    bool IsTyped(const QString& display) const;
 
     Calculator& rules_;
     std::array<FlashButton*, Calculator::kButtonCount> buttons_{};
+    SpokenNotice* notice_;
+
+    // As it was announced
+    int focus_;
+    QString display_;
+    bool numberDone_ = true;
 };
 
 }  // namespace halvek

@@ -14,6 +14,7 @@ constexpr double kFont = 0.9;  // of the desktop's
 constexpr int kGrey = 70;      // per cent of the text's colour
 
 void ShowValue(QLabel& label, const std::u16string& text) {
+    if (label.text() == ToQString(text)) return;
     label.setText(ToQString(text));
     label.setAccessibleDescription(label.text());
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QTextCursor>
@@ -9,8 +10,6 @@
 namespace halvek {
 
 namespace {
-
-constexpr int kPoints = 9;
 
 /// Qt lays out a line as a whole: a line of megabytes would freeze the program.
 constexpr int kMaxLineLength = 1000;
@@ -51,7 +50,8 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     : QPlainTextEdit(parent), console_(console) {
     setObjectName(QLatin1String("txtDebug"));
     setAccessibleName(tr("Debug lines"));
-    setFont(ToQFont({u"Courier New", kPoints, false}));
+    new FieldOutline(*this);
+    setFont(ToQFont({u"Courier New", 0}));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);

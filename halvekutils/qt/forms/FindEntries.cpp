@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/FindEntries.h>
+#include <halvekutils/qt/forms/SelectGridSpeech.h>
 
 #include <QCoreApplication>
 
@@ -19,9 +19,8 @@ FindTarget::Outcome FindEntries::Now() const {
     const std::int32_t place = rules_.FoundPlace();
     if (count == 0) return {true, {}, {}};
     if (place == 0) return {};  // the user has gone elsewhere
-    const CellPlace cell = rules_.CurrentCell();
     const QString text = PlaceText(place, count);
-    return {false, text, ToQString(rules_.AccessibleText(cell.row, cell.column)) + ", " + text};
+    return {false, text, SpokenTextOf(rules_) + ", " + text};
 }
 
 QString FindEntries::LongestText() const {

@@ -5,6 +5,7 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
+#include <halvekutils/qt/helpers/SpokenPicker.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -117,6 +118,7 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     : QCalendarWidget(parent),
       rules_(rules),
       days_(findChild<QAbstractItemView*>(QLatin1String("qt_calendar_calendarview"))),
+      spoken_(new SpokenPicker(*days_)),
       yearEdit_(findChild<QSpinBox*>(QLatin1String("qt_calendar_yearedit"))) {
     setObjectName(QLatin1String("MonthView1"));
     // In the language of the button below, with weeks from Sunday, whatever the desktop has
@@ -125,6 +127,9 @@ MonthView::MonthView(Calendar& rules, QWidget* parent)
     setDateRange(ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
     setDateEditEnabled(false);
     setVerticalHeaderFormat(NoVerticalHeader);
+    for (QToolButton* const button : findChildren<QToolButton*>()) {
+        button->setMinimumHeight(design::kMinTarget);
+    }
     MakeDaysReadable();
     MakeArrow(kPreviousMonth, isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
     MakeArrow(kNextMonth, isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
@@ -179,6 +184,7 @@ void MonthView::WidenMonthButton() {
 
 void MonthView::NameParts() {
     setAccessibleName(tr("Calendar"));
+    days_->setAccessibleName(tr("Days"));
     yearEdit_->setAccessibleName(tr("Year"));
     const struct {
         const char* part;
@@ -200,12 +206,17 @@ void MonthView::NameParts() {
 void MonthView::Refresh() {
     const QSignalBlocker ownChange(this);
     const QDate marked = ToQDate(rules_.MarkedDay());
+    Speak();
     setSelectedDate(marked);
     setCurrentPage(marked.year(), marked.month());
+}
+
+void MonthView::Speak() {
+    const QDate marked = ToQDate(rules_.MarkedDay());
     const QString day = locale().toString(marked, QLocale::LongFormat);
     const bool isToday = rules_.MarkedDay() == rules_.Today();
-    // Screen readers say this at once.
-    days_->setAccessibleName(isToday ? tr("%1, today").arg(day) : day);
+    spoken_->Tell(
+        {.number = marked.toJulianDay(), .name = isToday ? tr("%1, today").arg(day) : day});
 }
 
 void MonthView::TakeFocus() {

@@ -10,6 +10,8 @@ class QKeyEvent;
 
 namespace halvek {
 
+class SpokenPicker;
+
 /// MonthView1: shows the month of a calendar's marked day and hands keys and clicks to the rules.
 class MonthView : public QCalendarWidget {
     Q_OBJECT
@@ -35,10 +37,12 @@ class MonthView : public QCalendarWidget {
     void WidenMonthButton();
     void NameParts();
     void KeyDown(const QKeyEvent& event);
+    void Speak();
     void PageChanged(int year, int month);
 
     Calendar& rules_;
     QAbstractItemView* days_;
+    SpokenPicker* spoken_;
     QWidget* yearEdit_;
 };
 

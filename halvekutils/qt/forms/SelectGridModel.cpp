@@ -55,12 +55,9 @@ int SelectGridModel::columnCount(const QModelIndex& parent) const {
 
 QVariant SelectGridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const CellPlace check = PlaceOf(index);
     switch (role) {
         case Qt::DisplayRole:
             return ToQString(CellOf(index, 1).text);
-        case Qt::AccessibleTextRole:
-            return ToQString(rules_.AccessibleText(check.row, check.column));
         case Qt::CheckStateRole: {
             const SelectCell cell = CellOf(index, 0);
             if (cell.kind != SelectCell::Kind::Check) return {};

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/SelectGridDelegate.h>
+#include <halvekutils/qt/forms/SelectGridSpeech.h>
 #include <halvekutils/qt/forms/SelectGridView.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/SpokenPicker.h>
 #include <halvekutils/selection/SelectGridLayout.h>
 
 #include <QHelpEvent>
@@ -105,12 +108,14 @@ SelectGridView::SelectGridView(SelectGrid& rules, QWidget* parent)
     : QTableView(parent),
       rules_(rules),
       model_(rules, nullptr),
-      header_(new SelectGridHeader(rules, this)) {
+      header_(new SelectGridHeader(rules, this)),
+      spoken_(new SpokenPicker(*this)) {
     setObjectName(QLatin1String("grdSelection"));
     setHorizontalHeader(header_);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
+    new FieldOutline(*this);
     setCornerButtonEnabled(false);
     setShowGrid(true);
     setTabKeyNavigation(false);
@@ -159,6 +164,7 @@ void SelectGridView::Refresh() {
     header_->Refresh();
     const int last = rowAt(viewport()->height() - 1);
     model_.Refresh(rowAt(0), last < 0 ? model_.rowCount() - 1 : last);
+    spoken_->Tell(SpokenEntryOf(rules_));
     const QModelIndex current = model_.IndexOf(rules_.CurrentCell());
     if (current != currentIndex()) {
         selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);

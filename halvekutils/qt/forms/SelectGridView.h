@@ -11,6 +11,7 @@
 namespace halvek {
 
 struct SelectGridLayout;
+class SpokenPicker;
 
 /// Row 0 of the grid: one strip over all columns that accepts the choice when it is clicked.
 class SelectGridHeader : public QHeaderView {
@@ -90,6 +91,7 @@ class SelectGridView : public QTableView {
     SelectGrid& rules_;
     SelectGridModel model_;
     SelectGridHeader* header_;
+    SpokenPicker* spoken_;
     std::function<bool()> mayTakeFocus_;
     QPersistentModelIndex pressed_;
     std::uint32_t shownTicks_ = 0;

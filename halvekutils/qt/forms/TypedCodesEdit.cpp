@@ -2,6 +2,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/TypedCodesEdit.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/selection/PastedCodes.h>
 
@@ -31,6 +32,7 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     : QLineEdit(parent), rules_(rules) {
     setObjectName(QLatin1String("txtSelect"));
     setAccessibleName(tr("Selected codes"));
+    new FieldOutline(*this);
     setPlaceholderText(tr("Codes, separated by commas"));
     setMaxLength(std::numeric_limits<int>::max());
     connect(this, &QLineEdit::textChanged, this, &TypedCodesEdit::TextEdited);

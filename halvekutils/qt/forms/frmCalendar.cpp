@@ -21,7 +21,7 @@ frmCalendar::frmCalendar(const std::shared_ptr<Calendar>& rules, const Desktop& 
     // No title; an empty one would become the application's name.
     setWindowTitle(QStringLiteral(" "));
     for (QPushButton* const button : {todayButton_, closeButton_}) {
-        button->setFont(ToQFont({u"Tahoma", 8}));
+        button->setFont(ToQFont({u"Tahoma", 0}));
     }
     design::MakeAlike({todayButton_, closeButton_});
     // The focus stays on the days, where the key T does the same.

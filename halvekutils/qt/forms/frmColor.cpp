@@ -25,16 +25,15 @@ frmColor::frmColor(const std::shared_ptr<ColorPalette>& rules, const Desktop& de
     setWindowTitle(ToWindowTitle(ColorPalette::kCaption));
     const Rect screen = ScreenOf(rules->Anchor(), desktop);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, cells_);
-    const QFontMetrics line = name_->fontMetrics();
-    const int room = ToQRect(PaletteCellPlace(ColorPalette::kColumns)).right();
-    const bool oneLine = line.horizontalAdvance(tr(kWidestName)) <= room;
-    const ColorPaletteLayout layout = LayOutColorPalette(
-        rules->RowCount(), PixelsToTwips(bar), PixelsToTwips(line.height() * (oneLine ? 1 : 2)),
-        {screen.width, screen.height}, desktop.FrameSize());
-    setFixedSize(TwipsToPixels(layout.inner.width), TwipsToPixels(layout.inner.height));
     name_->setObjectName(QLatin1String("lblName"));
     name_->setTextFormat(Qt::PlainText);
     name_->setWordWrap(true);
+    name_->setText(tr(kWidestName));
+    const int room = ToQRect(PaletteCellPlace(ColorPalette::kColumns)).right();
+    const ColorPaletteLayout layout = LayOutColorPalette(
+        rules->RowCount(), PixelsToTwips(bar), PixelsToTwips(name_->heightForWidth(room)),
+        {screen.width, screen.height}, desktop.FrameSize());
+    setFixedSize(TwipsToPixels(layout.inner.width), TwipsToPixels(layout.inner.height));
     name_->setGeometry(ToQRect(layout.name));
     cells_->ApplyLayout(layout);
     OpenAt(rules->Anchor(), layout.form, desktop);

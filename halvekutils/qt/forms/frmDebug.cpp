@@ -75,6 +75,7 @@ QCheckBox* frmDebug::MakeBox(const char* name, const QString& caption,
     auto* const box = new QCheckBox(caption);
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(caption);
+    box->setMinimumHeight(design::kMinTarget);
     connect(box, &QCheckBox::clicked, this, [this, set](bool checked) {
         GuardEvent(u"frmDebug.Check_Click", [&] { ((*console_).*set)(checked); });
     });
@@ -113,9 +114,13 @@ QLayout* frmDebug::MakeButtonRow() {
         Tell(console_->KillLogFile(), tr("Deleted %1"));
     });
     const QString file = ToQString(console_->LogFile());
+    const auto explain = [](QPushButton* button, const QString& what) {
+        button->setToolTip(ToToolTip(what));
+        button->setAccessibleDescription(what);  // which would else be the tool tip's markup
+    };
     clear->setToolTip(tr("Clear (F7)"));
-    save->setToolTip(ToToolTip(tr("Adds the lines to %1").arg(file)));
-    kill->setToolTip(ToToolTip(tr("Deletes %1").arg(file)));
+    explain(save, tr("Adds the lines to %1").arg(file));
+    explain(kill, tr("Deletes %1").arg(file));
     design::MakeAlike({clear, save, kill});
     auto* const row = new QHBoxLayout;
     row->setSpacing(design::Gap());
@@ -171,7 +176,10 @@ void frmDebug::PlaceInCorner(const Desktop& desktop) {
     const Size added = desktop.FrameSize();
     const QSize frame(TwipsToPixels(added.width), TwipsToPixels(added.height));
     const QRect usable = ToQRect(desktop.ScreenRect());
-    const QSize outer = (kSize + frame).boundedTo(usable.size());
+    // Large letters ask for more, and the find bar may open.
+    const int findBar = findBar_->minimumSizeHint().width() + 2 * design::Margin();
+    const QSize inner = kSize.expandedTo(minimumSizeHint()).expandedTo(QSize(findBar, 0));
+    const QSize outer = (inner + frame).boundedTo(usable.size());
     resize(outer - frame);
     move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
 }

@@ -9,9 +9,11 @@
 #include <halvekutils/qt/helpers/CloseBox.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/SpokenNotice.h>
 
 #include <QApplication>
 #include <QFrame>
@@ -59,7 +61,8 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
       box_(std::move(box)),
       textFrame_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
       buttonFrame_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)),
-      countdownLine_(new CountdownLine(this)) {
+      countdownLine_(new CountdownLine(this)),
+      notice_(new SpokenNotice(*this)) {
     if (!box_->HasCloseBox()) RemoveCloseBox(*this);
     const Size inner = box_->Layout().inner;
     setFixedSize(TwipsToPixels(inner.width), TwipsToPixels(inner.height));
@@ -123,6 +126,7 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
         button->setAutoRepeat(true);
         button->setPalette(colors);
         button->setFocusPolicy(Qt::NoFocus);
+        new FocusRing(*button);
         button->setGeometry(ToQRect(box_->Layout().scrollButtons[static_cast<std::size_t>(i)]));
         button->setVisible(box_->Layout().canScroll);
         connect(button, &QToolButton::clicked, this, [this, i] {
@@ -144,13 +148,18 @@ QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
 void frmMessageBox::Refresh() {
     setWindowTitle(ToWindowTitle(box_->Caption()));
     if (box_->CountdownRunning() != countdown_.isActive()) {
-        box_->CountdownRunning() ? countdown_.start() : countdown_.stop();
-        Describe();
+        CountdownStarts(box_->CountdownRunning());
     }
     countdownLine_->Follow(*box_);
     text_->verticalScrollBar()->setValue(ScrolledPixels());
     scrollButtons_[0]->setEnabled(!AtLastLine());
     scrollButtons_[1]->setEnabled(box_->ScrollOffset() < 0);
+}
+
+void frmMessageBox::CountdownStarts(bool starts) {
+    starts ? countdown_.start() : countdown_.stop();
+    Describe();
+    if (!starts && box_->IsOpen()) notice_->Say(tr("The countdown has stopped"));
 }
 
 void frmMessageBox::Describe() {

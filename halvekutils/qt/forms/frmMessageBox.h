@@ -17,6 +17,7 @@ namespace halvek {
 
 class CountdownLine;
 class MessageText;
+class SpokenNotice;
 
 /// The window of a message box.
 class frmMessageBox : public DialogForm {
@@ -41,6 +42,7 @@ class frmMessageBox : public DialogForm {
     void BuildScrollButtons(const QPalette& colors);
     void BuildIcon();
     void Describe();
+    void CountdownStarts(bool starts);
     bool AtLastLine() const;
     int ScrolledPixels() const;
     void TextScrolled(int pixels);
@@ -52,6 +54,7 @@ class frmMessageBox : public DialogForm {
     QFrame* textFrame_;
     QFrame* buttonFrame_;
     CountdownLine* countdownLine_;
+    SpokenNotice* notice_;
     MessageText* text_ = nullptr;
     std::array<QPushButton*, 3> buttons_{};
     std::array<QToolButton*, 2> scrollButtons_{};

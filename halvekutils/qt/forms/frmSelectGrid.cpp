@@ -19,9 +19,6 @@ namespace halvek {
 
 namespace {
 
-/// How much wider than its least width the box for words is, in pixels.
-constexpr int kLeastWord = 100;
-
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption,
                         const QString& toolTip) {
     QPushButton* const button = design::NewButton(name, caption, parent);
@@ -36,7 +33,7 @@ QPushButton* MakeButton(QWidget* parent, const char* name, const QString& captio
 frmSelectGrid::frmSelectGrid(const std::shared_ptr<SelectGrid>& rules, const Desktop& desktop)
     : DialogForm(rules, u"frmSelectGrid"), rules_(*rules) {
     setWindowTitle(ToWindowTitle(rules_.Caption()));
-    setFont(ToQFont(CodeFont()));  // first: the parts measure their captions
+    setFont(ToQFont(SelectControlFont()));  // first: the parts measure their captions
     BuildParts();
     ConnectParts();
     ApplyLayout(desktop);
@@ -46,7 +43,7 @@ frmSelectGrid::frmSelectGrid(const std::shared_ptr<SelectGrid>& rules, const Des
 void frmSelectGrid::BuildParts() {
     typedCodes_ = new TypedCodesEdit(rules_, this);
     grid_ = new SelectGridView(rules_, this);
-    grid_->setAccessibleName(windowTitle());
+    grid_->setAccessibleName(tr("Codes"));
     findBar_ =
         new FindBar(std::make_unique<FindEntries>(rules_, *grid_), tr("Find a name or code"), this);
     okButton_ = MakeButton(this, "cmdOK", tr("&OK"), tr("Select and Close"));
@@ -78,7 +75,7 @@ void frmSelectGrid::ApplyLayout(const Desktop& desktop) {
     content.rowCount = rules_.RowCount();
     content.columns = rules_.ShownColumns();
     content.longestDescriptions = rules_.LongestDescriptions();
-    content.findBarWidth = PixelsToTwips(findBar_->minimumSizeHint().width() + kLeastWord);
+    content.findBarWidth = PixelsToTwips(findBar_->minimumSizeHint().width());
     content.scrollBarWidth =
         PixelsToTwips(style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, grid_));
     content.gridBorder = PixelsToTwips(grid_->frameWidth());

@@ -4,7 +4,9 @@
 #include <halvekutils/qt/help/HelpBrowser.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/SpokenNotice.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPalette>
@@ -38,7 +40,7 @@ QString PaperStyle() {
 
 }  // namespace
 
-HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent), notice_(new SpokenNotice(*this)) {
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);
@@ -172,10 +174,25 @@ void HelpBrowser::Settle() {
     setWordWrapMode(WrappingOf(toPlainText()).wrapMode());
     const QString title = documentTitle();
     setAccessibleName(title.isEmpty() ? tr("Help page") : title);
+    // Screen readers read along with a caret; for everybody else the arrow keys scroll.
+    setTextInteractionFlags(QAccessible::isActive()
+                                ? Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard
+                                : Qt::TextBrowserInteraction);
     const double place = ScrolledTo();
     ScaleFonts();
     ScrollTo(place);
     emit PageShown();
+}
+
+// The Tab key selects links one after the other, which is not a move of the focus.
+bool HelpBrowser::focusNextPrevChild(bool next) {
+    const bool moved = QTextBrowser::focusNextPrevChild(next);
+    GuardEvent(u"HelpBrowser.Tab", [this] {
+        const QTextCursor cursor = textCursor();
+        if (!hasFocus() || !cursor.hasSelection() || !cursor.charFormat().isAnchor()) return;
+        notice_->Say(tr("Link %1").arg(cursor.selectedText()));
+    });
+    return moved;
 }
 
 void HelpBrowser::SetZoom(int percent) {

@@ -12,6 +12,8 @@
 
 namespace halvek {
 
+class SpokenNotice;
+
 /// Shows the pages of a compiled help file, and nothing else: whatever a page asks for, only
 /// objects of that file are read.
 ///
@@ -54,6 +56,7 @@ class HelpBrowser : public QTextBrowser {
   protected:
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     QUrl Root() const;
@@ -73,6 +76,7 @@ class HelpBrowser : public QTextBrowser {
     // Of the pictures on the page
     qint64 pixelsLeft_ = 0;
     qint64 timeLeft_ = 0;
+    SpokenNotice* notice_;
 };
 
 }  // namespace halvek

@@ -2,6 +2,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/help/HelpEntryTree.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 
 #include <QTreeWidgetItemIterator>
 
@@ -22,6 +23,7 @@ HelpEntryTree::HelpEntryTree(const char* name, const QString& caption) {
     setAccessibleName(caption);
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    new FieldOutline(*this);
     const auto choose = [this](QTreeWidgetItem* item) {
         GuardEvent(u"HelpViewer.Entry_Click", [&] { Choose(item); });
     };

@@ -2,6 +2,7 @@
 #include <halvekutils/qt/help/HelpIndexPane.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -17,6 +18,7 @@ HelpIndexPane::HelpIndexPane()
     txtIndex_->setPlaceholderText(tr("Keyword"));
     txtIndex_->setClearButtonEnabled(true);
     txtIndex_->installEventFilter(this);
+    new FieldOutline(*txtIndex_);
     trvIndex_->setIndentation(trvIndex_->indentation() * 3 / 4);
     auto* const column = new QVBoxLayout(this);
     design::SpaceOut(*column);

@@ -3,6 +3,7 @@
 #include <halvekutils/qt/help/HelpSearchPane.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/StatusLabel.h>
 
 #include <QElapsedTimer>
@@ -43,6 +44,8 @@ HelpSearchPane::HelpSearchPane()
     lstFound_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstFound_->setResizeMode(QListView::Adjust);
     lblSearch_->setWordWrap(true);
+    new FieldOutline(*txtSearch_);
+    new FieldOutline(*lstFound_);
     auto* const row = new QHBoxLayout;
     row->setSpacing(design::Gap());
     row->addWidget(txtSearch_, 1);

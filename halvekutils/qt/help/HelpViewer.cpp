@@ -11,7 +11,9 @@
 #include <halvekutils/qt/help/HelpViewer.h>
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
+#include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/ModalOwner.h>
 
 #include <QAction>
@@ -50,8 +52,10 @@ QToolButton* ButtonOf(QAction* action) {
     button->setDefaultAction(action);
     button->setAccessibleName(action->text());
     button->setFocusPolicy(Qt::StrongFocus);
+    new FocusRing(*button);
     button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
                                                        : Qt::ToolButtonTextBesideIcon);
+    button->setMinimumHeight(std::max(button->sizeHint().height(), design::kMinTarget));
     return button;
 }
 
@@ -80,6 +84,7 @@ HelpViewer::HelpViewer()
     setWindowTitle(tr("Help"));
     browser_->setObjectName(QLatin1String("txtPage"));
     MakePanes();
+    new FieldOutline(*browser_);
     auto* const page = new QWidget;
     auto* const pageColumn = new QVBoxLayout(page);
     pageColumn->setContentsMargins(0, 0, 0, 0);
@@ -218,7 +223,9 @@ QWidget* HelpViewer::MakeNotice() {
     copy->setObjectName(QLatin1String("cmdCopyAddress"));
     copy->setText(tr("Copy address"));
     copy->setAccessibleName(copy->text());
+    copy->setMinimumHeight(design::kMinTarget);
     copy->setFocusPolicy(Qt::StrongFocus);
+    new FocusRing(*copy);
     connect(copy, &QToolButton::clicked, this, [this] {
         GuardEvent(u"HelpViewer.cmdCopyAddress_Click", [this] {
             QGuiApplication::clipboard()->setText(notice_->property("address").toString());

@@ -43,6 +43,13 @@ double Contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+bool IsHighContrast() {
+    constexpr double kNearlyAll = 20;  // ordinary light desktops come to 19
+    const QPalette desktop = QApplication::palette();
+    return Contrast(desktop.color(QPalette::WindowText), desktop.color(QPalette::Window)) >
+           kNearlyAll;
+}
+
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast) {
     if (Contrast(wanted, ground) >= contrast) return wanted;
     const QColor black(Qt::black);
@@ -59,12 +66,14 @@ QColor Blended(const QColor& one, const QColor& other, int share) {
 }
 
 QPalette Paper(QPalette desktop) {
+    const bool isHighContrast = IsHighContrast();
     for (const auto role : {QPalette::Base, QPalette::Light}) desktop.setColor(role, Qt::white);
     for (const auto role : {QPalette::Text, QPalette::WindowText}) {
         desktop.setColor(role, Qt::black);
     }
-    desktop.setColor(QPalette::Window, QColor(0xEF, 0xEF, 0xEF));
-    desktop.setColor(QPalette::Mid, QColor(0xB8, 0xB8, 0xB8));
+    // Lines and outlines are darker tones of the window.
+    desktop.setColor(QPalette::Window, isHighContrast ? Qt::gray : QColor(0xEF, 0xEF, 0xEF));
+    desktop.setColor(QPalette::Mid, isHighContrast ? Qt::darkGray : QColor(0xB8, 0xB8, 0xB8));
     return desktop;
 }
 

@@ -21,6 +21,7 @@ namespace halvek::design {
 
 inline constexpr double kRingWidth = 2;  ///< of the ring around the control with the focus
 inline constexpr double kCorner = 3;     ///< the radius of rounded corners
+inline constexpr int kMinTarget = 24;  ///< what the pointer can hit is this wide and high at least
 
 int Margin();
 int Gap();
@@ -33,6 +34,9 @@ double Contrast(const QColor& one, const QColor& other);
 
 /// The least contrast of two colours chosen by a host; below it nobody can read the text.
 inline constexpr double kMinHostContrast = 2;
+
+/// Whether the desktop has text in black on white or white on black, and nothing between them.
+bool IsHighContrast();
 
 /// The first colour if its contrast with the ground suffices, else black or white.
 QColor Visible(const QColor& wanted, const QColor& ground, double contrast = 3);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/StatusLabel.h>
@@ -17,6 +18,8 @@ namespace halvek {
 namespace {
 
 constexpr int kMaxWordLength = 200;
+constexpr int kWordInView = 12;  // letters
+constexpr int kAroundText = 2;
 constexpr double kReadable = 4.5;                     // the least contrast of a text
 constexpr QRgb kMissed[] = {0xFFC01010, 0xFFFF8A80};  // reds for light and for dark ground
 
@@ -46,6 +49,7 @@ FindBar::FindBar(std::unique_ptr<FindTarget> target, const QString& prompt, QWid
     setObjectName(QLatin1String("FindBar"));
     txtFind_->setObjectName(QLatin1String("txtFind"));
     txtFind_->setAccessibleName(prompt);
+    new FieldOutline(*txtFind_);
     txtFind_->setPlaceholderText(prompt);
     txtFind_->setMaxLength(kMaxWordLength);
     txtFind_->setClearButtonEnabled(true);
@@ -71,7 +75,9 @@ FindBar::FindBar(std::unique_ptr<FindTarget> target, const QString& prompt, QWid
     // The box is not to jump while a word is typed.
     const QFontMetrics letters = lblFind_->fontMetrics();
     lblFind_->setMinimumWidth(std::max(letters.horizontalAdvance(tr("Not found")),
-                                       letters.horizontalAdvance(target_->LongestText())));
+                                       letters.horizontalAdvance(target_->LongestText())) +
+                              kAroundText);
+    txtFind_->setMinimumWidth(letters.averageCharWidth() * kWordInView);
     connect(txtFind_, &QLineEdit::textEdited, this,
             [this] { GuardEvent(u"FindBar.txtFind_Change", [this] { FindTyped(); }); });
     hide();

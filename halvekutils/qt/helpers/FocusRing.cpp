@@ -32,7 +32,8 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Paint) return false;
     const QPalette& colors = button->palette();
     const QColor face = colors.color(QPalette::Button);
-    if (!button->hasFocus() && !IsLostOn(colors.color(QPalette::Window), face)) return false;
+    const bool isLost = design::IsHighContrast() || IsLostOn(colors.color(QPalette::Window), face);
+    if (!button->hasFocus() && !isLost) return false;
     watched->event(event);
     GuardEvent(u"FocusRing.Paint", [button, &colors, &face] {
         QPainter painter(button);

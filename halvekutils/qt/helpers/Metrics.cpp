@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/platform/Twips.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QApplication>
@@ -105,6 +106,10 @@ QColor ToQColor(Color color, const QPalette& palette) {
 
 QPalette WithVisibleOutline(QPalette palette) {
     constexpr int kOutlineTone = 150;  // per cent
+    if (design::IsHighContrast()) {
+        palette.setColor(QPalette::Window, Qt::gray);
+        return palette;
+    }
     const QColor text = palette.color(QPalette::Text);
     const bool isDark = text.lightness() > palette.color(QPalette::Base).lightness();
     if (isDark) palette.setColor(QPalette::Window, text.darker(kOutlineTone));

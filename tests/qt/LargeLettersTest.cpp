@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "tests/HelpFile.h"
+#include "tests/qt/FormTest.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QToolButton>
+
+namespace halvek {
+namespace {
+
+constexpr int kLeastTarget = 24;    // pixels
+constexpr double kSmallest = 0.85;  // of the desktop's font
+
+/// The space that a control's own text takes, without the air around it.
+QSize TextSize(const QWidget& part) {
+    constexpr QSize kEdges(4, 2);
+    if (const auto* const tool = qobject_cast<const QToolButton*>(&part)) {
+        if (tool->arrowType() != Qt::NoArrow) return {};
+        return tool->icon().isNull() ? tool->fontMetrics().size(0, tool->text()) + kEdges
+                                     : tool->sizeHint();
+    }
+    if (qobject_cast<const QCheckBox*>(&part) != nullptr) return part.sizeHint();
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&part)) {
+        return button->fontMetrics().size(Qt::TextShowMnemonic, button->text()) + 2 * kEdges;
+    }
+    if (const auto* const label = qobject_cast<const QLabel*>(&part)) {
+        if (label->text().isEmpty()) return {};
+        const int height = label->heightForWidth(label->width());
+        const bool mayShrink = label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+        return label->wordWrap() ? QSize(0, height)
+                                 : QSize(mayShrink ? 0 : label->sizeHint().width(),
+                                         label->fontMetrics().height());
+    }
+    if (qobject_cast<const QLineEdit*>(&part) != nullptr) {
+        return {1, part.fontMetrics().height() + kEdges.height()};
+    }
+    return {};
+}
+
+/// The cell of a table whose text takes more space than it has; rows and columns are alike.
+QSize Lacking(const QTableView& table) {
+    const QFontMetrics font = table.fontMetrics();
+    int widest = 0;
+    for (int column = 0; column < table.model()->columnCount(); ++column) {
+        const QString text = table.model()->index(0, column).data().toString();
+        widest = std::max(widest, font.horizontalAdvance(text) - table.columnWidth(column));
+    }
+    return {widest, font.height() - table.rowHeight(1)};
+}
+
+bool IsTarget(const QWidget& part) {
+    return qobject_cast<const QAbstractButton*>(&part) != nullptr && part.isEnabled();
+}
+
+/// Whether Qt places the children.
+bool IsWhole(const QWidget& part) {
+    return qobject_cast<const QAbstractScrollArea*>(&part) != nullptr ||
+           qobject_cast<const QLineEdit*>(&part) != nullptr;
+}
+
+/// Parts of a message box whose places are rules: their frames may cover each other.
+bool IsPlacedByRule(const QWidget& part) {
+    const QString& name = part.objectName();
+    return name == "frMSG" || name == "frButtons" || name == "lblText";
+}
+
+/// Whether the font of a part is a rule.
+bool HasFixedFont(const QWidget& part) {
+    for (const QWidget* whole = &part; whole != nullptr; whole = whole->parentWidget()) {
+        const QString& name = whole->objectName();
+        if (name == "MonthView1" || name == "grdSelection" || name == "lblText") return true;
+    }
+    return false;
+}
+
+void AddFaults(const QWidget& part, QStringList& faults) {
+    const auto fault = [&](const QString& what) {
+        faults += QStringLiteral("%1 %2").arg(part.objectName(), what);
+    };
+    const auto lacks = [](QSize needed, QSize has) {
+        return needed.width() > has.width() || needed.height() > has.height();
+    };
+    if (lacks(TextSize(part), part.size())) {
+        fault(QStringLiteral("has %1 x %2 for a text of %3 x %4")
+                  .arg(part.width())
+                  .arg(part.height())
+                  .arg(TextSize(part).width())
+                  .arg(TextSize(part).height()));
+    }
+    if (IsTarget(part) && lacks({kLeastTarget, kLeastTarget}, part.size())) {
+        fault(QStringLiteral("is %1 x %2, hard to hit").arg(part.width()).arg(part.height()));
+    }
+    if (!HasFixedFont(part) && !TextSize(part).isEmpty() &&
+        part.font().pointSizeF() < kSmallest * QApplication::font().pointSizeF()) {
+        fault(QStringLiteral("has %1 points").arg(part.font().pointSizeF()));
+    }
+    if (const auto* const table = qobject_cast<const QTableView*>(&part)) {
+        if (table->objectName().startsWith("qt_calendar") && lacks(Lacking(*table), {0, 0})) {
+            fault(QStringLiteral("cuts its cells"));
+        }
+    }
+    if (IsWhole(part)) return;
+    std::vector<const QWidget*> children;
+    for (const QObject* const child : part.children()) {
+        const auto* const widget = qobject_cast<const QWidget*>(child);
+        if (widget == nullptr || widget->isWindow() || !widget->isVisible()) continue;
+        AddFaults(*widget, faults);
+        if (widget->testAttribute(Qt::WA_TransparentForMouseEvents) || IsPlacedByRule(*widget)) {
+            continue;
+        }
+        if (!part.rect().contains(widget->geometry()))
+            fault(QStringLiteral("cuts %1").arg(widget->objectName()));
+        for (const QWidget* const other : children) {
+            if (!other->geometry().intersects(widget->geometry())) continue;
+            faults +=
+                QStringLiteral("%1 lies on %2").arg(widget->objectName(), other->objectName());
+        }
+        children.push_back(widget);
+    }
+}
+
+std::string FaultsOf(const QWidget& window) {
+    QStringList faults;
+    AddFaults(window, faults);
+    if (!window.screen()->geometry().contains(window.frameGeometry()))
+        faults += QStringLiteral("%1 x %2 do not fit on the screen")
+                      .arg(window.width())
+                      .arg(window.height());
+    return faults.join("; ").toStdString();
+}
+
+struct LargeLettersTest : FormTest, testing::WithParamInterface<int> {
+    LargeLettersTest() {
+        QFont font = font_;
+        font.setPointSize(GetParam());
+        QApplication::setFont(font);
+        const QPoint corner = QApplication::screens().constLast()->geometry().topLeft();
+        host_ = OpenHostWindow(QRect(corner + QPoint(40, 40), QSize(200, 100)));
+        StringArray colors(1, 30);
+        for (int i = 1; i <= 30; ++i) colors[i] = QString::number(i * 400'000).toStdU16String();
+        utils_->InitPrefs(colors, 0, 0, 0, 0);
+    }
+    ~LargeLettersTest() override { QApplication::setFont(font_); }
+
+    static void Measure(const std::function<void()>& open) {
+        const User user([&](QDialog& dialog) {
+            EXPECT_EQ(FaultsOf(dialog), "");
+            CloseRequest(dialog);
+            if (dialog.isVisible()) PressKey(dialog, Qt::Key_Return);
+        });
+        open();
+    }
+
+    const QFont font_ = QApplication::font();
+    std::unique_ptr<QWidget> host_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Points, LargeLettersTest, testing::Values(9, 12, 16, 20));
+
+TEST_P(LargeLettersTest, NothingIsCutOrHiddenInAnyDialog) {
+    const std::u16string codes =
+        u"H:AUTH-2004-000117-NORTH\tPhysical therapy\t0:MB\tMedicare Part B\t1:";
+    const std::u16string lines = QString("A visit\r\n").repeated(200).toStdU16String();
+    const struct {
+        const char* name;
+        std::function<void()> open;
+    } windows[] = {
+        {"calendar", [&] { utils_->ShowCalendar(-1, -1, -1, u"9/22/2004"); }},
+        {"calculator", [&] { utils_->Calculate(u"9999999.99"); }},
+        {"palette", [&] { utils_->ShowColor(); }},
+        {"list", [&] { utils_->ShowSelection(u"Insurance Types", codes, u"MB"); }},
+        {"short box", [&] { utils_->ShowMsgBox(u"Go on?", mbOkOnly, mbNoIcon, u"Visits"); }},
+        {"box with an icon",
+         [&] { utils_->ShowMsgBox(u"Go on?", mbYesNoCancel, mbQuestion, u"Visits"); }},
+        {"box that counts down",
+         [&] {
+             utils_->ShowMsgBox(u"Save?", mbSaveDontSave, mbTrash, u"Visits", mbGray, mb14, true,
+                                30);
+         }},
+        {"box that scrolls",
+         [&] { utils_->ShowMsgBox(lines, mbAbortRetryIgnore, mbCritical, u"Visits"); }},
+        {"message", [&] { desktop_.ShowStockMessage(u"Invalid", StockIcon::Critical, u"Visits"); }},
+    };
+    for (const auto& [name, open] : windows) {
+        const testing::ScopedTrace trace(__FILE__, __LINE__, name);
+        Measure(open);
+    }
+}
+
+TEST_P(LargeLettersTest, NorInTheWindowsBesideThem) {
+    const HelpFile help(1);
+    utils_->InitUtils(u"", u"", u"", true, u"");
+    utils_->ShowInDebug(u"line");
+    utils_->ShowHelp(0, 100, help.Path().u16string());
+    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+        QWidget& window = Window(name);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        EXPECT_TRUE(Soon([&] { return window.isActiveWindow(); }));
+        PressKey(window, Qt::CTRL | Qt::Key_F);
+        PressKey(window, Qt::Key_Question);
+        EXPECT_EQ(FaultsOf(window), "") << name;
+    }
+}
+
+}  // namespace
+}  // namespace halvek
