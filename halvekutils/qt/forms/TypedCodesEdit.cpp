@@ -38,7 +38,7 @@ void TypedCodesEdit::TextEdited() {
 void TypedCodesEdit::Refresh() {
     const TypedCodesBox& box = rules_.Box();
     setEnabled(box.enabled);
-    if (std::exchange(shownVersion_, rules_.BoxVersion()) == rules_.BoxVersion()) return;
+    if (shownVersion_ == rules_.BoxVersion()) return;
     const QScopedValueRollback mirroring(mirroring_, true);
     // Every change of a line edit costs time in proportion to its text.
     const bool tooLong = box.text.size() > kMaxEdited;
@@ -50,6 +50,7 @@ void TypedCodesEdit::Refresh() {
     if (text() != wanted) setText(wanted);
     setCursorPosition(box.caret);
     if (box.selected > 0) setSelection(box.caret, box.selected);
+    shownVersion_ = rules_.BoxVersion();
 }
 
 void TypedCodesEdit::focusInEvent(QFocusEvent* event) {
@@ -86,6 +87,11 @@ void TypedCodesEdit::mousePressEvent(QMouseEvent* event) {
 void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     commaIsDown_ = false;
+}
+
+// Qt would write into a box that is too long to be edited.
+void TypedCodesEdit::inputMethodEvent(QInputMethodEvent* event) {
+    isReadOnly() ? event->ignore() : QLineEdit::inputMethodEvent(event);
 }
 
 void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {

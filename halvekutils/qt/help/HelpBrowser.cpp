@@ -6,6 +6,7 @@
 #include <halvekutils/qt/help/HelpMarkup.h>
 #include <halvekutils/qt/help/HelpPages.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/InputMethodRefusal.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QApplication>
@@ -46,6 +47,7 @@ QString PaperStyle() {
 }  // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+    new InputMethodRefusal(*this);
     setPalette(PaperPalette(palette()));
     setOpenLinks(false);
     setUndoRedoEnabled(false);

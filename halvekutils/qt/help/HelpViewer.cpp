@@ -8,7 +8,7 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FindBar.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QAction>
 #include <QApplication>
@@ -280,18 +280,17 @@ void HelpViewer::ShowPage(const HelpTopic& topic) {
 }
 
 void HelpViewer::BringForward() {
-    if (!isVisible()) {
-        const QRect usable = CurrentScreen()->availableGeometry();
-        if (!testAttribute(Qt::WA_Moved)) {
-            resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
-            move(CentredPlace(size(), CurrentOwner()).topLeft());
-        }
+    WindowOpening& opening = WindowOpening::OfApplication();
+    if (!isVisible() && !testAttribute(Qt::WA_Moved)) {
+        const QRect usable = WindowOpening::UsableArea(opening.Screen());
+        resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
+        const QSize outer = size() + WindowOpening::FrameSize();
+        move(opening.Centred(outer, opening.Owner()).topLeft());
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
+    winId();  // creates the window handle
     StayAboveDialogs();
-    raise();
-    activateWindow();
+    opening.Show(*this);
     browser_->setFocus(Qt::OtherFocusReason);
 }
 
