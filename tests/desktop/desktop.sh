@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT Sourced by the desktop tests: a private display with a window
-# manager, a client on it, and real keys and clicks. All programs started here end with the test.
+# manager. All programs started here end with the test.
 set -uo pipefail
 
 work=$(mktemp -d)
@@ -48,9 +48,10 @@ start() {
 
 # A display at 96 dots per inch with a window manager, at Qt's given scale. Keys do not repeat when
 # a slow machine releases them late.
-# Usage: start_desktop [openbox|icewm [WIDTHxHEIGHT [SCALE]]]
+# Usage: start_desktop [openbox|icewm [SCALE]]
 start_desktop() {
-    local manager=${1:-openbox} screen=${2:-1366x768} scale=${3:-1}
+    local manager=${1:-openbox} scale=${2:-1} screen
+    screen=$((1366 * scale))x$((768 * scale))
     export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_STYLE_OVERRIDE=Fusion
     export QT_SCALE_FACTOR=$scale
     unset WAYLAND_DISPLAY QT_FONT_DPI
@@ -70,91 +71,6 @@ start_desktop() {
         ;;
     esac
     wait_until "the window manager starts" wmctrl -m
-}
-
-has_ended() {
-    ! kill -0 "$1"
-}
-
-active_window() {
-    xdotool getactivewindow 2>/dev/null
-}
-
-is_active() {
-    [ "$(active_window)" = "$1" ]
-}
-
-has_active_title() {
-    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1"* ]]
-}
-
-# The active window once its title starts with a text. Usage: wait_for_window TITLE; sets $window.
-wait_for_window() {
-    wait_until "a window \"$1\" opens and becomes active" has_active_title "$1"
-    window=$(active_window)
-}
-
-keys() {
-    xdotool key --clearmodifiers "$@"
-}
-
-# Clicks into a window, in pixels from its inner corner. Usage: click WINDOW X Y
-click() {
-    xdotool mousemove --sync --window "$1" "$2" "$3" click 1
-}
-
-# The inner width or height of a window. Usage: length_of WINDOW Width|Height
-length_of() {
-    xwininfo -id "$1" | sed -n "s/^ *$2: //p"
-}
-
-# Whether the window's hints say that it may be closed.
-may_close() {
-    local flags functions
-    IFS=', ' read -r flags functions _ < <(xprop -id "$1" _MOTIF_WM_HINTS | sed 's/.*= //')
-    ((!(flags & 1) || functions & 0x20 || functions & 1))
-}
-
-# Asks the window manager to close a window and waits until it has done so: it answers requests in
-# order.
-request_close() {
-    wmctrl -i -c "$1"
-    wmctrl -i -r "$2" -b toggle,above
-    wait_until "the window manager answers" bash -c "xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
-    wmctrl -i -r "$2" -b toggle,above
-    wait_until "the window manager answers" bash -c "! xprop -id $2 _NET_WM_STATE | grep -q ABOVE"
-}
-
-# Starts the demo client, which keeps a record of what the library returned and one of its focus.
-# Usage: start_client DEMO [OPTIONS...]; sets $record, $focus and $main.
-start_client() {
-    record=$work/record.txt focus=$work/focus.txt focused=0
-    start "$@" --record "$record" --focus "$focus"
-    wait_until "the record is kept" test -e "$record"
-    wait_for_window "Front Desk"
-    main=$window
-}
-
-# Whether a control has got the focus since the mark.
-focus_moved() {
-    [ "$(wc -l <"$focus")" -gt "$focused" ]
-}
-has_focus() {
-    focus_moved && [[ "$(tail -n 1 "$focus")" == *"$1" ]]
-}
-
-# Shows a page through its menu. An open menu holds the keyboard, and keys sent while it closes may
-# go to it and be lost, so this waits until the page is shown.
-# Usage: choose_page KEYS...
-choose_page() {
-    focused=$(wc -l <"$focus")
-    keys "$@"
-    wait_until "$* shows a page" has_focus Services
-}
-
-# Whether the record has grown beyond $answered lines.
-has_answer() {
-    [ "$(wc -l <"$record")" -gt "$answered" ]
 }
 
 # Leaves a picture of the screen when HALVEK_PICTURES names a folder. Usage: picture NAME

@@ -37,6 +37,18 @@ TEST_F(DebugConsoleFormTest, TheNewestLineShowsHoweverManyOrLongTheyAre) {
     EXPECT_TRUE(EndsWith("<<<<<CLEARED>>>>>>a<0><27>\tb\n"));
 }
 
+TEST_F(DebugConsoleFormTest, DoesNotKeepTheProgramRunning) {
+    const auto host = OpenHostWindow(QRect(50, 50, 200, 100));
+    utils_->ShowInDebug(u"line");
+    QApplication::setQuitOnLastWindowClosed(true);
+    QTimer::singleShot(0, [&] { host->close(); });
+    QTimer late;
+    QObject::connect(&late, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    late.start(kPatience);
+    EXPECT_EQ(QApplication::exec(), 0);
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
 TEST_F(DebugConsoleFormTest, PaintsEveryLineThoughTheProgramNeverReturnsToItsEvents) {
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));
     struct Counter : QObject {

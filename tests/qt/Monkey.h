@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QDrag>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
 #include <QStyleFactory>
@@ -23,8 +24,8 @@ namespace halvek {
 
 /// A call of the library that the monkey may make, also while another one is open.
 struct MonkeyCall {
-    const char* name;
-    const char* ownKeys;  ///< that mean something to its window, pressed often
+    QString name;
+    QString ownKeys;  ///< that mean something to its window, pressed often
     std::function<void(class Monkey& monkey, QWidget& owner)> open;
 };
 
@@ -131,7 +132,7 @@ class Monkey : public QObject {
         call.open(*this, window);
         --depth_;
         ownKeys_ = keys;
-        ASSERT_FALSE(::testing::Test::HasFailure()) << call.name << ", " << Trail();
+        ASSERT_FALSE(::testing::Test::HasFailure()) << call.name.toStdString() << ", " << Trail();
         if (!owners_.empty() && Below(3) == 0) owners_.pop_back();
     }
 
@@ -144,11 +145,15 @@ class Monkey : public QObject {
         if (front == nullptr) return QDrag::cancel();
         for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
             if (!front->isActiveWindow()) return Activate(*front);
+            waits_ = 0;
             Act(*front);
         }
     }
 
-    static void Activate(QWidget& window) {
+    void Activate(QWidget& window) {
+        constexpr int kPatientWaits = 20;
+        if (++waits_ > kPatientWaits) window.setWindowState(Qt::WindowNoState);
+        if (waits_ > 2 * kPatientWaits) window.close();
         const QWindow& handle = *window.windowHandle();
         if (!handle.flags().testFlag(Qt::WindowDoesNotAcceptFocus)) window.activateWindow();
     }
@@ -227,7 +232,11 @@ class Monkey : public QObject {
         QHelpEvent tip(QEvent::ToolTip, at, part->mapToGlobal(at));
         QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, part->mapToGlobal(at));
         for (QEvent* const event : std::initializer_list<QEvent*>{&composing, &done, &tip, &menu}) {
-            if (part != nullptr) QCoreApplication::sendEvent(part, event);
+            if (part == nullptr) return;
+            // Input methods write into a line only while it has the focus.
+            const bool isLine = qobject_cast<QLineEdit*>(part.data()) != nullptr;
+            if (event->type() == QEvent::InputMethod && isLine && !part->hasFocus()) continue;
+            QCoreApplication::sendEvent(part, event);
         }
     }
 
@@ -288,9 +297,8 @@ class Monkey : public QObject {
                 return QGuiApplication::setLayoutDirection(Below(2) == 0 ? Qt::RightToLeft
                                                                          : Qt::LeftToRight);
             default:
-                Note(window, "hidden and shown by its host");
+                Note(window, "hidden by its host");
                 window.hide();
-                if (alive != nullptr && Front() != &window) window.show();
         }
     }
 
@@ -342,7 +350,7 @@ class Monkey : public QObject {
 
     std::mt19937 random_;
     unsigned seed_;
-    int steps_, step_ = 0, time_ = 0, depth_ = 0;
+    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0;
     std::vector<MonkeyCall> calls_;
     std::vector<std::unique_ptr<QWidget>> owners_;
     QString ownKeys_ = "A", acts_[kKept];

@@ -67,6 +67,12 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
 bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &dialog_ && event->type() == QEvent::Move && dialog_.isVisible()) {
         StandWhereAsked();
+    } else if (watched == &dialog_ && event->type() == QEvent::Hide && !event->spontaneous()) {
+        // Hidden by the host, it could never be answered.
+        const auto abandon = [this] {
+            if (!ended_ && dialog_.isHidden()) abandon_();
+        };
+        QMetaObject::invokeMethod(this, abandon, Qt::QueuedConnection);
     } else if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress) {
         const auto& press = *static_cast<QMouseEvent*>(event);
         lastPress_ = {press.button(), press.globalPosition(), press.timestamp()};

@@ -14,6 +14,6 @@
 std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name);
 
 /// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".right" of
-/// a window, how many pixels it ends before the screen does; "focus" for the control with the
-/// keyboard.
+/// a window, how many pixels it ends before the screen does, ".inside" whether all of it is on the
+/// screen; "focus" for the control with the keyboard, "keys" for Shift, Ctrl and Alt while held.
 QString TextSeen(const QWidget& front, const QString& name);

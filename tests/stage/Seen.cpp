@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "Seen.h"
 
+#include <halvekutils/core/Utils.h>
 #include <halvekutils/qt/CurrencyField.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTableView>
 #include <QVariant>
 
 namespace {
@@ -24,6 +27,8 @@ const QWidget* Find(const QWidget& front, const QString& name) {
 std::optional<QPoint> PlaceOfCell(const QWidget& grid, const QString& cell) {
     const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
     if (view == nullptr) return std::nullopt;
+    if (const auto* const table = qobject_cast<const QTableView*>(view); table && cell == "header")
+        return table->horizontalHeader()->mapToGlobal(table->horizontalHeader()->rect().center());
     const QModelIndex index =
         view->model()->index(cell.section(',', 0, 0).toInt(), cell.section(',', 1).toInt());
     return view->viewport()->mapToGlobal(view->visualRect(index).center());
@@ -63,11 +68,21 @@ QString PartOf(const QWidget& control, const QString& part) {
         const auto cents = halvek::CurrencyCents(line);
         return cents ? QString::number(*cents) : QString();
     }
+    if (part == "inside") {
+        const QRect screen = control.screen()->availableGeometry();
+        return screen.contains(control.frameGeometry()) ? "true" : "false";
+    }
     if (part == "right") {
         return QString::number(control.screen()->geometry().right() -
                                control.frameGeometry().right());
     }
     return control.property(part.toUtf8()).toString();
+}
+
+QString HeldKeys() {
+    const auto utils = halvek::Utils::CurrentUtils();
+    return QString(utils->ShiftPressed() ? "Shift " : "") + (utils->CtrlPressed() ? "Ctrl " : "") +
+           (utils->AltPressed() ? "Alt" : "");
 }
 
 }  // namespace
@@ -76,7 +91,7 @@ std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name) {
     const QWidget* const control = Find(front, name.section(':', 0, 0));
     if (control == nullptr) return std::nullopt;
     const QString place = name.section(':', 1);
-    if (place.contains(',')) return PlaceOfCell(*control, place);
+    if (place.contains(',') || place == "header") return PlaceOfCell(*control, place);
     constexpr int kInside = 6;
     const QPoint middle = control->rect().center();
     return control->mapToGlobal(place == "left" ? QPoint(kInside, middle.y()) : middle);
@@ -86,6 +101,7 @@ QString TextSeen(const QWidget& front, const QString& name) {
     if (name == "focus") {
         return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "nobody";
     }
+    if (name == "keys") return HeldKeys().trimmed();
     const QWidget* const control = Find(front, name.section('.', 0, 0));
     if (control == nullptr) return "not seen";
     return name.contains('.') ? PartOf(*control, name.section('.', 1)) : TextOf(*control);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Conversation.h"
 
+#include "Calls.h"
 #include "Record.h"
 #include "Seen.h"
-
-#include <halvekutils/base/StringArray.h>
+#include "StageWindow.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -17,15 +17,19 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
-using namespace halvek;
+using halvek::Utils;
 
 namespace {
 
 constexpr int kCalmRounds = 3;
 constexpr int kPause = 2;  // in milliseconds, between two looks
+
+// After so many looks an effect never comes. A busy machine makes fewer of them in a second.
+constexpr int kLooks = 10'000;
 
 // How far apart the clicks of a double click may be, in milliseconds; the slow hand is for a player
 // on a busy machine.
@@ -47,12 +51,6 @@ bool IsClick(const XiEvent& event) {
     return event.type == kButtonRelease && event.device == kSharedPointer;
 }
 
-QWidget* Front(QWidget* desk) {
-    if (QWidget* const popup = QApplication::activePopupWidget()) return popup;
-    if (QWidget* const dialog = QApplication::activeModalWidget()) return dialog;
-    return desk;
-}
-
 std::uint32_t AtomOf(const char* name) {
     auto* const display = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
     const QByteArray text(name);
@@ -65,14 +63,32 @@ std::uint32_t AtomOf(const char* name) {
     return atom;
 }
 
-std::shared_ptr<Utils> StartLibrary() {
-    auto utils = Utils::Create();
-    utils->InitUtils(QDir::homePath() + "/Desk.log", QString("Desk"), QString("test"), true,
-                     QString("1"));
-    StringArray colors(1, 20);
-    for (int i = 1; i <= 20; ++i) colors[i] = QString::number(i * 500'000).toStdU16String();
-    utils->InitPrefs(colors, 0xFFFFFF, 0, 0xFFFFFF, 0xFFFFFF);
-    return utils;
+/// Whether a click would reach this program. The frame of a window that has just been closed stays
+/// until the window manager takes it away.
+bool PointerIsOverHost() {
+    auto* const display = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    std::uint32_t window = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+    for (std::uint32_t child = window; child != 0;) {
+        window = child;
+        auto* const reply =
+            xcb_query_pointer_reply(display, xcb_query_pointer(display, window), nullptr);
+        child = reply == nullptr ? 0 : reply->child;
+        std::free(reply);
+    }
+    return std::ranges::any_of(QGuiApplication::allWindows(), [window](const QWindow* own) {
+        return own->handle() != nullptr && own->winId() == window;
+    });
+}
+
+/// "right", "X,Y" or "" for the usual place
+QPoint PlaceFor(QWidget& window, const QString& place) {
+    constexpr QPoint kUsual(40, 40);
+    constexpr int kBeyond = 100;  // forces a pop-up to move aside
+    if (place.contains(','))
+        return {place.section(',', 0, 0).toInt(), place.section(',', 1).toInt()};
+    if (place != "right") return kUsual;
+    window.adjustSize();
+    return {window.screen()->geometry().width() - window.width() + kBeyond, kUsual.y()};
 }
 
 }  // namespace
@@ -105,55 +121,58 @@ void Conversation::Answer(const QString& line) {
     if (word == "new") return Renew(rest);
     if (word == "where") return AnswerWhere(rest);
     if (word == "read") return Read(rest);
-    if (word == "load") desk_->Load(rest.section(' ', 0, 0), rest.section(' ', 1));
+    if (word == "front") return Record::Answer(QString::number(Front(window_.get())->winId()));
+    if (auto* const desk = dynamic_cast<Desk*>(window_.get()); desk && word == "load")
+        desk->Load(rest.section(' ', 0, 0), rest.section(' ', 1));
     if (word == "clipboard") QApplication::clipboard()->setText(rest);
     if (word == "locale") QLocale::setDefault(QLocale(rest));
     if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
-    if (word == "why") Record::Answer(State());
     if (word == "await") {
         marksAwaited_ = rest.section(' ', 0, 0).toInt();
-        clicksAwaited_ = rest.section(' ', 1).toInt();
+        clicksAwaited_ = rest.section(' ', 1, 1).toInt();
+        pointerAwaited_ = rest.section(' ', 2) == "pointer";
         isAsked_ = true;
+        looks_ = 0;
         check_.start();
     }
 }
 
-void Conversation::Renew(const QString& place) {
+void Conversation::Renew(const QString& window) {
     // A failed story may have left a dialog open, whose loop must end first.
-    if (QWidget* const left = QApplication::activeModalWidget()) {
+    if (QWidget* const left = Front(nullptr)) {
         left->close();
-        QTimer::singleShot(0, this, [this, place] { Renew(place); });
+        QTimer::singleShot(0, this, [this, window] { Renew(window); });
         return;
     }
     QLocale::setDefault(QLocale::c());
     QApplication::setDoubleClickInterval(kQuickHand);
-    desk_ = std::make_unique<Desk>(StartLibrary());
-    if (place == "right") {
-        desk_->adjustSize();
-        constexpr int kBeyond = 100;  // forces a pop-up to move aside
-        desk_->move(desk_->screen()->geometry().width() - desk_->width() + kBeyond, 40);
-    } else {
-        desk_->move(40, 40);
-    }
-    desk_->show();
+    window_.reset();
+    const bool isStage = window.startsWith("stage");
+    StartSession(QDir::homePath() + "/Stage.log", !isStage);
+    if (isStage)
+        window_ = std::make_unique<StageWindow>();
+    else
+        window_ = std::make_unique<Desk>(Utils::CurrentUtils());
+    window_->move(PlaceFor(*window_, window.section(' ', 1)));
+    window_->show();
     AnswerOnceSeen();
 }
 
 void Conversation::AnswerOnceSeen() {
-    if (desk_->windowHandle()->isExposed()) {
-        Record::Answer("window " + QString::number(desk_->winId()));
+    if (window_->windowHandle()->isExposed()) {
+        Record::Answer("window " + QString::number(window_->winId()));
     } else {
         QTimer::singleShot(kPause, this, [this] { AnswerOnceSeen(); });
     }
 }
 
 void Conversation::AnswerWhere(const QString& name) const {
-    const auto place = PlaceOf(*Front(desk_.get()), name);
+    const auto place = PlaceOf(*Front(window_.get()), name);
     Record::Answer(place ? QString("at %1 %2").arg(place->x()).arg(place->y()) : "nowhere");
 }
 
 void Conversation::Read(const QString& name) const {
-    Record::Got(name, TextSeen(*Front(desk_.get()), name) + "");
+    Record::Got(name, TextSeen(*Front(window_.get()), name) + "");
 }
 
 bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
@@ -174,17 +193,19 @@ bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 /// Called whenever the event loop has nothing else to do.
 void Conversation::Check() {
     const bool isThere = marksSeen_ >= marksAwaited_ && clicksSeen_ >= clicksAwaited_;
-    if (!isThere || !IsSettled()) calm_ = 0;
+    const bool isOver = !pointerAwaited_ || PointerIsOverHost();
+    if (!isThere || !isOver || !IsSettled()) calm_ = 0;
     check_.setInterval(calm_ == 0 ? kPause : 0);
-    if (!isAsked_ || calm_++ < kCalmRounds) return;
+    const bool isDone = calm_++ >= kCalmRounds;
+    if (!isAsked_ || (!isDone && ++looks_ < kLooks)) return;
     isAsked_ = false;
     check_.stop();
-    Record::Answer("done");
+    Record::Answer(isDone ? "done" : "stuck: " + State());
 }
 
 bool Conversation::IsSettled() const {
     if (QApplication::activePopupWidget() != nullptr) return true;
-    const QWindow* const front = Front(desk_.get())->windowHandle();
+    const QWindow* const front = Front(window_.get())->windowHandle();
     return front != nullptr && front->isExposed() && QGuiApplication::focusWindow() == front;
 }
 
@@ -196,5 +217,5 @@ QString Conversation::State() const {
         .arg(clicksSeen_)
         .arg(clicksAwaited_)
         .arg(focus ? focus->objectName() : "nobody")
-        .arg(Front(desk_.get())->objectName());
+        .arg(Front(window_.get())->objectName());
 }

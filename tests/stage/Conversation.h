@@ -6,6 +6,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 #include <QTimer>
+#include <QWidget>
 #include <QWindow>
 
 #include <cstdint>
@@ -14,14 +15,16 @@
 /// Carries out the commands that the player of the stories writes to the standard input, one a
 /// line:
 ///
-///     new [right]              a new window in the place of the old one; "window ID"
+///     new desk|stage [PLACE]   a new window in the place of the old one; "window ID"
+///     front                    the id of the window in front
 ///     where NAME               "at X Y" on the screen, or "nowhere"
 ///     read NAME[.PART]         puts on record what a person sees of a control
 ///     load FIELD TEXT          the program sets a text
 ///     clipboard|locale TEXT    what the desktop offers
 ///     slow-hand                both clicks of a double click may be far apart
-///     await MARKS CLICKS       "done" once all that was done before has had its effect
-///     why                      what is not there yet
+///     await MARKS CLICKS [pointer]
+///                              "done" once all that was done before has had its effect; "stuck:"
+///                              and what is not there yet when it never comes
 ///
 /// The player marks the end of an act by a property of a window that the host names at first, which
 /// comes in order with the keys. Clicks come later, since the window manager looks at them first;
@@ -36,7 +39,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
   private:
     void Listen();
     void Answer(const QString& line);
-    void Renew(const QString& place);
+    void Renew(const QString& window);
     void AnswerOnceSeen();
     void AnswerWhere(const QString& name) const;
     void Read(const QString& name) const;
@@ -44,7 +47,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     bool IsSettled() const;
     QString State() const;
 
-    std::unique_ptr<Desk> desk_;
+    std::unique_ptr<QWidget> window_;
     QByteArray heard_;
     QTimer check_;
     QWindow marked_;      ///< never shown
@@ -53,6 +56,8 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     int clicksSeen_ = 0;
     int marksAwaited_ = 0;
     int clicksAwaited_ = 0;
+    bool pointerAwaited_ = false;  ///< over a window of this program
     bool isAsked_ = false;
-    int calm_ = 0;  ///< rounds of the event loop without news
+    int looks_ = 0;  ///< since it was asked
+    int calm_ = 0;   ///< rounds of the event loop without news
 };

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "StageWindow.h"
+
+#include "Calls.h"
+#include "Record.h"
+
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+StageWindow::StageWindow() {
+    setObjectName("Stage");
+    setWindowTitle("Stage");
+    line_->setObjectName("Call");
+    line_->setAccessibleName("Call");
+    list_->setAccessibleName("Calls");
+    for (const Call& call : Calls()) list_->addItem(call.name);
+    auto* const both = new QWidget;
+    auto* const rows = new QVBoxLayout(both);
+    rows->addWidget(line_);
+    rows->addWidget(list_);
+    setCentralWidget(both);
+    statusBar()->showMessage("Type a name and press Enter.");
+    connect(line_, &QLineEdit::textChanged, this,
+            [this](const QString& text) { ShowMatches(text); });
+    connect(line_, &QLineEdit::returnPressed, this, [this] { Open(line_->text()); });
+    connect(list_, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* item) { Open(item->text()); });
+    line_->setFocus();
+}
+
+void StageWindow::ShowMatches(const QString& part) {
+    for (int row = 0; row < list_->count(); ++row)
+        list_->item(row)->setHidden(!list_->item(row)->text().contains(part));
+}
+
+void StageWindow::Open(const QString& name) {
+    const Call* const call = FindCall(name);
+    if (call == nullptr) return Record::Got("no such call");
+    line_->selectAll();
+    const QString given = call->open(*line_);
+    Record::Got("gave", given + "");
+    statusBar()->showMessage(name + " gave " + given);
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+
+/// Opens calls by name: typed into the line or chosen from the list below it, each by Enter. Shows
+/// and records what they give.
+class StageWindow : public QMainWindow {
+  public:
+    StageWindow();
+
+    void Open(const QString& name);
+
+  private:
+    void ShowMatches(const QString& part);
+
+    QLineEdit* const line_ = new QLineEdit;
+    QListWidget* const list_ = new QListWidget;
+};
