@@ -233,9 +233,9 @@ class Monkey : public QObject {
         QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, part->mapToGlobal(at));
         for (QEvent* const event : std::initializer_list<QEvent*>{&composing, &done, &tip, &menu}) {
             if (part == nullptr) return;
-            // Input methods write into a line only while it has the focus.
+            // Only the line with the focus gets text and opens a menu.
             const bool isLine = qobject_cast<QLineEdit*>(part.data()) != nullptr;
-            if (event->type() == QEvent::InputMethod && isLine && !part->hasFocus()) continue;
+            if (event->type() != QEvent::ToolTip && isLine && !part->hasFocus()) continue;
             QCoreApplication::sendEvent(part, event);
         }
     }
