@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Pieces.h>
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/base/UpperCase.h>
 #include <halvekutils/controls/ControlHelpers.h>
 
 #include <algorithm>
@@ -44,19 +44,19 @@ void Show(HeadingControl& control, HeadingLook look) {
     control.Show(look);
 }
 
-std::u16string Folded(std::u16string text) {
-    std::ranges::transform(text, text.begin(), FoldCase);
+std::u16string Capitals(std::u16string text) {
+    std::ranges::transform(text, text.begin(), UpperCase);
     return text;
 }
 
 constexpr std::int32_t kNotFound = -1;
 
 std::int32_t IndexOf(const ComboBox& box, TextIn text, bool partialMatch, bool matchCase) {
-    const std::u16string sought = matchCase ? text.Str() : Folded(text.Str());
+    const std::u16string sought = matchCase ? text.Str() : Capitals(text.Str());
     const std::int32_t count = box.ListCount();
     for (std::int32_t index = 0; index < count; ++index) {
         std::u16string entry = box.List(index);
-        if (!matchCase) entry = Folded(std::move(entry));
+        if (!matchCase) entry = Capitals(std::move(entry));
         const bool isPart = !entry.empty() && entry.find(sought) != std::u16string::npos;
         if (partialMatch ? isPart : entry == sought) return index;
     }

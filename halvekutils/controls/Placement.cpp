@@ -33,6 +33,7 @@ std::optional<std::int32_t> Given(float position) {
 }
 
 std::int32_t PlaceAcross(const PopupAnchor& anchor, Twips width, const Span& screen) {
+    if (anchor.right) return screen.Fit(*anchor.right - width, width);
     if (!anchor.left) return screen.Centre(width);
     return screen.Fit(anchor.edge == PopupEdge::Left ? *anchor.left : *anchor.left - width, width);
 }
@@ -57,7 +58,10 @@ PopupAnchor AnchorAt(PopupEdge edge, float posLeft, float posTopUp, float posTop
 PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target) {
     const Rect place = target.Place();
     const std::int32_t left = edge == PopupEdge::Left ? place.left : place.Right();
-    return {edge, left, place.top, place.Bottom(), target.Screen()};
+    PopupAnchor anchor{edge, left, place.top, place.Bottom(), target.Screen()};
+    if (target.IsRightToLeft()) anchor.right = place.Right();
+    anchor.window = target.Window();
+    return anchor;
 }
 
 Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop) {

@@ -25,6 +25,10 @@ struct PopupAnchor {
     std::optional<std::int32_t> topUp;          ///< the target's top: the pop-up may end here
     std::optional<std::int32_t> topDown;        ///< the target's bottom: the pop-up may start here
     std::optional<Rect> screen = std::nullopt;  ///< the usable part of the target's screen
+    /// Where people read from right to left: the target's right edge, on which the pop-up's right
+    /// edge lies instead.
+    std::optional<std::int32_t> right = std::nullopt;
+    std::uint32_t window = 0;  ///< the target's window; 0 for none
 
     friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;
 };

@@ -227,6 +227,10 @@ void MessageBox::CloseWith(std::u16string_view result) {
     request_.owner = nullptr;
 }
 
+std::uint32_t MessageBox::OwnerWindow() const {
+    return request_.owner != nullptr && request_.owner->Exists() ? request_.owner->Window() : 0;
+}
+
 void MessageBox::RefreshOwner() const {
     if (request_.owner != nullptr && request_.owner->Exists()) request_.owner->Refresh();
 }

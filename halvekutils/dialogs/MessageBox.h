@@ -83,6 +83,9 @@ class HALVEK_EXPORT MessageBox : public Dialog {
     };
     /// The screen position that centres the box on its owner; absent without one.
     std::optional<Position> CentredOnOwner() const;
+
+    /// The id of the owner's window; 0 without one.
+    std::uint32_t OwnerWindow() const;
     /// How far the text is scrolled: 0 at its start, down to minus the layout's scroll range.
     std::int32_t ScrollOffset() const { return scrollOffset_; }
     /// The title, the text and the buttons as one text for the clipboard.

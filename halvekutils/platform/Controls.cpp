@@ -11,6 +11,18 @@ GridFont::~GridFont() = default;
 ComboBox::~ComboBox() = default;
 TextControl::~TextControl() = default;
 
+std::uint32_t OwnerForm::Window() const {
+    return 0;
+}
+
+bool PopupTarget::IsRightToLeft() const {
+    return false;
+}
+
+std::uint32_t PopupTarget::Window() const {
+    return 0;
+}
+
 bool TextControl::Locked() const {
     return false;
 }

@@ -37,6 +37,9 @@ class HALVEK_EXPORT OwnerForm {
     /// Repaints the window.
     virtual void Refresh() = 0;
 
+    /// The window's id, to which a dialog belongs; 0 unless overridden.
+    virtual std::uint32_t Window() const;
+
   protected:
     OwnerForm() = default;
     OwnerForm(const OwnerForm&) = default;
@@ -59,6 +62,13 @@ class HALVEK_EXPORT PopupTarget {
 
     /// False once the target is destroyed; the other members then throw ObjectNotSet.
     virtual bool Exists() const = 0;
+
+    /// True where people read from right to left: pop-ups then lie on the target's right edge.
+    /// False unless overridden.
+    virtual bool IsRightToLeft() const;
+
+    /// The id of the target's window, to which a pop-up belongs; 0 unless overridden.
+    virtual std::uint32_t Window() const;
 
   protected:
     PopupTarget() = default;

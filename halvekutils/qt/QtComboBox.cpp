@@ -2,6 +2,7 @@
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QComboBox>
 #include <QFontMetricsF>
@@ -115,7 +116,7 @@ class WidgetComboBox : public ComboBox {
     void WidenToItems() override {
         QComboBox& box = Box();
         const int text = WidestItem(box);
-        const int screen = box.screen()->availableGeometry().width();
+        const int screen = WindowOpening::UsableArea(box.screen()).width();
         Widen(*box.view(), std::min(DropDownWidth(box, text), screen));
         Widen(box, std::min(BoxWidth(box, text), screen / 2));
     }

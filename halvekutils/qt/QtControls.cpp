@@ -3,6 +3,7 @@
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QAbstractItemView>
 #include <QGuiApplication>
@@ -11,9 +12,37 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace halvek {
 
 namespace {
+
+/// 0 for a window that was never shown.
+std::uint32_t IdOf(const QWidget& widget) {
+    const QWidget* const window = widget.window();
+    const bool isThere = window->testAttribute(Qt::WA_WState_Created);
+    return isThere ? static_cast<std::uint32_t>(window->winId()) : 0;
+}
+
+/// Brings the edges of a rectangle into an area: its part inside or, when it lies outside, a line
+/// on the nearest edge.
+QRect Clamped(const QRect& rect, const QRect& area) {
+    if (area.isEmpty()) return rect;
+    const auto across = [&](int x) { return std::clamp(x, area.left(), area.right()); };
+    const auto down = [&](int y) { return std::clamp(y, area.top(), area.bottom()); };
+    return {QPoint(across(rect.left()), down(rect.top())),
+            QPoint(across(rect.right()), down(rect.bottom()))};
+}
+
+/// The part of a widget's rectangle that is in view, in the widget's coordinates: every parent may
+/// be scrolled.
+QRect InView(const QWidget& widget, QRect rect) {
+    rect = Clamped(rect, widget.rect());
+    if (widget.isWindow() || widget.parentWidget() == nullptr) return rect;
+    const QPoint offset = widget.pos();
+    return InView(*widget.parentWidget(), rect.translated(offset)).translated(-offset);
+}
 
 class WidgetOwnerForm : public OwnerForm {
   public:
@@ -24,11 +53,12 @@ class WidgetOwnerForm : public OwnerForm {
     std::int32_t Width() const override { return PixelsToTwips(Frame().width()); }
     std::int32_t Height() const override { return PixelsToTwips(Frame().height()); }
     bool Exists() const override { return window_ != nullptr; }
-    void Refresh() override { Window().repaint(); }
+    void Refresh() override { Form().repaint(); }
+    std::uint32_t Window() const override { return IdOf(Form()); }
 
   private:
-    QWidget& Window() const { return Existing(window_, u"window"); }
-    QRect Frame() const { return Window().frameGeometry(); }
+    QWidget& Form() const { return Existing(window_, u"window"); }
+    QRect Frame() const { return Form().frameGeometry(); }
 
     QPointer<QWidget> window_;
 };
@@ -39,8 +69,8 @@ class PixelTarget : public PopupTarget {
     Rect Place() const override { return ToRect(Seen()); }
     Rect Screen() const override {
         const QScreen* const screen = QGuiApplication::screenAt(Seen().center());
-        return ToRect(
-            Existing(screen != nullptr ? screen : OwnScreen(), u"screen").availableGeometry());
+        return ToRect(WindowOpening::UsableArea(
+            &Existing(screen != nullptr ? screen : OwnScreen(), u"screen")));
     }
 
   protected:
@@ -52,15 +82,19 @@ class PixelTarget : public PopupTarget {
 
 /// What a widget and a cell have in common.
 class WidgetTarget : public PixelTarget {
+  public:
+    bool IsRightToLeft() const override { return Widget().isRightToLeft(); }
+    std::uint32_t Window() const override { return IdOf(Widget()); }
+
   protected:
     /// The widget, which must exist.
     virtual const QWidget& Widget() const = 0;
-    /// The visible part of the target inside the widget.
+    /// The target's place in the widget.
     virtual QRect Inside() const = 0;
 
   private:
     QRect Seen() const override {
-        const QRect inside = Inside();
+        const QRect inside = InView(Widget(), Inside());
         return QRect(Widget().mapToGlobal(inside.topLeft()), inside.size());
     }
     const QScreen* OwnScreen() const override { return Widget().screen(); }
@@ -86,11 +120,7 @@ class CellTarget : public WidgetTarget {
 
   protected:
     const QWidget& Widget() const override { return *View().viewport(); }
-    QRect Inside() const override {
-        const QRect whole = View().visualRect(cell_);
-        const QRect seen = whole & View().viewport()->rect();
-        return seen.isEmpty() ? whole : seen;
-    }
+    QRect Inside() const override { return View().visualRect(cell_); }
 
   private:
     const QAbstractItemView& View() const {

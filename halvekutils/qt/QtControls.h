@@ -26,8 +26,9 @@ HALVEK_EXPORT std::shared_ptr<OwnerForm> AsOwnerForm(QWidget* window);
 /// @endcode
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QWidget* widget);
 
-/// A cell of a grid or list as such a target: the part of it that the view shows. Null for a null
-/// view. The target ends with the view, the row or the column of the cell.
+/// A cell of a grid or list as such a target: the part of it that the view shows or, when it is
+/// scrolled out of view, the view's edge nearest to it. Null for a null view. The target ends with
+/// the view, the row or the column of the cell.
 HALVEK_EXPORT std::shared_ptr<PopupTarget> Beside(QAbstractItemView* view, const QModelIndex& cell);
 
 /// A place on the screen as such a target, in the pixels that QWidget::mapToGlobal and

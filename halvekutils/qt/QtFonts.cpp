@@ -2,21 +2,54 @@
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/helpers/SheetRules.h>
 
 #include <QAbstractItemView>
 #include <QFontInfo>
+#include <QHeaderView>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace halvek {
 
 namespace {
 
-/// Changes one thing about a widget's font.
+QString FontRules(const QFont& font) {
+    return QStringLiteral(
+               "%1, %1 QHeaderView { font-family: \"%2\"; font-size: %3pt; font-weight: %4; "
+               "font-style: %5; }\n")
+        .arg(SheetSelector(), font.family().remove('"'))
+        .arg(font.pointSizeF())
+        .arg(font.bold() ? QStringLiteral("bold") : QStringLiteral("normal"),
+             font.italic() ? QStringLiteral("italic") : QStringLiteral("normal"));
+}
+
+bool Has(QWidget& widget, const QFont& font) {
+    widget.ensurePolished();
+    const QFont& has = widget.font();
+    return has.family() == font.family() && qFuzzyCompare(has.pointSizeF(), font.pointSizeF()) &&
+           has.bold() == font.bold() && has.italic() == font.italic();
+}
+
+/// False when a style sheet has kept the widget, or the headers of a grid, from a font.
+bool HasReached(QWidget& widget, const QFont& font) {
+    const auto headers = widget.findChildren<QHeaderView*>(QString(), Qt::FindDirectChildrenOnly);
+    return Has(widget, font) &&
+           std::ranges::all_of(headers, [&](QHeaderView* header) { return Has(*header, font); });
+}
+
+/// Changes one thing about a widget's font, which a host's style sheet must not undo.
 template <class Change>
 void ChangeFont(QWidget& widget, const Change& change) {
+    widget.ensurePolished();
     QFont font = widget.font();
     change(font);
     widget.setFont(font);
+    const bool mayNeedRules = font.pointSizeF() > 0 && !HasReached(widget, font);
+    if (mayNeedRules || HasSheetRules(widget, SheetSubject::Font)) {
+        SetSheetRules(widget, SheetSubject::Font, FontRules(font));
+    }
 }
 
 class WidgetFont : public ControlFont {

@@ -4,6 +4,7 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/HeadingBorder.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/SheetRules.h>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -14,22 +15,35 @@ namespace halvek {
 
 namespace {
 
-// A style sheet, because the host may have one, which would override a palette. Our rules follow
-// the host's own after a mark. Each condition weighs a sixteenth of a name, so this many override
-// any rule that a host writes.
-constexpr char kProperty[] = "halvekHeading";
-constexpr QLatin1String kCondition("[halvekHeading=\"true\"]");
-constexpr int kConditions = 64;
-constexpr QLatin1String kMark("\n/* heading */\n");
-
-QString SheetOfHost(const QWidget& widget) {
-    const QString sheet = widget.styleSheet().section(kMark, 0, 0);
-    // A style sheet cannot mix rules with declarations that have no selector.
-    const bool isBare = !sheet.trimmed().isEmpty() && !sheet.contains(QLatin1Char('{'));
-    return isBare ? QStringLiteral("* {%1}").arg(sheet) : sheet;
+QString Padding(const QSize& taken) {
+    const int left = taken.width() / 2;
+    const int top = taken.height() / 2;
+    return QStringLiteral("border: none; padding: %1px %2px %3px %4px; ")
+        .arg(top)
+        .arg(taken.width() - left)
+        .arg(taken.height() - top)
+        .arg(left);
 }
 
-QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palette) {
+/// A padding in place of a label's own frame and padding: without them the label would shrink.
+QString FrameOf(QWidget& label) {
+    constexpr char kFrame[] = "halvekFrame";
+    if (label.property(kFrame).isValid()) return label.property(kFrame).toString();
+    label.ensurePolished();
+    const QSize framed = label.sizeHint();
+    const auto sizeWith = [&](const QSize& taken) {
+        SetSheetRules(label, SheetSubject::Heading,
+                      QStringLiteral("%1 { %2 }\n").arg(SheetSelector(), Padding(taken)));
+        return label.sizeHint();
+    };
+    QSize taken = framed - sizeWith({0, 0});
+    // A label that has a frame or padding indents its text, too.
+    taken -= sizeWith(taken) - framed;
+    label.setProperty(kFrame, Padding(taken.expandedTo({0, 0})));
+    return label.property(kFrame).toString();
+}
+
+QString RulesOf(const HeadingLook& look, const QString& frame, const QPalette& palette) {
     QColor fore = ToQColor(look.fore, palette);
     QString back = QStringLiteral("none");
     if (look.back) {
@@ -37,12 +51,10 @@ QString RulesOf(const HeadingLook& look, HeadingKind kind, const QPalette& palet
         fore = design::Visible(fore, ground, design::kMinHostContrast);
         back = ground.name();
     }
-    const bool isLabel = kind == HeadingKind::Label;
     return QStringLiteral(
                "%1 { background: %2; color: %3; %4}\n"
-               "%1:disabled { color: rgba(%5, %6, %7, 50%); }")
-        .arg(QString(kCondition).repeated(kConditions), back, fore.name(),
-             isLabel ? QStringLiteral("border: none; ") : QString())
+               "%1:disabled { color: rgba(%5, %6, %7, 50%); }\n")
+        .arg(SheetSelector(), back, fore.name(), frame)
         .arg(fore.red())
         .arg(fore.green())
         .arg(fore.blue());
@@ -73,13 +85,10 @@ class WidgetHeading : public HeadingControl {
 
     void Show(const HeadingLook& look) override {
         QWidget& control = Control();
-        const QString sheet =
-            SheetOfHost(control) + kMark + RulesOf(look, Kind(), control.palette());
-        if (control.styleSheet() != sheet) {
-            control.setProperty(kProperty, true);
-            control.setStyleSheet(sheet);
-            control.setAutoFillBackground(false);  // last: a style sheet may put it on again
-        }
+        const bool isLabel = Kind() == HeadingKind::Label;
+        const QString frame = isLabel ? FrameOf(control) : QString();
+        SetSheetRules(control, SheetSubject::Heading, RulesOf(look, frame, control.palette()));
+        control.setAutoFillBackground(false);  // last: a style sheet may put it on again
         if (!look.back && Kind() != HeadingKind::Label) {
             KeepMarkReadable(control, ToQColor(look.fore, control.palette()));
         }

@@ -14,8 +14,8 @@
 #include <halvekutils/qt/help/HelpViewer.h>
 #include <halvekutils/qt/helpers/CloseBox.h>
 #include <halvekutils/qt/helpers/Metrics.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
 #include <halvekutils/qt/helpers/PlainTextLayout.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -30,8 +30,6 @@ namespace halvek {
 
 namespace {
 
-constexpr Size kTypicalFrame = {120, 450};
-
 void RequireUserInterfaceThread() {
     const auto* const app = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (app == nullptr) throw RuntimeError(Fault::ObjectNotSet, u"QApplication");
@@ -42,7 +40,7 @@ void RequireUserInterfaceThread() {
 
 Rect UsableRect(const QScreen* screen) {
     if (screen == nullptr) throw RuntimeError(Fault::DeviceError, u"no screen");
-    return ToRect(screen->availableGeometry());
+    return ToRect(WindowOpening::UsableArea(screen));
 }
 
 /// Substitutes an installed face for one that the dialogs use and the desktop may lack.
@@ -59,15 +57,35 @@ struct QtPlatform::Private {
         return *help;
     }
 
+    void ShowModeless(const std::shared_ptr<MessageBox>& box);
+    void Drop(const frmMessageBox* window) {
+        std::erase_if(modeless, [&](const auto& open) { return open.get() == window; });
+    }
+
     std::unique_ptr<HelpViewer> help;
     std::vector<std::unique_ptr<frmMessageBox>> modeless;
     std::unique_ptr<frmDebug> debug;
 };
 
+void QtPlatform::Private::ShowModeless(const std::shared_ptr<MessageBox>& box) {
+    frmMessageBox* const window = modeless.emplace_back(std::make_unique<frmMessageBox>(box)).get();
+    // Later, not at once: the window is still running the code that emits this.
+    QObject::connect(
+        window, &frmMessageBox::Ended, window, [this, window] { Drop(window); },
+        Qt::QueuedConnection);
+    try {
+        window->ShowModeless();
+    } catch (...) {
+        Drop(window);
+        throw;
+    }
+}
+
 QtPlatform::QtPlatform() : d_(std::make_unique<Private>()) {
     RequireUserInterfaceThread();
     SubstituteFace(QStringLiteral("Tahoma"), QFontDatabase::GeneralFont);
     SubstituteFace(QStringLiteral("Courier New"), QFontDatabase::FixedFont);
+    WindowOpening::OfApplication();  // from now on it knows the active window
     Install();
 }
 
@@ -116,7 +134,7 @@ Size QtPlatform::ScreenSize() const {
 }
 
 Rect QtPlatform::ScreenRect() const {
-    return UsableRect(CurrentScreen());
+    return UsableRect(WindowOpening::OfApplication().Screen());
 }
 
 Rect QtPlatform::ScreenRectAt(Point point) const {
@@ -126,11 +144,7 @@ Rect QtPlatform::ScreenRectAt(Point point) const {
 }
 
 Size QtPlatform::FrameSize() const {
-    // A window manager reports frame sizes only for windows on the screen.
-    const QWidget* const owner = CurrentOwner();
-    if (owner == nullptr) return kTypicalFrame;
-    const QSize added = owner->frameGeometry().size() - owner->geometry().size();
-    if (added.height() <= 0) return kTypicalFrame;
+    const QSize added = WindowOpening::FrameSize();
     return {PixelsToTwips(added.width()), PixelsToTwips(added.height())};
 }
 
@@ -162,17 +176,7 @@ void QtPlatform::Show(const std::shared_ptr<MessageBox>& box, Modality modality)
         frmMessageBox(box).ShowModal();
         return;
     }
-    auto form = std::make_unique<frmMessageBox>(box);
-    frmMessageBox* const window = form.get();
-    d_->modeless.push_back(std::move(form));
-    // Later, not at once: the window is still running the code that emits this.
-    QObject::connect(
-        window, &frmMessageBox::Ended, window,
-        [this, window] {
-            std::erase_if(d_->modeless, [&](const auto& open) { return open.get() == window; });
-        },
-        Qt::QueuedConnection);
-    window->ShowModeless();
+    d_->ShowModeless(box);
     box->ShownModeless();
 }
 

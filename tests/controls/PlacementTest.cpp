@@ -26,9 +26,12 @@ struct Target : PopupTarget {
     Rect Place() const override { return place_; }
     Rect Screen() const override { return screen_; }
     bool Exists() const override { return true; }
+    bool IsRightToLeft() const override { return isRightToLeft; }
+    std::uint32_t Window() const override { return 7; }
 
     Rect place_;
     Rect screen_;
+    bool isRightToLeft = false;
 };
 
 TEST(Placement, BesideATargetStaysWhollyOnItsScreen) {
@@ -51,6 +54,18 @@ TEST(Placement, BesideATargetStaysWhollyOnItsScreen) {
         const PopupAnchor anchor = AnchorBeside(edge, Target(target, screen));
         EXPECT_EQ(PlacePopup(anchor, outer, *anchor.screen), expected) << where;
     }
+}
+
+TEST(Placement, AlignsRightEdgesWherePeopleReadFromRightToLeft) {
+    Target target({8000, 4000, 1000, 400}, kMain);
+    target.isRightToLeft = true;
+    for (const PopupEdge edge : {kLeft, kRight}) {
+        const PopupAnchor anchor = AnchorBeside(edge, target);
+        EXPECT_EQ(PlacePopup(anchor, kPopup, kMain), (Point{5000, 4400}));
+        EXPECT_EQ(anchor.window, 7u);
+    }
+    // A host that only asks for the coordinates passes them on as they are.
+    EXPECT_EQ(AnchorBeside(kLeft, target).left, 8000);
 }
 
 TEST(Placement, TakesAHostsPositionsAndCentresWhatIsNotGiven) {

@@ -3,12 +3,15 @@
 #include "tests/qt/FormTest.h"
 
 #include <halvekutils/qt/QtControls.h>
+#include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <qtestspontaneevent.h>
 
 namespace halvek {
@@ -73,6 +76,67 @@ TEST_F(ControlHelpersFormTest, AHighlightWhoseColorsAreAlikeIsReadable) {
     }
 }
 
+TEST_F(ControlHelpersFormTest, ALabelWithAFrameKeepsItsSizeWhenItIsHighlighted) {
+    for (const QString sheet : {"", "QLabel { border: 2px solid red; padding: 1px 3px; }"}) {
+        QLabel label("IIII");
+        label.setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        label.setLineWidth(3);
+        label.setStyleSheet(sheet);
+        label.ensurePolished();
+        const QSize before = label.sizeHint();
+        utils_->HighlightHeading(AsHeading(&label));
+        EXPECT_EQ(label.sizeHint(), before);
+        utils_->UnhighlightHeading(AsHeading(&label));
+        EXPECT_EQ(label.sizeHint(), before);
+    }
+}
+
+TEST_F(ControlHelpersFormTest, AStyleSheetOfTheHostsDoesNotDefeatFonts) {
+    for (const QString sheet : {"* { font: 20pt \"DejaVu Serif\"; }", "QLabel { font-size: 15px }",
+                                "QTableView, QHeaderView { font: italic bold 20pt }", ""}) {
+        QWidget form;
+        form.setStyleSheet(sheet);
+        QLabel label("IIII", &form);
+        QTableView grid(&form);
+        EXPECT_TRUE(utils_->SetFontProperties(FontOf(&label), u"DejaVu Sans", 9));
+        utils_->HighlightHeading(AsHeading(&label));
+        EXPECT_EQ(label.font().family(), "DejaVu Sans");
+        EXPECT_EQ(label.fontInfo().pointSizeF(), 9);
+        for (const QString code : {"4", "8", "0"}) {
+            utils_->GridSetFontObject(GridFontOf(&grid), code);
+            for (QWidget* const part :
+                 {static_cast<QWidget*>(&grid), static_cast<QWidget*>(grid.horizontalHeader())}) {
+                part->ensurePolished();
+                EXPECT_EQ(part->font().pointSize(), 8 + code.toInt() / 3 * 2)
+                    << sheet.toStdString();
+                EXPECT_EQ(part->font().bold(), code == "4");
+                EXPECT_EQ(part->font().italic(), code == "8");
+            }
+        }
+    }
+}
+
+TEST_F(ControlHelpersFormTest, ACellOutOfViewCountsAsTheEdgeNearestToIt) {
+    QWidget form;
+    form.setGeometry(100, 100, 300, 300);
+    QTableWidget grid(50, 2, &form);
+    grid.setGeometry(0, 0, 300, 200);
+    form.show();
+    const auto view = [&] {
+        const QWidget& seen = *grid.viewport();
+        return QRect(seen.mapToGlobal(QPoint()), seen.size());
+    };
+    const auto placeOf = [&](int row) {
+        return ToQRect(Beside(&grid, grid.model()->index(row, 0))->Place());
+    };
+    EXPECT_EQ(placeOf(40).top(), view().bottom());
+    EXPECT_EQ(placeOf(40).left(), view().left());
+    grid.scrollToBottom();
+    EXPECT_EQ(placeOf(0).bottom(), view().top());
+    grid.move(0, 250);  // the form's edge now cuts the view
+    EXPECT_EQ(placeOf(49).top(), form.geometry().bottom());
+}
+
 TEST_F(ControlHelpersFormTest, ComboBoxesAreFilledAndSearched) {
     QComboBox box;
     const std::pair<TextIn, int> fillings[] = {{u"A:B:", 2}, {u":", 1}, {u"", 0}};
@@ -80,12 +144,22 @@ TEST_F(ControlHelpersFormTest, ComboBoxesAreFilledAndSearched) {
         EXPECT_TRUE(utils_->FillCombo(items, AsComboBox(&box)));
         EXPECT_EQ(box.count(), count);
     }
-    const QString items = ":Adams:Zo\u00eb:ZO\u00cb:" + QString(60, 'W');
+    const QString items =
+        ":Adams:Zo\u00eb:ZO\u00cb:" + QString(60, 'W') +
+        ":\u0141\u00f3d\u017a:\u0386\u03bd\u03bd\u03b1\u03c2:\u0416anna:\u0131\u015f\u0131k";
     EXPECT_TRUE(utils_->FillCombo(items, AsComboBox(&box), true));
     EXPECT_GT(std::min(box.minimumWidth(), box.view()->minimumWidth()), 300);
     const std::tuple<TextIn, bool, bool, int> searches[] = {
-        {u"Adams", false, true, 1}, {u"zo\u00cb", false, false, 2}, {u"O\u00cb", true, true, 3},
-        {u"", true, true, 1},       {u"O\u00cb", true, false, 2},   {u"", false, true, 0}};
+        {u"Adams", false, true, 1},
+        {u"zo\u00cb", false, false, 2},
+        {u"O\u00cb", true, true, 3},
+        {u"", true, true, 1},
+        {u"O\u00cb", true, false, 2},
+        {u"", false, true, 0},
+        {u"\u0142\u00d3D\u0179", false, false, 5},
+        {u"\u03ac\u039d\u039d\u0391\u03a3", false, false, 6},
+        {u"\u0436ANNA", false, false, 7},
+        {u"I\u015eIK", false, false, 8}};
     for (const auto& [text, part, matchCase, found] : searches) {
         EXPECT_EQ(utils_->FindInCombo(AsComboBox(&box), text, part, matchCase), found);
         EXPECT_EQ(utils_->FindInCombo(AsComboBox(&box), u"Adamson", part, matchCase), -1);

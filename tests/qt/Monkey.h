@@ -2,13 +2,18 @@
 #pragma once
 
 #include "tests/qt/User.h"
-#include "tests/stage/Calls.h"
 
+#include <QAbstractScrollArea>
 #include <QClipboard>
 #include <QDrag>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QPointer>
+#include <QStyleFactory>
 #include <QWheelEvent>
 
+#include <climits>
 #include <csignal>
 #include <cstdio>
 #include <random>
@@ -17,25 +22,55 @@ extern "C" [[gnu::weak]] void __sanitizer_set_death_callback(void (*callback)())
 
 namespace halvek {
 
-/// Sends random keys, clicks, drags, wheel turns and close requests to the window in front, in
-/// every event loop that runs, until its steps are used up; then it only closes windows. A process
-/// that dies prints the last acts.
-class Monkey {
+/// A call of the library that the monkey may make, also while another one is open.
+struct MonkeyCall {
+    QString name;
+    QString ownKeys;  ///< that mean something to its window, pressed often
+    std::function<void(class Monkey& monkey, QWidget& owner)> open;
+};
+
+/// Uses every window as nobody ever would, in every event loop that runs, until its acts are used
+/// up; then it only closes windows. Keys, clicks, drags, absurd wheels and input methods; owners
+/// that go, windows that close while they open, quitting, fifty dialogs in each other, new styles,
+/// palettes, fonts and style sheets. A process that dies prints the last acts.
+class Monkey : public QObject {
   public:
-    /// @param ownKeys  keys that mean something to the window, pressed often
-    Monkey(unsigned seed, int steps, QString ownKeys)
-        : random_(seed), seed_(seed), steps_(steps), ownKeys_(std::move(ownKeys)) {
+    Monkey(unsigned seed, int acts, std::vector<MonkeyCall> calls)
+        : random_(seed), seed_(seed), steps_(acts), calls_(std::move(calls)) {
         current_ = this;
         if (__sanitizer_set_death_callback != nullptr) __sanitizer_set_death_callback(Tell);
         std::signal(SIGABRT, [](int) { Tell(); });
-        QObject::connect(&turns_, &QTimer::timeout, [this] { Turn(); });
-        turns_.start(0);
+        qApp->installEventFilter(this);
     }
-    ~Monkey() { current_ = nullptr; }
+    ~Monkey() override {
+        current_ = nullptr;
+        Dress("", "Fusion");
+        QApplication::setPalette(QPalette());
+        QApplication::setFont(font_);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
     Q_DISABLE_COPY(Monkey)
 
+    /// Opens calls and plays with them until all acts are done. A quit ends the application's loop;
+    /// the next round starts another.
+    void Play() {
+        QObject::connect(&turns_, &QTimer::timeout, [this] { Turn(); });
+        turns_.start(0);
+        while (!IsDone() && !::testing::Test::HasFailure()) {
+            QTimer::singleShot(0, this, [this] {
+                Call();
+                QCoreApplication::exit();
+            });
+            QCoreApplication::exec();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        turns_.stop();
+        owners_.clear();
+    }
+
     bool IsDone() const { return step_ >= steps_; }
-    const QString& LastAct() const { return acts_[(step_ - 1) % kKept]; }
+    bool HasJust(const char* act) const { return acts_[(step_ + kKept - 1) % kKept].contains(act); }
+    int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
 
     /// The seed, the step and the last acts.
     std::string Trail() const {
@@ -46,17 +81,30 @@ class Monkey {
 
     /// Acts on a window that is not modal until it is closed.
     void PlayWith(QWidget& window) {
-        for (window_ = &window; window.isVisible();) QCoreApplication::processEvents();
+        const QPointer<QWidget> before = std::exchange(window_, &window);
+        const QPointer<QWidget> shown = &window;
+        while (shown != nullptr && shown->isVisible()) QCoreApplication::processEvents();
+        window_ = before;
+    }
+
+    /// Sometimes closes a dialog in the middle of its opening.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* const dialog = qobject_cast<QDialog*>(watched);
+        if (event->type() == QEvent::Show && dialog != nullptr && Below(20) == 0) {
+            Note(*dialog, "closes while it opens");
+            dialog->reject();
+        }
+        return false;
     }
 
   private:
     static constexpr int kKept = 20;
+    static constexpr int kDeepest = 50;
 
     static void Tell() {
         if (current_ != nullptr) std::fputs(current_->Trail().c_str(), stderr);
         current_ = nullptr;
     }
-    int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
     template <class List>
     auto Any(const List& list) {
         return std::data(list)[Below(static_cast<int>(std::size(list)))];
@@ -64,7 +112,28 @@ class Monkey {
     QPoint Place(const QWidget& window) { return {Below(window.width()), Below(window.height())}; }
 
     QWidget* Front() const {
-        return ::Front(window_ != nullptr && window_->isVisible() ? window_.data() : nullptr);
+        if (QWidget* const popup = QApplication::activePopupWidget()) return popup;
+        if (QWidget* const modal = QApplication::activeModalWidget()) return modal;
+        return window_ != nullptr && window_->isVisible() ? window_.data() : nullptr;
+    }
+
+    /// Opens any call from a host's window, which may go while it is open.
+    void Call() {
+        const MonkeyCall& call =
+            calls_[static_cast<std::size_t>(Below(static_cast<int>(calls_.size())))];
+        auto owner = std::make_unique<QWidget>();
+        owner->setObjectName("owner");
+        owner->setGeometry(Below(1000) - 100, Below(800) - 100, 300, 200);
+        owner->show();
+        QWidget& window = *owner;
+        owners_.push_back(std::move(owner));
+        const QString keys = std::exchange(ownKeys_, call.ownKeys);
+        ++depth_;
+        call.open(*this, window);
+        --depth_;
+        ownKeys_ = keys;
+        ASSERT_FALSE(::testing::Test::HasFailure()) << call.name.toStdString() << ", " << Trail();
+        if (!owners_.empty() && Below(3) == 0) owners_.pop_back();
     }
 
     /// A few acts, faster than windows are painted.
@@ -76,11 +145,15 @@ class Monkey {
         if (front == nullptr) return QDrag::cancel();
         for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
             if (!front->isActiveWindow()) return Activate(*front);
+            waits_ = 0;
             Act(*front);
         }
     }
 
-    static void Activate(QWidget& window) {
+    void Activate(QWidget& window) {
+        constexpr int kPatientWaits = 20;
+        if (++waits_ > kPatientWaits) window.setWindowState(Qt::WindowNoState);
+        if (waits_ > 2 * kPatientWaits) window.close();
         const QWindow& handle = *window.windowHandle();
         if (!handle.flags().testFlag(Qt::WindowDoesNotAcceptFocus)) window.activateWindow();
     }
@@ -88,9 +161,11 @@ class Monkey {
     void Act(QWidget& window) {
         if (step_ > steps_ + kPatience) qFatal("a window stays open");
         const int dice = IsDone() ? 0 : Below(1000);
-        if (dice < 4) return End(window);
-        if (dice < 35) return UseMouse(window);
-        if (dice < 45) return Paste(window);
+        if (dice < 8) return End(window);
+        if (dice < 20) return Disturb(window);
+        if (dice < 60) return UseMouse(window);
+        if (dice < 75) return Paste(window);
+        if (dice < 85) return Compose(window);
         static constexpr Qt::KeyboardModifier kModifiers[] = {
             Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier, Qt::KeypadModifier};
         static constexpr int kEditing[] = {
@@ -122,8 +197,109 @@ class Monkey {
 
     void Paste(QWidget& window) {
         static const QString kTexts[] = {"1", "-2.5", "$1,234.50", "A,C", "x\n\t<b>", "1.234,5"};
-        QApplication::clipboard()->setText(Any(kTexts));
+        const bool isHuge = Below(300) == 0;
+        QMimeData* const data = new QMimeData;
+        data->setText(isHuge ? QString(50'000'000, 'A') : Any(kTexts));
+        if (QWidget* const part = PartOf(window); part != nullptr && Below(3) == 0) {
+            Note(window, "drops a text");
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(part, &enter);
+            QDropEvent drop({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+            if (enter.isAccepted()) QCoreApplication::sendEvent(part, &drop);
+            delete data;
+            return;
+        }
+        QApplication::clipboard()->setMimeData(data);
         Press(window, Qt::CTRL | Qt::Key_V);
+    }
+
+    /// A control of the window; null if it was none or a hidden one.
+    QWidget* PartOf(QWidget& window) {
+        const auto parts = window.findChildren<QWidget*>();
+        QWidget* const part = parts.isEmpty() ? &window : Any(parts);
+        return part->isVisible() && part->window() == &window ? part : nullptr;
+    }
+
+    /// What an input method writes before it is sure, then for good; a tool tip; a context menu.
+    void Compose(QWidget& window) {
+        const QPointer<QWidget> part = PartOf(window);
+        if (part == nullptr) return;
+        Note(window, "input method, tool tip and menu on " + part->objectName());
+        const QPoint at = part->rect().center();
+        QInputMethodEvent composing("\u3042", {{QInputMethodEvent::Cursor, 1, 1, {}}});
+        QInputMethodEvent done;
+        done.setCommitString("1\u3042");
+        QHelpEvent tip(QEvent::ToolTip, at, part->mapToGlobal(at));
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, part->mapToGlobal(at));
+        for (QEvent* const event : std::initializer_list<QEvent*>{&composing, &done, &tip, &menu}) {
+            if (part == nullptr) return;
+            // Only the line with the focus gets text and opens a menu.
+            const bool isLine = qobject_cast<QLineEdit*>(part.data()) != nullptr;
+            if (event->type() != QEvent::ToolTip && isLine && !part->hasFocus()) continue;
+            QCoreApplication::sendEvent(part, event);
+        }
+    }
+
+    static void Dress(const QString& sheet, const QString& style) {
+        qApp->setStyleSheet(sheet);
+        QApplication::setStyle(QStyleFactory::create(style));
+    }
+
+    /// What a host or a desktop may do at any time.
+    void Disturb(QWidget& window) {
+        static const QString kSheets[] = {
+            "", "* { font: 14pt; color: red; }",
+            "QWidget { background: black; border: 3px solid red }",
+            "QPushButton { padding: 9px } QLabel:hover, QTextEdit { font: bold 30pt }",
+            "QAbstractScrollArea, QLineEdit { border: none; margin: 40px }"};
+        static const QString kStyles[] = {"Fusion", "Windows"};
+        static constexpr Qt::WindowState kStates[] = {Qt::WindowMinimized, Qt::WindowMaximized,
+                                                      Qt::WindowFullScreen, Qt::WindowNoState};
+        const QPointer<QWidget> alive = &window;
+        switch (Below(12)) {
+            case 0:
+            case 1:
+            case 2:
+                if (depth_ >= kDeepest) return;
+                Note(window, "opens another call");
+                return Call();
+            case 3:
+                Note(window, "an owner goes");
+                if (!owners_.empty())
+                    owners_.erase(owners_.begin() + Below(static_cast<int>(owners_.size())));
+                return;
+            case 4:
+                Note(window, "quit");
+                return Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1);
+            case 5:
+                Note(window, "a style sheet or style");
+                return Dress(Any(kSheets), Any(kStyles));
+            case 6:
+                Note(window, "a palette");
+                return QApplication::setPalette(
+                    QPalette(QColor(Below(256), Below(256), 0), QColor(0, Below(256), Below(256))));
+            case 7: {
+                Note(window, "a font");
+                QFont font = font_;
+                font.setPointSize(6 + Below(30));
+                return QApplication::setFont(font);
+            }
+            case 8:
+                Note(window, "moves and grows");
+                window.move(Below(4000) - 2000, Below(4000) - 2000);
+                if (alive != nullptr) window.resize(Below(3000), Below(3000));
+                return;
+            case 9:
+                Note(window, "another state");
+                return window.setWindowState(Any(kStates));
+            case 10:
+                Note(window, "right to left or back");
+                return QGuiApplication::setLayoutDirection(Below(2) == 0 ? Qt::RightToLeft
+                                                                         : Qt::LeftToRight);
+            default:
+                Note(window, "hidden by its host");
+                window.hide();
+        }
     }
 
     /// Clicks, double clicks, drags and wheel turns, on a control or anywhere.
@@ -140,7 +316,8 @@ class Monkey {
         const char* const kind = hit->parent()->metaObject()->className();
         Note(window, QStringLiteral("mouse on %1 in %2").arg(hit->objectName(), kind));
         if (Below(3) == 0) {
-            const QPoint turn(0, 120 - 240 * Below(2));
+            static constexpr int kTurns[] = {120, -120, 120, -120, 1, INT_MAX, INT_MIN};
+            const QPoint turn(0, Any(kTurns));
             QWheelEvent wheel(hit->mapFrom(&window, at), window.mapToGlobal(at), {}, turn, {},
                               Below(9) > 0 ? Qt::NoModifier : Qt::ControlModifier, {}, false);
             QCoreApplication::sendEvent(hit, &wheel);
@@ -173,9 +350,12 @@ class Monkey {
 
     std::mt19937 random_;
     unsigned seed_;
-    int steps_, step_ = 0, time_ = 0;
-    QString ownKeys_, acts_[kKept];
+    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0;
+    std::vector<MonkeyCall> calls_;
+    std::vector<std::unique_ptr<QWidget>> owners_;
+    QString ownKeys_ = "A", acts_[kKept];
     QPointer<QWidget> window_;
+    QFont font_ = QApplication::font();
     QTimer turns_;
 };
 

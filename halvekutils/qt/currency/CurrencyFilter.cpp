@@ -17,6 +17,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPointer>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -100,8 +101,14 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
         case QEvent::MouseButtonPress:
             if (line.hasFocus()) Enter(line);
             return false;
-        case QEvent::ContextMenu:
         case QEvent::InputMethod:
+            // Qt would write into a locked field.
+            if (line.isReadOnly()) {
+                event.ignore();
+                return true;
+            }
+            [[fallthrough]];
+        case QEvent::ContextMenu:
             Enter(line);
             if (self != nullptr) MakeBare(line);
             return false;
@@ -191,8 +198,10 @@ void CurrencyFilter::MakeBare(QLineEdit& line) {
 void CurrencyFilter::Write(QLineEdit& line, const QString& text) {
     const QPointer<CurrencyFilter> self(this);
     isWriting_ = true;
+    const auto written = qScopeGuard([&] {
+        if (self != nullptr) isWriting_ = false;
+    });
     SetText(line, text);
-    if (self != nullptr) isWriting_ = false;
 }
 
 QString CurrencyFilter::TextShown(const QString& text) const {

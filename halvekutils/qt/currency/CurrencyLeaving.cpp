@@ -156,9 +156,9 @@ void CurrencyFilter::EndEditing(QLineEdit& line) {
 void CurrencyFilter::HandBack(QLineEdit& line) {
     if (editing_ || given_.isNull() || given_ == line.text()) return;
     const QSignalBlocker quiet(line);
+    QMetaObject::invokeMethod(this, &CurrencyFilter::ShowAgain, Qt::QueuedConnection);
     isHandedBack_ = true;
     Write(line, given_);
-    QMetaObject::invokeMethod(this, &CurrencyFilter::ShowAgain, Qt::QueuedConnection);
 }
 
 void CurrencyFilter::HandBackSoon() {

@@ -54,9 +54,9 @@ void CurrencyWatch::Remove(const CurrencyFilter& field) {
 }
 
 void CurrencyWatch::RefuseThisPress() {
-    refusesPress_ = true;
     QMetaObject::invokeMethod(
         this, [this] { refusesPress_ = false; }, Qt::QueuedConnection);
+    refusesPress_ = true;
 }
 
 bool CurrencyWatch::eventFilter(QObject* watched, QEvent* event) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/DebugTextView.h>
 #include <halvekutils/qt/helpers/FieldOutline.h>
+#include <halvekutils/qt/helpers/InputMethodRefusal.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QTextCursor>
@@ -56,6 +57,7 @@ DebugTextView::DebugTextView(const DebugConsole& console, QWidget* parent)
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
     setUndoRedoEnabled(false);
+    new InputMethodRefusal(*this);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 

@@ -28,33 +28,59 @@ DialogForm::~DialogForm() {
 
 void DialogForm::ShowModal() {
     Follow();
-    show_.Modal([this](const QWidget* owner) { return PlaceOf(owner); });
+    show_.Modal(OwnerAsked(), [this](const QWidget* owner) { return PlaceOf(owner); });
 }
 
 void DialogForm::ShowModeless() {
     Follow();
-    show_.Modeless([this](const QWidget* owner) { return PlaceOf(owner); });
+    show_.Modeless(OwnerAsked(), [this](const QWidget* owner) { return PlaceOf(owner); });
 }
 
 // Only once the window is shown: a form under construction lacks some parts.
 void DialogForm::Follow() {
-    const auto follow = [this] {
+    rules_->Changed = [this] { ShowRules(); };
+    ShowRules();
+}
+
+// A dialog that has ended leaves the screen even if its last state cannot be shown.
+void DialogForm::ShowRules() {
+    try {
         Refresh();
-        if (rules_->IsOpen()) return;
+    } catch (...) {
+        EndShow();
+        throw;
+    }
+    EndShow();
+}
+
+void DialogForm::EndShow() {
+    if (rules_->IsOpen()) return;
+    try {
         show_.End();
+    } catch (...) {
         emit Ended();
-    };
-    rules_->Changed = follow;
-    follow();
+        throw;
+    }
+    emit Ended();
 }
 
 QPoint DialogForm::PlaceOf(const QWidget*) const {
-    return place_;
+    const bool isFramed = isVisible() && frameGeometry() != geometry();
+    const Size outer = isFramed ? Size{PixelsToTwips(frameGeometry().width()),
+                                       PixelsToTwips(frameGeometry().height())}
+                                : outer_;
+    const Point corner = PlacePopup(anchor_, outer, screen_);
+    return {TwipsToPixels(corner.left), TwipsToPixels(corner.top)};
+}
+
+QWidget* DialogForm::OwnerAsked() const {
+    return QWidget::find(anchor_.window);
 }
 
 void DialogForm::OpenAt(const PopupAnchor& anchor, Size outer, const Desktop& desktop) {
-    const Point corner = PlacePopup(anchor, outer, ScreenOf(anchor, desktop));
-    place_ = QPoint(TwipsToPixels(corner.left), TwipsToPixels(corner.top));
+    anchor_ = anchor;
+    screen_ = ScreenOf(anchor, desktop);
+    outer_ = outer;
 }
 
 void DialogForm::reject() {

@@ -44,10 +44,12 @@ class DialogForm : public QDialog {
     /// Shows what the rules say: once before the window opens, then after every change.
     virtual void Refresh() = 0;
 
-    /// The top left corner, with the frame, where the window opens; by default the one that OpenAt
-    /// found.
+    /// The top left corner, with the frame, where the window opens; by default as OpenAt asked.
     virtual QPoint PlaceOf(const QWidget* owner) const;
-    /// Places the window, of this size with its frame, as a pop-up.
+    /// The host's window that the dialog is about; null when the host does not say.
+    virtual QWidget* OwnerAsked() const;
+    /// Places the window as a pop-up. `outer` is its size with the frame that it is expected to
+    /// get.
     void OpenAt(const PopupAnchor& anchor, Size outer, const Desktop& desktop);
 
     // Reached by keys that no control took: Escape closes, Enter presses the button with the focus.
@@ -56,11 +58,15 @@ class DialogForm : public QDialog {
 
   private:
     void Follow();
+    void ShowRules();
+    void EndShow();
     void Abandon();
 
     std::shared_ptr<Dialog> rules_;
     const char16_t* name_;
-    QPoint place_;
+    PopupAnchor anchor_;
+    Rect screen_;  ///< the usable area
+    Size outer_;   ///< expected
     DialogShow show_{*this, [this] { Abandon(); }};
 };
 

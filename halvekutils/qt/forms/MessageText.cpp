@@ -3,6 +3,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/forms/MessageText.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/InputMethodRefusal.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QClipboard>
@@ -19,6 +20,7 @@ MessageText::MessageText(const MessageBox& box, QWidget* parent) : QTextEdit(par
     setAccessibleName(tr("Message"));
     setReadOnly(true);
     setUndoRedoEnabled(false);
+    new InputMethodRefusal(*this);
     setFocusPolicy(Qt::NoFocus);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setFrameShape(QFrame::NoFrame);

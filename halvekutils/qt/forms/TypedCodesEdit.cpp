@@ -67,7 +67,7 @@ void TypedCodesEdit::TidyInserted(const QString& before) {
 void TypedCodesEdit::Refresh() {
     const TypedCodesBox& box = rules_.Box();
     setEnabled(box.enabled);
-    if (std::exchange(shownVersion_, rules_.BoxVersion()) == rules_.BoxVersion()) return;
+    if (shownVersion_ == rules_.BoxVersion()) return;
     const QScopedValueRollback mirroring(mirroring_, true);
     // Every change of a line edit costs time in proportion to its text.
     const bool tooLong = box.text.size() > kMaxEdited;
@@ -84,6 +84,7 @@ void TypedCodesEdit::SelectAsRulesDo() {
     const TypedCodesBox& box = rules_.Box();
     setCursorPosition(box.caret);
     if (box.selected > 0) setSelection(box.caret, box.selected);
+    shownVersion_ = rules_.BoxVersion();
 }
 
 bool TypedCodesEdit::MayBeLeft() {
@@ -130,6 +131,11 @@ void TypedCodesEdit::mousePressEvent(QMouseEvent* event) {
 void TypedCodesEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     commaIsDown_ = false;
+}
+
+// Qt would write into a box that is too long to be edited.
+void TypedCodesEdit::inputMethodEvent(QInputMethodEvent* event) {
+    isReadOnly() ? event->ignore() : QLineEdit::inputMethodEvent(event);
 }
 
 void TypedCodesEdit::keyPressEvent(QKeyEvent* event) {

@@ -8,7 +8,7 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QMouseEvent>
 
@@ -47,7 +47,7 @@ QWidget* frmCalculator::FocusedControl() const {
 QPoint frmCalculator::PlaceOf(const QWidget* owner) const {
     const Size frame = desktop_.FrameSize();
     const QSize added(TwipsToPixels(frame.width), TwipsToPixels(frame.height));
-    return CentredPlace(sizeHint() + added, owner).topLeft();
+    return WindowOpening::OfApplication().Centred(sizeHint() + added, owner).topLeft();
 }
 
 void frmCalculator::HookedKeyDown(int KeyCode) {

@@ -7,6 +7,7 @@
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/StatusLabel.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -41,7 +42,6 @@ bool ProgramIsLeaving(const QWindow* console) {
 
 frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop)
     : console_(std::move(console)),
-      hostWindow_(QApplication::activeWindow()),
       txtDebug_(new DebugTextView(*console_, this)),
       findBar_(
           new FindBar(std::make_unique<FindInText<DebugTextView>>(*txtDebug_), tr("Find"), this)),
@@ -52,16 +52,11 @@ frmDebug::frmDebug(std::shared_ptr<DebugConsole> console, const Desktop& desktop
     setObjectName(QLatin1String("frmDebug"));
     setWindowTitle(tr("DEBUG"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    setAttribute(Qt::WA_ShowWithoutActivating);
     lblStatus_->setWordWrap(true);
     lblStatus_->hide();
     BuildLayout();
     BuildShortcuts();
     PlaceInCorner(desktop);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
-        QWidget* const window = now == nullptr ? nullptr : now->window();
-        if (window != nullptr && window != this && !window->isModal()) hostWindow_ = window;
-    });
     console_->Changed = [this] { Sync(); };
     Sync();
 }
@@ -158,17 +153,7 @@ void frmDebug::ShowInBackground() {
     if (isVisible() || ProgramIsLeaving(windowHandle())) return;
     winId();  // creates the window handle
     windowHandle()->setTransientParent(nullptr);
-    // Some window managers activate a new window although it asks not to be; they leave alone a
-    // window that takes no focus at all.
-    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
-    show();
-}
-
-// Once the window is on the screen, a click may give it the focus again.
-void frmDebug::paintEvent(QPaintEvent* event) {
-    QWindow* const window = windowHandle();
-    if (window != nullptr) window->setFlag(Qt::WindowDoesNotAcceptFocus, false);
-    QWidget::paintEvent(event);
+    WindowOpening::ShowInBackground(*this);
 }
 
 // Out of the way of the windows that people work in.
@@ -182,10 +167,6 @@ void frmDebug::PlaceInCorner(const Desktop& desktop) {
     const QSize outer = (inner + frame).boundedTo(usable.size());
     resize(outer - frame);
     move(usable.right() + 1 - outer.width(), usable.bottom() + 1 - outer.height());
-}
-
-QWidget* frmDebug::HostWindow() const {
-    return hostWindow_ != nullptr && hostWindow_->isVisible() ? hostWindow_.data() : nullptr;
 }
 
 bool frmDebug::event(QEvent* event) {

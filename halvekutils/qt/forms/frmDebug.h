@@ -4,7 +4,6 @@
 #include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/platform/Desktop.h>
 
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -36,12 +35,8 @@ class frmDebug : public QWidget {
     /// Shows the window without activating it; does nothing when it is shown.
     void ShowInBackground();
 
-    /// The host's window that was active last; null when it is not on the screen.
-    QWidget* HostWindow() const;
-
   protected:
     bool event(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     void BuildLayout();
@@ -58,7 +53,6 @@ class frmDebug : public QWidget {
     void SyncOnTop();
 
     std::shared_ptr<DebugConsole> console_;
-    QPointer<QWidget> hostWindow_;
     DebugTextView* txtDebug_;
     FindBar* findBar_;
     StatusLabel* lblStatus_;

@@ -12,8 +12,8 @@
 #include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
 #include <halvekutils/qt/helpers/SpokenNotice.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QApplication>
 #include <QFrame>
@@ -23,6 +23,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace halvek {
@@ -140,9 +141,15 @@ QPoint frmMessageBox::PlaceOf(const QWidget* owner) const {
     const Size form = box_->Layout().form;
     const QSize outer(TwipsToPixels(form.width), TwipsToPixels(form.height));
     const auto position = box_->CentredOnOwner();
-    if (!position) return CentredPlace(outer, owner).topLeft();
+    const WindowOpening& opening = WindowOpening::OfApplication();
+    if (!position) return opening.Centred(outer, owner).topLeft();
     const QPoint corner(TwipsToPixels(position->left), TwipsToPixels(position->top));
-    return Inside(QRect(corner, outer), CurrentScreen()).topLeft();
+    const QScreen* const screen = owner != nullptr ? owner->screen() : opening.Screen();
+    return WindowOpening::Inside(QRect(corner, outer), screen).topLeft();
+}
+
+QWidget* frmMessageBox::OwnerAsked() const {
+    return QWidget::find(box_->OwnerWindow());
 }
 
 void frmMessageBox::Refresh() {
@@ -255,7 +262,10 @@ void frmMessageBox::keyPressEvent(QKeyEvent* event) {
 void frmMessageBox::wheelEvent(QWheelEvent* event) {
     constexpr int kStepsPerLine = 40;  // a notch of 120 scrolls three lines
     GuardEvent(u"frmMessageBox.Wheel", [this, event] {
-        box_->ScrollBy(-event->angleDelta().y() * LineHeight() / kStepsPerLine);
+        const std::int64_t turned = -std::int64_t{event->angleDelta().y()};
+        const std::int64_t farthest = box_->Layout().scrollRange;
+        const auto twips = std::clamp(turned * LineHeight() / kStepsPerLine, -farthest, farthest);
+        box_->ScrollBy(static_cast<std::int32_t>(twips));
     });
     event->accept();
 }

@@ -31,6 +31,7 @@ class frmMessageBox : public DialogForm {
   protected:
     void Refresh() override;
     QPoint PlaceOf(const QWidget* owner) const override;
+    QWidget* OwnerAsked() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

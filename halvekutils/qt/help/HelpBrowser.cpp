@@ -3,6 +3,7 @@
 #include <halvekutils/qt/QtText.h>
 #include <halvekutils/qt/help/HelpBrowser.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
+#include <halvekutils/qt/helpers/InputMethodRefusal.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/SpokenNotice.h>
 
@@ -41,6 +42,7 @@ QString PaperStyle() {
 }  // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent), notice_(new SpokenNotice(*this)) {
+    new InputMethodRefusal(*this);
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kPageMargin);

@@ -14,7 +14,7 @@
 #include <halvekutils/qt/helpers/FieldOutline.h>
 #include <halvekutils/qt/helpers/FindBar.h>
 #include <halvekutils/qt/helpers/FocusRing.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QAction>
 #include <QApplication>
@@ -294,19 +294,18 @@ void HelpViewer::ShowPage(const HelpTopic& topic) {
 }
 
 void HelpViewer::BringForward() {
-    if (!isVisible()) {
-        const QRect usable = CurrentScreen()->availableGeometry();
-        if (!testAttribute(Qt::WA_Moved)) {
-            resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
-            move(CentredPlace(size(), CurrentOwner()).topLeft());
-            ShareWidth();
-        }
+    WindowOpening& opening = WindowOpening::OfApplication();
+    if (!isVisible() && !testAttribute(Qt::WA_Moved)) {
+        const QRect usable = WindowOpening::UsableArea(opening.Screen());
+        resize(kOrdinarySize.boundedTo(usable.size() * 9 / 10));
+        const QSize outer = size() + WindowOpening::FrameSize();
+        move(opening.Centred(outer, opening.Owner()).topLeft());
+        ShareWidth();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
+    winId();  // creates the window handle
     StayAboveDialogs();
-    raise();
-    activateWindow();
+    opening.Show(*this);
     browser_->setFocus(Qt::OtherFocusReason);
 }
 

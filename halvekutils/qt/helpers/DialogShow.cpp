@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/helpers/DialogShow.h>
-#include <halvekutils/qt/helpers/ModalOwner.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -17,8 +17,8 @@ DialogShow::~DialogShow() {
     RestorePointer();
 }
 
-void DialogShow::Modal(const Place& place) {
-    QWidget* const owner = Owner();
+void DialogShow::Modal(QWidget* asked, const Place& place) {
+    QWidget* const owner = Owner(asked);
     Open(owner, Qt::ApplicationModal, place);
     if (owner != nullptr) {
         connect(owner, &QObject::destroyed, this, [this] { abandon_(); });
@@ -27,61 +27,69 @@ void DialogShow::Modal(const Place& place) {
     abandon_();
 }
 
-void DialogShow::Modeless(const Place& place) {
-    Open(Owner(), Qt::NonModal, place);
+void DialogShow::Modeless(QWidget* asked, const Place& place) {
+    Open(Owner(asked), Qt::NonModal, place);
 }
 
+// The loop first: hiding runs the host's event filters, which may throw.
 void DialogShow::End() {
     ended_ = true;
+    loop_.quit();
     RestorePointer();
     const bool wasActive = dialog_.isActiveWindow();
     dialog_.hide();
-    // Not every window manager gives the keyboard back.
-    if (wasActive && owner_ != nullptr) owner_->activateWindow();
+    WindowOpening::OfApplication().GiveBack(owner_, wasActive);
     if (lastPress_) SwallowSecondClick(*std::exchange(lastPress_, std::nullopt));
-    loop_.quit();
 }
 
-QWidget* DialogShow::Owner() const {
-    QWidget* const current = CurrentOwner();
-    return current == &dialog_ ? nullptr : current;
+QWidget* DialogShow::Owner(QWidget* asked) const {
+    QWidget* const owner = WindowOpening::OfApplication().Owner(asked);
+    return owner == &dialog_ ? nullptr : owner;
 }
 
 void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& place) {
     owner_ = owner;
+    place_ = place;
     dialog_.hide();
     dialog_.setWindowModality(modality);
     // Before the window has a handle: after that, the position would be its inner part's.
-    corner_ = place(owner);
-    dialog_.move(corner_);
-    SetOwner(dialog_, owner);
+    dialog_.move(place_(owner));
+    WindowOpening::SetOwner(dialog_, owner);
     ShowArrowPointer();
     dialog_.installEventFilter(this);
-    placed_ = false;
+    corrections_ = 0;
     sinceShown_.start();
-    dialog_.show();
+    WindowOpening::OfApplication().Show(dialog_);
     dialog_.windowHandle()->installEventFilter(this);
     dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows the focus at once
-    dialog_.activateWindow();
 }
 
 bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &dialog_ && event->type() == QEvent::Move && dialog_.isVisible()) {
         StandWhereAsked();
+    } else if (watched == &dialog_ && event->type() == QEvent::Hide && !event->spontaneous()) {
+        // Hidden by the host, it could never be answered.
+        const auto abandon = [this] {
+            if (!ended_ && dialog_.isHidden()) abandon_();
+        };
+        QMetaObject::invokeMethod(this, abandon, Qt::QueuedConnection);
     } else if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress) {
         const auto& press = *static_cast<QMouseEvent*>(event);
-        lastPress_ = {press.button(), press.globalPosition().toPoint(), press.timestamp()};
+        lastPress_ = {press.button(), press.globalPosition(), press.timestamp()};
     }
     return QObject::eventFilter(watched, event);
 }
 
-// Some window managers forget their frame when they place a new window. The first move event shows
-// where it is; it is corrected once.
+// Some window managers forget their frame when they place a new window, and no frame is known
+// before the window has it. The first move events show where it is and how large.
 void DialogShow::StandWhereAsked() {
     constexpr qint64 kStillOpening = 500;
-    if (std::exchange(placed_, true)) return;
-    const bool opening = sinceShown_.elapsed() < kStillOpening;
-    if (opening && dialog_.frameGeometry().topLeft() != corner_) dialog_.move(corner_);
+    constexpr int kMaxCorrections = 2;
+    if (corrections_ == kMaxCorrections || sinceShown_.hasExpired(kStillOpening)) return;
+    const QPoint corner = place_(owner_);
+    if (dialog_.frameGeometry().topLeft() == corner) return;
+    ++corrections_;
+    dialog_.move(corner);
 }
 
 void DialogShow::ShowArrowPointer() {

@@ -19,7 +19,8 @@ namespace halvek {
 /// host's.
 class DialogShow : public QObject {
   public:
-    /// The top left corner, with the frame, where the dialog opens; `owner` may be null.
+    /// The top left corner, with the frame, where the dialog opens; `owner` may be null. Asked
+    /// again once the window manager has framed the dialog.
     using Place = std::function<QPoint(const QWidget* owner)>;
 
     /// @param abandon  ends rules that are still open: called when the owner is destroyed and when
@@ -27,19 +28,20 @@ class DialogShow : public QObject {
     DialogShow(QDialog& dialog, std::function<void()> abandon);
     ~DialogShow() override;
 
-    /// Returns when the dialog has ended; a modeless one on the screen becomes modal.
-    void Modal(const Place& place);
-    void Modeless(const Place& place);
+    /// Returns when the dialog has ended; a modeless one on the screen becomes modal. `asked` is
+    /// the host's window that the dialog is about, or null.
+    void Modal(QWidget* asked, const Place& place);
+    void Modeless(QWidget* asked, const Place& place);
 
-    /// The rules have ended: hides the dialog, makes its owner active again and lets Modal return.
-    /// If a click ended them, the second click of a double click is swallowed.
+    /// The rules have ended: lets Modal return whatever happens, hides the dialog and makes its
+    /// owner active again. If a click ended them, the second click of a double click is swallowed.
     void End();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QWidget* Owner() const;
+    QWidget* Owner(QWidget* asked) const;
     void Open(QWidget* owner, Qt::WindowModality modality, const Place& place);
     void ShowArrowPointer();
     void RestorePointer();
@@ -49,9 +51,9 @@ class DialogShow : public QObject {
     std::function<void()> abandon_;
     QPointer<QWidget> owner_;
     QEventLoop loop_;
-    QPoint corner_;
+    Place place_;
     QElapsedTimer sinceShown_;
-    bool placed_ = false;
+    int corrections_ = 0;
     std::optional<MousePress> lastPress_;  ///< in the dialog
     bool ended_ = false;
     bool pointerSaved_ = false;

@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QStyleHints>
 
-#include <cstdlib>
+#include <cmath>
 
 namespace halvek {
 
@@ -13,8 +13,8 @@ namespace {
 
 bool IsDoubleClick(const MousePress& first, const QMouseEvent& second) {
     const QStyleHints& hints = *QGuiApplication::styleHints();
-    const QPoint moved = second.globalPosition().toPoint() - first.place;
-    const int farthest = hints.mouseDoubleClickDistance();
+    const QPointF moved = second.globalPosition() - first.place;
+    const double farthest = hints.mouseDoubleClickDistance();
     return second.button() == first.button && std::abs(moved.x()) <= farthest &&
            std::abs(moved.y()) <= farthest &&
            second.timestamp() - first.time < static_cast<quint64>(hints.mouseDoubleClickInterval());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPoint>
+#include <QPointF>
 #include <QtGlobal>
 
 namespace halvek {
@@ -9,7 +9,7 @@ namespace halvek {
 /// A press of a mouse button.
 struct MousePress {
     Qt::MouseButton button = Qt::NoButton;
-    QPoint place;  ///< on the screen
+    QPointF place;  ///< on the screen
     quint64 time = 0;
 };
 

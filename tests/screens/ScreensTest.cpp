@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: MIT
+// Where windows open on a desktop with two screens and a task bar, and who has the keyboard; and
+// that they open on any other.
+#include "tests/HelpFile.h"
+#include "tests/qt/FormTest.h"
+
+#include <halvekutils/qt/QtControls.h>
+
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+
+#include <iostream>
+
+namespace halvek {
+namespace {
+
+std::string Told(const QString& command) {
+    QProcess process;
+    QStringList words = QProcess::splitCommand(command);
+    process.start(words.takeFirst(), words);
+    process.waitForFinished();
+    return process.readAllStandardOutput().toStdString();
+}
+
+QString IdOf(const QWidget& window) {
+    return QString::number(window.winId());
+}
+
+std::ostream& operator<<(std::ostream& out, const QRect& r) {
+    return out << r.x() << ',' << r.y() << ' ' << r.width() << 'x' << r.height();
+}
+
+/// A bar at the bottom of all screens that windows must not cover. Window managers that bring one
+/// of their own get it, too.
+class TaskBar : public QWidget {
+  public:
+    explicit TaskBar(const QRect& desktop) {
+        constexpr int kHeight = 30;
+        setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+        setWindowFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+        setGeometry(desktop.adjusted(0, desktop.height() - kHeight, 0, 0));
+        const QString bar = QString("0, 0, 0, %1").arg(kHeight);
+        Told("xprop -id " + IdOf(*this) + " -f _NET_WM_STRUT 32c -set _NET_WM_STRUT \"" + bar +
+             '"');
+        const QString across = QString(", 0, 0, 0, 0, 0, 0, 0, %1").arg(desktop.right());
+        Told("xprop -id " + IdOf(*this) +
+             " -f _NET_WM_STRUT_PARTIAL 32c -set _NET_WM_STRUT_PARTIAL \"" + bar + across + '"');
+        show();
+    }
+};
+
+/// What the window manager leaves to windows, as its own tools say.
+QRect WorkArea() {
+    const QString said = QString::fromStdString(Told("xprop -root _NET_WORKAREA"));
+    const QStringList n = said.section('=', 1).split(',');
+    return n.size() < 4 ? QRect() : QRect(n[0].toInt(), n[1].toInt(), n[2].toInt(), n[3].toInt());
+}
+
+/// A call that opens a window; one that is beside a target gets the button.
+struct Opening {
+    const char* name;
+    bool isBeside;
+    std::function<void(Utils& utils, QPushButton& target)> call;
+};
+
+std::vector<Opening> Dialogs() {
+    return {
+        {"message box", false,
+         [](Utils& utils, QPushButton&) { utils.ShowMsgBox(u"?", mbOkCancel, mbNoIcon, u""); }},
+        {"calculator", false, [](Utils& utils, QPushButton&) { utils.Calculate(u"1"); }},
+        {"calendar", true,
+         [](Utils& utils, QPushButton& target) {
+             utils.ShowCalendarAndCalculateCoordinates(Beside(&target));
+         }},
+        {"palette", true,
+         [](Utils& utils, QPushButton& target) {
+             utils.ShowColorAndCalculateCoordinates(Beside(&target));
+         }},
+        {"selection", true,
+         [](Utils& utils, QPushButton& target) {
+             utils.ShowSelectionAndCalculateCoordinates(u"Codes", u"H:A\tAlpha\t0:", u"",
+                                                        Beside(&target));
+         }},
+    };
+}
+
+struct ScreensTest : FormTest {
+    ScreensTest() {
+        utils_->InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
+        const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+        bar_ = std::make_unique<TaskBar>(desktop);
+        EXPECT_TRUE(Soon([&] {
+            const int height = WorkArea().height();
+            return height > 0 && height < desktop.height();
+        }));
+        usable_ = WorkArea();
+    }
+
+    void OpenHost(QScreen& screen, bool low) {
+        host_ = std::make_unique<QWidget>();
+        host_->setObjectName("host");
+        target_ = new QPushButton("...", host_.get());
+        target_->move(40, 200);
+        QRect place(0, 0, 300, 240);
+        place.moveTopLeft(screen.geometry().topLeft() + QPoint(400, 60));
+        if (low) place.moveBottom((screen.geometry() & usable_).bottom() - 10);
+        host_->setGeometry(place);
+        host_->show();
+        host_->activateWindow();
+        ASSERT_TRUE(Soon([&] { return host_->isActiveWindow() && host_->screen() == &screen; }));
+    }
+
+    /// What is wrong about the place of a window.
+    std::string MissesOf(const QWidget& window, bool isBeside) const {
+        const QRect frame = window.frameGeometry();
+        const QRect area = host_->screen()->geometry() & usable_;
+        std::ostringstream misses;
+        if (window.screen() != host_->screen()) misses << " screen";
+        if (!area.contains(frame)) misses << " area (" << frame << " in " << area << ")";
+        if (!isBeside) return misses.str();
+        const QRect target(target_->mapToGlobal(QPoint()), target_->size());
+        if (frame.top() != target.bottom() + 1 && frame.bottom() + 1 != target.top()) {
+            misses << " gap (" << frame << " at " << target << ")";
+        }
+        return misses.str();
+    }
+    std::string OwnerMiss(const QWidget& dialog) const {
+        return dialog.windowHandle()->transientParent() == host_->windowHandle() ? "" : " owner";
+    }
+
+    /// Opens a dialog in front of the user, who looks and closes it.
+    void Look(const Opening& opening, const std::string& when) {
+        ++looked_;
+        const User user([&](QDialog& dialog) {
+            const auto misses = [&] {
+                return MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
+            };
+            const bool fine = QTest::qWaitFor([&] { return misses().empty(); }, 2000);
+            EXPECT_TRUE(fine) << opening.name << when << misses();
+            missed_ += !fine;
+            dialog.reject();
+        });
+        opening.call(*utils_, *target_);
+        EXPECT_TRUE(user.HasActed());
+    }
+
+    void Tell(const char* what) const {
+        std::cout << what << ": " << looked_ << " windows, " << missed_ << " misses\n";
+    }
+
+    std::unique_ptr<TaskBar> bar_;
+    QRect usable_;
+    std::unique_ptr<QWidget> host_;
+    QPushButton* target_ = nullptr;
+    int looked_ = 0;
+    int missed_ = 0;
+};
+
+/// On a desktop that decides itself where windows are and which of them is active
+using AnyDesktopTest = FormTest;
+
+TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
+    const HelpFile help(10);
+    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    utils_->InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
+    QWidget host;
+    QPushButton target("...", &host);
+    host.show();
+    const auto isSeen = [](const QWidget& window) { return window.windowHandle()->isExposed(); };
+    ASSERT_TRUE(Soon([&] { return isSeen(host); }));
+    for (const Opening& opening : Dialogs()) {
+        int seen = 0;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr || !isSeen(*dialog)) return;
+            ++seen;
+            dialog->close();
+        });
+        look.start(0);
+        opening.call(*utils_, target);
+        EXPECT_EQ(seen, 1) << opening.name;
+    }
+    utils_->ShowInDebug(u"line");
+    utils_->ShowHelp(0, 100, help.Path().u16string());
+    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+        EXPECT_TRUE(Soon([&] { return isSeen(Window(name)); })) << name;
+    }
+}
+
+TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
+    ASSERT_EQ(QGuiApplication::screens().size(), 2);
+    for (QScreen* const screen : QGuiApplication::screens()) {
+        for (const bool low : {false, true}) {
+            OpenHost(*screen, low);
+            for (const Opening& opening : Dialogs()) {
+                const std::string where =
+                    " on " + screen->name().toStdString() + (low ? ", low" : "");
+                Look(opening, where);
+                // Again at once, before the first one's end is over.
+                Look(Dialogs()[0], where + ", second");
+                Look(opening, where + ", third");
+            }
+        }
+    }
+    Tell("dialogs");
+}
+
+/// On the first and on the second screen: each opens once in a session.
+struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
+
+TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
+    const HelpFile help(10);
+    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    OpenHost(*QGuiApplication::screens()[GetParam()], true);
+    utils_->ShowInDebug(u"line");
+    utils_->ShowHelp(0, 100, help.Path().u16string());
+    EXPECT_TRUE(Soon([&] { return Window("HelpViewer").isActiveWindow(); }));
+    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+        const QWidget& window = Window(name);
+        const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
+        EXPECT_TRUE(fits) << name << MissesOf(window, false);
+        ++looked_;
+        missed_ += !fits;
+    }
+    EXPECT_FALSE(Window("frmDebug").isActiveWindow());
+    Tell("help and console");
+}
+INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
+
+/// Another program that the user types into.
+struct OtherProgram {
+    OtherProgram() {
+        program.start("xev", {"-event", "keyboard"});
+        EXPECT_TRUE(Soon([] {
+            Told("wmctrl -a \"Event Tester\"");
+            return Told("xdotool getactivewindow getwindowname").starts_with("Event Tester");
+        }));
+        EXPECT_TRUE(Soon([] { return QGuiApplication::focusWindow() == nullptr; }));
+    }
+    ~OtherProgram() {
+        program.kill();
+        program.waitForFinished();
+    }
+    /// Types a key and waits until the program has got it.
+    void Type(const QString& key) {
+        const qsizetype before = heard.count("KeyPress");
+        Told("xdotool key " + key);
+        EXPECT_TRUE(Soon([&] {
+            heard += program.readAllStandardOutput();
+            return heard.count("KeyPress") > before;
+        }));
+    }
+
+    QProcess program;
+    QByteArray heard;
+};
+
+/// A window manager that draws no attention to windows in full view
+bool AttendsToHiddenWindowsOnly() {
+    return Told("wmctrl -m").starts_with("Name: Metacity");
+}
+
+TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
+    OpenHost(*QGuiApplication::screens().last(), false);
+    for (const Opening& opening : Dialogs()) {
+        OtherProgram other;
+        bool isThere = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr || !dialog->windowHandle()->isExposed()) return;
+            look.stop();
+            isThere = true;
+            for (const char* key : {"y", "Return", "Escape", "space"}) other.Type(key);
+            EXPECT_TRUE(dialog->isVisible()) << opening.name << " was answered";
+            EXPECT_FALSE(dialog->isActiveWindow()) << opening.name;
+            const std::string state = Told("xprop -id " + IdOf(*dialog) + " _NET_WM_STATE");
+            const bool asks = state.find("DEMANDS_ATTENTION") != state.npos;
+            EXPECT_TRUE(asks || AttendsToHiddenWindowsOnly()) << opening.name << state;
+            const std::string misses = MissesOf(*dialog, opening.isBeside) + OwnerMiss(*dialog);
+            EXPECT_EQ(misses, "") << opening.name;
+            ++looked_;
+            missed_ += HasFailure();
+            Told("wmctrl -i -a " + IdOf(*dialog));
+            EXPECT_TRUE(Soon([&] { return dialog->isActiveWindow(); })) << opening.name;
+            dialog->close();
+        });
+        look.start(0);
+        opening.call(*utils_, *target_);
+        EXPECT_TRUE(isThere);
+        host_->activateWindow();
+        EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
+    }
+    Tell("in the background");
+}
+
+}  // namespace
+}  // namespace halvek
