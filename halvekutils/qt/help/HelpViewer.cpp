@@ -89,10 +89,8 @@ HelpViewer::HelpViewer()
     auto* const pageColumn = new QVBoxLayout(page);
     pageColumn->setContentsMargins(0, 0, 0, 0);
     pageColumn->setSpacing(design::Gap());
-    for (QWidget* const part :
-         {static_cast<QWidget*>(browser_), notice_, static_cast<QWidget*>(find_)}) {
-        pageColumn->addWidget(part);
-    }
+    pageColumn->addWidget(browser_);
+    pageColumn->addWidget(notice_);
     columns_->addWidget(panes_);
     columns_->addWidget(page);
     columns_->setStretchFactor(1, 1);
@@ -103,7 +101,9 @@ HelpViewer::HelpViewer()
     auto* const rows = new QVBoxLayout(body);
     const int margin = design::Margin();
     rows->setContentsMargins(margin, 0, margin, margin);
+    rows->setSpacing(design::Gap());
     rows->addWidget(columns_);
+    rows->addWidget(find_);  // beside the panes, large letters would leave it no room
     setCentralWidget(body);
     setTabOrder(panes_, browser_);
     connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
