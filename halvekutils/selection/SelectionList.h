@@ -52,6 +52,7 @@ class HALVEK_EXPORT SelectionList {
         std::u16string_view code;         ///< as Code gives it
         std::u16string_view description;  ///< as Description gives it
     };
+    /// The texts of an entry.
     Texts TextsOf(std::int32_t entry) const;
     /// The code of an entry.
     std::u16string_view Code(std::int32_t entry) const;

@@ -113,7 +113,8 @@ TEST(SelectionSearch, FindsWhatAPlainSearchFinds) {
         PlainSearch plain;
         Text text = u"Header";
         for (int i = typist.Below(35); i > 0; --i) {
-            const auto& entry = plain.entries.emplace_back(typist.Some(3), typist.Some(9));
+            plain.entries.push_back({typist.Some(3), typist.Some(9)});
+            const auto& entry = plain.entries.back();
             text += u':' + entry.code + u'\t' + entry.description + u"\t0";
         }
         const SelectionList list(text + u':', false);

@@ -169,9 +169,9 @@ void Desk::BuildLists() {
                                                      {"Insurance", InsuranceList()}};
     for (const auto& [name, list] : lists) {
         QPushButton* const button = AddButton(name, {});
-        connect(button, &QPushButton::clicked, this, [this, button, list] {
+        connect(button, &QPushButton::clicked, this, [this, button, entries = list] {
             const QString chosen = Blank(utils_->ShowSelectionGridAndCalculateCoordinates(
-                button->text(), list, visit_->text(), Beside(button)));
+                button->text(), entries, visit_->text(), Beside(button)));
             Record::Got(button->text().toLower(), chosen);
         });
         left_->addRow(button);
