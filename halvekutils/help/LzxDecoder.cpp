@@ -304,7 +304,7 @@ void LzxDecoder::Copy(Bits& in, std::uint32_t symbol, std::size_t most) {
         return;
     }
     // Byte by byte: the match overlaps what it produces.
-    for (std::size_t i = 0; i < length; ++i) to[i] = to[i - offset];
+    for (std::size_t i = 0; i < length; ++i) to[i] = *(to + i - offset);
 }
 
 /// The first three slots stand for the offsets used last.

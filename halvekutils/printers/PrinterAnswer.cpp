@@ -36,9 +36,10 @@ Message Parsed(std::string_view bytes) {
 
 /// "Not found" is how the scheduler says that there are no queues.
 void CheckStatus(ipp_t* answer) {
-    const ipp_status_t status = ippGetStatusCode(answer);
+    // Whoever answers may send a number that is no status.
+    const auto status = static_cast<int>(ippGetStatusCode(answer));
     if (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND) return;
-    FailAtScheduler(ippErrorString(status));
+    FailAtScheduler(ippErrorString(static_cast<ipp_status_t>(status)));
 }
 
 std::u16string TextOf(ipp_attribute_t* attribute) {
