@@ -10,14 +10,14 @@ for call in "box yes no" "list insurance"; do
     start_desktop
     display=${started[-2]}
     start_stage "$1"
-    host=$host_PID
+    pid=$host_PID
     new_window "" && open_call "log a line" && open_call "$call"
     echo "read focus" >&"$questions"
     act 0
     [[ $got == *"focus arrCmd_0" || $got == *"focus txtSelect" ]] || fail "$call gives $got"
     kill -KILL "$display"
     wait "$display" 2>/dev/null
-    wait "$host"
+    wait "$pid"
     status=$?
     [ "$status" -eq 1 ] || fail "without its display under $call the host ended with $status"
     if ! grep -q $'\tThe label printer is out of paper\r$' "$work/Stage.log" ||

@@ -67,7 +67,8 @@ holds halvekutils-demo < <(
 )
 system=(libc6 libgcc-s1 libstdc++6)
 depends libhalvekutils0 "${system[@]}"
-depends libhalvekutils-qt0 libhalvekutils0 libcups2 libqt6core6 libqt6gui6 libqt6widgets6 "${system[@]}"
+depends libhalvekutils-qt0 libhalvekutils0 libcups2 libqt6core6 libqt6gui6 libqt6printsupport6 \
+    libqt6widgets6 libxcb1 "${system[@]}"
 depends libhalvekutils-dev libhalvekutils0
 depends libhalvekutils-qt-dev libhalvekutils-dev libhalvekutils-qt0 qt6-base-dev
 depends halvekutils-tools libhalvekutils0 "${system[@]}"

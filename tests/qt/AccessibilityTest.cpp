@@ -123,11 +123,11 @@ TEST_F(AccessibilityTest, SoIsEveryControlOfTheWindowsBesideThem) {
         "cmdBack Button Back; cmdForward Button Forward; cmdHome Button Home; cmdContents "
         "CheckBox Contents; cmdFind Button Find; cmdPrint Button Print; cmdSmaller Button Smaller; "
         "cmdOrdinarySize "
-        "Button 100%; cmdLarger Button Larger; txtPage StaticText Help page; txtFind "
-        "EditableText Find in this page; cmdFindPrevious Button Previous; cmdFindNext Button "
-        "Next; cmdFindClose Button Close; tabPanes Client; trvContents Tree Contents; TreeItem "
-        "First; TreeItem "
-        "Bills & fees; tabsPanes PageTabList Contents; PageTab Contents; PageTab Search > txtFind "
+        "Button 100%; cmdLarger Button Larger; txtPage StaticText Help page; tabPanes "
+        "Client; trvContents Tree Contents; TreeItem First; TreeItem Bills & fees; tabsPanes "
+        "PageTabList Contents; PageTab Contents; PageTab Search; txtFind EditableText Find in this "
+        "page; cmdFindPrevious Button Previous; cmdFindNext Button Next; cmdFindClose Button Close "
+        "> txtFind "
         "cmdFindPrevious cmdFindNext cmdFindClose cmdHome cmdContents "
         "cmdFind cmdPrint cmdSmaller cmdOrdinarySize cmdLarger tabsPanes trvContents txtPage");
 }

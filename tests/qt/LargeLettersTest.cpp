@@ -198,11 +198,11 @@ TEST_P(LargeLettersTest, NorInTheWindowsBesideThem) {
     utils_->InitUtils(u"", u"", u"", true, u"");
     utils_->ShowInDebug(u"line");
     utils_->ShowHelp(0, 100, help.Path().u16string());
-    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+    for (const char* const name : {"HelpViewer", "frmDebug"}) {  // the last one opened is active
         QWidget& window = Window(name);
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
         window.activateWindow();
-        EXPECT_TRUE(Soon([&] { return window.isActiveWindow(); }));
+        EXPECT_TRUE(Soon([&] { return window.isActiveWindow(); })) << name;
         PressKey(window, Qt::CTRL | Qt::Key_F);
         PressKey(window, Qt::Key_Question);
         EXPECT_EQ(FaultsOf(window), "") << name;
