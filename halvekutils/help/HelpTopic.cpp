@@ -116,7 +116,7 @@ std::vector<HelpTopic> MeaningsOf(TextIn address, TextIn folder) {
             // Names may hold "#", and addresses a question.
             add(SplitAt(text, kNone, from));
             HelpTopic unasked = ParseHelpTopic(text, from);
-            unasked.path.resize(std::min(unasked.path.find(u'?'), unasked.path.size()));
+            unasked.path = FromRoot(unasked.path.substr(0, unasked.path.find(u'?')));
             add(std::move(unasked));
         }
     }

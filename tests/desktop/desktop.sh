@@ -73,6 +73,31 @@ start_desktop() {
     wait_until "the window manager starts" wmctrl -m
 }
 
+has_active_title() {
+    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1"* ]]
+}
+active_window() {
+    xdotool getactivewindow 2>/dev/null
+}
+is_active() {
+    [ "$(active_window)" = "$1" ]
+}
+has_ended() {
+    ! kill -0 "$1"
+}
+# The active window once its title starts with a text. Usage: wait_for_window TITLE; sets $window.
+wait_for_window() {
+    wait_until "a window \"$1\" opens and becomes active" has_active_title "$1"
+    window=$(active_window)
+}
+keys() {
+    xdotool key --clearmodifiers "$@"
+}
+# Clicks into a window, in pixels from its inner corner. Usage: click WINDOW X Y
+click() {
+    xdotool mousemove --sync --window "$1" "$2" "$3" click 1
+}
+
 # Leaves a picture of the screen when HALVEK_PICTURES names a folder. Usage: picture NAME
 picture() {
     [ -n "${HALVEK_PICTURES:-}" ] && [ -n "${DISPLAY:-}" ] || return 0

@@ -7,28 +7,6 @@ set -u
 source "$(dirname "$0")/desktop.sh"
 demo=$1
 
-has_active_title() {
-    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1"* ]]
-}
-is_active() {
-    [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ]
-}
-has_ended() {
-    ! kill -0 "$1"
-}
-# The active window once its title starts with a text. Usage: wait_for_window TITLE; sets $window.
-wait_for_window() {
-    wait_until "a window \"$1\" opens and becomes active" has_active_title "$1"
-    window=$(xdotool getactivewindow)
-}
-keys() {
-    xdotool key --clearmodifiers "$@"
-}
-# Clicks into a window, in pixels from its inner corner. Usage: click WINDOW X Y
-click() {
-    xdotool mousemove --sync --window "$1" "$2" "$3" click 1
-}
-
 # Starts the client on a practice of its own. Usage: open_desk FILE [OPTIONS...]; sets $main, $client.
 open_desk() {
     practice=$work/$1 calls=$work/$1.calls

@@ -170,4 +170,6 @@ done
 
 # The demo with its help, from below this root
 bash "$source/tests/visit_offscreen.sh" "$root/usr/bin/halvekutils-demo" "$work/visit"
-grep -q "InitHelp(.*$root.*FrontDesk.chm" visit/calls.txt || { echo "the demo's help lies elsewhere"; exit 1; }
+help=$(sed -nE 's/^InitHelp\("(.*)…(.*)"\)$/\1*\2/p' visit/calls.txt)  # long texts are shortened
+[[ $root/usr/share/halvekutils-demo/FrontDesk.chm == $help ]] ||
+    { echo "the demo's help lies elsewhere"; exit 1; }

@@ -19,14 +19,6 @@ start_reader() {
     wait_until "the reader speaks" grep -q . "$said"
 }
 
-keys() {
-    xdotool key --clearmodifiers "$@"
-}
-
-has_active_title() {
-    [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == "$1" ]]
-}
-
 mark() {
     mapfile -t lines <"$said"
     marked=${#lines[@]}
