@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 
 #include <chrono>
@@ -125,15 +126,19 @@ void VisitPlayer::PlayNext() {
 
 /// The client with the dialogs in front of it.
 void VisitPlayer::TakePicture(const QString& name) {
-    QPixmap picture = window_.grab();
+    const QScreen& screen = *window_.screen();
+    QPixmap picture(screen.size() * screen.devicePixelRatio());
+    picture.setDevicePixelRatio(screen.devicePixelRatio());
+    picture.fill(window_.palette().color(QPalette::Mid));
     QPainter painter(&picture);
+    painter.drawPixmap(window_.geometry().topLeft(), window_.grab());
     QWidgetList shown = QApplication::topLevelWidgets();
     shown << QApplication::activeModalWidget();  // in front of the others
     for (QWidget* widget : shown) {
         if (widget == nullptr || widget == &window_ || !widget->isVisible() ||
             widget->windowType() == Qt::ToolTip)
             continue;
-        const QPoint place = widget->geometry().topLeft() - window_.geometry().topLeft();
+        const QPoint place = widget->geometry().topLeft();
         painter.drawPixmap(place, widget->grab());
         painter.setPen(QColor(110, 110, 110));
         painter.drawRect(QRect(place, widget->size()).adjusted(-1, -1, 0, 0));
