@@ -76,7 +76,8 @@ TEST_F(LifeCycle, AForkedChildLogsAndItsParentGoesOn) {
 TEST_F(LifeCycle, AProcessThatExitsInsideABoxEndsCleanlyAndStillLogs) {
     Load();
     const auto exitInBox = Get<void(const char16_t*)>("ExitInBox");
-    EXPECT_EXIT(exitInBox(log_.c_str()), ::testing::ExitedWithCode(3), "^$");
+    // A sanitizer with something to report would exit with another code.
+    EXPECT_EXIT(exitInBox(log_.c_str()), ::testing::ExitedWithCode(3), "");
     EXPECT_EQ(Messages(), "the last word|");
 }
 
