@@ -3,6 +3,7 @@
 #include <halvekutils/core/NoPrinters.h>
 #include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/core/Session.h>
+#include <halvekutils/platform/NoServices.h>
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/refdata/CollectionBuilder.h>
 #include <halvekutils/refdata/PrinterListBuilder.h>
@@ -11,18 +12,6 @@
 namespace halvek {
 
 namespace {
-
-/// A session that keeps nothing: what would be logged is remarked on.
-class SilentServices final : public Services {
-  public:
-    void LogError(TextIn) noexcept override {}
-    void ShowInDebug(TextIn) override {}
-    bool DebugMode() const override { return false; }
-    std::u16string AppName() const override { return {}; }
-    std::u16string SpecialMode() const override { return {}; }
-    Color FormSkinColor() const override { return 0; }
-    Color FormTextColor() const override { return 0; }
-};
 
 /// What ConvertHDate reads.
 std::optional<DateTime> DateOf(TextIn text, Remarks& remarks) {
@@ -39,7 +28,7 @@ std::optional<DateTime> DateOf(TextIn text, Remarks& remarks) {
 
 /// Outlives every collection.
 Services& Silent() {
-    static SilentServices services;
+    static NoServices services;
     return services;
 }
 

@@ -8,9 +8,10 @@ namespace halvek {
 /// The Linux workstation that the process runs on.
 ///
 /// Log files can hold patient data: they are created with mode 0600, opened without following a
-/// link, and anything but a regular file is refused. In a folder that others can write, so is a file
-/// of another owner or with a second name: somebody may have put it there. The component's own folder is
-/// `.local/state/HalvekUtils` in the home directory of the effective user, with mode 0700.
+/// link, and anything but a regular file is refused. In a folder that others can write, so is a
+/// file of another owner or with a second name: somebody may have put it there. The component's own
+/// folder is `.local/state/HalvekUtils` in the home directory of the effective user, with mode
+/// 0700.
 class LocalMachine : public Machine {
   public:
     LocalMachine();

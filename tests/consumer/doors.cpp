@@ -31,7 +31,7 @@ int main() {
     SecurityItemsCollection::EndFullAccess();
     SecurityItemsCollection::CreateEmpty(Services::Current());
     ObjectStore<SecurityItem>().Make();
-    codes->AddRecords(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6", Services::Current(), nullptr);
+    codes->AddRecords(u"Insurance\u00E6INS", Services::Current(), nullptr);
     codes->Item(1)->Init(u"Insurance\u00E6INS\u00E61\u00E61\u00E6\u00E6", nullptr);
     CodesCollection::CreateEmpty();
     ObjectStore<CodeDefinition>().Make();
