@@ -50,6 +50,12 @@ class TaskBar : public QWidget {
     }
 };
 
+/// Takes the keyboard from every window.
+void LoseKeyboard() {
+    const QString root = QString::fromStdString(Told("xwininfo -root")).section("id: ", 1);
+    Told("xdotool windowfocus " + root.section(' ', 0, 0));
+}
+
 /// What the window manager leaves to windows, as its own tools say.
 QRect WorkArea() {
     const QString said = QString::fromStdString(Told("xprop -root _NET_WORKAREA"));
@@ -261,6 +267,17 @@ TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) 
     };
     for (const Opening& opening : calls) Look(opening, ", form to refresh");
     Tell("forms to refresh");
+}
+
+TEST_F(ScreensTest, TheKeyboardComesBackFromADialogThoughTheWindowManagerLosesIt) {
+    OpenHost(*QGuiApplication::screens().first(), false);
+    Look(Dialogs()[0], "");
+    ASSERT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
+    LoseKeyboard();
+    if (!QTest::qWaitFor([] { return QGuiApplication::focusWindow() == nullptr; }, 1000)) {
+        GTEST_SKIP() << "this window manager gives it back itself";
+    }
+    EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
 }
 
 /// On the first and on the second screen: each opens once in a session.

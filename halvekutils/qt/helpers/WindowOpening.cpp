@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace halvek {
@@ -169,7 +171,29 @@ void WindowOpening::GiveBack(QWidget* owner, bool wasActive) {
     if (!wasActive) return;
     sinceGivenUp_.start();
     // Not every window manager gives the keyboard back.
-    if (owner != nullptr) owner->activateWindow();
+    if (owner == nullptr) return;
+    owner->activateWindow();
+    constexpr int kChecks = 4;
+    CheckGivenBack(owner, kChecks);
+}
+
+/// Qt takes a dialog for active as soon as it asks for that. One that is answered and gone before
+/// the window manager has moved the keyboard leaves the keyboard where it was, which Qt does not
+/// hear: no window would seem active. And a window manager may lose the keyboard on the way.
+void WindowOpening::CheckGivenBack(const QPointer<QWidget>& owner, int checks) {
+    constexpr std::chrono::milliseconds kPatience(100);
+    QTimer::singleShot(kPatience, this, [this, owner, checks] {
+        const QWidget* const modal = QApplication::activeModalWidget();
+        const bool isNext = IsOnScreen(owner) && (modal == nullptr || modal == owner);
+        if (isNext && QGuiApplication::focusWindow() == nullptr) {
+            if (HasKeyboard(*owner)) {
+                TellOfKeyboard(*owner);
+            } else if (!IsOtherProgramActive()) {
+                owner->activateWindow();
+            }
+        }
+        if (checks > 1) CheckGivenBack(owner, checks - 1);
+    });
 }
 
 /// A program's first windows are activated as its window manager likes. Between two dialogs of one

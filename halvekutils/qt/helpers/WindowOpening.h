@@ -71,6 +71,7 @@ class WindowOpening : public QObject {
     void FocusMoved(QWindow* window);
     void Remember(QWidget& window);
     bool MayActivate() const;
+    void CheckGivenBack(const QPointer<QWidget>& owner, int checks);
 
     std::vector<QPointer<QWidget>> recent_;  ///< the last active one first
     bool wasActive_ = false;                 ///< the application has had the keyboard

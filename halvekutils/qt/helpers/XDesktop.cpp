@@ -99,6 +99,27 @@ bool IsOtherProgramActive() {
     return active != 0 && (active & ~setup.resource_id_mask) != setup.resource_id_base;
 }
 
+bool HasKeyboard(const QWidget& window) {
+    xcb_connection_t* const display = Connection();
+    if (display == nullptr) return false;
+    const ReplyOf<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr));
+    return reply != nullptr && reply->focus == window.winId();
+}
+
+void TellOfKeyboard(const QWidget& window) {
+    xcb_connection_t* const display = Connection();
+    if (display == nullptr) return;
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = static_cast<xcb_window_t>(window.winId());
+    message.type = AtomOf(display, kActiveWindow);
+    xcb_send_event(display, false, message.window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&message));
+    xcb_flush(display);
+}
+
 QRect WorkAreaOf(const QScreen& screen) {
     const QRect whole = screen.geometry();
     xcb_connection_t* const display = Connection();

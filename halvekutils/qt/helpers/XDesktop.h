@@ -16,6 +16,12 @@ namespace halvek {
 /// True when a window of another program has the keyboard.
 bool IsOtherProgramActive();
 
+/// True when the X server sends what is typed to this window. False on other platforms.
+bool HasKeyboard(const QWidget& window);
+
+/// Lets Qt know that this window has the keyboard, where it has missed that.
+void TellOfKeyboard(const QWidget& window);
+
 /// The part of a screen that task bars and panels leave free, in logical pixels; the whole screen
 /// where the window manager does not say.
 QRect WorkAreaOf(const QScreen& screen);
