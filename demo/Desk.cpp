@@ -39,10 +39,6 @@ constexpr std::int32_t kScrollBarWidth = 255;  // twips
 
 constexpr char kTitle[] = "Front Desk";
 
-bool IsDarkDesktop() {
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
-
 }  // namespace
 
 QString DataFolder() {
@@ -123,10 +119,6 @@ void Desk::ReadPrinters() {
     utils_->BuildPrintersCollection(printers);
     calls_.Add("BuildPrintersCollection", {printers});
     emit PrintersKnown();
-}
-
-std::shared_ptr<halvek::SecurityItem> Desk::Rights(const QString& item) const {
-    return utils_->GetSecurityItemsCollection()->Item(item);
 }
 
 std::optional<Visit> Desk::VisitOfToday() {
@@ -277,7 +269,8 @@ void Desk::Highlight(QWidget* caption, bool on) {
     if (on) {
         utils_->HighlightHeading(heading, false, 0);
     } else {
-        utils_->UnhighlightHeading(heading, !IsDarkDesktop());
+        const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+        utils_->UnhighlightHeading(heading, !isDark);
     }
     calls_.Add(on ? "HighlightHeading" : "UnhighlightHeading", {caption->objectName()});
 }

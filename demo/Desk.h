@@ -47,7 +47,9 @@ class Desk : public QObject {
     CallLog& Calls() { return calls_; }
 
     /// What the user may do with an item of the server's.
-    std::shared_ptr<halvek::SecurityItem> Rights(const QString& item) const;
+    std::shared_ptr<halvek::SecurityItem> Rights(const QString& item) const {
+        return utils_->GetSecurityItemsCollection()->Item(item);
+    }
 
     // The account that is worked on
 

@@ -29,7 +29,6 @@ namespace {
 
 constexpr QSize kDefaultSize(1180, 760);
 constexpr int kMessageTime = 8000;
-constexpr int kMostDigits = 9;
 constexpr int kMostCalls = 5000;
 constexpr int kCountdown = 30;  // seconds, or as long as the wait before it
 
@@ -139,10 +138,11 @@ void FrontDeskWindow::FillWindowsMenu() {
     int position = 0;
     for (const int number : accounts) {
         const QString name = desk_.Server().Find(number).value_or(Patient{}).Name();
-        const QString digit = ++position > kMostDigits ? "" : QString("&%1  ").arg(position);
-        QAction* action =
-            windows_.addAction(digit + halvek::ToCaption(name) + QString("  #%1").arg(number), this,
-                               [this, number] { desk_.OpenAccount(number, ScreenId::Account); });
+        const QString text = QString("&%1  %2  #%3")
+                                 .arg(QString::number(++position), halvek::ToCaption(name))
+                                 .arg(number);
+        QAction* action = windows_.addAction(
+            text, this, [this, number] { desk_.OpenAccount(number, ScreenId::Account); });
         action->setCheckable(true);
         action->setChecked(desk_.Current() && desk_.Current()->number == number);
     }

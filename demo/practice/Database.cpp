@@ -68,10 +68,6 @@ QString Database::FaultOfFile() {
     return {};
 }
 
-bool Database::IsEmpty() {
-    return Value("SELECT count(*) FROM sqlite_master") == 0;
-}
-
 QSqlQuery Database::Run(const QString& sql, const QVariantList& values) {
     QSqlQuery query(QSqlDatabase::database(connection_));
     query.setForwardOnly(true);

@@ -27,7 +27,7 @@ class Database {
     Database& operator=(const Database&) = delete;
 
     /// True for a file without any tables.
-    bool IsEmpty();
+    bool IsEmpty() { return Value("SELECT count(*) FROM sqlite_master") == 0; }
 
     /// Runs a statement with the values for its question marks.
     QSqlQuery Run(const QString& sql, const QVariantList& values = {});

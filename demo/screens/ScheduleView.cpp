@@ -102,6 +102,7 @@ ScheduleView::ScheduleView(Practice& practice) : practice_(practice) {
     for (QHeaderView* header : {verticalHeader(), horizontalHeader()}) {
         header->setSectionResizeMode(QHeaderView::Fixed);
         header->setSectionsClickable(false);
+        header->setTextElideMode(Qt::ElideRight);
     }
     Emphasize(*horizontalHeader());
     connect(this, &QAbstractItemView::doubleClicked, this, [this] { emit Chosen(CurrentVisit()); });

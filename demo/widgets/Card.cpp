@@ -5,12 +5,6 @@
 
 namespace frontdesk {
 
-namespace {
-
-constexpr qreal kRadius = 8;
-
-}  // namespace
-
 Card::Card(const QString& heading, QWidget* content) : content_(new QVBoxLayout(this)) {
     content_->setContentsMargins(kMargin, kMargin - 4, kMargin, kMargin);
     content_->setSpacing(kGap);
@@ -24,6 +18,7 @@ Card::Card(const QString& heading, QWidget* content) : content_(new QVBoxLayout(
 }
 
 void Card::paintEvent(QPaintEvent*) {
+    constexpr qreal kRadius = 8;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     // An outline that can be seen on light and dark surfaces, but stays quiet

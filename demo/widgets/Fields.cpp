@@ -13,14 +13,9 @@
 
 namespace frontdesk {
 
-namespace {
-
-constexpr int kLetters = 22;
-
-}  // namespace
-
 LookupField::LookupField(Desk& desk, const QString& name, const QString& glyph, const QString& tip)
     : desk_(desk) {
+    constexpr int kLetters = 22;
     setAccessibleName(name);
     setFixedWidth(fontMetrics().averageCharWidth() * kLetters);
     // Gray can be seen on the colours of required fields too.
