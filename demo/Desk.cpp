@@ -42,7 +42,7 @@ constexpr char kTitle[] = "Front Desk";
 }  // namespace
 
 QString DataFolder() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(folder);
     return folder;
 }
@@ -236,7 +236,7 @@ halvek::MbMsgBoxResult Desk::Ask(const QString& text, halvek::ButtonsChoice butt
 
 QString Desk::ChooseDay(QWidget* beside, const QString& shown) {
     const QString today = DayText(practice_->Now().date());
-    const QString day = ToQString(utils_->ShowCalendarAndCalculateCoordinates(
+    QString day = ToQString(utils_->ShowCalendarAndCalculateCoordinates(
         halvek::Beside(beside), shown, today, halvek::AsOwnerForm(beside)));
     calls_.Add("ShowCalendarAndCalculateCoordinates", {shown, today}, day);
     return day;
