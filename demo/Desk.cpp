@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "Desk.h"
 
-#include "DataFolder.h"
 #include "Texts.h"
 #include "practice/ServerText.h"
 
-#include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QPalette>
+#include <QStandardPaths>
 #include <QTimer>
 
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -35,25 +37,52 @@ constexpr halvek::Color kHighlightFore = halvek::kWhite;
 constexpr double kColumnAdjust = 1.0;
 constexpr std::int32_t kScrollBarWidth = 255;  // twips
 
-constexpr char kHidePaid[] = "hide paid";
 constexpr char kTitle[] = "Front Desk";
-
-bool IsDarkDesktop() {
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
 
 }  // namespace
 
-Desk::Desk(std::shared_ptr<halvek::Utils> utils, CallLog& calls, std::unique_ptr<Practice> practice)
-    : utils_(std::move(utils)),
-      calls_(calls),
-      practice_(std::move(practice)),
-      accounts_(utils_, calls_) {
-    if (utils_->DBG()) connect(&calls_, &CallLog::Added, this, &Desk::Debug);
-    practice_->OnFault([this](const QString& fault) { NoteFault(fault); });
+QString DataFolder() {
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+QString ErrorLogFile() {
+    return DataFolder() + "/FrontDesk.log";
+}
+
+Desk::Desk(CallLog& calls, bool debug) : calls_(calls) {
+    utils_->InitUtils(ErrorLogFile(), QString(kTitle), u"clinic", debug, u"" HALVEK_DEMO_VERSION);
+    calls_.Add("InitUtils", {ErrorLogFile(), kTitle, "clinic", debug});
+    if (!debug) return;
+    connect(&calls_, &CallLog::Added, this,
+            [this](const QString& line) { utils_->ShowInDebug(line); });
+}
+
+bool Desk::Open(const QString& path) {
+    QString fault;
+    practice_ = Practice::Open(path, fault);
+    for (int number = 2; practice_ == nullptr; ++number) {
+        utils_->LogError(fault);
+        const QFileInfo file(path);
+        const QString name = QString("%1-%2.db").arg(file.completeBaseName()).arg(number);
+        const QString beside = file.path() + '/' + name;
+        const QString question = QFileInfo::exists(beside) ? "Go on with %1 beside it?"
+                                                           : "Start afresh with %1 beside it?";
+        const QString offer = question.arg(name) + " The file itself stays as it is.";
+        if (Ask(fault + "\r\n\r\n" + offer, halvek::mbYesNo, halvek::mbCritical, kTitle) !=
+            halvek::mbYes)
+            return false;
+        practice_ = Practice::Open(beside, fault);
+    }
+    practice_->OnFault([this](const QString& reason) { NoteFault(reason); });
     ReadSystemPrefs();
     ReadReferenceData();
-    ReadPrefs();
+    const QString settings = FromServer(practice_->Settings(kUser));
+    prefs_.PopulateSettings(settings);
+    calls_.Add("UserPrefs.PopulateSettings", {settings});
+    UsePrefs();
+    return true;
 }
 
 void Desk::ReadSystemPrefs() {
@@ -65,9 +94,11 @@ void Desk::ReadSystemPrefs() {
     calls_.Add("SetCurrentSystemPrefs");
     utils_->InitOtherSettings(kHighlightBack, kHighlightFore, u"-", kColumnAdjust, kScrollBarWidth);
     calls_.Add("InitOtherSettings",
-               {kHighlightBack, kHighlightFore, QString("-"), kColumnAdjust, kScrollBarWidth});
-    utils_->InitHelp(HelpFile());
-    calls_.Add("InitHelp", {HelpFile()});
+               {kHighlightBack, kHighlightFore, "-", kColumnAdjust, kScrollBarWidth});
+    const QString help = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                         "/../share/halvekutils-demo/FrontDesk.chm");
+    utils_->InitHelp(help);
+    calls_.Add("InitHelp", {help});
 }
 
 void Desk::ReadReferenceData() {
@@ -82,7 +113,7 @@ void Desk::ReadReferenceData() {
     calls_.Add("BuildSecurityCollection", {rights});
 }
 
-void Desk::FinishStart() {
+void Desk::ReadPrinters() {
     const QString printers = FromServer(practice_->Printers());
     utils_->ClearPrintersCollection();
     utils_->BuildPrintersCollection(printers);
@@ -90,31 +121,8 @@ void Desk::FinishStart() {
     emit PrintersKnown();
 }
 
-QString Desk::User() const {
-    return kUser;
-}
-
-bool Desk::May(const QString& item, Right right) {
-    const auto rights = utils_->GetSecurityItemsCollection()->Item(item);
-    switch (right) {
-        case Right::Read:
-            return rights->AllowRead();
-        case Right::Add:
-            return rights->AllowAdd();
-        case Right::Modify:
-            return rights->AllowModify();
-        case Right::Delete:
-            return rights->AllowDelete();
-    }
-    return false;
-}
-
 std::optional<Visit> Desk::VisitOfToday() {
-    if (!current_) return std::nullopt;
-    for (const Visit& visit : practice_->VisitsOf(current_->number)) {
-        if (visit.day == practice_->Now().date() && visit.state != VisitState::Paid) return visit;
-    }
-    return std::nullopt;
+    return current_ ? practice_->VisitOfToday(current_->number) : std::nullopt;
 }
 
 halvek::ReminderDefinition Desk::RemindersOfAccount() {
@@ -132,22 +140,49 @@ void Desk::Select(int patient) {
     emit PatientChanged();
 }
 
+// In the library's registry of windows: all accounts are shown in the one window, so an account's
+// number is its handle.
+QList<int> Desk::OpenAccounts() const {
+    constexpr std::int32_t kHandleRow = 1;  // of the registry's table; row 0 holds the types
+    QList<int> numbers;
+    const halvek::StringTable windows = utils_->OpenWindows()->GetAll();
+    for (std::int32_t index = 1; index < windows.Columns(); ++index) {
+        numbers << ToQString(windows.At(kHandleRow, index)).toInt();
+    }
+    return numbers;
+}
+
+void Desk::NoteOpen(int patient) {
+    if (OpenAccounts().contains(patient)) return;
+    const bool added = utils_->OpenWindows()->AddItem(u"ACCOUNT", patient);
+    calls_.Add("OpenWindows()->AddItem", {"ACCOUNT", patient}, added);
+}
+
+void Desk::SelectDue() {
+    for (const Visit& visit : practice_->Visits(practice_->Now().date())) {
+        if (visit.state == VisitState::Due) return Select(visit.patient);
+    }
+}
+
 void Desk::OpenAccount(int patient, ScreenId screen) {
-    accounts_.Add(patient);
     Select(patient);
     emit GoTo(screen);
 }
 
 void Desk::CloseAccount() {
-    if (!current_) return;
-    accounts_.Remove(current_->number);
-    const QList<int> left = accounts_.Numbers();
+    const qsizetype place = current_ ? OpenAccounts().indexOf(current_->number) : -1;
+    if (place < 0) return;
+    const auto index = static_cast<std::int32_t>(place + 1);
+    const bool removed = utils_->OpenWindows()->RemoveItem(index);
+    calls_.Add("OpenWindows()->RemoveItem", {index}, removed);
+    const QList<int> left = OpenAccounts();
     if (!left.isEmpty()) return OpenAccount(left.last(), ScreenId::Account);
     emit GoTo(ScreenId::Schedule);
 }
 
 void Desk::CloseAllAccounts() {
-    accounts_.Clear();
+    utils_->OpenWindows()->ClearAll();
+    calls_.Add("OpenWindows()->ClearAll");
     current_.reset();
     emit PatientChanged();
     emit GoTo(ScreenId::Schedule);
@@ -159,52 +194,36 @@ void Desk::NotePracticeChanged() {
     emit PatientChanged();
 }
 
-void Desk::ReadPrefs() {
-    const QString settings = FromServer(practice_->Settings(kUser));
-    prefs_->PopulateSettings(settings);
-    calls_.Add("UserPrefs.PopulateSettings", {settings});
-    UsePrefs();
-}
-
 void Desk::UsePrefs() {
     halvek::StringArray colors(1, std::vector<std::u16string>());
     for (const halvek::Color color : practice_->Colors()) {
         colors.Append(QString::number(color).toStdU16String());
     }
-    utils_->InitPrefs(colors, prefs_->FormSkinColor(), prefs_->FormTextColor(),
-                      prefs_->FormTopColor(), prefs_->RequiredFieldBackColor());
-    calls_.Add("InitPrefs", {prefs_->FormSkinColor(), prefs_->FormTextColor(),
-                             prefs_->FormTopColor(), prefs_->RequiredFieldBackColor()});
-    utils_->SetCurrentUserPrefs(*prefs_);
+    utils_->InitPrefs(colors, prefs_.FormSkinColor(), prefs_.FormTextColor(), prefs_.FormTopColor(),
+                      prefs_.RequiredFieldBackColor());
+    calls_.Add("InitPrefs", {prefs_.FormSkinColor(), prefs_.FormTextColor(), prefs_.FormTopColor(),
+                             prefs_.RequiredFieldBackColor()});
+    utils_->SetCurrentUserPrefs(prefs_);
     calls_.Add("SetCurrentUserPrefs");
 }
 
-bool Desk::ShowsPaidVisits() const {
-    return prefs_->ScheduleFormData() != QString(kHidePaid).toStdU16String();
-}
-
-void Desk::ShowPaidVisits(bool show) {
-    prefs_->ScheduleFormData(show ? QString() : QString(kHidePaid));
-}
-
 QString Desk::ReceiptPrinter() const {
-    return ToQString(prefs_->PostingFormData());
+    return ToQString(prefs_.PostingFormData());
 }
 
 void Desk::UseReceiptPrinter(const QString& description) {
-    const QString carried = ServerText(TextFormat::Settings).Carried(description);
+    const QString carried = Carried(TextFormat::Settings, description);
     if (carried == ReceiptPrinter()) return;
-    prefs_->PostingFormData(carried);
+    prefs_.PostingFormData(carried);
     SavePrefs();
 }
 
-bool Desk::SavePrefs() {
-    const std::u16string settings = prefs_->GetSettingsString();
+void Desk::SavePrefs() {
+    const std::u16string settings = prefs_.GetSettingsString();
     calls_.Add("UserPrefs.GetSettingsString", {}, ToQString(settings));
-    const bool saved = practice_->SaveSettings(kUser, ToServer(settings));
+    practice_->SaveSettings(kUser, ToServer(settings));
     UsePrefs();
     emit PrefsChanged();
-    return saved;
 }
 
 halvek::MbMsgBoxResult Desk::Ask(const QString& text, halvek::ButtonsChoice buttons,
@@ -217,7 +236,7 @@ halvek::MbMsgBoxResult Desk::Ask(const QString& text, halvek::ButtonsChoice butt
 
 QString Desk::ChooseDay(QWidget* beside, const QString& shown) {
     const QString today = DayText(practice_->Now().date());
-    const QString day = ToQString(utils_->ShowCalendarAndCalculateCoordinates(
+    QString day = ToQString(utils_->ShowCalendarAndCalculateCoordinates(
         halvek::Beside(beside), shown, today, halvek::AsOwnerForm(beside)));
     calls_.Add("ShowCalendarAndCalculateCoordinates", {shown, today}, day);
     return day;
@@ -242,31 +261,7 @@ std::optional<halvek::Color> Desk::ChooseColor(QWidget* beside) {
         halvek::Beside(beside), halvek::AsOwnerForm(beside));
     calls_.Add("ShowColorAndCalculateCoordinates", {}, ToQString(chosen));
     if (chosen.empty()) return std::nullopt;
-    std::u16string color;
-    std::u16string place;
-    utils_->SplitLeftRight(chosen, u"\t", color, place);
-    return ToQString(color).toInt();
-}
-
-QString Desk::Calculate(const QString& amount) {
-    const QString result = ToQString(utils_->Calculate(amount));
-    calls_.Add("Calculate", {amount}, result);
-    return result;
-}
-
-void Desk::ShowHelp(int context) {
-    const bool found = utils_->ShowHelp(0, context);
-    calls_.Add("ShowHelp", {0, context}, found);
-}
-
-void Desk::MakeAmount(QLineEdit* line) {
-    halvek::MakeCurrencyField(line);
-    calls_.Add("MakeCurrencyField", {line->accessibleName()});
-}
-
-void Desk::MakeSignedAmount(QLineEdit* line) {
-    halvek::MakeSignedCurrencyField(line);
-    calls_.Add("MakeSignedCurrencyField", {line->accessibleName()});
+    return ToQString(utils_->SplitStr(chosen, u"\t", 1)).toInt();
 }
 
 void Desk::Highlight(QWidget* caption, bool on) {
@@ -274,7 +269,8 @@ void Desk::Highlight(QWidget* caption, bool on) {
     if (on) {
         utils_->HighlightHeading(heading, false, 0);
     } else {
-        utils_->UnhighlightHeading(heading, !IsDarkDesktop());
+        const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+        utils_->UnhighlightHeading(heading, !isDark);
     }
     calls_.Add(on ? "HighlightHeading" : "UnhighlightHeading", {caption->objectName()});
 }
@@ -283,10 +279,6 @@ QString Desk::SearchBy(int key) {
     if (key < Qt::Key_F1 || key > Qt::Key_F12) return {};
     const auto code = static_cast<std::int16_t>(key - Qt::Key_F1 + kCodeOfF1);
     return ToQString(utils_->ConvertLookupKeyToSearchBy(code));
-}
-
-void Desk::Debug(const QString& line) {
-    utils_->ShowInDebug(line);
 }
 
 // One act may fail in several statements: they are logged, and the user sees the first.

@@ -2,18 +2,16 @@
 #pragma once
 
 #include "CallLog.h"
-#include "OpenAccounts.h"
 #include "practice/Practice.h"
 
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/prefs/ReminderDefinition.h>
 
-#include <QLineEdit>
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QWidget>
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -22,7 +20,11 @@ namespace frontdesk {
 /// The screens of the client, in the order of its tool bar.
 enum class ScreenId { Schedule, Account, CheckIn, Payment };
 
-enum class Right { Read, Add, Modify, Delete };
+/// The user's folder for the practice's file and the error log; made if it is missing.
+QString DataFolder();
+
+/// The library's error log.
+QString ErrorLogFile();
 
 /// The client without its windows: what all screens share. Every call of the library is made and
 /// noted here, except those on a screen's own controls.
@@ -30,19 +32,24 @@ class Desk : public QObject {
     Q_OBJECT
 
   public:
-    /// Starts the user's session: hands the library what the practice's server says about it.
-    Desk(std::shared_ptr<halvek::Utils> utils, CallLog& calls, std::unique_ptr<Practice> practice);
+    Desk(CallLog& calls, bool debug);
 
-    /// What may take a second, when the first window is on the screen: the printers.
-    void FinishStart();
+    /// Opens the practice's file and starts the user's session with what its server says. When the
+    /// file cannot be used, a message says why and offers to work with one beside it; the file
+    /// itself is left as it is. False when the user declines.
+    bool Open(const QString& path);
+
+    /// What may take a second, when the first window is on the screen.
+    void ReadPrinters();
 
     halvek::Utils& Library() { return *utils_; }
     Practice& Server() { return *practice_; }
     CallLog& Calls() { return calls_; }
-    OpenAccounts& Accounts() { return accounts_; }
 
-    QString User() const;
-    bool May(const QString& item, Right right);
+    /// What the user may do with an item of the server's.
+    std::shared_ptr<halvek::SecurityItem> Rights(const QString& item) const {
+        return utils_->GetSecurityItemsCollection()->Item(item);
+    }
 
     // The account that is worked on
 
@@ -54,6 +61,12 @@ class Desk : public QObject {
     halvek::ReminderDefinition RemindersOfAccount();
     /// Shows a patient above the screens.
     void Select(int patient);
+    /// The accounts that are open, in the order in which they were opened.
+    QList<int> OpenAccounts() const;
+    /// Adds an account to those that are open, if it is not one of them.
+    void NoteOpen(int patient);
+    /// Shows the patient who is due, if somebody is.
+    void SelectDue();
     /// Opens an account, or goes back to it, and shows a screen of it.
     void OpenAccount(int patient, ScreenId screen);
     void CloseAccount();
@@ -63,13 +76,11 @@ class Desk : public QObject {
 
     // Preferences
 
-    std::shared_ptr<halvek::UserPrefs> Prefs() const { return prefs_; }
-    bool ShowsPaidVisits() const;
-    void ShowPaidVisits(bool show);
+    halvek::UserPrefs& Prefs() { return prefs_; }
     QString ReceiptPrinter() const;
     void UseReceiptPrinter(const QString& description);
     /// Stores the preferences on the server and uses them.
-    bool SavePrefs();
+    void SavePrefs();
 
     // Dialogs of the library
 
@@ -81,21 +92,13 @@ class Desk : public QObject {
     std::optional<QString> ChooseCodes(const QString& table, const QString& chosen, QWidget* beside,
                                        bool byDescription, const QString& typed);
     std::optional<halvek::Color> ChooseColor(QWidget* beside);
-    /// What the calculator shows at its end; empty when it was closed.
-    QString Calculate(const QString& amount);
-    void ShowHelp(int context);
 
     // Fields
 
-    void MakeAmount(QLineEdit* line);
-    void MakeSignedAmount(QLineEdit* line);
     /// Marks the caption of the field in which the user is.
     void Highlight(QWidget* caption, bool on);
     /// "1" for the key that looks up by code, "2" by description; empty for any other key.
     QString SearchBy(int key);
-
-    /// A line for the debug console, which opens in debug mode only.
-    void Debug(const QString& line);
 
   signals:
     void PatientChanged();
@@ -103,19 +106,23 @@ class Desk : public QObject {
     void PrefsChanged();
     void PrintersKnown();
     void GoTo(frontdesk::ScreenId screen);
+    /// An amount of the account is to be posted at once.
+    void PostNow(qint64 cents);
+    /// A line for the user, about something that is done.
+    void Told(const QString& what);
+    /// A search for a patient begins with what was typed elsewhere.
+    void SearchStarted(const QString& text);
 
   private:
-    void ReadPrefs();
-    void UsePrefs();
     void ReadSystemPrefs();
     void ReadReferenceData();
+    void UsePrefs();
     void NoteFault(const QString& fault);
 
-    std::shared_ptr<halvek::Utils> utils_;
+    std::shared_ptr<halvek::Utils> utils_ = halvek::Utils::Create();
     CallLog& calls_;
     std::unique_ptr<Practice> practice_;
-    OpenAccounts accounts_;
-    std::shared_ptr<halvek::UserPrefs> prefs_ = std::make_shared<halvek::UserPrefs>();
+    halvek::UserPrefs prefs_;
     std::optional<Patient> current_;
     bool faultIsShown_ = false;
 };

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "FrontDeskWindow.h"
 
-#include "DataFolder.h"
+#include "FindPatient.h"
 #include "PatientBand.h"
 #include "PreferencesMenu.h"
 #include "Texts.h"
-#include "screens/AccountScreen.h"
-#include "widgets/Card.h"
+#include "widgets/Buttons.h"
 
 #include <halvekutils/qt/QtText.h>
 
@@ -14,11 +13,12 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -29,37 +29,26 @@ namespace {
 
 constexpr QSize kDefaultSize(1180, 760);
 constexpr int kMessageTime = 8000;
-constexpr int kMostDigits = 9;
-
-QScrollArea* Scrollable(QWidget* screen) {
-    auto* area = new QScrollArea;
-    area->setWidget(screen);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    return area;
-}
+constexpr int kMostCalls = 5000;
+constexpr int kCountdown = 30;  // seconds, or as long as the wait before it
 
 }  // namespace
 
 FrontDeskWindow::FrontDeskWindow(Desk& desk)
     : desk_(desk),
-      schedule_(new ScheduleScreen(desk)),
-      checkIn_(new CheckInScreen(desk)),
-      payment_(new PaymentScreen(desk)),
       screenActions_(this),
-      find_(new FindPatient(desk)),
-      calls_(new CallPane(desk.Calls())) {
-    const QDate today = desk_.Server().Now().date();
+      find_(MakeFindPatient(desk)),
+      windows_("&Windows"),
+      closeAccount_("&Close account"),
+      calls_("Calls of the library") {
     setWindowTitle(halvek::ToWindowTitle(desk_.Library().AppName()) +
-                   Us().toString(today, " - dddd, MMMM d, yyyy"));
-    MakeFileMenu();
-    AddScreen("&Schedule", Glyph::Calendar, schedule_);
-    AddScreen("&Account", Glyph::Person, new AccountScreen(desk));
-    AddScreen("&Check-in", Glyph::Check, checkIn_);
-    AddScreen("&Payment", Glyph::Card, payment_);
-    MakeGoMenu();
-    MakeWindowsMenu();
+                   Us().toString(desk_.Server().Now().date(), " - dddd, MMMM d, yyyy"));
+    AddScreen("&Schedule", "calendar", MakeScheduleScreen(desk));
+    AddScreen("&Account", "person", MakeAccountScreen(desk));
+    AddScreen("&Check-in", "check", MakeCheckInScreen(desk));
+    AddScreen("&Payment", "card", MakePaymentScreen(desk));
+    MakeCallPane();
+    MakeMenus();
     MakeHelpMenu();
     MakeToolBar();
     MakeStatusLine();
@@ -67,28 +56,33 @@ FrontDeskWindow::FrontDeskWindow(Desk& desk)
     auto* column = new QVBoxLayout(whole);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new PatientBand(desk));
+    column->addWidget(MakePatientBand(desk));
     column->addWidget(&stack_, 1);
     setCentralWidget(whole);
-    addDockWidget(Qt::BottomDockWidgetArea, calls_);
-    calls_->hide();
     ConnectScreens();
+    desk_.SelectDue();
+    GoTo(ScreenId::Schedule);
     resize(kDefaultSize.boundedTo(screen()->availableSize() - QSize(12, 40)));
 }
 
-void FrontDeskWindow::AddScreen(const char* caption, Glyph glyph, Screen* screen) {
-    const int number = static_cast<int>(screens_.size());
+void FrontDeskWindow::AddScreen(const char* caption, const char* glyph, Screen* screen) {
+    const auto number = static_cast<int>(screens_.size());
     QAction* action = screenActions_.addAction(MakeIcon(glyph), caption);
     action->setCheckable(true);
     action->setShortcut(QString("Ctrl+%1").arg(number + 1));
     connect(action, &QAction::triggered, this,
             [this, number] { GoTo(static_cast<ScreenId>(number)); });
+    auto* area = new QScrollArea;
+    area->setWidget(screen);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     screens_.push_back(screen);
-    stack_.addWidget(Scrollable(screen));
+    stack_.addWidget(area);
 }
 
 void FrontDeskWindow::MakeToolBar() {
-    auto* bar = new QToolBar("Screens");
+    auto* bar = addToolBar("Screens");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->setIconSize({20, 20});
@@ -99,19 +93,31 @@ void FrontDeskWindow::MakeToolBar() {
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(space);
     bar->addWidget(find_);
-    addToolBar(bar);
 }
 
-void FrontDeskWindow::MakeFileMenu() {
+void FrontDeskWindow::MakeCallPane() {
+    auto* lines = new QPlainTextEdit(desk_.Calls().Lines().join('\n'));
+    lines->setReadOnly(true);
+    lines->setTabChangesFocus(true);
+    lines->setAccessibleName(calls_.windowTitle());
+    lines->setFrameShape(QFrame::NoFrame);
+    lines->setMaximumBlockCount(kMostCalls);
+    connect(&desk_.Calls(), &CallLog::Added, lines, &QPlainTextEdit::appendPlainText);
+    connect(&calls_, &QDockWidget::visibilityChanged, lines,
+            [lines] { lines->moveCursor(QTextCursor::End); });
+    calls_.setFeatures(QDockWidget::DockWidgetClosable);
+    calls_.setWidget(lines);
+    calls_.hide();
+    addDockWidget(Qt::BottomDockWidgetArea, &calls_);
+    calls_.toggleViewAction()->setText("&Show the calls");
+    calls_.toggleViewAction()->setShortcut(QKeySequence("Ctrl+L"));
+}
+
+void FrontDeskWindow::MakeMenus() {
     QMenu* file = menuBar()->addMenu("&File");
-    auto* preferences = new PreferencesMenu(desk_);
-    preferences->setParent(menuBar(), preferences->windowFlags());
-    file->addMenu(preferences);
+    file->addMenu(MakePreferencesMenu(desk_, menuBar()));
     file->addSeparator();
-    file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
-}
-
-void FrontDeskWindow::MakeGoMenu() {
+    file->addAction("&Quit", QKeySequence::Quit, this, &QWidget::close);
     QMenu* go = menuBar()->addMenu("&Go");
     go->addActions(screenActions_.actions());
     go->addSeparator();
@@ -119,60 +125,48 @@ void FrontDeskWindow::MakeGoMenu() {
         find_->setFocus();
         find_->selectAll();
     });
-}
-
-void FrontDeskWindow::MakeWindowsMenu() {
-    windows_ = menuBar()->addMenu("&Windows");
-    connect(windows_, &QMenu::aboutToShow, this, [this] { FillWindowsMenu(); });
-    auto* close = new QAction("&Close account", this);
-    close->setShortcut(QKeySequence("Ctrl+W"));
-    connect(close, &QAction::triggered, &desk_, &Desk::CloseAccount);
-    addAction(close);  // for its key, while the menu is closed
-    FillWindowsMenu();
+    menuBar()->addMenu(&windows_);
+    connect(&windows_, &QMenu::aboutToShow, this, &FrontDeskWindow::FillWindowsMenu);
+    closeAccount_.setShortcut(QKeySequence("Ctrl+W"));
+    connect(&closeAccount_, &QAction::triggered, &desk_, &Desk::CloseAccount);
+    addAction(&closeAccount_);  // for its key, before the menu opens
 }
 
 void FrontDeskWindow::FillWindowsMenu() {
-    windows_->clear();
+    windows_.clear();
+    const QList<int> accounts = desk_.OpenAccounts();
     int position = 0;
-    for (const int number : desk_.Accounts().Numbers()) {
-        const auto patient = desk_.Server().Find(number);
-        if (!patient) continue;
-        const QString digit =
-            ++position <= kMostDigits ? QString("&%1  ").arg(position) : QString();
-        QAction* action = windows_->addAction(
-            digit + halvek::ToCaption(patient->Name()) + QString("  #%1").arg(number), this,
-            [this, number] { desk_.OpenAccount(number, ScreenId::Account); });
+    for (const int number : accounts) {
+        const QString name = desk_.Server().Find(number).value_or(Patient{}).Name();
+        const QString text = QString("&%1  %2  #%3")
+                                 .arg(QString::number(++position), halvek::ToCaption(name))
+                                 .arg(number);
+        QAction* action = windows_.addAction(
+            text, this, [this, number] { desk_.OpenAccount(number, ScreenId::Account); });
         action->setCheckable(true);
         action->setChecked(desk_.Current() && desk_.Current()->number == number);
     }
-    if (position == 0) windows_->addAction("No account is open")->setEnabled(false);
-    windows_->addSeparator();
-    windows_->addAction("&Close account\tCtrl+W", &desk_, &Desk::CloseAccount)
-        ->setEnabled(position > 0);
-    windows_->addAction("Close &all accounts", &desk_, &Desk::CloseAllAccounts)
-        ->setEnabled(position > 0);
+    if (accounts.isEmpty()) windows_.addAction("No account is open")->setEnabled(false);
+    windows_.addSeparator();
+    windows_.addAction(&closeAccount_);
+    windows_.addAction("Close &all accounts", &desk_, &Desk::CloseAllAccounts)
+        ->setEnabled(!accounts.isEmpty());
 }
 
 void FrontDeskWindow::MakeHelpMenu() {
     QMenu* help = menuBar()->addMenu("&Help");
-    help->addAction("&Help for this screen", QKeySequence("F1"), this,
-                    [this] { desk_.ShowHelp(CurrentScreen().HelpContext()); });
-    QAction* calls = calls_->toggleViewAction();
-    calls->setText("&Show the calls");
-    calls->setShortcut(QKeySequence("Ctrl+L"));
-    help->addAction(calls);
-    help->addAction("&Error log", this, [this] { ShowErrorLog(); })
-        ->setEnabled(desk_.May("ERRORLOG", Right::Read));
-    if (desk_.Library().DBG()) {
-        help->addAction("&Debug console", this,
-                        [this] { desk_.Debug("Front Desk is in debug mode."); });
-    }
-    help->addSeparator();
-    help->addAction("&About Front Desk", this, [this] { ShowAbout(); });
+    help->addAction("&Help for this screen", QKeySequence("F1"), this, [this] {
+        const int context = CurrentScreen().HelpContext();
+        const bool found = desk_.Library().ShowHelp(0, context);
+        desk_.Calls().Add("ShowHelp", {0, context}, found);
+    });
+    help->addAction(calls_.toggleViewAction());
+    help->addAction("&Error log", this, &FrontDeskWindow::ShowErrorLog)
+        ->setEnabled(desk_.Rights("ERRORLOG")->AllowRead());
 }
 
 void FrontDeskWindow::MakeStatusLine() {
-    auto* user = new QLabel(desk_.User());
+    auto* user = new QLabel(kUser);
     user->setToolTip("Signed in");
     clock_.setToolTip("The server's clock");
     printer_.setToolTip("Printer of receipts");
@@ -181,46 +175,51 @@ void FrontDeskWindow::MakeStatusLine() {
         label->setTextFormat(Qt::PlainText);
         statusBar()->addPermanentWidget(label);
     }
-    showCalls_.setDefaultAction(calls_->toggleViewAction());
-    showCalls_.setAutoRaise(true);
-    showCalls_.setToolButtonStyle(Qt::ToolButtonTextOnly);
-    statusBar()->addPermanentWidget(&showCalls_);
+    auto* showCalls = new QToolButton;
+    showCalls->setDefaultAction(calls_.toggleViewAction());
+    showCalls->setAutoRaise(true);
+    statusBar()->addPermanentWidget(showCalls);
     auto* tick = new QTimer(this);
-    connect(tick, &QTimer::timeout, this, [this] { ShowClock(); });
+    connect(tick, &QTimer::timeout, this, &FrontDeskWindow::ShowClock);
     tick->start(1000);
     ShowClock();
 }
 
 void FrontDeskWindow::ConnectScreens() {
-    connect(&desk_, &Desk::GoTo, this, [this](ScreenId id) { GoTo(id); });
-    connect(&desk_, &Desk::PatientChanged, this, [this] { Refresh(); });
-    connect(&desk_, &Desk::PrintersKnown, this, [this] {
-        const auto printers = desk_.Library().GetPrintersCollectionFiltered(true, true);
-        const QString last = desk_.ReceiptPrinter();
-        const bool isKnown = !last.isEmpty() || printers->Count() == 0;
-        printer_.setText(isKnown ? last
-                                 : halvek::ToQString(printers->Item(1)->PrinterDescription()));
-    });
-    connect(&desk_, &Desk::PrefsChanged, this, [this] {
-        if (!desk_.ReceiptPrinter().isEmpty()) printer_.setText(desk_.ReceiptPrinter());
-    });
+    connect(&desk_, &Desk::GoTo, this, &FrontDeskWindow::GoTo);
+    connect(&desk_, &Desk::PatientChanged, this, &FrontDeskWindow::Refresh);
+    connect(&desk_, &Desk::PrintersKnown, this, &FrontDeskWindow::ShowPrinter);
+    connect(&desk_, &Desk::PrefsChanged, this, &FrontDeskWindow::ShowPrinter);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* focused) { KeepInView(focused); });
-    connect(schedule_, &ScheduleScreen::SearchStarted, find_, &FindPatient::StartWith);
-    connect(checkIn_, &CheckInScreen::PostNow, this, [this] {
-        const qint64 copay = desk_.Server().CopayOf(desk_.Current()->insurance);
-        GoTo(copay == 0 ? ScreenId::Schedule : ScreenId::Payment);
-        if (copay != 0) payment_->PostNow(copay);
-    });
-    connect(payment_, &PaymentScreen::Posted, this, [this](const QString& what) {
-        statusBar()->showMessage(what, kMessageTime);
-        GoTo(ScreenId::Schedule);
-    });
+    connect(&desk_, &Desk::Told, statusBar(),
+            [this](const QString& what) { statusBar()->showMessage(what, kMessageTime); });
 }
 
-void FrontDeskWindow::Start() {
-    schedule_->GoToDue();
-    GoTo(ScreenId::Schedule);
+void FrontDeskWindow::WatchIdle(int seconds) {
+    connect(&idle_, &QTimer::timeout, this, &FrontDeskWindow::WarnIdle);
+    idle_.start(seconds * 1000);
+    qApp->installEventFilter(this);
+}
+
+bool FrontDeskWindow::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseMove ||
+        event->type() == QEvent::MouseButtonPress) {
+        idle_.start();
+    }
+    return false;
+}
+
+// An open dialog is left alone: it may hold an answer that somebody is about to give.
+void FrontDeskWindow::WarnIdle() {
+    if (desk_.OpenAccounts().isEmpty() || QApplication::activeModalWidget() != nullptr) return;
+    const auto answer = desk_.Ask(
+        "Nobody has used this desk for a while.\r\n\r\nThe open accounts close now, unless you "
+        "press OK.",
+        halvek::mbOkOnly, halvek::mbReminder, "Front Desk",
+        qMin(kCountdown, idle_.interval() / 1000));
+    if (answer == halvek::kClosedByCountdown) desk_.CloseAllAccounts();
+    idle_.start();
 }
 
 Screen& FrontDeskWindow::CurrentScreen() {
@@ -229,7 +228,7 @@ Screen& FrontDeskWindow::CurrentScreen() {
 
 void FrontDeskWindow::GoTo(ScreenId id) {
     const auto number = static_cast<int>(id);
-    if (id != ScreenId::Schedule && desk_.Current()) desk_.Accounts().Add(desk_.Current()->number);
+    if (id != ScreenId::Schedule && desk_.Current()) desk_.NoteOpen(desk_.Current()->number);
     stack_.setCurrentIndex(number);
     screenActions_.actions().at(number)->setChecked(true);
     Refresh();
@@ -244,7 +243,7 @@ void FrontDeskWindow::Refresh() {
 
 void FrontDeskWindow::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
-    if (!std::exchange(isPainted_, true)) QTimer::singleShot(0, this, &FrontDeskWindow::Painted);
+    if (!std::exchange(isPainted_, true)) QTimer::singleShot(0, &desk_, &Desk::ReadPrinters);
 }
 
 // A scroll area follows the Tab key by itself, but no key that leads straight to a field.
@@ -272,18 +271,19 @@ void FrontDeskWindow::ShowErrorLog() {
                                halvek::mbGray, halvek::mb5);
 }
 
-void FrontDeskWindow::ShowAbout() {
-    desk_.Ask(
-        "Front Desk is a small client of a practice that does not exist. It shows what "
-        "HalvekUtils does for such clients.\r\n\r\nVersion " +
-            QApplication::applicationVersion(),
-        halvek::mbOkOnly, halvek::mbInformation, "About Front Desk");
-}
-
 void FrontDeskWindow::ShowClock() {
     const auto now = halvek::PartsOf(desk_.Library().ServerTime());
     clock_.setText("server " +
                    Us().toString(QTime(now.hour, now.minute, now.second), "h:mm:ss AP"));
+}
+
+// The one used last, or else the first that receipts may go to
+void FrontDeskWindow::ShowPrinter() {
+    const QString last = desk_.ReceiptPrinter();
+    const auto printers = desk_.Library().GetPrintersCollectionFiltered(true, true);
+    printer_.setText(last.isEmpty() && printers->Count() > 0
+                         ? halvek::ToQString(printers->Item(1)->PrinterDescription())
+                         : last);
 }
 
 }  // namespace frontdesk

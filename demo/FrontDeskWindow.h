@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CallPane.h"
 #include "Desk.h"
-#include "FindPatient.h"
-#include "screens/CheckInScreen.h"
-#include "screens/PaymentScreen.h"
-#include "screens/ScheduleScreen.h"
-#include "widgets/Icons.h"
+#include "screens/Screen.h"
 
+#include <QAction>
 #include <QActionGroup>
+#include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QStackedWidget>
-#include <QToolButton>
+#include <QTimer>
 
 #include <vector>
 
@@ -22,28 +20,23 @@ namespace frontdesk {
 
 /// The client's one window: a bar with the screens, the patient, the screen, a status line.
 class FrontDeskWindow : public QMainWindow {
-    Q_OBJECT
-
   public:
     explicit FrontDeskWindow(Desk& desk);
 
-    /// Where the keyboard is when the window opens: on the patient who is due.
-    void Start();
-
-  signals:
-    /// The window is on the screen for the first time.
-    void Painted();
+    /// Closes the open accounts when nobody has used the desk for so long, after a box that counts
+    /// down: patients pass the desk.
+    void WatchIdle(int seconds);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void AddScreen(const char* caption, Glyph glyph, Screen* screen);
+    void AddScreen(const char* caption, const char* glyph, Screen* screen);
     void MakeToolBar();
-    void MakeFileMenu();
-    void MakeGoMenu();
-    void MakeWindowsMenu();
+    void MakeCallPane();
+    void MakeMenus();
     void MakeHelpMenu();
     void MakeStatusLine();
     void ConnectScreens();
@@ -51,24 +44,23 @@ class FrontDeskWindow : public QMainWindow {
     void Refresh();
     void FillWindowsMenu();
     void ShowErrorLog();
-    void ShowAbout();
     void ShowClock();
+    void ShowPrinter();
     void KeepInView(const QWidget* focused);
+    void WarnIdle();
     Screen& CurrentScreen();
 
     Desk& desk_;
-    ScheduleScreen* schedule_;
-    CheckInScreen* checkIn_;
-    PaymentScreen* payment_;
     std::vector<Screen*> screens_;
     QActionGroup screenActions_;
     QStackedWidget stack_;
-    FindPatient* find_;
-    QMenu* windows_ = nullptr;
-    CallPane* calls_;
+    QLineEdit* find_;
+    QMenu windows_;
+    QAction closeAccount_;
+    QDockWidget calls_;
     QLabel clock_;
     QLabel printer_;
-    QToolButton showCalls_;
+    QTimer idle_;
     bool isPainted_ = false;
 };
 

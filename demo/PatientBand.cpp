@@ -3,98 +3,54 @@
 
 #include "Texts.h"
 #include "widgets/Card.h"
-#include "widgets/RequiredColor.h"
 
-#include <QAccessible>
-#include <QPainter>
+#include <QHBoxLayout>
 
 namespace frontdesk {
 
-namespace {
-
-constexpr int kPadding = 9;
-constexpr qreal kNameScale = 1.3;
-
-int AgeOn(const QDate& day, const QDate& born) {
-    const bool hadBirthday = day.month() * 100 + day.day() >= born.month() * 100 + born.day();
-    return day.year() - born.year() - (hadBirthday ? 0 : 1);
-}
-
-}  // namespace
-
-PatientBand::PatientBand(Desk& desk) : desk_(desk) {
-    setObjectName("patient");
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    connect(&desk_, &Desk::PatientChanged, this, [this] { Refresh(); });
-    connect(&desk_, &Desk::PrefsChanged, this, [this] { update(); });
-    Refresh();
-}
-
-void PatientBand::Refresh() {
-    const auto& patient = desk_.Current();
-    name_ = patient ? patient->Name() : "No patient chosen";
-    details_.clear();
-    balance_.clear();
-    hasAlert_ = patient && patient->hasAlert;
-    if (patient) {
-        details_ = QString("#%1    born %2 (%3)")
-                       .arg(patient->number)
-                       .arg(DayText(patient->born))
-                       .arg(AgeOn(desk_.Server().Now().date(), patient->born));
-        balance_ = patient->balance > 0 ? Money(patient->balance) + " due" : "nothing due";
+QWidget* MakePatientBand(Desk& desk) {
+    constexpr int kPadding = 9;
+    constexpr qreal kLarge = 1.3;
+    auto* band = new QWidget;
+    auto* name = new QLabel;
+    auto* details = new QLabel;
+    auto* balance = new QLabel;
+    auto* alert = new QLabel("!");
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(kMargin, kPadding, kMargin, kPadding);
+    row->setSpacing(kMargin);
+    for (QLabel* label : {name, details, balance, alert}) {
+        label->setTextFormat(Qt::PlainText);
+        if (label != details) Emphasize(*label, kLarge);
+        row->addWidget(label);
     }
-    setAccessibleName(name_ + ' ' + details_ + ' ' + balance_ + (hasAlert_ ? " alert" : ""));
-    update();
-}
-
-QFont PatientBand::NameFont() const {
-    QFont font = this->font();
-    font.setPointSizeF(font.pointSizeF() * kNameScale);
-    font.setWeight(QFont::DemiBold);
-    return font;
-}
-
-QSize PatientBand::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 60,
-            QFontMetrics(NameFont()).height() + 2 * kPadding};
-}
-
-QSize PatientBand::minimumSizeHint() const {
-    return {0, sizeHint().height()};
-}
-
-void PatientBand::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), ToQColor(desk_.Library().FormTopColor()));
-    const QColor text = ToQColor(desk_.Library().FormTextColor());
-    painter.setPen(text);
-    QRect left = rect().adjusted(kMargin, 0, -kMargin, 0);
-
-    painter.setFont(NameFont());
-    if (hasAlert_) {
-        QFont mark = NameFont();
-        const int side = painter.fontMetrics().height();
-        const QRect disc(left.right() - side + 1, (height() - side) / 2, side, side);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0xF6B73C));
-        painter.drawEllipse(disc);
-        painter.setPen(Qt::black);
-        painter.drawText(disc, Qt::AlignCenter, "!");
-        painter.setPen(text);
-        left.setRight(disc.left() - kGap);
-    }
-    const int balanceWidth = painter.fontMetrics().horizontalAdvance(balance_);
-    painter.drawText(left, Qt::AlignVCenter | Qt::AlignRight, balance_);
-    left.setRight(left.right() - balanceWidth - kMargin);
-
-    const int nameWidth = qMin(painter.fontMetrics().horizontalAdvance(name_), left.width());
-    painter.drawText(left, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(name_, Qt::ElideRight, nameWidth + 1));
-    left.setLeft(left.left() + nameWidth + kMargin);
-    painter.setFont(font());
-    painter.drawText(left, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(details_, Qt::ElideRight, left.width()));
+    row->setStretchFactor(details, 1);
+    for (QLabel* label : {name, details}) label->setMinimumWidth(1);  // a narrow window cuts them
+    const int side = alert->sizeHint().height();
+    alert->setFixedSize(side, side);
+    alert->setAlignment(Qt::AlignCenter);
+    alert->setAccessibleName("Alert");
+    alert->setStyleSheet(
+        QString("background: #F6B73C; color: black; border-radius: %1px").arg(side / 2));
+    const auto show = [=, &desk] {
+        const Patient patient = desk.Current().value_or(Patient{});
+        const bool isChosen = desk.Current().has_value();
+        const QString born = DayText(patient.born);
+        const QString due = patient.balance > 0 ? Money(patient.balance) + " due" : "nothing due";
+        name->setText(isChosen ? patient.Name() : "No patient chosen");
+        details->setText(QString("#%1    born %2").arg(patient.number).arg(born));
+        balance->setText(due);
+        details->setVisible(isChosen);
+        balance->setVisible(isChosen);
+        alert->setVisible(patient.hasAlert);
+        SetColors(*band, desk.Library().FormTopColor(), desk.Library().FormTextColor());
+    };
+    QObject::connect(&desk, &Desk::PatientChanged, band, show);
+    QObject::connect(&desk, &Desk::PrefsChanged, band, show);
+    band->setAutoFillBackground(true);
+    band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    show();
+    return band;
 }
 
 }  // namespace frontdesk

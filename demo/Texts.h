@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "practice/Practice.h"
+
 #include <QDate>
 #include <QLocale>
 #include <QString>
 #include <QTime>
+
+#include <cstddef>
 
 namespace frontdesk {
 
@@ -16,9 +20,13 @@ inline QLocale Us() {
 
 /// "$1,234.50" from cents; "-$5.00" below zero.
 inline QString Money(qint64 cents) {
-    const QString digits =
-        Us().toString(qAbs(cents) / 100) + QString(".%1").arg(qAbs(cents) % 100, 2, 10, QChar('0'));
-    return (cents < 0 ? "-$" : "$") + digits;
+    const QString amount = Us().toCurrencyString(static_cast<double>(qAbs(cents)) / 100, "$");
+    return cents < 0 ? '-' + amount : amount;
+}
+
+/// The same; nothing for no adjustment.
+inline QString AdjustmentText(qint64 cents) {
+    return cents == 0 ? QString() : Money(cents);
 }
 
 /// "03/05/2024"
@@ -36,12 +44,10 @@ inline QString TimeText(const QTime& time) {
     return Us().toString(time, "h:mm AP");
 }
 
-/// The next day from Monday to Friday, in steps of 1 or -1.
-inline QDate WorkingDay(QDate day, int step) {
-    do {
-        day = day.addDays(step);
-    } while (day.dayOfWeek() > Qt::Friday);
-    return day;
+/// How the client calls a state.
+inline QString StateName(VisitState state) {
+    constexpr const char* kNames[] = {"expected", "DUE", "checked in", "paid"};
+    return kNames[static_cast<std::size_t>(state)];
 }
 
 }  // namespace frontdesk

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "DataFolder.h"
 #include "FrontDeskWindow.h"
-#include "IdleWatch.h"
-#include "Looks.h"
-#include "OpenPractice.h"
 #include "visit/VisitPlayer.h"
-#include "widgets/Icons.h"
 
 #include <halvekutils/qt/QtPlatform.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QIcon>
+#include <QPalette>
 
 #include <cstdio>
 #include <cstdlib>
@@ -21,30 +18,19 @@ namespace {
 
 using namespace frontdesk;
 
-constexpr char kDefaultIdle[] = "300";
-
-/// The options of the command line.
-struct Options {
-    QCommandLineOption data{"data", "Keep the practice in <file>; \":memory:\" keeps nothing.",
-                            "file"};
-    QCommandLineOption visit{
-        "visit", "Play one visit without a person; leave pictures in <folder>.", "folder"};
-    QCommandLineOption calls{"calls", "Append each call of the library to <file>.", "file"};
-    QCommandLineOption palette{
-        "palette", "Use the <colors> " + LooksNames().join(" or ") + ", not the desktop's own.",
-        "colors"};
-    QCommandLineOption idle{"idle",
-                            "Close the open accounts after <seconds> without a key or a click.",
-                            "seconds", kDefaultIdle};
-    QCommandLineOption debug{"debug", "Show the library's debug console."};
-
-    void AddTo(QCommandLineParser& parser) const {
-        parser.setApplicationDescription("The front desk of a practice, a client of HalvekUtils.");
-        parser.addHelpOption();
-        parser.addVersionOption();
-        parser.addOptions({data, visit, calls, palette, idle, debug});
-    }
-};
+void ReadOptions(QCommandLineParser& parser, const QApplication& app) {
+    parser.setApplicationDescription("The front desk of a practice, a client of HalvekUtils.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions(
+        {{"data", "Keep the practice in <file>; \":memory:\" keeps nothing.", "file"},
+         {"visit", "Play one visit without a person; leave pictures in <folder>.", "folder"},
+         {"calls", "Append each call of the library to <file>.", "file"},
+         {"idle", "Close the open accounts after <seconds> without a key or a click.", "seconds",
+          "300"},
+         {"debug", "Show the library's debug console."}});
+    parser.process(app);
+}
 
 void ChooseDisplay(int argumentCount) {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
@@ -56,9 +42,14 @@ void ChooseDisplay(int argumentCount) {
     if (!hasX && !hasWayland && argumentCount > 1) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-QString DataFile(const QCommandLineParser& parser, const Options& options) {
-    if (parser.isSet(options.data)) return parser.value(options.data);
-    return parser.isSet(options.visit) ? QString(":memory:") : DataFolder() + "/practice.db";
+/// What Qt leaves hard to see on a dark desktop: the outlines of fields, which its Fusion style
+/// derives from the colour of the window, and the hints in empty ones.
+void MendDarkColors() {
+    if (QApplication::palette().color(QPalette::Window).lightness() >= 128) return;
+    QPalette palette;
+    palette.setColor(QPalette::Window, 0x8F9296);
+    palette.setColor(QPalette::PlaceholderText, 0x9A9DA1);
+    for (const char* field : {"QLineEdit", "QComboBox"}) QApplication::setPalette(palette, field);
 }
 
 /// Writes each call to a file as it happens.
@@ -73,25 +64,19 @@ void AppendCalls(CallLog& calls, QFile& file) {
     });
 }
 
-int Run(const QCommandLineParser& parser, const Options& options) {
-    if (parser.isSet(options.palette)) UseLooks(parser.value(options.palette));
+int Run(const QCommandLineParser& parser) {
+    MendDarkColors();
     CallLog calls;
-    QFile callFile(parser.value(options.calls));
-    if (parser.isSet(options.calls)) AppendCalls(calls, callFile);
-    const auto utils = halvek::Utils::Create();
-    const bool debug = parser.isSet(options.debug);
-    utils->InitUtils(ErrorLogFile(), u"Front Desk", u"clinic", debug, u"" HALVEK_DEMO_VERSION);
-    calls.Add("InitUtils", {ErrorLogFile(), QString("Front Desk"), QString("clinic"), debug});
-    auto practice = OpenPractice(DataFile(parser, options), *utils);
-    if (practice == nullptr) return EXIT_FAILURE;
-    Desk desk(utils, calls, std::move(practice));
+    QFile callFile(parser.value("calls"));
+    if (parser.isSet("calls")) AppendCalls(calls, callFile);
+    Desk desk(calls, parser.isSet("debug"));
+    const bool isVisit = parser.isSet("visit");
+    const QString usual = isVisit ? QString(":memory:") : DataFolder() + "/practice.db";
+    if (!desk.Open(parser.isSet("data") ? parser.value("data") : usual)) return EXIT_FAILURE;
     FrontDeskWindow window(desk);
-    QObject::connect(&window, &FrontDeskWindow::Painted, &desk, &Desk::FinishStart);
     window.show();
-    window.Start();
-    if (parser.isSet(options.visit))
-        return VisitPlayer(desk, window, parser.value(options.visit)).Play();
-    const IdleWatch idle(desk, parser.value(options.idle).toInt());
+    if (isVisit) return PlayVisit(desk, window, parser.value("visit"));
+    window.WatchIdle(parser.value("idle").toInt());
     return QCoreApplication::exec();
 }
 
@@ -99,19 +84,17 @@ int Run(const QCommandLineParser& parser, const Options& options) {
 
 int main(int argc, char** argv) {
     ChooseDisplay(argc);
-    QApplication app(argc, argv);
+    const QApplication app(argc, argv);
     QCoreApplication::setOrganizationName("HalvekUtils");
     QCoreApplication::setApplicationName("FrontDesk");
     QCoreApplication::setApplicationVersion(HALVEK_DEMO_VERSION);
     QGuiApplication::setDesktopFileName("halvekutils-demo");
-    QGuiApplication::setWindowIcon(MakeIcon(Glyph::Desk));
+    QGuiApplication::setWindowIcon(QIcon(":/icons/desk.png"));
     const halvek::QtPlatform desktop;
-    const Options options;
     QCommandLineParser parser;
-    options.AddTo(parser);
-    parser.process(app);
+    ReadOptions(parser, app);
     try {
-        return Run(parser, options);
+        return Run(parser);
     } catch (const std::exception& caught) {
         std::fprintf(stderr, "Front Desk cannot start: %s\n", caught.what());
         return EXIT_FAILURE;

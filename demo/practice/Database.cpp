@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "practice/Database.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QSqlError>
 
 #include <utility>
@@ -11,37 +9,20 @@ namespace frontdesk {
 
 namespace {
 
-constexpr char kMemory[] = ":memory:";
-// The start of every SQLite file
-constexpr char kMagic[] = "SQLite format 3";
-// What marks a file as a practice's, "FDsk", and the layout of its tables
+// What marks a file as a practice's, "FDsk", and the layout of its tables; sample.sql sets both.
 constexpr int kApplication = 0x4644736B;
 constexpr int kLayout = 1;
 
-QString FaultOfHeader(const QString& path) {
-    if (path == kMemory) return {};
-    QFile file(path);
-    if (!file.exists() || file.size() == 0) return {};
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return path + " cannot be opened: " + file.errorString() + '.';
-    }
-    if (file.read(sizeof kMagic) != QByteArray(kMagic, sizeof kMagic)) {
-        return path + " is not the file of a practice, or its beginning is damaged.";
-    }
-    return {};
-}
-
-QString Connect(const QString& connection, const QString& path) {
-    auto file = QSqlDatabase::addDatabase("QSQLITE", connection);
-    file.setDatabaseName(path);
-    file.setConnectOptions("QSQLITE_BUSY_TIMEOUT=5000");
-    if (file.open()) return {};
-    return path + " cannot be opened: " + file.lastError().text() + '.';
-}
+// SQLite's number for a file that does not begin as its own do
+constexpr char kNotADatabase[] = "26";
 
 // FULL: a payment that the desk has confirmed survives a power cut too, not only a crash.
 constexpr const char* kPragmas[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
                                     "PRAGMA foreign_keys=ON"};
+
+QString ReasonOf(const QSqlError& error) {
+    return error.text().trimmed() + '.';
+}
 
 }  // namespace
 
@@ -53,95 +34,63 @@ Database::~Database() {
 }
 
 std::unique_ptr<Database> Database::Open(const QString& path, QString& fault) {
-    fault = FaultOfHeader(path);
-    if (!fault.isEmpty()) return nullptr;
     static int opened = 0;
     const QString connection = QString("practice-%1").arg(++opened);
     std::unique_ptr<Database> database(new Database(connection));
-    fault = Connect(connection, path);
-    if (!fault.isEmpty()) return nullptr;
-    const QString faultOfFile = database->FaultOfFile();
-    if (!faultOfFile.isEmpty()) fault = path + ' ' + faultOfFile;
-    return fault.isEmpty() ? std::move(database) : nullptr;
+    auto file = QSqlDatabase::addDatabase("QSQLITE", connection);
+    file.setDatabaseName(path);
+    file.setConnectOptions("QSQLITE_BUSY_TIMEOUT=5000");
+    fault =
+        file.open() ? database->FaultOfFile() : "cannot be opened: " + ReasonOf(file.lastError());
+    if (fault.isEmpty()) return database;
+    fault.prepend(path + ' ');
+    return nullptr;
 }
 
 QString Database::FaultOfFile() {
-    QString fault;
-    OnFault([&](const QString& reason) { fault = "is damaged: " + reason + '.'; });
     QSqlQuery check = Run("PRAGMA quick_check(1)");
-    if (fault.isEmpty() && check.next() && check.value(0).toString() != "ok") {
-        fault = "is damaged: " + check.value(0).toString() + '.';
+    const QString result = check.next() ? check.value(0).toString() : ReasonOf(check.lastError());
+    if (check.lastError().nativeErrorCode() == kNotADatabase) {
+        return "is not the file of a practice, or its beginning is damaged.";
     }
+    if (result != "ok") return "is damaged: " + result;
     check.finish();
-    if (fault.isEmpty() && !IsEmpty()) {
-        QSqlQuery mark =
-            Run("SELECT (SELECT application_id FROM pragma_application_id),"
-                " (SELECT user_version FROM pragma_user_version)");
-        mark.next();
-        if (mark.value(0).toInt() != kApplication) {
-            fault = "belongs to another program.";
-        } else if (mark.value(1).toInt() != kLayout) {
-            fault = "was made by another version of Front Desk.";
+    if (!IsEmpty()) {
+        if (Value("PRAGMA application_id") != kApplication) return "belongs to another program.";
+        if (Value("PRAGMA user_version") != kLayout) {
+            return "was made by another version of Front Desk.";
         }
     }
     for (const char* pragma : kPragmas) {
-        if (fault.isEmpty()) Run(pragma);
+        const QSqlQuery set = Run(pragma);
+        if (failed_) return "cannot be written: " + ReasonOf(set.lastError());
     }
-    OnFault({});
-    return fault;
-}
-
-bool Database::IsEmpty() const {
-    QSqlQuery tables("SELECT count(*) FROM sqlite_master", QSqlDatabase::database(connection_));
-    return tables.next() && tables.value(0).toInt() == 0;
+    return {};
 }
 
 QSqlQuery Database::Run(const QString& sql, const QVariantList& values) {
-    QSqlQuery query = Prepared(sql);
-    RunAgain(query, values);
-    return query;
-}
-
-QSqlQuery Database::Prepared(const QString& sql) {
     QSqlQuery query(QSqlDatabase::database(connection_));
     query.setForwardOnly(true);
-    if (!query.prepare(sql)) Report(query.lastError().text());
+    const bool isPrepared = query.prepare(sql);
+    for (const QVariant& value : values) query.addBindValue(value);
+    if (isPrepared && query.exec()) return query;
+    failed_ = true;
+    if (report_) report_(query.lastError().text().trimmed());
     return query;
 }
 
-bool Database::RunAgain(QSqlQuery& query, const QVariantList& values) {
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        query.bindValue(static_cast<int>(i), values[i]);
-    }
-    if (query.exec()) return true;
-    Report(query.lastError().text());
-    return false;
+QVariant Database::Value(const QString& sql, const QVariantList& values) {
+    QSqlQuery row = Run(sql, values);
+    return row.next() ? row.value(0) : QVariant();
 }
 
-void Database::Report(const QString& fault) {
-    failed_ = true;
-    if (report_) report_(fault.trimmed());
-}
-
-Transaction::Transaction(Database& database) : database_(database) {
-    database_.failed_ = false;
-    database_.Run("BEGIN IMMEDIATE");
-    // With the first tables; repeated later it changes nothing
-    if (!database_.failed_ && database_.IsEmpty()) {
-        database_.Run(QString("PRAGMA application_id=%1").arg(kApplication));
-        database_.Run(QString("PRAGMA user_version=%1").arg(kLayout));
-    }
-}
-
-Transaction::~Transaction() {
-    if (open_) database_.Run("ROLLBACK");
-}
-
-bool Transaction::Commit() {
-    if (database_.failed_ || !open_) return false;
-    database_.Run("COMMIT");
-    open_ = database_.failed_;
-    return !open_;
+bool Database::Store(const std::function<void()>& act) {
+    failed_ = false;
+    Run("BEGIN IMMEDIATE");
+    if (!failed_) act();
+    if (!failed_) Run("COMMIT");
+    if (failed_) QSqlDatabase::database(connection_).rollback();
+    return !failed_;
 }
 
 }  // namespace frontdesk

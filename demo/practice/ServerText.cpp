@@ -3,26 +3,27 @@
 
 #include <halvekutils/qt/QtText.h>
 
+#include <cstddef>
+
 namespace frontdesk {
 
 namespace {
 
 struct FormatRow {
-    TextFormat format;
-    QChar betweenRecords;
-    QChar betweenFields;
+    const char16_t* betweenRecords;
+    const char16_t* betweenFields;
     bool endsRecords;          ///< the last record has a separator too
     const char16_t* reserved;  ///< what no value may hold
 };
 
-// In rights nothing stands between an item and its digit.
+// In the order of the formats. In rights nothing stands between an item and its digit.
 constexpr FormatRow kFormats[] = {
-    {TextFormat::Codes, u'|', u'\u00E6', false, u"|\u00E6"},
-    {TextFormat::Rights, u'\u00E6', QChar(), false, u"\u00E6"},
-    {TextFormat::Printers, u'\t', u':', false, u"\t:"},
-    {TextFormat::Settings, QChar(), u'\u00DF', false, u"\u00DF"},
-    {TextFormat::Reminders, u'\u00E7', u'\u00E6', false, u"\u00E6\u00E7\u00A3"},
-    {TextFormat::Selection, u':', u'\t', true, u":\t"},
+    {u"|", u"\u00E6", false, u"|\u00E6"},                  // code tables
+    {u"\u00E6", u"", false, u"\u00E6"},                    // rights
+    {u"\t", u":", false, u"\t:"},                          // printers
+    {u"", u"\u00DF", false, u"\u00DF"},                    // settings
+    {u"\u00E7", u"\u00E6", false, u"\u00E6\u00E7\u00A3"},  // reminders
+    {u":", u"\t", true, u":\t"},                           // selection lists
 };
 
 struct Replacement {
@@ -36,17 +37,14 @@ constexpr Replacement kReplacements[] = {
 };
 
 const FormatRow& RowOf(TextFormat format) {
-    for (const FormatRow& row : kFormats) {
-        if (row.format == format) return row;
-    }
-    return kFormats[0];
+    return kFormats[static_cast<std::size_t>(format)];
 }
 
 }  // namespace
 
-QString ServerText::Carried(const QString& value) const {
+QString Carried(TextFormat format, const QString& value) {
     QString carried = value;
-    const QStringView reserved(RowOf(format_).reserved);
+    const QStringView reserved(RowOf(format).reserved);
     for (const Replacement& replacement : kReplacements) {
         if (reserved.contains(QChar(replacement.letter))) {
             carried.replace(QChar(replacement.letter), QLatin1String(replacement.by));
@@ -55,18 +53,16 @@ QString ServerText::Carried(const QString& value) const {
     return carried;
 }
 
-void ServerText::Add(const QStringList& values) {
-    const FormatRow& row = RowOf(format_);
-    QStringList carried;
-    for (const QString& value : values) carried << Carried(value);
-    if (hasRecords_ && !row.endsRecords) text_ += row.betweenRecords;
-    text_ += row.betweenFields.isNull() ? carried.join("") : carried.join(row.betweenFields);
-    if (row.endsRecords) text_ += row.betweenRecords;
-    hasRecords_ = true;
-}
-
-QByteArray ServerText::Bytes() const {
-    return halvek::ToServer(text_);
+QByteArray ServerText(TextFormat format, const QList<QStringList>& records, const QString& mark) {
+    const FormatRow& row = RowOf(format);
+    QStringList texts;
+    for (const QStringList& values : records) {
+        QStringList carried;
+        for (const QString& value : values) carried << Carried(format, value);
+        texts << carried.join(QStringView(row.betweenFields));
+    }
+    if (row.endsRecords) texts << QString();
+    return halvek::ToServer(texts.join(QStringView(row.betweenRecords)) + mark);
 }
 
 }  // namespace frontdesk

@@ -3,6 +3,10 @@
 -- visits each, 5,000 codes. Days and times are ISO texts, amounts are cents, colours have red in the
 -- low byte. A statement ends where a line ends in a semicolon.
 
+-- What marks the file as a practice's, "FDsk", and the layout of its tables
+PRAGMA application_id=1178891115;
+PRAGMA user_version=1;
+
 CREATE TABLE clock (value TEXT NOT NULL);
 CREATE TABLE color (value INTEGER NOT NULL);
 CREATE TABLE code_table (name TEXT PRIMARY KEY, title TEXT, lookup INTEGER, menu INTEGER,
@@ -16,8 +20,7 @@ CREATE TABLE printer (id TEXT PRIMARY KEY, description TEXT NOT NULL, port TEXT 
 CREATE TABLE user_right (user TEXT NOT NULL, item TEXT NOT NULL, digit TEXT NOT NULL);
 CREATE TABLE setting (user TEXT PRIMARY KEY, text BLOB NOT NULL);
 CREATE TABLE patient (number INTEGER PRIMARY KEY, last TEXT NOT NULL, first TEXT NOT NULL,
-    search TEXT NOT NULL DEFAULT '',
-    first_search TEXT NOT NULL DEFAULT '', born TEXT NOT NULL, phone TEXT NOT NULL,
+    born TEXT NOT NULL, phone TEXT NOT NULL,
     address TEXT NOT NULL, insurance TEXT NOT NULL, policy TEXT NOT NULL,
     balance INTEGER NOT NULL, alert INTEGER NOT NULL DEFAULT 0);
 CREATE TABLE reminder (patient INTEGER NOT NULL REFERENCES patient, tab TEXT NOT NULL,

@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "screens/CheckInScreen.h"
-
 #include "Texts.h"
+#include "screens/ReminderTabs.h"
+#include "screens/Screen.h"
 #include "widgets/Buttons.h"
-#include "widgets/Columns.h"
-#include "widgets/FieldForm.h"
+#include "widgets/Card.h"
+#include "widgets/Fields.h"
 
 #include <halvekutils/qt/QtText.h>
 
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QStringList>
+#include <QTabWidget>
+
+#include <array>
 
 namespace frontdesk {
 
@@ -20,77 +25,105 @@ constexpr int kDaysToNextVisit = 14;
 constexpr char kTitle[] = "Check-in";
 constexpr QChar kBetweenFields('^');  // of a draft
 
-}  // namespace
+/// The patient has arrived: insurance, provider, procedures and the next visit. What was typed for
+/// an account stays until the visit is checked in.
+class CheckInScreen : public Screen {
+  public:
+    explicit CheckInScreen(Desk& desk);
+
+    void Refresh() override;
+    QWidget* FirstField() override;
+    int HelpContext() const override { return 300; }
+
+  private:
+    QWidget* MakeForm();
+    std::array<QLineEdit*, 4> Fields() const;
+    void Fill(const Visit& visit);
+    void KeepDraft();
+    QString DraftKey() const;
+    void ShowCopay();
+    void PostCopay();
+    QDate NextDay() const;
+    bool CheckIn();
+
+    CodesField* insurance_;
+    CodesField* provider_;
+    CodesField* procedures_;
+    LookupField* next_;
+    QTabWidget* reminders_;
+    QLabel* visit_;
+    QLabel* copay_;
+    QPushButton* checkInAndPost_;
+    QWidget* card_;
+    int visitShown_ = 0;
+};
 
 CheckInScreen::CheckInScreen(Desk& desk)
     : Screen(desk),
       insurance_(new CodesField(desk, "INS", "Insurance", 1)),
       provider_(new CodesField(desk, "PRV", "Provider", 1)),
       procedures_(new CodesField(desk, "PRC", "Procedures", kMostProcedures)),
-      next_(new DateField(desk, "Next visit")),
-      reminders_(new ReminderTabs),
+      next_(new LookupField(desk, "Next visit", "calendar", "Choose from the calendar (F2)")),
+      reminders_(new QTabWidget),
       visit_(MakeNote()),
       copay_(MakeNote()),
-      checkInAndPost_(new PrimaryButton("Check &in and post")),
-      checkIn_(MakeButton("Check in &only")) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->addWidget(new Columns(MakeForm(), 3, MakeReminders(), 2));
-    column->addStretch();
-    checkInAndPost_->setObjectName("checkInAndPost");
-    checkInAndPost_->setShortcut(Qt::CTRL | Qt::Key_Return);
-    checkInAndPost_->setToolTip("Ctrl+Enter");
-    connect(checkInAndPost_, &QPushButton::clicked, this, [this] {
-        if (CheckIn()) emit PostNow();
+      checkInAndPost_(MakePrimaryButton("Check in and post")),
+      card_(MakeForm()) {
+    column_->addWidget(new Columns(card_, 3, new Card("Reminders", reminders_), 2));
+    column_->addStretch();
+    connect(insurance_, &QLineEdit::textChanged, this, &CheckInScreen::ShowCopay);
+    connect(next_, &LookupField::LookedUp, this, [this] {
+        const QString day = desk_.ChooseDay(next_, next_->text());
+        if (!day.isEmpty()) next_->setText(day);
+        next_->setFocus();
     });
-    connect(checkIn_, &QPushButton::clicked, this, [this] {
-        if (CheckIn()) emit TheDesk().GoTo(ScreenId::Schedule);
-    });
-    connect(insurance_, &CodesField::Changed, this, [this] { ShowCopay(); });
 }
 
-Card* CheckInScreen::MakeForm() {
-    auto* card = new Card("Check-in");
-    card->Content().addWidget(visit_);
-    auto* form = new FieldForm(TheDesk());
-    form->AddRow("In&surance", insurance_);
-    form->AddRow("&Provider", provider_);
-    form->AddRow("Proced&ures", procedures_);
+QWidget* CheckInScreen::MakeForm() {
+    auto* form = new FieldForm(desk_);
+    form->AddRow("In&surance", insurance_, insurance_->Meaning());
+    form->AddRow("&Provider", provider_, provider_->Meaning());
+    form->AddRow("Proced&ures", procedures_, procedures_->Meaning());
     form->AddRow("Ne&xt visit", next_);
-    card->Content().addWidget(form);
-    card->Content().addWidget(copay_);
+    next_->setPlaceholderText("mm/dd/yyyy");
+    auto* checkIn = MakeButton("Check in &only");
+    connect(checkInAndPost_, &QPushButton::clicked, this, [this] {
+        if (CheckIn()) PostCopay();
+    });
+    connect(checkIn, &QPushButton::clicked, this, [this] {
+        if (CheckIn()) emit desk_.GoTo(ScreenId::Schedule);
+    });
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(checkInAndPost_);
-    buttons->addWidget(checkIn_);
+    buttons->addWidget(checkIn);
     buttons->addStretch();
+    auto* card = new Card("Check-in");
+    card->Content().addWidget(visit_);
+    card->Content().addWidget(form);
+    card->Content().addWidget(copay_);
     card->Content().addLayout(buttons);
+    card->Content().addStretch();
     return card;
 }
 
-Card* CheckInScreen::MakeReminders() {
-    auto* card = new Card("Reminders");
-    card->Content().addWidget(reminders_, 1);
-    return card;
+std::array<QLineEdit*, 4> CheckInScreen::Fields() const {
+    return {insurance_, provider_, procedures_, next_};
 }
 
 QWidget* CheckInScreen::FirstField() {
-    if (!insurance_->isEnabled()) return this;
-    return insurance_->Line();
+    return card_->isEnabled() ? static_cast<QWidget*>(insurance_) : this;
 }
 
 void CheckInScreen::Refresh() {
     KeepDraft();
-    if (TheDesk().Current()) reminders_->Show(TheDesk().RemindersOfAccount());
-    const auto visit = TheDesk().VisitOfToday();
+    if (desk_.Current()) ShowReminders(*reminders_, desk_.RemindersOfAccount());
+    const auto visit = desk_.VisitOfToday();
     const bool isDue = visit && visit->state < VisitState::CheckedIn;
-    const std::initializer_list<QWidget*> parts = {insurance_, provider_,       procedures_,
-                                                   next_,      checkInAndPost_, checkIn_};
-    for (QWidget* part : parts) part->setEnabled(isDue && TheDesk().May("SCHEDULE", Right::Modify));
+    card_->setEnabled(isDue && desk_.Rights("SCHEDULE")->AllowModify());
     if (isDue) return Fill(*visit);
     visitShown_ = 0;
-    for (CodesField* field : {insurance_, provider_, procedures_}) field->SetCodes({});
-    next_->SetText({});
+    for (QLineEdit* field : Fields()) field->clear();
     visit_->setText(visit ? "The visit of today is checked in."
                           : "No visit is to be checked in today.");
     copay_->clear();
@@ -99,27 +132,15 @@ void CheckInScreen::Refresh() {
 void CheckInScreen::Fill(const Visit& visit) {
     if (visitShown_ == visit.id) return;
     visitShown_ = visit.id;
-    QString reasonText = visit.reason;
-    QString procedure;
-    for (const Reason& reason : TheDesk().Server().Reasons()) {
-        if (reason.code != visit.reason) continue;
-        reasonText = reason.description;
-        procedure = reason.procedure;
+    const Reason reason = desk_.Server().ReasonOf(visit);
+    visit_->setText(QString("Today at %1: %2").arg(TimeText(visit.time), reason.description));
+    const QString draft = halvek::ToQString(desk_.Library().GetBinData(DraftKey()));
+    QStringList texts = draft.split(kBetweenFields);
+    if (draft.isEmpty()) {
+        texts = QStringList{desk_.Current()->insurance, visit.provider, reason.procedure,
+                            DayText(visit.day.addDays(kDaysToNextVisit))};
     }
-    visit_->setText(QString("Today at %1: %2").arg(TimeText(visit.time), reasonText));
-    const QString draft = halvek::ToQString(TheDesk().Library().GetBinData(DraftKey()));
-    const QStringList fields = draft.split(kBetweenFields);
-    if (fields.size() == 4) {
-        insurance_->SetCodes(fields[0]);
-        provider_->SetCodes(fields[1]);
-        procedures_->SetCodes(fields[2]);
-        next_->SetText(fields[3]);
-        return;
-    }
-    insurance_->SetCodes(TheDesk().Current()->insurance);
-    provider_->SetCodes(visit.provider);
-    procedures_->SetCodes(procedure);
-    next_->SetText(DayText(visit.day.addDays(kDaysToNextVisit)));
+    for (QLineEdit* field : Fields()) field->setText(texts.takeFirst());
     ShowCopay();
 }
 
@@ -130,39 +151,54 @@ QString CheckInScreen::DraftKey() const {
 // The library's bins keep what was typed while other accounts are worked on.
 void CheckInScreen::KeepDraft() {
     if (visitShown_ == 0) return;
-    const QString draft =
-        QStringList{insurance_->Codes(), provider_->Codes(), procedures_->Codes(), next_->Text()}
-            .join(kBetweenFields);
-    TheDesk().Library().AddBin(DraftKey(), draft, u"check-in");
-    TheDesk().Calls().Add("AddBin", {DraftKey(), draft, QString("check-in")});
+    QStringList texts;
+    for (const QLineEdit* field : Fields()) texts << field->text().remove(kBetweenFields);
+    const QString draft = texts.join(kBetweenFields);
+    desk_.Library().AddBin(DraftKey(), draft, u"check-in");
+    desk_.Calls().Add("AddBin", {DraftKey(), draft, "check-in"});
 }
 
 void CheckInScreen::ShowCopay() {
-    const qint64 copay = TheDesk().Server().CopayOf(insurance_->Codes());
+    const qint64 copay = desk_.Server().CopayOf(insurance_->Codes());
     copay_->setText("Copay of this visit: " + Money(copay));
-    checkInAndPost_->setText(copay == 0 ? QString("Check &in")
-                                        : "Check &in and post " + Money(copay));
-    checkInAndPost_->setShortcut(Qt::CTRL | Qt::Key_Return);  // a new text clears it
+    SetText(*checkInAndPost_, copay == 0 ? "Check in" : "Check in and post " + Money(copay));
+}
+
+void CheckInScreen::PostCopay() {
+    const qint64 copay = desk_.Server().CopayOf(desk_.Current()->insurance);
+    emit desk_.GoTo(copay == 0 ? ScreenId::Schedule : ScreenId::Payment);
+    if (copay != 0) emit desk_.PostNow(copay);
+}
+
+QDate CheckInScreen::NextDay() const {
+    const auto day = halvek::ParseDateTime(next_->text().trimmed(), desk_.Library().ServerTime());
+    return day ? DayFrom(halvek::ToQString(halvek::DateOnlyText(*day))) : QDate();
 }
 
 bool CheckInScreen::CheckIn() {
-    const auto visit = TheDesk().VisitOfToday();
-    if (!visit) return false;
-    if (!insurance_->Check() || !provider_->Check() || !procedures_->Check()) return false;
-    if (!next_->Text().isEmpty() && next_->Day() <= visit->day) {
-        TheDesk().Ask("The next visit must be on a day after today, or left empty.",
-                      halvek::mbOkOnly, halvek::mbExclamation, kTitle);
+    const auto visit = desk_.VisitOfToday();
+    if (!visit || !insurance_->Check() || !provider_->Check() || !procedures_->Check())
+        return false;
+    if (!next_->text().trimmed().isEmpty() && NextDay() <= visit->day) {
+        desk_.Ask("The next visit must be on a day after today, or left empty.", halvek::mbOkOnly,
+                  halvek::mbExclamation, kTitle);
         next_->setFocus();
         return false;
     }
     const Arrival arrival = {visit->id, insurance_->Codes(), provider_->Codes(),
-                             procedures_->Codes(), next_->Day()};
-    if (!TheDesk().Server().CheckIn(arrival)) return false;
-    TheDesk().Library().RemoveBin(DraftKey());
-    TheDesk().Calls().Add("RemoveBin", {DraftKey()});
+                             procedures_->Codes(), NextDay()};
+    if (!desk_.Server().CheckIn(arrival)) return false;
+    desk_.Library().RemoveBin(DraftKey());
+    desk_.Calls().Add("RemoveBin", {DraftKey()});
     visitShown_ = 0;
-    TheDesk().NotePracticeChanged();
+    desk_.NotePracticeChanged();
     return true;
+}
+
+}  // namespace
+
+Screen* MakeCheckInScreen(Desk& desk) {
+    return new CheckInScreen(desk);
 }
 
 }  // namespace frontdesk

@@ -1,23 +1,28 @@
 // SPDX-License-Identifier: MIT
-#include "screens/PaymentScreen.h"
-
 #include "Texts.h"
-#include "widgets/Columns.h"
-#include "widgets/FieldForm.h"
-#include "widgets/Icons.h"
-#include "widgets/List.h"
-#include "widgets/RequiredColor.h"
+#include "screens/Screen.h"
+#include "widgets/Buttons.h"
+#include "widgets/Card.h"
+#include "widgets/Fields.h"
+#include "widgets/Tables.h"
 
 #include <halvekutils/qt/CurrencyField.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
 
+#include <QComboBox>
 #include <QHBoxLayout>
-#include <QToolButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
 
 #include <limits>
 
 namespace frontdesk {
+
+using halvek::CurrencyCents;
+using halvek::ToQString;
 
 namespace {
 
@@ -27,12 +32,43 @@ constexpr int kLetters = 14;
 QLineEdit* MakeLine(const QString& name) {
     auto* line = new QLineEdit;
     line->setAccessibleName(name);
-    line->setObjectName(QString(name).toLower());
     line->setFixedWidth(line->fontMetrics().averageCharWidth() * kLetters);
     return line;
 }
 
-}  // namespace
+/// Takes a payment, and shows those of the account between two amounts.
+class PaymentScreen : public Screen {
+  public:
+    explicit PaymentScreen(Desk& desk);
+
+    void Refresh() override;
+    QWidget* FirstField() override { return amount_; }
+    int HelpContext() const override { return 400; }
+
+  private:
+    QWidget* MakeForm();
+    QWidget* MakePayments();
+    void MakeCurrencyFields();
+    void FillCombo(QComboBox* box, const QStringList& entries);
+    void FillMethods();
+    void FillPrinters();
+    void ShowBalanceAfter();
+    void ShowPayments();
+    void Calculate();
+    void PostNow(qint64 cents);
+    void Post();
+
+    QLineEdit* amount_;
+    QLineEdit* adjustment_;
+    QComboBox* method_;
+    QComboBox* printer_;
+    QLabel* after_;
+    QPushButton* post_;
+    QLineEdit* from_;
+    QLineEdit* to_;
+    QTableWidget* payments_;
+    int shown_ = 0;  ///< the account
+};
 
 PaymentScreen::PaymentScreen(Desk& desk)
     : Screen(desk),
@@ -41,61 +77,57 @@ PaymentScreen::PaymentScreen(Desk& desk)
       method_(new QComboBox),
       printer_(new QComboBox),
       after_(MakeNote()),
-      post_(new PrimaryButton("&Post")),
+      post_(MakePrimaryButton("Post")),
       from_(MakeLine("From")),
       to_(MakeLine("To")),
       payments_(MakeList("Payments", {"Posted", "Amount", "Adjustment", "By", "Receipt"})) {
-    desk.MakeAmount(amount_);
-    desk.MakeSignedAmount(adjustment_);
-    desk.MakeAmount(from_);
-    halvek::CheckCurrencyRange(from_, to_, u"From", u"To");
-    desk.Calls().Add("CheckCurrencyRange", {"From", "To"});
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->addWidget(new Columns(MakeForm(), 2, MakePayments(), 3), 1);
-    post_->setObjectName("post");
-    post_->setShortcut(Qt::CTRL | Qt::Key_Return);
-    post_->setToolTip("Ctrl+Enter");
-    connect(post_, &QPushButton::clicked, this, [this] { Post(); });
-    connect(amount_, &QLineEdit::textChanged, this, [this] { ShowBalanceAfter(); });
-    connect(adjustment_, &QLineEdit::textChanged, this, [this] { ShowBalanceAfter(); });
-    connect(from_, &QLineEdit::textChanged, this, [this] { ShowPayments(); });
-    connect(to_, &QLineEdit::textChanged, this, [this] { ShowPayments(); });
-    connect(&desk, &Desk::PrintersKnown, this, [this] { FillPrinters(); });
-    connect(&desk, &Desk::PrefsChanged, this,
-            [this] { ShowAsRequired(*amount_, TheDesk().Library()); });
-    ShowAsRequired(*amount_, desk.Library());
+    MakeCurrencyFields();
+    ShowAsRequired(*amount_, desk);
     FillMethods();
+    column_->addWidget(new Columns(MakeForm(), 2, MakePayments(), 3), 1);
+    connect(post_, &QPushButton::clicked, this, &PaymentScreen::Post);
+    for (const QLineEdit* line : {amount_, adjustment_}) {
+        connect(line, &QLineEdit::textChanged, this, &PaymentScreen::ShowBalanceAfter);
+    }
+    for (const QLineEdit* line : {from_, to_}) {
+        connect(line, &QLineEdit::textChanged, this, &PaymentScreen::ShowPayments);
+    }
+    connect(&desk, &Desk::PrintersKnown, this, &PaymentScreen::FillPrinters);
+    connect(&desk, &Desk::PostNow, this, &PaymentScreen::PostNow);
 }
 
-Card* PaymentScreen::MakeForm() {
-    auto* calculator = new QToolButton;
-    calculator->setIcon(MakeIcon(Glyph::Calculator));
-    calculator->setAccessibleName("Calculator");
-    calculator->setToolTip("Calculator (Ctrl+K)");
-    calculator->setShortcut(Qt::CTRL | Qt::Key_K);
-    calculator->setFocusPolicy(Qt::StrongFocus);
-    connect(calculator, &QToolButton::clicked, this, [this] { Calculate(); });
+void PaymentScreen::MakeCurrencyFields() {
+    halvek::MakeCurrencyField(amount_);
+    desk_.Calls().Add("MakeCurrencyField", {"Amount"});
+    halvek::MakeSignedCurrencyField(adjustment_);
+    desk_.Calls().Add("MakeSignedCurrencyField", {"Adjustment"});
+    halvek::MakeCurrencyField(from_);
+    desk_.Calls().Add("MakeCurrencyField", {"From"});
+    halvek::CheckCurrencyRange(from_, to_, u"From", u"To");
+    desk_.Calls().Add("CheckCurrencyRange", {"From", "To"});
+}
+
+QWidget* PaymentScreen::MakeForm() {
+    auto* calculator = MakeToolButton("Calculator", Qt::CTRL | Qt::Key_K);
+    calculator->setIcon(MakeIcon("calculator"));
+    connect(calculator, &QToolButton::clicked, this, &PaymentScreen::Calculate);
     method_->setAccessibleName("Paid by");
     printer_->setAccessibleName("Receipt");
-    auto* form = new FieldForm(TheDesk());
-    form->AddRow("&Amount", Beside(amount_, calculator));
+    printer_->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // it is filled later
+    auto* form = new FieldForm(desk_);
+    form->AddRow("&Amount", amount_, calculator);
     form->AddRow("Ad&justment", adjustment_);
     form->AddRow("Paid &by", method_);
     form->AddRow("&Receipt", printer_);
     auto* card = new Card("New payment");
     card->Content().addWidget(form);
     card->Content().addWidget(after_);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(post_);
-    buttons->addStretch();
-    card->Content().addLayout(buttons);
+    card->Content().addWidget(post_, 0, Qt::AlignLeft);
     card->Content().addStretch();
     return card;
 }
 
-Card* PaymentScreen::MakePayments() {
-    auto* card = new Card("Payments of this account");
+QWidget* PaymentScreen::MakePayments() {
     auto* filter = new QHBoxLayout;
     filter->setSpacing(kGap);
     for (const auto& [caption, line] : {std::pair("Fro&m", from_), std::pair("&To", to_)}) {
@@ -107,46 +139,49 @@ Card* PaymentScreen::MakePayments() {
         filter->addWidget(line);
     }
     filter->addStretch();
+    auto* card = new Card("Payments of this account");
     card->Content().addLayout(filter);
     card->Content().addWidget(payments_, 1);
     return card;
 }
 
+void PaymentScreen::FillCombo(QComboBox* box, const QStringList& entries) {
+    desk_.Library().FillCombo(entries.join(':'), halvek::AsComboBox(box));
+    desk_.Calls().Add("FillCombo", {entries.join(':')});
+}
+
 void PaymentScreen::FillMethods() {
-    const QString list = halvek::FromServer(TheDesk().Server().List("PAY", false));
+    const QString list = halvek::FromServer(desk_.Server().List("PAY", false));
     QStringList methods;
     for (const QString& entry : list.split(':', Qt::SkipEmptyParts).mid(1)) {
-        methods << halvek::ToQString(TheDesk().Library().SplitStr(entry, u"\t", 2));
+        methods << ToQString(desk_.Library().SplitStr(entry, u"\t", 2));
     }
-    TheDesk().Library().FillCombo(methods.join(':'), halvek::AsComboBox(method_));
-    TheDesk().Calls().Add("FillCombo", {methods.join(':')});
+    FillCombo(method_, methods);
     method_->setCurrentIndex(0);
 }
 
+// All but the spool queue and files
 void PaymentScreen::FillPrinters() {
-    // All but the spool queue and files
-    const auto printers = TheDesk().Library().GetPrintersCollectionFiltered(true, true);
+    const auto printers = desk_.Library().GetPrintersCollectionFiltered(true, true);
     QStringList names;
     for (const auto& printer : printers) {
-        names << halvek::ToQString(printer->PrinterDescription()).replace(':', ';');
+        names << ToQString(printer->PrinterDescription()).replace(':', ';');
     }
-    TheDesk().Library().FillCombo(names.join(':'), halvek::AsComboBox(printer_));
-    TheDesk().Calls().Add("FillCombo", {names.join(':')});
-    const auto last =
-        TheDesk().Library().FindInCombo(halvek::AsComboBox(printer_), TheDesk().ReceiptPrinter());
-    printer_->setCurrentIndex(qMax(0, last));
+    FillCombo(printer_, names);
+    const auto box = halvek::AsComboBox(printer_);
+    printer_->setCurrentIndex(qMax(0, desk_.Library().FindInCombo(box, desk_.ReceiptPrinter())));
 }
 
 void PaymentScreen::Refresh() {
-    const auto& patient = TheDesk().Current();
-    post_->setEnabled(patient && TheDesk().May("PAYMENTS", Right::Add));
+    const auto& patient = desk_.Current();
+    post_->setEnabled(patient && desk_.Rights("PAYMENTS")->AllowAdd());
     if (!patient) return;
     if (shown_ != patient->number) {
         shown_ = patient->number;
         for (QLineEdit* line : {adjustment_, from_, to_}) line->clear();
-        const auto visit = TheDesk().VisitOfToday();
+        const auto visit = desk_.VisitOfToday();
         const bool hasCopay = visit && visit->state == VisitState::CheckedIn;
-        const qint64 copay = TheDesk().Server().CopayOf(patient->insurance);
+        const qint64 copay = desk_.Server().CopayOf(patient->insurance);
         halvek::SetCurrencyCents(amount_, hasCopay ? copay : patient->balance);
     }
     ShowBalanceAfter();
@@ -154,34 +189,32 @@ void PaymentScreen::Refresh() {
 }
 
 void PaymentScreen::ShowBalanceAfter() {
-    const auto& patient = TheDesk().Current();
+    const auto& patient = desk_.Current();
     if (!patient) return;
-    const qint64 amount = halvek::CurrencyCents(amount_).value_or(0);
-    const qint64 adjustment = halvek::CurrencyCents(adjustment_).value_or(0);
-    after_->setText(
-        QString("Balance %1, then %2")
-            .arg(Money(patient->balance), Money(patient->balance - amount + adjustment)));
-    post_->setText(amount == 0 ? QString("&Post") : "&Post " + Money(amount));
-    post_->setShortcut(Qt::CTRL | Qt::Key_Return);  // a new text clears it
+    const qint64 amount = CurrencyCents(amount_).value_or(0);
+    const qint64 then = patient->balance - amount + CurrencyCents(adjustment_).value_or(0);
+    after_->setText(QString("Balance %1, then %2").arg(Money(patient->balance), Money(then)));
+    SetText(*post_, amount == 0 ? "Post" : "Post " + Money(amount));
 }
 
 void PaymentScreen::ShowPayments() {
     payments_->setRowCount(0);
-    const auto& patient = TheDesk().Current();
+    const auto& patient = desk_.Current();
     if (!patient) return;
-    const qint64 from = halvek::CurrencyCents(from_).value_or(0);
-    const qint64 to = halvek::CurrencyCents(to_).value_or(std::numeric_limits<qint64>::max());
-    for (const Payment& payment : TheDesk().Server().Payments(patient->number)) {
+    const qint64 from = CurrencyCents(from_).value_or(0);
+    const qint64 to = CurrencyCents(to_).value_or(std::numeric_limits<qint64>::max());
+    for (const Payment& payment : desk_.Server().Payments(patient->number)) {
         if (payment.amount < from || payment.amount > to) continue;
-        AddRow(*payments_,
-               {DayText(payment.posted.date()) + ' ' + TimeText(payment.posted.time()),
-                Money(payment.amount), payment.adjustment == 0 ? "" : Money(payment.adjustment),
-                payment.method, payment.printer});
+        AddRow(*payments_, {DayText(payment.posted.date()) + ' ' + TimeText(payment.posted.time()),
+                            Money(payment.amount), AdjustmentText(payment.adjustment),
+                            payment.method, payment.printer});
     }
 }
 
 void PaymentScreen::Calculate() {
-    const QString result = TheDesk().Calculate(amount_->text());
+    const QString shown = amount_->text();
+    const QString result = ToQString(desk_.Library().Calculate(shown));
+    desk_.Calls().Add("Calculate", {shown}, result);
     if (!result.isEmpty()) amount_->setText(result);
     amount_->setFocus();
 }
@@ -193,34 +226,35 @@ void PaymentScreen::PostNow(qint64 cents) {
 }
 
 void PaymentScreen::Post() {
-    const auto& patient = TheDesk().Current();
-    if (!patient || !halvek::LeaveCurrencyFields(this)) return;
-    const qint64 amount = halvek::CurrencyCents(amount_).value_or(0);
-    const qint64 adjustment = halvek::CurrencyCents(adjustment_).value_or(0);
+    if (!desk_.Current() || !halvek::LeaveCurrencyFields(this)) return;
+    const Patient patient = *desk_.Current();
+    const QString printer = printer_->currentText();
+    const qint64 amount = CurrencyCents(amount_).value_or(0);
+    const qint64 adjustment = CurrencyCents(adjustment_).value_or(0);
     if (amount == 0 && adjustment == 0) {
-        TheDesk().Ask("Enter an amount first.", halvek::mbOkOnly, halvek::mbExclamation, kTitle);
+        desk_.Ask("Enter an amount first.", halvek::mbOkOnly, halvek::mbExclamation, kTitle);
         return amount_->setFocus();
     }
-    QString question = "Post " + Money(amount) + '?';
-    if (adjustment != 0)
-        question =
-            QString("Post %1 with an adjustment of %2?").arg(Money(amount), Money(adjustment));
-    question += "\r\n\r\n" + patient->Name() + ", #" + QString::number(patient->number);
-    if (TheDesk().Ask(question, halvek::mbYesNo, halvek::mbQuestion, kTitle) != halvek::mbYes)
+    const QString with = " with an adjustment of " + Money(adjustment);
+    const QString question = QString("Post %1%2?\r\n\r\n%3, #%4")
+                                 .arg(Money(amount), adjustment == 0 ? "" : with, patient.Name())
+                                 .arg(patient.number);
+    if (desk_.Ask(question, halvek::mbYesNo, halvek::mbQuestion, kTitle) != halvek::mbYes) return;
+    if (!desk_.Server().Post(
+            {patient.number, {}, amount, adjustment, method_->currentText(), printer}))
         return;
-    const Payment payment = {0,
-                             patient->number,
-                             {},
-                             amount,
-                             adjustment,
-                             method_->currentText(),
-                             printer_->currentText()};
-    if (!TheDesk().Server().Post(payment)) return;
-    TheDesk().UseReceiptPrinter(printer_->currentText());
-    const QString name = patient->Name();
+    desk_.UseReceiptPrinter(printer);
     shown_ = 0;  // the form is filled anew
-    TheDesk().NotePracticeChanged();
-    emit Posted(QString("Posted %1 for %2, receipt: %3").arg(Money(amount), name, payment.printer));
+    desk_.NotePracticeChanged();
+    emit desk_.Told(
+        QString("Posted %1 for %2, receipt: %3").arg(Money(amount), patient.Name(), printer));
+    emit desk_.GoTo(ScreenId::Schedule);
+}
+
+}  // namespace
+
+Screen* MakePaymentScreen(Desk& desk) {
+    return new PaymentScreen(desk);
 }
 
 }  // namespace frontdesk

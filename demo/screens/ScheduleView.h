@@ -1,25 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "screens/ScheduleModel.h"
+#include "practice/Practice.h"
 
-#include <QStyledItemDelegate>
+#include <QHash>
+#include <QPersistentModelIndex>
+#include <QStandardItemModel>
+#include <QStringList>
 #include <QTableView>
 
 namespace frontdesk {
 
-/// The schedule's grid. The arrow keys go from visit to visit; Enter and a double click choose one,
-/// and letters start a search.
+/// A day of the schedule: a column for each provider, a row for each start of a visit. The arrow
+/// keys go from visit to visit; Enter and a double click choose one, and letters start a search.
 class ScheduleView : public QTableView {
     Q_OBJECT
 
   public:
-    explicit ScheduleView(ScheduleModel& model);
+    explicit ScheduleView(Practice& practice);
+
+    void ShowDay(const QDate& day, bool withPaidVisits);
+
+    /// The visit that is selected; one with the number 0 for none.
+    Visit CurrentVisit() const;
+    /// Selects a patient's visit, if there is one.
+    void GoToPatient(int patient);
 
     void keyboardSearch(const QString& text) override;
 
   signals:
-    void Chosen(const QModelIndex& cell);
+    void Chosen(const frontdesk::Visit& visit);
     void SearchStarted(const QString& text);
 
   protected:
@@ -28,26 +38,12 @@ class ScheduleView : public QTableView {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QModelIndex NextInColumn(const QModelIndex& from, int step) const;
-    QModelIndex NearestInColumn(int row, int column) const;
+    void FillGrid(const QStringList& providers, const QList<QTime>& times);
+    QStandardItem* MakeItem(const Visit& visit, bool isOnTime) const;
 
-    ScheduleModel& model_;
-};
-
-/// Paints a visit: a bar and a tint in the colour of its reason, the name, and the state.
-class VisitPainter : public QStyledItemDelegate {
-  public:
-    VisitPainter(ScheduleModel& model, QObject* parent)
-        : QStyledItemDelegate(parent), model_(model) {}
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& cell) const override;
-
-  private:
-    void PaintState(QPainter& painter, const QStyleOptionViewItem& option, QRect& room,
-                    VisitState state) const;
-
-    ScheduleModel& model_;
+    Practice& practice_;
+    QStandardItemModel model_;
+    QHash<int, QPersistentModelIndex> cells_;  ///< by patient
 };
 
 }  // namespace frontdesk

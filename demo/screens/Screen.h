@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Desk.h"
+#include "widgets/Card.h"
 
 #include <QWidget>
 
@@ -10,7 +11,10 @@ namespace frontdesk {
 /// A screen of the client.
 class Screen : public QWidget {
   public:
-    explicit Screen(Desk& desk) : desk_(desk) {}
+    explicit Screen(Desk& desk) : desk_(desk), column_(new QVBoxLayout(this)) {
+        column_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+        column_->setSpacing(kMargin);
+    }
 
     /// Shows the current patient.
     virtual void Refresh() = 0;
@@ -20,10 +24,19 @@ class Screen : public QWidget {
     virtual int HelpContext() const = 0;
 
   protected:
-    Desk& TheDesk() { return desk_; }
-
-  private:
     Desk& desk_;
+    QVBoxLayout* column_;
 };
+
+// The screens; nobody knows more of them.
+
+/// The visits of a day, in the colours of their reasons; who is due has a mark.
+Screen* MakeScheduleScreen(Desk& desk);
+/// What is known of the account's patient, with reminders, visits and payments.
+Screen* MakeAccountScreen(Desk& desk);
+/// The patient has arrived: insurance, provider, procedures and the next visit.
+Screen* MakeCheckInScreen(Desk& desk);
+/// Takes a payment, and shows those of the account between two amounts.
+Screen* MakePaymentScreen(Desk& desk);
 
 }  // namespace frontdesk

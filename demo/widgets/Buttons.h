@@ -1,21 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
+#include <QIcon>
+#include <QKeySequence>
 #include <QPushButton>
+#include <QString>
+#include <QToolButton>
 
 namespace frontdesk {
 
-/// Gives a button the height and the padding that all of the client's have.
-inline void MakeRoomy(QPushButton& button) {
-    constexpr int kPadding = 14;
-    button.setMinimumHeight(button.fontMetrics().height() + kPadding);
-    button.setMinimumWidth(button.sizeHint().width() + kPadding);
-}
+/// One of the glyphs in icons/, in a colour, or in the text colour that the desktop has when it is
+/// painted.
+QIcon MakeIcon(const QString& glyph, const QColor& color = {});
 
-inline QPushButton* MakeButton(const QString& text) {
-    auto* button = new QPushButton(text);
-    MakeRoomy(*button);
-    return button;
-}
+/// A button of a screen.
+QPushButton* MakeButton(const QString& text);
+
+/// The one button of a screen that goes on with the visit, also by Ctrl+Enter.
+QPushButton* MakePrimaryButton(const QString& text);
+
+/// Gives a button whose text changes its text; its key stays.
+void SetText(QPushButton& button, const QString& text);
+
+/// A small button without a text, with its name and key in its tool tip.
+QToolButton* MakeToolButton(const QString& name, const QKeySequence& key);
 
 }  // namespace frontdesk

@@ -12,7 +12,7 @@ open_desk() {
     practice=$work/$1 calls=$work/$1.calls
     shift
     rm -f "$calls"
-    start "$demo" --data "$practice" --calls "$calls" --palette light "$@"
+    start "$demo" --data "$practice" --calls "$calls" "$@"
     client=$!
     wait_for_window "Front Desk"
     main=$window
@@ -33,8 +33,20 @@ is_paid() {
     holds "SELECT balance FROM patient WHERE number = 10117" 4000
     holds "SELECT count(*) FROM visit WHERE patient = 10117 AND day > '2024-03-05'" 1
 }
+# The colors of a dark desktop, as it tells its programs.
+use_dark_desktop() {
+    export XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
+    mkdir -p "$work/.config"
+    printf '[Colors:%s]\nBackgroundNormal=%s\nForegroundNormal=%s\n' \
+        Selection 106,176,255 16,21,28 Window 43,45,48 232,232,232 Button 59,62,67 232,232,232 \
+        View 30,31,34 232,232,232 >"$work/.config/kdeglobals"
+    echo BackgroundAlternate=37,39,42 >>"$work/.config/kdeglobals"
+}
 called() {
     grep -q "$1" "$calls"
+}
+hides_paid_visits() {
+    [ "$(ask "SELECT instr(text, CAST('hide paid' AS BLOB)) > 0 FROM setting")" = 1 ]
 }
 kill_client() {
     kill -KILL "$client"
@@ -62,7 +74,7 @@ is_paid
 open_desk clicks.db
 click "$main" 250 44
 wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
-click "$main" 110 374
+click "$main" 110 350
 wait_for_window "Payment"
 click "$window" 136 93
 wait_until "the payment is posted" called '^ShowMsgBox("Post \$25.00?.* = 6$'
@@ -70,13 +82,15 @@ wait_until "the client is active again" is_active "$main"
 kill_client
 is_paid
 
-# What was posted is there again, and a second patient by search, look-up, calendar and full keys
-open_desk clicks.db --palette dark
+# What was posted is there again on a dark desktop, and a second patient by search, look-up, calendar
+# and full keys
+use_dark_desktop
+open_desk clicks.db
 keys d u b o i s comma space f r a n Return
 wait_until "the account opens" called 'AddItem("ACCOUNT", 10204)'
 keys ctrl+3
 wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
-keys Tab Tab Tab Tab ctrl+a O V 3 0 F2
+keys Tab Tab ctrl+a O V 3 0 F2
 wait_for_window "Procedures"
 keys Escape
 wait_until "the client is active again" is_active "$main"
@@ -99,10 +113,28 @@ wait_until "the client ends" has_ended "$client"
 holds "SELECT procedures FROM visit WHERE patient = 10204 AND day = '2024-03-05'" OV30
 holds "SELECT amount || ' ' || adjustment FROM payment WHERE patient = 10204" "2000 -500"
 
-# Nobody at the desk: a countdown, and the open account is closed.
-open_desk idle.db --idle 2
-keys Return
-wait_until "the account opens" called 'AddItem("ACCOUNT", 10117)'
+# The preferences by keys: a color, and paid visits are hidden. Both are there at the next start.
+open_desk clicks.db
+keys alt+f p r
+wait_for_window "Color Palette"
+picture visit-palette
+keys Down Return
+wait_until "a color is chosen" called '^ShowColor.* = "[0-9]'
+wait_until "the client is active again" is_active "$main"
+keys alt+f p v
+wait_until "the preferences are stored" hides_paid_visits
+color=$(sed -n 's/^ShowColor.* = "\([0-9]*\)\\t.*/\1/p' "$calls")
+kill_client
+
+# The arrow keys go from visit to visit, here to the last of the second provider. Nobody at the desk:
+# a countdown, and the open account is closed.
+open_desk clicks.db --idle 2
+called 'PopulateSettings(.*hide paid' && called "^InitPrefs(.*, $color)" ||
+    fail "the preferences are not there again"
+keys Down Right End Return
+last=$(ask "SELECT patient FROM visit WHERE day = '2024-03-05' AND provider = 'PATEL'
+    ORDER BY time DESC LIMIT 1")
+wait_until "the account opens" called "AddItem(\"ACCOUNT\", $last)"
 wait_until "the account is closed" called 'ClearAll()'
 called '^ShowMsgBox("Nobody has used.* = 99$' || fail "no countdown closed the account"
 kill_client

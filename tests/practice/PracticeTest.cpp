@@ -69,7 +69,7 @@ TEST(ServerText, ReplacesExactlyTheLettersThatAFormatSeparatesBy) {
         {TextFormat::Printers, u"Statements: back", u"Statements; back"},
     };
     for (const CarriedRow& row : kRows) {
-        EXPECT_EQ(ServerText(row.format).Carried(QString::fromUtf16(row.value)),
+        EXPECT_EQ(Carried(row.format, QString::fromUtf16(row.value)),
                   QString::fromUtf16(row.carried));
     }
 }
@@ -114,8 +114,8 @@ TEST_F(PracticeTest, AnswersInTheTextsThatTheLibraryReads) {
 TEST_F(PracticeTest, HoldsTheWholeSample) {
     const auto practice = Open(":memory:");
     ASSERT_NE(practice, nullptr) << qPrintable(fault_);
-    EXPECT_EQ(practice->Visits(practice->Now().date()).size(), 40U);
-    EXPECT_EQ(practice->Visits({2024, 3, 18}).size(), 40U);
+    EXPECT_EQ(practice->Visits(practice->Now().date()).size(), 40);
+    EXPECT_EQ(practice->Visits({2024, 3, 18}).size(), 40);
     EXPECT_TRUE(practice->Find(12000).has_value());
     qsizetype codes = 0;
     for (const char* table : {"INS", "PRV", "PRC", "PAY"}) {
@@ -140,7 +140,7 @@ TEST_F(PracticeTest, KeepsWhatTheDeskDidAfterARestart) {
     EXPECT_EQ(due.patient, kDuePatient);
     EXPECT_TRUE(practice->CheckIn({due.id, "AETOS", "ROSSI", "OV15,ECG12", today.addDays(14)}));
     EXPECT_EQ(practice->Find(kDuePatient)->balance, 6500);
-    EXPECT_TRUE(practice->Post({0, kDuePatient, {}, 2500, -500, "Card", "Front office laser"}));
+    EXPECT_TRUE(practice->Post({kDuePatient, {}, 2500, -500, "Card", "Front office laser"}));
     EXPECT_TRUE(practice->SetReasonColor("FU", 255));
     EXPECT_TRUE(practice->SaveSettings(kUser,
                                        "a\xDF"
@@ -153,7 +153,7 @@ TEST_F(PracticeTest, KeepsWhatTheDeskDidAfterARestart) {
     ASSERT_FALSE(payments.empty());
     EXPECT_EQ(payments.front().amount, 2500);
     const auto visits = practice->VisitsOf(kDuePatient);
-    ASSERT_GE(visits.size(), 2U);
+    ASSERT_GE(visits.size(), 2);
     EXPECT_EQ(visits[0].day, today.addDays(14));
     EXPECT_EQ(visits[1].state, VisitState::Paid);
     EXPECT_EQ(visits[1].procedures, "OV15,ECG12");
@@ -195,9 +195,9 @@ TEST_F(PracticeTest, StoresNothingOfAnActThatFails) {
     const auto before = practice->Payments(kDuePatient).size();
     QString reported;
     practice->OnFault([&](const QString& fault) { reported = fault; });
-    EXPECT_FALSE(practice->Post({0, 1, {}, 2500, 0, "Card", ""}));  // there is no patient 1
+    EXPECT_FALSE(practice->Post({1, {}, 2500, 0, "Card", ""}));  // there is no patient 1
     EXPECT_FALSE(reported.isEmpty());
-    EXPECT_TRUE(practice->Post({0, kDuePatient, {}, 100, 0, "Card", ""}));
+    EXPECT_TRUE(practice->Post({kDuePatient, {}, 100, 0, "Card", ""}));
     EXPECT_EQ(practice->Payments(kDuePatient).size(), before + 1);
 }
 
@@ -245,7 +245,7 @@ int PostForever(const QString& path) {
     QString fault;
     const auto practice = Practice::Open(path, fault);
     if (practice == nullptr) return 1;
-    while (practice->Post({0, kDuePatient, {}, 1, 0, "Test", ""})) {
+    while (practice->Post({kDuePatient, {}, 1, 0, "Test", ""})) {
         std::puts("posted");
         std::fflush(stdout);
     }

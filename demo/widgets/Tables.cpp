@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
-#pragma once
+#include "widgets/Tables.h"
 
 #include <QHeaderView>
-#include <QString>
-#include <QStringList>
-#include <QTableWidget>
 
 namespace frontdesk {
 
-/// Headings without bevels, as quiet as the rest of a card.
-inline void FlattenHeaders(QTableView& table) {
+void Flatten(QTableView& table) {
+    table.setFrameShape(QFrame::NoFrame);
+    table.setShowGrid(false);
+    table.setTabKeyNavigation(false);
+    table.setSelectionMode(QAbstractItemView::SingleSelection);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 9);
     table.setStyleSheet(
         "QHeaderView, QTableCornerButton::section { background: transparent; border: none; }"
         "QHeaderView::section { background: transparent; border: none; padding: 3px 8px; }"
@@ -17,38 +21,27 @@ inline void FlattenHeaders(QTableView& table) {
         "QHeaderView::section:horizontal { border-bottom: 1px solid palette(midlight); }");
 }
 
-/// A table of read-only rows, chosen as a whole; the Tab key leaves it.
-inline QTableWidget* MakeList(const QString& name, const QStringList& headings) {
+QTableWidget* MakeList(const QString& name, const QStringList& headings) {
     auto* list = new QTableWidget(0, static_cast<int>(headings.size()));
+    Flatten(*list);
     list->setAccessibleName(name);
     list->setHorizontalHeaderLabels(headings);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setFrameShape(QFrame::NoFrame);
-    list->setShowGrid(false);
     list->setWordWrap(false);
-    list->setTabKeyNavigation(false);
     list->verticalHeader()->hide();
-    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 8);
-    list->horizontalHeader()->setHighlightSections(false);
-    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     list->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     list->horizontalHeader()->setStretchLastSection(true);
-    FlattenHeaders(*list);
     list->setMinimumHeight(list->fontMetrics().height() * 5);
     return list;
 }
 
-/// Adds a row; texts that begin with an amount stand at the right.
-inline void AddRow(QTableWidget& list, const QStringList& texts) {
+void AddRow(QTableWidget& list, const QStringList& texts) {
     const int row = list.rowCount();
     list.insertRow(row);
-    for (qsizetype i = 0; i < texts.size(); ++i) {
-        const int column = static_cast<int>(i);
-        auto* cell = new QTableWidgetItem(texts[i]);
+    for (int column = 0; column < texts.size(); ++column) {
+        auto* cell = new QTableWidgetItem(texts[column]);
         list.setItem(row, column, cell);
-        if (!texts[i].contains('$')) continue;
+        if (!texts[column].contains('$')) continue;
         constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignVCenter;
         cell->setTextAlignment(kRight);
         list.horizontalHeaderItem(column)->setTextAlignment(kRight);
