@@ -57,14 +57,14 @@ inline std::string OddPage(FuzzedDataProvider& input) {
     constexpr std::size_t kMaxLength = 2'000'000;
     std::string page = "<meta charset=utf-8>";
     while (input.remaining_bytes() > 0 && page.size() < kMaxLength) {
-        std::string piece(input.PickValueInArray(kTexts));
-        const auto kind = input.ConsumeIntegralInRange(0, 5);
-        if (kind > 0) piece = input.PickValueInArray(kTags);
-        if (kind == 1) piece = "</" + piece + '>';
-        if (kind > 1) piece = '<' + piece.append(input.PickValueInArray(kAttributes)) + '>';
-        auto times = input.ConsumeIntegralInRange(0, 31);
-        for (times = times < 16 ? 1 : 1 << (times - 16); times > 0 && page.size() < kMaxLength;
-             --times) {
+        // A byte says what kind of piece it is, and how often it is repeated.
+        const auto kind = input.ConsumeIntegral<std::uint8_t>();
+        std::string piece(kind % 6 == 0 ? input.PickValueInArray(kTexts)
+                                        : input.PickValueInArray(kTags));
+        if (kind % 6 == 1) piece = "</" + piece + '>';
+        if (kind % 6 > 1) piece = '<' + piece.append(input.PickValueInArray(kAttributes)) + '>';
+        int times = kind < 168 ? 1 : 1 << ((kind - 168) / 6);
+        for (; times > 0 && page.size() < kMaxLength; --times) {
             page += piece;
         }
     }
