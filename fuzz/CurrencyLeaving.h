@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/RuntimeError.h>

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 #include "tests/TestMachine.h"
 
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/text/ServerDates.h>
 
 #include <chrono>
@@ -48,12 +49,15 @@ void CheckSecond(DateTime when, TestMachine& machine) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void halvek::Check(FuzzedDataProvider& input) {
     TestMachine machine("");
-    CheckText(FuzzText(data, size), machine);
-    FuzzedDataProvider input(data, size);
     const auto last = (kLastDateTime - kFirstDateTime).count();
     const auto past = input.ConsumeIntegralInRange<std::int64_t>(0, last);
     CheckSecond(kFirstDateTime + std::chrono::seconds(past), machine);
-    return 0;
+    const std::u16string text = RestAsText(input);
+    CheckText(text, machine);
+    Remarks remarks;
+    const std::u16string lines = Narrowed(text, u"0123456789,,\n-.x");
+    ServerTextCheck::Dates(lines, remarks);
+    DoubledIn(remarks, lines);
 }

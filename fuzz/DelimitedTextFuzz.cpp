@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/text/DelimitedText.h>
 
@@ -19,7 +19,7 @@ void CheckFields(const std::u16string& text, const std::u16string& del) {
     Require(fields[0].empty(), "element 0 stays empty");
     const bool closed = !text.empty() && text.ends_with(del);
     Require(Joined(fields, 1, del) == (closed ? text : text + del), "the fields give the text");
-    for (std::int32_t i = 1; i <= std::min(fields.UBound(), 50); ++i) {
+    for (std::int32_t i = 1; i <= std::min(fields.UBound(), 20); ++i) {
         Require(SplitStr(text, del, static_cast<std::int16_t>(i)) == fields[i],
                 "a field by its number is the same field");
     }
@@ -35,16 +35,31 @@ void CheckChunks(const std::u16string& text, const std::u16string& del, std::int
     Require(Joined(chunks, twice ? 1 : 0, u"") == text, "the chunks give the text");
 }
 
+/// The first fields between delimiters of several characters.
+std::vector<std::u16string> Split(std::u16string text, const std::u16string& del) {
+    std::vector<std::u16string> fields;
+    text += del;  // which ends the last field
+    for (std::size_t start = 0, end = 0; fields.size() < 20; start = end + del.size()) {
+        end = text.find(del, start);
+        if (end == text.npos) break;
+        fields.push_back(text.substr(start, end - start));
+    }
+    return fields;
+}
+
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 3) return 0;
-    const std::u16string del = FuzzText(data, 1);
-    const std::u16string text = FuzzText(data + 2, size - 2);
-    CheckFields(text, del);
-    CheckChunks(text, del, data[1]);
+void halvek::Check(FuzzedDataProvider& input) {
+    const std::u16string del = FromCodePage(input.ConsumeBytesAsString(2));
+    if (del.size() < 2) return;
+    const std::int32_t length = input.ConsumeIntegral<std::uint8_t>();
+    const std::u16string text = RestAsText(input, del + u"ab");
+    CheckFields(text, del.substr(0, 1));
+    CheckChunks(text, del.substr(0, 1), length);
     StringArray fields;
-    StrToArr(text, FuzzText(data, 2), fields);
-    ChunkStrToArr(text, fields, data[1], FuzzText(data, 2));
-    return 0;
+    StrToArr(text, del, fields);
+    ChunkStrToArr(text, fields, length, del);
+    for (std::int16_t i = 0; const std::u16string& field : Split(text, del)) {
+        Require(SplitStr(text, del, ++i) == field, "a field between longer delimiters");
+    }
 }

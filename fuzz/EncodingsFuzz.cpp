@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/Utf8.h>
 
@@ -30,17 +30,22 @@ std::u16string WellFormed(std::u16string text) {
 }
 
 void CheckUtf8(const std::string& bytes) {
-    const std::u16string text = FromUtf8(bytes);
+    std::u16string text = FromUtf8(bytes);
     Require(WellFormed(text) == text, "no half of a pair is read");
     Require(FromUtf8(ToUtf8(text)) == text, "what was read is written and read again");
     const bool isWhole = text.find(u'\xFFFD') == text.npos;
     Require(!isWhole || ToUtf8(text) == bytes, "one text has one form in bytes");
+    const std::size_t length = text.size();
+    std::erase(text, u'\xFFFD');
+    const bool isSent = bytes.find("\xEF\xBF\xBD") != bytes.npos;
+    Require(isSent || ToUtf8(text).size() + length - text.size() == bytes.size(),
+            "each byte of what is malformed is replaced");
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
+void halvek::Check(FuzzedDataProvider& input) {
+    const std::string bytes = input.ConsumeRemainingBytesAsString();
     Require(ToCodePage(FromCodePage(bytes)) == bytes, "every byte of the code page comes back");
 
     CheckUtf8(bytes);
@@ -49,12 +54,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (char& byte : edges) byte = kEdges[static_cast<unsigned char>(byte) % kEdges.size()];
     CheckUtf8(edges);
 
-    std::u16string text(size / 2, u'\0');
-    if (!text.empty()) std::memcpy(text.data(), data, 2 * text.size());
+    std::u16string text(bytes.size() / 2, u'\0');
+    std::memcpy(text.data(), bytes.data(), 2 * text.size());
     Require(FromUtf8(ToUtf8(text)) == WellFormed(text), "every text comes back");
     for (const char16_t unit : text) {
         const char16_t kept = CharacterOf(CodeOf(unit));
         Require(kept == unit || kept == u'?', "what the code page lacks is a question mark");
     }
-    return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 #include "tests/FakeServices.h"
 
 #include <halvekutils/base/CharacterScan.h>
@@ -87,10 +87,9 @@ void CheckFilters(const std::u16string& text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void halvek::Check(FuzzedDataProvider& input) {
     FakeServices session;
     Services::Install(&session);
-    FuzzedDataProvider input(data, size);
     const auto one = static_cast<char16_t>(input.ConsumeIntegral<std::uint8_t>());
     const auto other = static_cast<char16_t>(input.ConsumeIntegral<std::uint8_t>());
     const auto skipped = input.ConsumeIntegralInRange<std::size_t>(0, 40);
@@ -105,5 +104,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckScan(text, one, other, skipped);
     CheckFolding(text, sought);
     CheckFilters(text);
-    return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/DamagedFile.h"
 #include "tests/HelpFile.h"
 
 #include <halvekutils/base/RuntimeError.h>
@@ -7,30 +7,12 @@
 #include <halvekutils/help/HelpSearch.h>
 
 #include <memory>
-#include <string>
 
 using namespace halvek;
 
-namespace {
-
-/// A compiled file with some of its bytes replaced, and perhaps cut off.
-std::string Damaged(std::string file, FuzzedDataProvider& input) {
-    while (input.remaining_bytes() > 8) {
-        const auto at = input.ConsumeIntegralInRange<std::size_t>(0, file.size() - 1);
-        const std::string bytes =
-            input.ConsumeBytesAsString(input.ConsumeIntegralInRange<std::size_t>(1, 8));
-        file.replace(at, bytes.size(), bytes);
-    }
-    if (input.ConsumeBool()) file.resize(file.size() * input.ConsumeIntegral<std::uint8_t>() / 255);
-    return file;
-}
-
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void halvek::Check(FuzzedDataProvider& input) {
     static const HelpFile whole(200);
     static const std::string bytes = ReadFile(whole.Path());
-    FuzzedDataProvider input(data, size);
     const auto damaged = whole.Beside(Damaged(bytes, input));
     try {
         const auto help = std::make_shared<CompiledHelp>(damaged);
@@ -42,5 +24,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(fault.Code() == Fault::DeviceError || fault.Code() == Fault::FileNotFound,
                 "damage is a device error, or a name is lost");
     }
-    return 0;
 }

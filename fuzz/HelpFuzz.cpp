@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/help/HelpContents.h>
@@ -7,22 +7,23 @@
 #include <halvekutils/help/HelpTopic.h>
 #include <halvekutils/help/LzxDecoder.h>
 
-#include <string_view>
+#include <string>
 
 using namespace halvek;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+void halvek::Check(FuzzedDataProvider& input) {
+    const std::string bytes = input.ConsumeRemainingBytesAsString();
+    const std::u16string text = FromCodePage(bytes);
     int depth = 0;
     for (const HelpSitemapEntry& entry : ParseHelpSitemap(HelpTextOf(bytes))) {
         Require(entry.depth <= depth, "no entry skips a level");
         depth = entry.depth + 1;
     }
-    const std::u16string path = ParseHelpTopic(FuzzText(data, size)).path;
+    const std::u16string path = ParseHelpTopic(text).path;
     Require(path.empty() || path.starts_with(u'/'), "a path starts at the root");
     Require((path + u'/').find(u"/../") == path.npos, "nothing lies above the root");
     Require(ParseHelpTopic(path + u"#").path == path, "a path stays as it was read");
-    for (const HelpTopic& meaning : MeaningsOf(FuzzText(data, size), u"/a/")) {
+    for (const HelpTopic& meaning : MeaningsOf(text, u"/a/")) {
         Require((meaning.path + u'/').find(u"/../") == path.npos, "no meaning lies above the root");
     }
     try {
@@ -34,5 +35,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const RuntimeError& fault) {
         Require(fault.Code() == Fault::DeviceError, "damage is a device error");
     }
-    return 0;
 }

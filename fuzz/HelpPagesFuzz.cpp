@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 #include "fuzz/OddPage.h"
 
 #include <halvekutils/help/HelpMarkup.h>
@@ -36,18 +36,15 @@ void RequireClean(const std::u16string& html) {
 
 }  // namespace
 
-/// The first byte says whether the rest is a page of its own or names the pieces of one.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void halvek::Check(FuzzedDataProvider& input) {
     static int count = 1;
     static char name[] = "HelpPagesFuzz";
     static char* names[] = {name, nullptr};
     if (count == 1) ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
     static const QGuiApplication application(count, names);
     qInstallMessageHandler(NoMessages);
-    if (size == 0) return 0;
-    const bool isOdd = data[0] % 4 != 0;
-    const std::string page = isOdd ? OddPage(data + 1, size - 1)
-                                   : std::string(reinterpret_cast<const char*>(data + 1), size - 1);
+    const bool isOdd = input.ConsumeIntegralInRange(0, 3) != 0;
+    const std::string page = isOdd ? OddPage(input) : input.ConsumeRemainingBytesAsString();
     File file;
     const HelpMarkup markup = CleanedHelpPage(HelpTextOf(page), file);
     if (isOdd) RequireClean(markup.html);
@@ -55,5 +52,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     document.setHtml(QString::fromStdU16String(markup.html));
     document.setTextWidth(640);
     Require(document.size().width() >= 0, "a page is laid out");
-    return 0;
 }

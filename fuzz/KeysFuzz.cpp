@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 #include "tests/FaultOf.h"
 
 #include <halvekutils/base/KeyedCollection.h>
-#include <halvekutils/core/DataBins.h>
 
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
 
 using namespace halvek;
 
-namespace {
-
 /// Adds and removes items by key and by position, and compares with a list that is searched from
 /// its start.
-void CheckCollection(FuzzedDataProvider& input) {
+void halvek::Check(FuzzedDataProvider& input) {
     using Item = std::pair<std::optional<std::u16string>, std::shared_ptr<int>>;
     KeyedCollection<int> collection;
     std::vector<Item> list;
@@ -29,7 +25,7 @@ void CheckCollection(FuzzedDataProvider& input) {
     while (input.remaining_bytes() > 0) {
         const auto item = std::make_shared<int>(0);
         const std::u16string key = FuzzText(input, 9);
-        const auto position = input.ConsumeIntegralInRange(0, 9);
+        const auto position = input.ConsumeIntegralInRange(-1, 9);
         const bool isThere = at(key) != list.end();
         switch (input.ConsumeIntegralInRange(0, 5)) {
             case 0:
@@ -37,13 +33,19 @@ void CheckCollection(FuzzedDataProvider& input) {
                 list.emplace_back(std::nullopt, item);
                 break;
             case 1:
-                if (isThere) collection.Remove(key);
+                Require(FaultOf([&] { collection.Remove(key); }) == (isThere ? 0 : 5),
+                        "what has no such key cannot be removed by it");
                 if (isThere) list.erase(at(key));
                 break;
             case 2:
-                if (position < 1 || position > collection.Count()) break;
-                collection.Remove(position);
-                list.erase(list.begin() + position - 1);
+                if (position >= 1 && position <= collection.Count()) {
+                    collection.Remove(position);
+                    list.erase(list.begin() + position - 1);
+                    break;
+                }
+                Require(FaultOf([&] { collection.Remove(position); }) == 9 &&
+                            FaultOf([&] { collection.Item(position); }) == 9,
+                        "no item lies outside");
                 break;
             default:
                 Require((FaultOf([&] { collection.Add(item, key); }) != 0) == isThere,
@@ -63,40 +65,4 @@ void CheckCollection(FuzzedDataProvider& input) {
     for (const auto& [key, item] : list) {
         if (key) Require(collection.Item(*key) == item, "every key finds its own item");
     }
-}
-
-void CheckBins(FuzzedDataProvider& input) {
-    DataBins bins;
-    std::map<std::u16string, std::pair<std::u16string, std::u16string>> parked;  // by folded keys
-    while (input.remaining_bytes() > 0) {
-        const std::u16string key = FuzzText(input, 6);
-        const std::u16string text = FuzzText(input, 6);
-        const auto found = parked.find(Folded(key));
-        const bool isOther = found != parked.end() && found->second.first != key;
-        if (input.ConsumeBool()) {
-            Require((FaultOf([&] { bins.Add(key, text, u""); }) != 0) == isOther, "other case");
-            if (!isOther) parked[Folded(key)] = {key, text};
-        } else {
-            bins.Remove(key);
-            if (found != parked.end() && !isOther) parked.erase(found);
-        }
-        for (const auto& [folded, bin] : parked) {
-            const DataBin* const kept = bins.Find(bin.first);
-            Require(kept != nullptr && kept->BinData() == bin.second, "a bin keeps its text");
-        }
-        if (!parked.contains(Folded(key)))
-            Require(bins.Find(key) == nullptr, "what is gone is gone");
-    }
-}
-
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzedDataProvider input(data, size);
-    if (input.ConsumeBool()) {
-        CheckCollection(input);
-    } else {
-        CheckBins(input);
-    }
-    return 0;
 }

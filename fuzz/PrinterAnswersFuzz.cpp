@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/printers/PrinterAnswer.h>
@@ -31,8 +31,7 @@ std::string AnswerOf(FuzzedDataProvider& input) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzedDataProvider input(data, size);
+void halvek::Check(FuzzedDataProvider& input) {
     const std::string answer =
         input.ConsumeBool() ? input.ConsumeRemainingBytesAsString() : AnswerOf(input);
     try {
@@ -42,5 +41,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const RuntimeError& fault) {
         Require(fault.Code() == Fault::DeviceError, "a bad answer is a device error");
     }
-    return 0;
 }

@@ -168,8 +168,6 @@ class Play {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzedDataProvider input(data, size);
+void halvek::Check(FuzzedDataProvider& input) {
     Play(input).Run();
-    return 0;
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
+#include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/CaseFolding.h>
+#include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/selection/SelectionList.h>
 
 #include <algorithm>
@@ -36,8 +37,7 @@ std::vector<Entry> EntriesOf(const std::u16string& text, bool doNotIncludeDelete
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzedDataProvider input(data, size);
+void halvek::Check(FuzzedDataProvider& input) {
     const bool doNotIncludeDeleted = input.ConsumeBool();
     const std::u16string sought = FuzzText(input, 8);
     const std::u16string text = RestAsText(input, u":\tAb 1");
@@ -51,13 +51,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(list.LastShown() == std::min(count, 10 * bands), "the bands hold what is shown");
     std::size_t longest = 0;
     std::size_t longestName = 0;
+    std::size_t doubled = 0;
     std::map<std::u16string, std::int32_t> first = {{u"", 0}};
     for (std::int32_t i = 1; i <= count; ++i) {
         const Entry& entry = entries[static_cast<std::size_t>(i) - 1];
         const std::u16string code = Trimmed(entry.code);
         longest = std::max(longest, code.size());
         if (i > 1) longestName = std::max(longestName, entry.description.size());
-        if (i <= list.LastShown()) first.emplace(code, i);
+        if (i <= list.LastShown() && !first.emplace(code, i).second && !code.empty()) ++doubled;
         Require(list.Code(i) == entry.code, "field 1 is the code");
         Require(list.Description(i) == entry.description, "field 2 is the description");
         Require(list.IsDeleted(i) == entry.deleted, "the last field is the flag");
@@ -76,5 +77,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             "only one code in other letter case is meant");
     const auto found = first.find(sought);
     Require(list.Find(sought) == (found == first.end() ? 0 : found->second), "no other is found");
-    return 0;
+
+    if (doNotIncludeDeleted) return;
+    Remarks remarks;
+    Require(ServerTextCheck::Selection(text, remarks).Count() == count, "a listener changes none");
+    const std::size_t beyond = count > list.LastShown() ? 1 : 0;  // the last entry, which is hidden
+    const std::size_t heard = DoubledIn(remarks, text);
+    Require(heard == doubled || heard == doubled + beyond, "a code that is taken is remarked on");
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/FuzzText.h"
-#include "tests/prefs/TextProperties.h"
+#include "fuzz/FuzzTarget.h"
+#include "tests/prefs/PrefsProperties.h"
 
-#include <halvekutils/prefs/UserPrefs.h>
+#include <halvekutils/base/NumericText.h>
+#include <halvekutils/core/ServerTextCheck.h>
 
 #include <algorithm>
 
@@ -13,13 +14,19 @@ namespace {
 constexpr char16_t kSeparator = 223;
 constexpr std::size_t kFields = 31;
 
-constexpr std::size_t kColorFields[] = {5, 6, 7, 8, 9};
-constexpr std::size_t kSwitchFields[] = {14, 16, 20, 22, 23};  // all off unless "true"
+/// The field of the one switch that is on by default, and of the one that the server holds as a
+/// level.
+constexpr std::size_t kOnByDefault = 10, kLevel = 15;
 
 bool IsColor(std::u16string_view text) {
     const std::size_t digits = text.size() - (text.starts_with(u'-') ? 1 : 0);
     return digits > 0 && digits <= 10 &&
            text.find_first_not_of(u"0123456789", text.size() - digits) == text.npos;
+}
+
+std::u16string Shown(std::size_t field, bool on) {
+    if (field == kLevel) return on ? u"2" : u"0";
+    return on ? u"True" : u"False";
 }
 
 /// What the server sends comes out again, where that is possible.
@@ -36,21 +43,30 @@ void CheckText(const std::u16string& text) {
         if (row.field == 0 && wanted.starts_with(u'|')) wanted = Cut(wanted, u'|')[1];
         Require(kept[row.field] == wanted && (prefs.*row.get)() == wanted, "a text stays");
     }
-    for (const std::size_t field : kColorFields) {
+    for (const auto& row : kColors) {
+        const std::size_t field = row.field;
         Require(IsColor(kept[field]), "a colour is a whole number");
         if (field < sent.size() && sent[field].size() < 9 && IsColor(sent[field])) {
-            const bool same = std::stoi(std::string(sent[field].begin(), sent[field].end())) ==
-                              std::stoi(std::string(kept[field].begin(), kept[field].end()));
-            Require(same, "a colour stays");
+            Require(ToNumber(sent[field]) == ToNumber(kept[field]), "a colour stays");
         }
     }
-    for (const std::size_t field : kSwitchFields) {
-        const bool on = field < sent.size() && Folded(sent[field]) == u"true";
-        Require(kept[field] == (on ? u"True" : u"False"), "a switch stays");
+    for (const auto& row : kSwitches) {
+        std::u16string was = row.field == kOnByDefault ? u"True" : u"False";
+        if (row.field < sent.size()) was = sent[row.field];
+        const bool on = row.field == kLevel ? Val(was) >= 2 : Folded(was) == u"true";
+        Require((prefs.*row.get)() == on && kept[row.field] == Shown(row.field, on),
+                "a switch stays");
     }
     UserPrefs copy;
     copy.PopulateSettings(settings);
     Require(copy.GetSettingsString() == settings, "settings that were read stay as they are");
+    Remarks remarks;
+    std::u16string heard;
+    for (const auto& [name, value] : ServerTextCheck::Settings(text, remarks)) {
+        heard += value + kSeparator;
+    }
+    DoubledIn(remarks, text);
+    Require(heard == settings + kSeparator, "a listener changes no setting");
 }
 
 /// What the host sets comes back in a copy.
@@ -63,24 +79,30 @@ void CheckProperties(FuzzedDataProvider& input) {
         if (row.field == 0 && value.starts_with(u'|')) value[0] = u'!';
         (prefs.*row.set)(value);
     }
-    const std::u16string settings = prefs.GetSettingsString();
+    const auto color = input.ConsumeIntegralInRange<Color>(0, 0xFFFFFF);
+    const bool on = input.ConsumeBool();
+    const auto colored = input.PickValueInArray(kColors);
+    const auto switched = input.PickValueInArray(kSwitches);
+    (prefs.*colored.set)(color);
+    (prefs.*switched.set)(on);
+    const auto fields = Cut(prefs.GetSettingsString(), kSeparator);
+    Require(fields[colored.field] == IntegerText(color), "a colour has a field");
+    Require(fields[switched.field] == Shown(switched.field, on), "a switch has a field");
     UserPrefs copy;
-    copy.PopulateSettings(settings);
+    copy.PopulateSettings(prefs.GetSettingsString());
+    Require((copy.*colored.get)() == color && (copy.*switched.get)() == on, "both come back");
     for (std::size_t i = 0; i < values.size(); ++i) {
-        Require(Cut(settings, kSeparator)[kTextProperties[i].field] == values[i],
-                "a property has a field");
+        Require(fields[kTextProperties[i].field] == values[i], "a property has a field");
         Require((copy.*kTextProperties[i].get)() == values[i], "a property comes back");
     }
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzedDataProvider input(data, size);
+void halvek::Check(FuzzedDataProvider& input) {
     CheckProperties(input);
     std::u16string text;  // as many fields as the server sends, and more
     for (std::size_t i = 0; i <= kFields; ++i) text += FuzzText(input, 8) + kSeparator;
     CheckText(text);
     CheckText(RestAsText(input, u"ßß|Ttrue12-"));
-    return 0;
 }

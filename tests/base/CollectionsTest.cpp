@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/StringArray.h>
 #include <halvekutils/base/StringTable.h>
 
@@ -9,8 +8,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <memory>
-#include <string_view>
 #include <utility>
 
 namespace halvek {
@@ -18,25 +15,6 @@ namespace {
 
 constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
-
-using Numbers = KeyedCollection<int>;
-
-std::shared_ptr<int> Number(int value) {
-    return std::make_shared<int>(value);
-}
-
-TEST(KeyedCollection, TellsNoKeyFromTheEmptyKeyAndFaultsOnWhatItLacks) {
-    Numbers numbers;
-    numbers.Add(Number(1));
-    numbers.Add(Number(2));
-    EXPECT_EQ(FaultOf([&] { numbers.Item(u""); }), 5);
-    for (const std::int32_t position : {0, -1, 3, kMin, kMax}) {
-        EXPECT_EQ(FaultOf([&] { numbers.Item(position); }), 9) << position;
-        EXPECT_EQ(FaultOf([&] { numbers.Remove(position); }), 9) << position;
-    }
-    numbers.Add(Number(3), u"");
-    EXPECT_EQ(numbers.Item(u""), numbers.Item(3));
-}
 
 TEST(StringArray, KeepsItsBoundsAndFaultsOutsideThem) {
     const std::pair<std::int32_t, std::int32_t> rows[] = {{1, 16}, {-3, 2},      {0, -1},

@@ -32,14 +32,6 @@ TEST_F(DebugConsoleTest, LinesAreDroppedOutsideDebugModeAndWithoutModelessWindow
     EXPECT_EQ(Log(), kStamp + std::string("1\r\n") + kStamp + "<<<<<LOG STARTED>>>>>\r\n");
 }
 
-TEST_F(DebugConsoleTest, MoreThan30000CharactersAreClearedByTheNextLine) {
-    utils_->ShowInDebug(std::u16string(29'998, u'x'));  // and a line break of two
-    utils_->ShowInDebug(desktop_.Console()->Text());
-    EXPECT_EQ(Text().size(), 60'002u);
-    utils_->ShowInDebug(u"new");
-    EXPECT_EQ(Text(), u"<<<<<CLEARED>>>>>>new\r\n");
-}
-
 /// A log that writes to the debug console itself.
 struct TalkingMachine : TestMachine {
     using TestMachine::TestMachine;

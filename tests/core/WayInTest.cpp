@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
+#include "tests/HostWindow.h"
 
 #include <halvekutils/base/RuntimeError.h>
 #include <halvekutils/base/Utf8.h>
@@ -14,22 +15,12 @@
 namespace halvek {
 namespace {
 
-/// A button, and a form, that was destroyed.
+/// A button that was destroyed.
 class Gone : public PopupTarget {
   public:
     Rect Place() const override { throw RuntimeError(Fault::ObjectNotSet, u"control"); }
     Rect Screen() const override { return {}; }
     bool Exists() const override { return false; }
-};
-
-class Form : public OwnerForm {
-  public:
-    std::int32_t Left() const override { return 0; }
-    std::int32_t Top() const override { return 0; }
-    std::int32_t Width() const override { return 0; }
-    std::int32_t Height() const override { return 0; }
-    bool Exists() const override { return true; }
-    void Refresh() override {}
 };
 
 /// A desktop on which the host acts while a message about a log that fails is open.
@@ -48,7 +39,7 @@ struct Passed {
     std::shared_ptr<Utils> utils = Utils::Create();
     std::unique_ptr<std::u16string> text;
     std::shared_ptr<PopupTarget> target = std::make_shared<Gone>();
-    std::shared_ptr<OwnerForm> form = std::make_shared<Form>();
+    std::shared_ptr<OwnerForm> form = std::make_shared<HostWindow>();
     std::unique_ptr<std::u16string> variable = std::make_unique<std::u16string>(300, u'v');
 };
 

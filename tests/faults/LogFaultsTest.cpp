@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/CleanState.h"
-
-#include <halvekutils/base/CodePage.h>
-#include <halvekutils/base/Utf8.h>
+#include "tests/LogTest.h"
 
 #include <gtest/gtest.h>
 
@@ -13,33 +10,17 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
 #include <exception>
-#include <filesystem>
 #include <functional>
-#include <set>
-#include <sstream>
-#include <string>
-#include <string_view>
 #include <utility>
 
 namespace halvek {
 namespace {
 
 namespace fs = std::filesystem;
-
-using Names = std::set<std::string>;
-
-const std::string kFull(1'048'576, 'x');
-constexpr std::string_view kStampAndUser = "03/05/24 09:07:03 AM\tnina\t";
-constexpr char kArchive[] = "Error_2024_3_5_9_7_3.log";
-
-std::string Line(std::string_view message) {
-    return std::string(kStampAndUser).append(message).append("\r\n");
-}
 
 /// A file system of two mebibytes in a folder; only the process that mounts it sees it, and it ends
 /// with that process.
@@ -107,20 +88,7 @@ void OnSmallDisk(const fs::path& folder, const Body& body) {
     EXPECT_EQ(status, 0) << "the process on the small disk failed";
 }
 
-struct LogFaults : CleanState {
-    void Start(const fs::path& file, bool debugMode = false) {
-        utils_->InitUtils(FromUtf8(file.native()), u"Front Desk", u"test", debugMode, u"1");
-    }
-
-    /// How often the library beeps while it logs a line.
-    int BeepsAt(std::string_view line) {
-        const int before = desktop_.Beeps();
-        utils_->LogError(FromCodePage(line));
-        return desktop_.Beeps() - before;
-    }
-
-    const fs::path log_ = folder_ / "a.log";
-};
+using LogFaults = LogTest;
 
 TEST_F(LogFaults, AFullDiskLosesWholeLinesAndOnlyThoseEvenInARotation) {
     OnSmallDisk(folder_.Path(), [&](const SmallDisk& disk) {
@@ -165,31 +133,6 @@ TEST_F(LogFaults, AReadOnlyDiskStaysAsItIs) {
     });
 }
 
-TEST_F(LogFaults, WhatTakesTheLogsPlaceIsNeitherFollowedNorWaitedFor) {
-    const std::pair<const char*, std::function<void()>> rows[] = {
-        {"folder", [&] { fs::create_directory(log_); }},
-        {"link", [&] { fs::create_symlink("other.log", log_); }},
-        {"link to nothing", [&] { fs::create_symlink("nowhere", log_); }},
-        {"pipe", [&] { ::mkfifo(log_.c_str(), 0600); }},
-        {"link to a device", [&] { fs::create_symlink("/dev/full", log_); }},
-    };
-    WriteFile(folder_ / "other.log", "kept");
-    for (const auto& [what, put] : rows) {
-        Start(log_);
-        EXPECT_EQ(BeepsAt("1"), 0);
-        fs::remove(log_);
-        put();
-        EXPECT_EQ(BeepsAt("lost"), 1) << what;
-        EXPECT_EQ(ReadFile(folder_ / "other.log"), "kept");
-        EXPECT_EQ(NamesIn(folder_.Path()), (Names{"a.log", "other.log"})) << what;
-        fs::remove(log_);
-        EXPECT_EQ(BeepsAt("2"), 0);
-        EXPECT_EQ(ReadFile(log_), Line("2")) << what;
-    }
-    Start("/dev/full");
-    EXPECT_EQ(BeepsAt("lost"), 1);
-}
-
 TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
     const std::pair<fs::path, fs::path> rows[] = {
         {folder_ / "logs/a.log", folder_ / "logs/a.log"},
@@ -199,7 +142,7 @@ TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
     for (const auto& [name, file] : rows) {
         const bool own = name != file;
         TheSession().logFolder.clear();
-        Start(name);
+        Start(name, true);
         EXPECT_EQ(BeepsAt("1"), 0);
         fs::remove_all(file.parent_path());
         EXPECT_EQ(BeepsAt("2"), own ? 0 : 1) << name;
@@ -208,6 +151,9 @@ TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
         EXPECT_EQ(BeepsAt("3"), 0);
         EXPECT_EQ(ReadFile(file), (own ? Line("2") : "") + Line("3")) << name;
     }
+    ASSERT_EQ(desktop_.StockMessages().size(), 1u) << "in debug mode a lost line is told";
+    EXPECT_EQ(ToUtf8(desktop_.StockMessages().front().text),
+              "ERROR in LocalRef.LogError\r\nPath not found: " + rows[0].second.native());
 }
 
 TEST_F(LogFaults, AClockThatIsSetBackStopsNoCountdownAndNoCalendar) {

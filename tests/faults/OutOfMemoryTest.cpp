@@ -43,13 +43,6 @@ const HelpFile& TheHelp() {
     return help;
 }
 
-/// A list whose index of codes grows while it is made.
-Text ListOfShortCodes() {
-    Text list = u"H";
-    for (char16_t code = u'a'; code < u'a' + 500; ++code) (list += u':') += code;
-    return list;
-}
-
 std::unique_ptr<SelectGrid> OpenGrid(TextIn typed) {
     SelectionRequest request{u"Codes", kList, u"A000001"};
     auto grid = std::make_unique<SelectGrid>(std::move(request), Services::Current(), nullptr);
@@ -110,7 +103,6 @@ struct World : CleanState {
     FakeServices session;
     Calculator calculator{u"123456789", session, desktop_};
     std::unique_ptr<SelectGrid> grid, typedGrid;
-    SelectionList shortCodes{ListOfShortCodes(), false};
     std::unique_ptr<CompiledHelp> help;
 };
 
@@ -233,11 +225,7 @@ const Row kRows[] = {
          w.utils->RemoveUnwantedChars(u"unwanted| bars| go from this", w.result, u"-");
      },
      Part},
-    {"RemoveUnprintableChars", Raised,
-     [](World& w) { w.result = w.utils->RemoveUnprintableChars(u"tabs\tand\tmore"); }},
     {"ConvertHDate", Logged, [](World& w) { w.result = w.utils->ConvertHDate(u"60000,43200"); }},
-    {"ConvertNumberToDate", Logged,
-     [](World& w) { w.result = w.utils->ConvertNumberToDate(u"030724", true); }},
     {"ShowMsgBox", Logged,
      [](World& w) {
          const auto answer = w.utils->ShowMsgBox(kWords, mbYesNo, mbQuestion, kWords);
@@ -255,17 +243,8 @@ const Row kRows[] = {
          if (codes != u"CANCEL" && codes != u"A000001") w.result = std::move(codes);
      }},
     {"SelectGridTick", Logged, [](World& w) { w.grid->ClickCell(1, 3); }},
-    {"SelectGridTickAll", Logged, [](World& w) { w.grid->ClickCell(1, 1); }},
     {"SelectGridTypedCodes", Either, [](World& w) { w.typedGrid->Accept(); }},
-    {"SelectionListFind", Raised,
-     [](World& w) { w.result = IntegerText(w.shortCodes.Find(Text(1, u'a' + 499))); }},
-    {"OnCurrencyCtrGotFocus", Logged, [](World& w) { w.utils->OnCurrencyCtrGotFocus(w.field); }},
     {"OnCurrencyCtrChange", Logged, [](World& w) { w.utils->OnCurrencyCtrChange(w.field); }},
-    {"OnNegCurrencyCtrKeyPress", Logged,
-     [](World& w) {
-         std::int16_t key = u'-';
-         w.utils->OnNegCurrencyCtrKeyPress(w.field, key);
-     }},
     {"OnCurrencyCtrValidate", Logged,
      [](World& w) {
          bool cancel = false;
@@ -278,11 +257,6 @@ const Row kRows[] = {
          w.result = HelpTextOf(w.help->Read(u"/first.htm"));
      }},
     {"ShowInDebug", Logged, [](World& w) { w.utils->ShowInDebug(kWords); }},
-    {"FirstShowInDebug", Logged,
-     [](World& w) {
-         TheSession().debugConsole = nullptr;
-         w.utils->ShowInDebug(kWords);
-     }},
     {"SaveToFile", Nobody, [](World& w) { w.desktop_.Console()->SaveToFile(); }},
     {"LogError", Nobody, [](World& w) { w.utils->LogError(kWords); }},
     {"KeyedCollection", Raised,

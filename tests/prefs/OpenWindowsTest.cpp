@@ -52,6 +52,8 @@ TEST_F(OpenWindowsTest, HandsOutCopiesOfOneRegistryForEachUtils) {
     EXPECT_EQ(Shown(windows_->GetAll()), u"A 1");
     for (std::int32_t i = 2; i <= 20'000; ++i) windows_->AddItem(u"A", i);
     EXPECT_EQ(windows_->GetItem(20'000)[1], u"20000");
+    EXPECT_TRUE(windows_->RemoveItem(2) && windows_->RemoveItem(19'999));
+    EXPECT_EQ(windows_->GetItem(2)[1] + windows_->GetItem(windows_->Count())[1], u"319999");
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
-#include "tests/prefs/TextProperties.h"
+#include "tests/prefs/PrefsProperties.h"
 
 #include <halvekutils/base/BoolIn.h>
 #include <halvekutils/base/NumericText.h>
@@ -27,31 +27,10 @@ constexpr std::u16string_view kWhole =
 
 static_assert(!std::is_convertible_v<int, BoolIn> && !std::is_convertible_v<char*, BoolIn>);
 
-const Property<Color (UserPrefs::*)(), void (UserPrefs::*)(Color)> kColors[] = {
-    {5, &UserPrefs::RequiredFieldBackColor, &UserPrefs::RequiredFieldBackColor},
-    {6, &UserPrefs::FieldTextColor, &UserPrefs::FieldTextColor},
-    {7, &UserPrefs::FormTopColor, &UserPrefs::FormTopColor},
-    {8, &UserPrefs::FormSkinColor, &UserPrefs::FormSkinColor},
-    {9, &UserPrefs::FormTextColor, &UserPrefs::FormTextColor}};
-
-const Property<bool (UserPrefs::*)() const, void (UserPrefs::*)(BoolIn)> kSwitches[] = {
-    {10, &UserPrefs::FormWindowsMenu, &UserPrefs::FormWindowsMenu},
-    {14, &UserPrefs::AIKeepFilter, &UserPrefs::AIKeepFilter},
-    {15, &UserPrefs::UseTables, &UserPrefs::UseTables},
-    {16, &UserPrefs::UseFileForTables, &UserPrefs::UseFileForTables},
-    {20, &UserPrefs::LoadCodesOnLogin, &UserPrefs::LoadCodesOnLogin},
-    {22, &UserPrefs::ShowAdvancedSettings, &UserPrefs::ShowAdvancedSettings},
-    {23, &UserPrefs::UseViewAllForReportsList, &UserPrefs::UseViewAllForReportsList}};
-
 UserPrefs Populated(TextIn settings) {
     UserPrefs prefs;
     EXPECT_FALSE(prefs.PopulateSettings(settings));
     return prefs;
-}
-
-/// The settings of one field, with something after it.
-std::u16string Only(std::size_t field, TextIn value) {
-    return std::u16string(field, u'ß') + value.Str() + u'ß';
 }
 
 std::u16string FieldOf(const UserPrefs& prefs, std::size_t field) {
@@ -64,41 +43,12 @@ TEST(UserPrefs, WritesEveryFieldOfTheSettingsText) {
     EXPECT_EQ(Populated(std::u16string(kWhole) + u"ßfield 31ß").GetSettingsString(), kWhole);
 }
 
-TEST(UserPrefs, EachColourHasItsFieldForReadingAndWriting) {
-    for (const auto& [field, get, set] : kColors) {
-        UserPrefs prefs = Populated(Only(field, u"65535"));
-        EXPECT_EQ((prefs.*get)(), 65535) << field;
-        (prefs.*set)(-1);
-        EXPECT_EQ(FieldOf(prefs, field), u"-1");
-    }
-}
-
 TEST(UserPrefs, AnUnsetColourTurnsIntoItsDefaultWhenItIsRead) {
     UserPrefs prefs = Populated(u"");
     std::u16string read;
     for (const auto& color : kColors) read += u'ß' + IntegerText((prefs.*color.get)());
     EXPECT_EQ(read, u"ß16765560ß0ß9664091ß9664091ß16777215");
     EXPECT_TRUE(prefs.GetSettingsString().starts_with(u"ßßßß" + read + u"ßTrue"));
-}
-
-TEST(UserPrefs, EachSwitchGoesByAWordAndTheLevelOfTablesByValue) {
-    const struct {
-        std::u16string text;
-        bool word, level;
-    } rows[] = {{u"tRuE", true, false},   {u"", false, false},      {u"1", false, false},
-                {u" true", false, false}, {u"True ", false, false}, {u"2", false, true},
-                {u"3", false, true},      {u" 2x", false, true},    {u"1.99", false, false},
-                {u"1e999", false, true},  {u"x2", false, false}};
-    for (const auto& [text, word, level] : rows) {
-        for (const auto& [field, get, set] : kSwitches) {
-            const bool on = field == 15 ? level : word;
-            UserPrefs prefs = Populated(Only(field, text));
-            EXPECT_EQ((prefs.*get)(), on) << ToUtf8(text) << " in " << field;
-            (prefs.*set)(!on);
-            const std::u16string newLevel = on ? u"0" : u"2";
-            EXPECT_EQ(FieldOf(prefs, field), field == 15 ? newLevel : BooleanText(!on)) << field;
-        }
-    }
 }
 
 TEST(UserPrefs, ReadsNumbersByTheirBeginningAndGoesOnBehindABadOne) {
@@ -140,17 +90,10 @@ TEST_F(CurrentPrefs, UserPrefsCrossByCopyInBothDirections) {
     EXPECT_EQ(copy->LastPrinterUsed(), u"");
     copy->FormSkinColor();
     EXPECT_EQ(utils_->GetCurrentUserPrefs()->GetSettingsString(), settings);
-    EXPECT_EQ(Utils::Create()->GetCurrentUserPrefs()->GetSettingsString(),
-              u"ßßßßß0ß0ß0ß0ß0ßFalseß0ßßßFalseß0ßFalseßßßßFalseßßFalseßFalseßßßßßßß");
-}
-
-TEST_F(CurrentPrefs, SystemPrefsAreShared) {
-    EXPECT_EQ(utils_->GetCurrentSystemPrefs(), utils_->GetCurrentSystemPrefs());
-    const auto own = std::make_shared<SystemPrefs>();
-    utils_->SetCurrentSystemPrefs(own);
-    EXPECT_EQ(utils_->GetCurrentSystemPrefs(), own);
     utils_->SetCurrentSystemPrefs(nullptr);
     EXPECT_NE(utils_->GetCurrentSystemPrefs(), nullptr);
+    EXPECT_EQ(Utils::Create()->GetCurrentUserPrefs()->GetSettingsString(),
+              u"ßßßßß0ß0ß0ß0ß0ßFalseß0ßßßFalseß0ßFalseßßßßFalseßßFalseßFalseßßßßßßß");
 }
 
 }  // namespace

@@ -3,66 +3,36 @@
 
 #include "tests/TemporaryFolder.h"
 
-#include <signal.h>
-#include <spawn.h>
-#include <sys/types.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace halvek {
 
 /// A print scheduler in a temporary folder, with queues Queue1, Queue2, ...: Queue2 is an ipp
-/// printer with a driver, the others are raw and print to /dev/null. Ends with the scope.
+/// printer with a driver, the others are raw and print to /dev/null. It ends when this end of its
+/// pipe is closed, by the scope or with the process.
 class PrivateScheduler {
   public:
-    explicit PrivateScheduler(int queues) : pid_(Start({"start", folder_.Path()})) {
-        if (Wait(Start({"queues", folder_.Path(), std::to_string(queues)})) == 0) return;
-        End();
+    explicit PrivateScheduler(int queues) : pipe_(::popen(Command("start").c_str(), "we")) {
+        if (std::system(Command("queues " + std::to_string(queues)).c_str()) == 0) return;
+        ::pclose(pipe_);
         throw std::runtime_error("the queues cannot be set up");
     }
-    ~PrivateScheduler() { End(); }
+    ~PrivateScheduler() { ::pclose(pipe_); }
     PrivateScheduler(const PrivateScheduler&) = delete;
     PrivateScheduler& operator=(const PrivateScheduler&) = delete;
 
     std::string Socket() const { return folder_ / "socket"; }
 
-    void Stop() const { ::kill(pid_, SIGSTOP); }
-    void Continue() const { ::kill(pid_, SIGCONT); }
-
   private:
-    static pid_t Start(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), {"bash", HALVEK_SCHEDULER});
-        std::vector<char*> words;
-        words.reserve(arguments.size() + 1);
-        for (std::string& argument : arguments) words.push_back(argument.data());
-        words.push_back(nullptr);
-        pid_t child = 0;
-        if (::posix_spawnp(&child, "bash", nullptr, nullptr, words.data(), environ) != 0) {
-            throw std::runtime_error("bash cannot be started");
-        }
-        return child;
-    }
-
-    static int Wait(pid_t child) {
-        int status = -1;
-        while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-        }
-        return status;
-    }
-
-    void End() const {
-        Continue();
-        ::kill(pid_, SIGTERM);
-        Wait(pid_);
+    std::string Command(const std::string& words) const {
+        return "bash " HALVEK_SCHEDULER " " + folder_.Path().string() + ' ' + words;
     }
 
     TemporaryFolder folder_;
-    pid_t pid_;
+    std::FILE* pipe_;
 };
 
 }  // namespace halvek

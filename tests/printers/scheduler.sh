@@ -2,11 +2,11 @@
 # SPDX-License-Identifier: MIT
 # A test's own print scheduler, for root and for ordinary users: it listens only on FOLDER/socket,
 # keeps all its files in FOLDER and never asks for a password.
-# Usage: scheduler.sh start FOLDER          becomes the scheduler; it ends with the caller
-#        scheduler.sh queues FOLDER COUNT   waits for it and adds the queues Queue1, Queue2, ...
+# Usage: scheduler.sh FOLDER start          runs the scheduler until the standard input ends
+#        scheduler.sh FOLDER queues COUNT   waits for it and adds the queues Queue1, Queue2, ...
 set -euo pipefail
 PATH=$PATH:/usr/sbin
-folder=$2
+folder=$1
 export CUPS_SERVER=$folder/socket
 
 start() {
@@ -37,8 +37,10 @@ AccessLog $folder/log/access
 ErrorLog $folder/log/error
 PageLog $folder/log/page
 CONF
-    exec setpriv --pdeathsig KILL cupsd -f -c "$folder/conf/cupsd.conf" \
-        -s "$folder/conf/cups-files.conf" >"$folder/log/out" 2>&1
+    cupsd -f -c "$folder/conf/cupsd.conf" -s "$folder/conf/cups-files.conf" >"$folder/log/out" 2>&1 &
+    cat >/dev/null
+    kill $!
+    wait
 }
 
 queues() {
@@ -58,4 +60,4 @@ queues() {
     done
 }
 
-"$1" "${@:3}"
+"${@:2}"

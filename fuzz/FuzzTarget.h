@@ -3,6 +3,7 @@
 
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/base/CodePage.h>
+#include <halvekutils/base/Remarks.h>
 
 #include <fuzzer/FuzzedDataProvider.h>
 
@@ -17,12 +18,10 @@
 
 namespace halvek {
 
-/// The fuzzer's bytes as the server would send them.
-inline std::u16string FuzzText(const std::uint8_t* data, std::size_t size) {
-    return FromCodePage({reinterpret_cast<const char*>(data), size});
-}
+/// What a target does with one input.
+void Check(FuzzedDataProvider& input);
 
-/// A text of some length, from an input that holds several.
+/// A text of some length, as the server would send it, from an input that holds several.
 inline std::u16string FuzzText(FuzzedDataProvider& input, std::size_t most) {
     const auto length = input.ConsumeIntegralInRange<std::size_t>(0, most);
     return FromCodePage(input.ConsumeBytesAsString(length));
@@ -77,4 +76,26 @@ inline void Require(bool holds, const char* what) {
     std::abort();
 }
 
+/// What a check of a text remarks on lies in the text, record by record.
+/// @return  how many records are left out because of their key
+inline std::size_t DoubledIn(const Remarks& remarks, const std::u16string& text) {
+    std::size_t doubled = 0;
+    std::size_t record = 1;
+    for (const Remark& remark : remarks.All()) {
+        Require(remark.record >= record, "records are remarked on in their order");
+        Require(remark.position <= text.size(), "a remark lies in the text");
+        Require(!remark.text.empty(), "a remark says something");
+        record = remark.record;
+        if (remark.kind == RemarkKind::Doubled) ++doubled;
+    }
+    return doubled;
+}
+
 }  // namespace halvek
+
+/// The fuzzer's way in; a target is one source.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    halvek::Check(input);
+    return 0;
+}
