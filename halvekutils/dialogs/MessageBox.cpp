@@ -19,6 +19,8 @@ constexpr int kEscape = 27;
 constexpr std::int32_t kScrollStep = 200;
 constexpr std::int32_t kMaxCountdownSeconds = 2'147'483'640;
 constexpr std::u16string_view kFixedFace = u"Courier New";
+// Laying out text without blanks costs time in the square of its length.
+constexpr std::size_t kLongestPrompt = 65'535;
 
 struct FontRow {
     FontSizeChoice choice;
@@ -50,6 +52,14 @@ char16_t AcceleratorLetter(int keyCode) {
         keyCode > 0 && keyCode < 128 &&
         kAcceleratorLetters.find(static_cast<char16_t>(keyCode)) != std::u16string_view::npos;
     return known ? static_cast<char16_t>(keyCode) : u'\0';
+}
+
+/// A prompt that a window can show at once; a note ends one that is cut.
+std::u16string Shown(std::u16string prompt) {
+    if (prompt.size() <= kLongestPrompt) return prompt;
+    const auto cut = static_cast<double>(prompt.size() - kLongestPrompt);
+    prompt.resize(kLongestPrompt);
+    return prompt + u"\r\n... (" + NumberText(cut) + u" more characters)";
 }
 
 /// Hours, minutes and seconds in two digits each.
@@ -84,6 +94,7 @@ MessageBox::MessageBox(MessageBoxRequest request, const Services& session, const
       skinTextColor_(session.FormTextColor()),
       title_(request_.title.empty() ? session.AppName() : request_.title),
       caption_(title_) {
+    request_.prompt = Shown(std::move(request_.prompt));
     layout_ = LayOutMessageBox({request_.prompt, font_, set_->choice, Picture() != 0}, desktop,
                                desktop.ScreenSize(), desktop.FrameSize());
     if (request_.closeAfterNSec >= 1) {
