@@ -283,7 +283,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Shows a message box and waits for its answer.
     ///
-    /// @param Prompt  plain text; CR LF starts a new line. Shows its first 65,535 characters and how
+    /// @param Prompt  plain text; CR LF starts a new line. Shows its first 65,535 characters and
+    /// how
     ///     many more there are
     /// @param Buttons  the button set
     /// @param Icon  the picture
