@@ -2,6 +2,8 @@
 #include "fuzz/FuzzText.h"
 
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/printers/Cups.h>
+#include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/printers/PrinterAnswer.h>
 
 #include <string>
@@ -32,11 +34,12 @@ std::string AnswerOf(FuzzedDataProvider& input) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const Cups cups(CupsPrinters::kLibrary);
     FuzzedDataProvider input(data, size);
     const std::string answer =
         input.ConsumeBool() ? input.ConsumeRemainingBytesAsString() : AnswerOf(input);
     try {
-        for (const InstalledPrinter& queue : QueuesInAnswer(answer)) {
+        for (const InstalledPrinter& queue : QueuesInAnswer(cups, answer)) {
             Require(!queue.deviceName.empty(), "every queue has a name");
         }
     } catch (const RuntimeError& fault) {
