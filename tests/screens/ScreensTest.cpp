@@ -207,28 +207,6 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
     Tell("dialogs");
 }
 
-/// On the first and on the second screen: each opens once in a session.
-struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
-
-TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
-    const HelpFile help(10);
-    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
-    OpenHost(*QGuiApplication::screens()[GetParam()], true);
-    utils_->ShowInDebug(u"line");
-    utils_->ShowHelp(0, 100, help.Path().u16string());
-    EXPECT_TRUE(Soon([&] { return Window("HelpViewer").isActiveWindow(); }));
-    for (const char* const name : {"frmDebug", "HelpViewer"}) {
-        const QWidget& window = Window(name);
-        const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
-        EXPECT_TRUE(fits) << name << MissesOf(window, false);
-        ++looked_;
-        missed_ += !fits;
-    }
-    EXPECT_FALSE(Window("frmDebug").isActiveWindow());
-    Tell("help and console");
-}
-INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
-
 /// Another program that the user types into.
 struct OtherProgram {
     OtherProgram() {
@@ -256,6 +234,56 @@ struct OtherProgram {
     QProcess program;
     QByteArray heard;
 };
+
+TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) {
+    QScreen& second = *QGuiApplication::screens().last();
+    OpenHost(second, false);
+    QWidget other;  // the active one before, on the first screen
+    other.setGeometry(40, 40, 200, 100);
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(Soon([&] { return other.isActiveWindow(); }));
+    const OtherProgram program;
+    const Opening calls[] = {
+        {"calendar", false,
+         [&](Utils& utils, QPushButton&) {
+             utils.ShowCalendar(-1, -1, -1, u"", u"", AsOwnerForm(host_.get()));
+         }},
+        {"palette", false,
+         [&](Utils& utils, QPushButton&) {
+             utils.ShowColor(-1, -1, -1, AsOwnerForm(host_.get()));
+         }},
+        {"selection", false,
+         [&](Utils& utils, QPushButton&) {
+             utils.ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1,
+                                 AsOwnerForm(host_.get()));
+         }},
+    };
+    for (const Opening& opening : calls) Look(opening, ", form to refresh");
+    Tell("forms to refresh");
+}
+
+/// On the first and on the second screen: each opens once in a session.
+struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
+
+TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
+    const HelpFile help(10);
+    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    OpenHost(*QGuiApplication::screens()[GetParam()], true);
+    utils_->ShowInDebug(u"line");
+    utils_->ShowHelp(0, 100, help.Path().u16string());
+    EXPECT_TRUE(Soon([&] { return Window("HelpViewer").isActiveWindow(); }));
+    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+        const QWidget& window = Window(name);
+        const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
+        EXPECT_TRUE(fits) << name << MissesOf(window, false);
+        ++looked_;
+        missed_ += !fits;
+    }
+    EXPECT_FALSE(Window("frmDebug").isActiveWindow());
+    Tell("help and console");
+}
+INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
 
 /// A window manager that draws no attention to windows in full view
 bool AttendsToHiddenWindowsOnly() {
