@@ -5,21 +5,23 @@
 #include <QStyleOptionButton>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
-#include <vector>
+#include <optional>
 
 namespace halvek {
 
 namespace {
 
-/// The palette of the same colours that was used first.
+/// The palette of the same colours that was used first. Allocates nothing: paint events must not
+/// fail.
 QPalette FirstLike(const QPalette& palette) {
-    constexpr std::size_t kMostKept = 16;
-    static std::vector<QPalette> kept;
-    const auto found = std::ranges::find(kept, palette);
-    if (found != kept.end()) return *found;
-    if (kept.size() == kMostKept) kept.clear();
-    kept.push_back(palette);
+    static std::array<std::optional<QPalette>, 16> kept;
+    static std::size_t oldest = 0;
+    const auto found = std::find(kept.begin(), kept.end(), palette);
+    if (found != kept.end()) return **found;
+    kept[oldest] = palette;
+    oldest = (oldest + 1) % kept.size();
     return palette;
 }
 
