@@ -76,11 +76,10 @@ Case Append(const fs::path& parent) {
 }  // namespace
 
 Rows LogRows() {
-    return {
-        {"LogError, a line of 120 bytes, on disk", "stat, open, write, close", 1.2,
-         "QFile opened to append", 1.5, [](double) { return Append(fs::current_path()); }, false},
-        {"LogError, a line of 120 bytes, in memory", "stat, open, write, close", 1.2,
-         "QFile opened to append", 1.5, [](double) { return Append("/dev/shm"); }, false}};
+    return {{"LogError, a line of 120 bytes, on disk", "stat, open, write, close", 1.2,
+             "QFile opened to append", 0, [](double) { return Append(fs::current_path()); }, false},
+            {"LogError, a line of 120 bytes, in memory", "stat, open, write, close", 1.2,
+             "QFile opened to append", 0, [](double) { return Append("/dev/shm"); }, false}};
 }
 
 }  // namespace bench

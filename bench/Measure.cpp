@@ -3,9 +3,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include <time.h>
+
 #include <algorithm>
-#include <cmath>
 #include <map>
+#include <string>
 
 namespace bench {
 
@@ -45,12 +47,14 @@ void Register(const char* name, const Work& work) {
 
 }  // namespace
 
-void Use(const void* result) {
-    benchmark::DoNotOptimize(result);
-    benchmark::ClobberMemory();
-}
-
-Times Measure(const Case& work) {
+Times Measure(const Case& work, int repetitions) {
+    std::string count = "--benchmark_repetitions=" + std::to_string(repetitions);
+    char program[] = "halvek-bench";
+    char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    char time[] = "--benchmark_min_time=0.02";
+    char* arguments[] = {program, interleaving, count.data(), time, nullptr};
+    int argumentCount = 4;
+    benchmark::Initialize(&argumentCount, arguments);
     Register("floor", work.floor);
     Register("ours", work.ours);
     Register("peer", work.peer);
@@ -60,15 +64,15 @@ Times Measure(const Case& work) {
     return {collector.Median("floor"), collector.Median("ours"), collector.Median("peer")};
 }
 
-Growth MeasureGrowth(const Row& row) {
-    const auto timeAt = [&](double scale) {
-        const Case work = row.prepare(scale);
-        return Measure({.floor = {}, .ours = work.ours, .peer = {}}).ours.value();
+double MeasureOnce(const Work& work) {
+    const auto now = [] {
+        timespec time{};
+        ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
     };
-    const double tenth = timeAt(0.1);
-    const double size = timeAt(1);
-    const double tenfold = timeAt(10);
-    return {std::log10(size / tenth), std::log10(tenfold / size)};
+    const double start = now();
+    work();
+    return now() - start;
 }
 
 }  // namespace bench

@@ -7,22 +7,17 @@
 
 namespace bench {
 
-/// Median times of one call in nanoseconds of processor time.
+/// Times of one call in nanoseconds of processor time; none for a way that a row lacks.
 struct Times {
     std::optional<double> floor;
     std::optional<double> ours;
     std::optional<double> peer;
 };
 
-/// Runs the three ways in turns, in random order, and takes the median of each.
-Times Measure(const Case& work);
+/// Runs the ways in turns, in random order, and takes the median of each.
+Times Measure(const Case& work, int repetitions);
 
-/// The exponent with which our time grows from a tenth of the size to the size, and from the size
-/// to ten times the size: 1 is linear, 2 quadratic.
-struct Growth {
-    double toSize = 0;
-    double toTenfold = 0;
-};
-Growth MeasureGrowth(const Row& row);
+/// The time of a single call.
+double MeasureOnce(const Work& work);
 
 }  // namespace bench

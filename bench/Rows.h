@@ -29,7 +29,8 @@ struct Row {
 
     /// Makes the input, `scale` times as large as the row says: 1, and for the growth 0.1 and 10.
     std::function<Case(double scale)> prepare;
-    bool grows = true;  ///< false for work whose size is fixed
+    bool grows = true;   ///< false for work whose size is fixed
+    bool first = false;  ///< measured as the first such work of a process
 };
 
 using Rows = std::vector<Row>;
@@ -41,6 +42,12 @@ Rows LogRows();
 Rows SelectionRows();
 Rows ValueRows();
 Rows WindowRows();
+
+/// The rows above that need no window, in the order of the table.
+Rows RowsWithoutWindows();
+
+/// The scale at which instructions are counted: the smallest at which the growth is measured.
+constexpr double kCountedScale = 0.1;
 
 /// The session that all rows share.
 halvek::Utils& Session();

@@ -2,6 +2,8 @@
 #include "fuzz/FuzzTarget.h"
 
 #include <halvekutils/base/RuntimeError.h>
+#include <halvekutils/printers/Cups.h>
+#include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/printers/PrinterAnswer.h>
 
 #include <string>
@@ -32,10 +34,11 @@ std::string AnswerOf(FuzzedDataProvider& input) {
 }  // namespace
 
 void halvek::Check(FuzzedDataProvider& input) {
+    static const Cups cups(CupsPrinters::kLibrary);
     const std::string answer =
         input.ConsumeBool() ? input.ConsumeRemainingBytesAsString() : AnswerOf(input);
     try {
-        for (const InstalledPrinter& queue : QueuesInAnswer(answer)) {
+        for (const InstalledPrinter& queue : QueuesInAnswer(cups, answer)) {
             Require(!queue.deviceName.empty(), "every queue has a name");
         }
     } catch (const RuntimeError& fault) {

@@ -218,7 +218,10 @@ std::u16string NumberText(double number) {
 void AppendInteger(std::u16string& out, std::int64_t number) {
     char buffer[24];
     const auto [end, error] = std::to_chars(buffer, std::end(buffer), number);
-    out.append(buffer, end);
+    // Appending these bytes would make a text of them first.
+    const std::size_t start = out.size();
+    out.resize(start + static_cast<std::size_t>(end - buffer));
+    std::copy(buffer, end, out.begin() + static_cast<std::ptrdiff_t>(start));
 }
 
 std::u16string IntegerText(std::int64_t number) {

@@ -85,13 +85,12 @@ std::vector<Size> LabelSizes(const MessageBoxContent& content, const TextMeter& 
 
 /// The size of each button of a set: the widest caption fits into the desktop's font.
 Size ButtonSize(ButtonsChoice buttons, const TextMeter& meter) {
-    Size widest;
+    Size widest = {0, meter.TextHeight(u"Yes", DesktopFont())};  // all captions are as tall
     for (const MbMsgBoxResult result : ButtonSetOf(buttons).results) {
         const std::u16string_view caption = CaptionOf(result);
         if (caption.empty()) continue;
         const std::u16string_view shown = caption.substr(1);  // without the accelerator's mark
         widest.width = std::max(widest.width, meter.TextWidth(shown, DesktopFont()));
-        widest.height = std::max(widest.height, meter.TextHeight(shown, DesktopFont()));
     }
     return design::ButtonFor(widest);
 }

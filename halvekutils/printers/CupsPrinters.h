@@ -12,10 +12,13 @@ namespace halvek {
 ///
 /// Asks the scheduler once, at the first call, and answers both calls from its reply. A scheduler
 /// whose whole answer is not there within a second, or is longer than 16 MB, counts as absent; a
-/// queue without a name is left out and logged. Make a new object for each build.
+/// queue without a name is left out and logged. libcups is loaded for it; where it is missing, the
+/// log says so and the scheduler counts as absent. Make a new object for each build.
 class CupsPrinters : public PrinterSource {
   public:
-    CupsPrinters();
+    static constexpr const char* kLibrary = "libcups.so.2";
+
+    explicit CupsPrinters(const char* library = kLibrary);
     ~CupsPrinters() override;
 
     /// Device URI and name of each queue. Throws DeviceError when the scheduler does not answer.
@@ -27,6 +30,7 @@ class CupsPrinters : public PrinterSource {
   private:
     void Ask();
 
+    const char* library_;
     bool asked_ = false;
     std::exception_ptr failure_;
     std::vector<InstalledPrinter> queues_;

@@ -54,6 +54,8 @@ TEST_F(LifeCycle, APluginShowsItsBoxEachTimeItIsLoaded) {
         QApplication::processEvents();
     }
     EXPECT_EQ(Messages(), "loaded|loaded|loaded|");
+    EXPECT_EQ(::dlopen("libcups.so.2", RTLD_NOW | RTLD_NOLOAD), nullptr)
+        << "a client that prints nothing pays for libcups";
 }
 
 TEST_F(LifeCycle, AForkedChildLogsAndItsParentGoesOn) {

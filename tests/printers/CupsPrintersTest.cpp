@@ -26,7 +26,11 @@ namespace {
 using namespace std::string_view_literals;
 
 struct CupsDesktop : ScriptedPlatform {
-    std::unique_ptr<PrinterSource> Printers() override { return std::make_unique<CupsPrinters>(); }
+    std::unique_ptr<PrinterSource> Printers() override {
+        return std::make_unique<CupsPrinters>(library);
+    }
+
+    const char* library = CupsPrinters::kLibrary;
 };
 
 class CupsPrintersTest : public CleanState {
@@ -75,6 +79,28 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
     EXPECT_EQ(Build(folder_ / "none"), "");
     EXPECT_TRUE(LogEndsWithFallBack()) << Log();
     EXPECT_EQ(cups_.Beeps(), 1);
+}
+
+TEST_F(CupsPrintersTest, WithoutItsLibraryASchedulerCountsAsNotThere) {
+    struct {
+        const char* library;
+        const char* reason;
+    } const rows[] = {{"libcups-gone.so", "No such file"},
+                      {"libc.so.6", "undefined symbol: cupsEncryption"}};
+    utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
+    const PrivateScheduler scheduler(1);
+    for (const auto& [library, reason] : rows) {
+        cups_.library = library;
+        EXPECT_EQ(Build(scheduler.Socket()), "");
+        EXPECT_TRUE(LogEndsWithFallBack()) << Log();
+        EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"), "");
+        const std::string log = Log();
+        const std::size_t line = log.rfind("\tprint scheduler: libcups cannot be");
+        ASSERT_NE(line, std::string::npos) << log;
+        const std::string last = log.substr(line);
+        EXPECT_NE(last.find(reason), std::string::npos) << last;
+        EXPECT_EQ(std::ranges::count(last, '\n'), 1) << last;
+    }
 }
 
 /// A socket that answers each connection in its own way, in pieces, for as long as the caller

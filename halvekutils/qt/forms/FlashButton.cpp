@@ -11,7 +11,7 @@ constexpr std::chrono::milliseconds kFlash(50);
 
 }  // namespace
 
-FlashButton::FlashButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+FlashButton::FlashButton(const QString& caption, QWidget* parent) : PushButton(caption, parent) {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(kFlash);

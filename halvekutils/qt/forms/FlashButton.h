@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPushButton>
+#include <halvekutils/qt/helpers/PushButton.h>
+
 #include <QTimer>
 
 namespace halvek {
 
 /// A button that turns white for a moment when it is pressed in any way; nothing waits for the
 /// flash.
-class FlashButton : public QPushButton {
+class FlashButton : public PushButton {
     Q_OBJECT
 
   public:

@@ -62,7 +62,6 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
       box_(std::move(box)),
       textFrame_(MakeFrame(this, "frMSG", box_->Layout().messageFrame)),
       buttonFrame_(MakeFrame(this, "frButtons", box_->Layout().buttonFrame)),
-      countdownLine_(new CountdownLine(this)),
       notice_(new SpokenNotice(*this)) {
     if (!box_->HasCloseBox()) RemoveCloseBox(*this);
     const Size inner = box_->Layout().inner;
@@ -72,9 +71,12 @@ frmMessageBox::frmMessageBox(std::shared_ptr<MessageBox> box)
     setPalette(MessagePalette(box_->Colors(), palette()));
     BuildText();
     BuildButtons(buttonColors);
-    BuildScrollButtons(buttonColors);
+    if (box_->Layout().canScroll) BuildScrollButtons(buttonColors);
     BuildIcon();
-    countdownLine_->setFixedWidth(width());
+    if (box_->CountdownSeconds() > 0) {
+        countdownLine_ = new CountdownLine(this);
+        countdownLine_->setFixedWidth(width());
+    }
     countdown_.setObjectName(QLatin1String("tmrUnload"));
     countdown_.setInterval(kOneSecond);
     Describe();
@@ -129,7 +131,6 @@ void frmMessageBox::BuildScrollButtons(const QPalette& colors) {
         button->setFocusPolicy(Qt::NoFocus);
         new FocusRing(*button);
         button->setGeometry(ToQRect(box_->Layout().scrollButtons[static_cast<std::size_t>(i)]));
-        button->setVisible(box_->Layout().canScroll);
         connect(button, &QToolButton::clicked, this, [this, i] {
             GuardEvent(u"frmMessageBox.cmdUpDn_Click", [this, i] { box_->PressScroll(i); });
         });
@@ -157,8 +158,9 @@ void frmMessageBox::Refresh() {
     if (box_->CountdownRunning() != countdown_.isActive()) {
         CountdownStarts(box_->CountdownRunning());
     }
-    countdownLine_->Follow(*box_);
+    if (countdownLine_ != nullptr) countdownLine_->Follow(*box_);
     text_->verticalScrollBar()->setValue(ScrolledPixels());
+    if (scrollButtons_[0] == nullptr) return;
     scrollButtons_[0]->setEnabled(!AtLastLine());
     scrollButtons_[1]->setEnabled(box_->ScrollOffset() < 0);
 }

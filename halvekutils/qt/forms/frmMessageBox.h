@@ -54,11 +54,11 @@ class frmMessageBox : public DialogForm {
     std::shared_ptr<MessageBox> box_;
     QFrame* textFrame_;
     QFrame* buttonFrame_;
-    CountdownLine* countdownLine_;
     SpokenNotice* notice_;
     MessageText* text_ = nullptr;
     std::array<QPushButton*, 3> buttons_{};
-    std::array<QToolButton*, 2> scrollButtons_{};
+    std::array<QToolButton*, 2> scrollButtons_{};  ///< null in a box whose text is in view
+    CountdownLine* countdownLine_ = nullptr;       ///< null without a countdown
     QTimer countdown_{this};
 };
 

@@ -2,6 +2,7 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/FocusRing.h>
 #include <halvekutils/qt/helpers/Metrics.h>
+#include <halvekutils/qt/helpers/PushButton.h>
 
 #include <QApplication>
 #include <QLayout>
@@ -98,7 +99,7 @@ void PaintRing(QPainter& painter, const QRectF& area, const QColor& color) {
 }
 
 QPushButton* NewButton(const char* name, const QString& caption, QWidget* parent) {
-    auto* const button = new QPushButton(caption, parent);
+    auto* const button = new PushButton(caption, parent);
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
     button->setAutoDefault(false);

@@ -3,7 +3,6 @@
 
 #include <QFont>
 #include <QString>
-#include <QTextDocument>
 #include <QTextOption>
 
 namespace halvek {
@@ -15,15 +14,21 @@ class PlainTextLayout {
     PlainTextLayout(const QString& text, const QFont& font);
 
     /// The width of the widest line, unfolded, trailing blanks included.
-    double Width();
+    double Width() const;
     /// The height of all lines, unfolded.
-    double Height();
+    double Height() const;
     /// The height of all lines, folded at this width.
-    double FoldedHeight(int width);
+    double FoldedHeight(int width) const;
 
   private:
-    QTextDocument document_;
-    QTextOption folding_;
+    struct Extent {
+        double width = 0;
+        double height = 0;
+    };
+    Extent LaidOut(const QTextOption& option, double width) const;
+
+    QString text_;
+    QFont font_;
 };
 
 }  // namespace halvek
