@@ -14,8 +14,7 @@ struct DebugConsoleFormTest : FormTest {
     void SetUp() override {
         utils_->InitUtils(u"", u"", u"", true, u"");
         utils_->ClearDebug();
-        for (QWidget* const widget : QApplication::topLevelWidgets())
-            if (widget->objectName() == "frmDebug") window_ = widget;
+        window_ = &Window("frmDebug");
         text_ = &Find<QPlainTextEdit>(*window_, "txtDebug");
     }
     bool EndsWith(const QString& end) {

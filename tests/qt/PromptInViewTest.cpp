@@ -10,7 +10,6 @@
 #include <halvekutils/qt/helpers/Metrics.h>
 
 #include <QApplication>
-#include <QPushButton>
 #include <QTextEdit>
 #include <gtest/gtest.h>
 
@@ -51,26 +50,12 @@ std::vector<std::u16string> Prompts() {
         u"The payment of $1,250.00 is more than the balance of the visit, which is $980.00. What "
         u"is "
         u"left over becomes a credit that can be used for later visits or be refunded. Post it?",
-        u"The insurance of this patient ended on 02/29/2004, before the date of the visit. Claims "
-        u"for the visit will be denied unless another policy is entered first, or the visit is "
-        u"billed to the patient.\r\n\r\nBill the visit to the patient?",
         u"Another user, Front Desk 2, has changed this patient's address while you were editing "
         u"it. "
         u"Saving now replaces what was entered there, and nobody will be told about it; the other "
         u"user may still be working on the same record and save it once more after you.\r\n\r\n"
         u"Your changes are kept on this workstation until you close the window, so nothing is lost "
         u"when you look at the other entry first.\r\n\r\nReplace the address?",
-        u"Three claims of this batch were rejected by the clearinghouse on 03/05/2004: the "
-        u"subscriber's number of the first one is unknown, the second one names a provider who is "
-        u"not enrolled, and the third one was sent before and has been paid. They stay in the "
-        u"batch "
-        u"until they are corrected or taken out by hand, and count as open until then.\r\n"
-        u"The other 41 claims of the batch have been accepted.\r\n\r\n"
-        u"Print the report of rejections before you go on to the next batch of the day?",
-        u"Deleting the visit of 03/07/2004 also deletes its charges, its payments and the notes "
-        u"that the provider wrote about it. This cannot be undone, and the amounts disappear from "
-        u"every report of the month, even from those that were printed before.\r\nDelete the "
-        u"visit?",
     };
     for (const int count : {5, 12, 16, 19, 22, 40}) prompts.push_back(Appointments(count));
     return prompts;
@@ -138,34 +123,6 @@ TEST_F(PromptInViewTest, WhatTheScreenHasRoomForIsInViewAtOpening) {
                                                   mbWhite, static_cast<FontSizeChoice>(font)});
                     ExpectInView(desk, *form);
                 }
-            }
-        }
-    }
-}
-
-TEST_F(PromptInViewTest, ButtonsHoldTheirCaptionsInTheMiddleOfTheForm) {
-    const DeskOf desk(kScreens[0]);
-    for (const int points : {9, 12, 16, 24}) {
-        SetDesktopFont(points);
-        for (int set = mbOkOnly; set <= mbOkHelp; ++set) {
-            SCOPED_TRACE(std::to_string(points) + " points, set " + std::to_string(set));
-            const auto form =
-                Open(desk, {u"Go on?", static_cast<ButtonsChoice>(set), mbQuestion, u"Visit"});
-            int before = 0;
-            int sum = 0;
-            const auto buttons = Find(*form, "frButtons").findChildren<QPushButton*>();
-            for (const QPushButton* const button : buttons) {
-                const QRect place(button->mapTo(form.get(), QPoint()), button->size());
-                EXPECT_EQ(button->size(), buttons[0]->size());
-                EXPECT_LE(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width(),
-                          place.width() - 16);
-                EXPECT_GT(place.left(), before);
-                EXPECT_LE(place.right(), form->width());
-                before = place.right();
-                sum += place.center().x();
-            }
-            if (!buttons.isEmpty()) {
-                EXPECT_NEAR(sum / static_cast<double>(buttons.size()), form->width() / 2.0, 2);
             }
         }
     }
