@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
-#include "tests/HostWindow.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cmath>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -52,24 +48,6 @@ TEST_F(CalendarTest, KeysMoveTheMarkedDayUntilOneIsChosen) {
     EXPECT_EQ(Chosen({Key::Today, Key::Enter, Key::Right}, u"2/15/1999"), u"03/05/2024");
     EXPECT_EQ(Chosen({Key::Escape, Key::Enter}), u"");
     EXPECT_EQ(Chosen({Key::Right}), u"");
-}
-
-TEST_F(CalendarTest, TakesItsArgumentsBeforeItOpensAndAFaultGivesNoDay) {
-    const auto window = std::make_shared<HostWindow>();
-    auto date = std::make_unique<std::u16string>(u"March 7, 2004");
-    EXPECT_EQ(utils_->ShowCalendarAndCalculateCoordinates(nullptr, *date), u"");
-    utils_->InitUtils(u"", u"Front Desk", u"", false, u"");
-    desktop_.OnCalendar([&](Calendar& calendar) {
-        date.reset();
-        EXPECT_EQ(calendar.Anchor(), (PopupAnchor{PopupEdge::Left, 8000, {}, 700}));
-        EXPECT_EQ(window->refreshes, 0);
-        calendar.ClickDay(Calendar::kLastDay + std::chrono::days(1));
-        calendar.ClickDay(Calendar::kFirstDay);
-    });
-    EXPECT_EQ(utils_->ShowCalendar(7999.6F, NAN, 700, *date, u"", window), u"01/01/1753");
-    EXPECT_EQ(window->refreshes, 1);
-    const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
-    EXPECT_TRUE(log.ends_with("\tError in Utils.ShowCalendar Object not set: current Utils\r\n"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
+#include "tests/HostWindow.h"
 
 #include <halvekutils/platform/Beep.h>
 
@@ -76,20 +77,29 @@ TEST(NoPlatform, IsAFault) {
     EXPECT_EQ(FaultOf([] { Platform::Installed(); }), 91);
 }
 
-TEST_F(ScriptedPlatformTest, TheHostMayReleaseEverythingWhileItsBoxIsOpen) {
-    auto utils = Utils::Create();
-    Utils& released = *utils;
-    const std::weak_ptr<Utils> alive = utils;
-    auto text = std::make_unique<std::u16string>(500, u't');
-    desktop_.OnMessageBox([&](MessageBox& box) {
-        utils.reset();
-        text.reset();
-        EXPECT_FALSE(alive.expired());
-        EXPECT_EQ(box.Prompt().Str() + box.Caption().Str(), std::u16string(1000, u't'));
-        box.Press(0);
-    });
-    EXPECT_EQ(released.ShowMsgBox(*text, mbYesNo, mbNoIcon, *text), mbYes);
-    EXPECT_TRUE(alive.expired());
+TEST_F(ScriptedPlatformTest, TheFormOfThePopUpIsRefreshedAfterIt) {
+    const auto form = std::make_shared<HostWindow>();
+    utils_->InitPrefs(StringArray(1, {u"255", u"0", u"0", u"0"}), 0, 0, 0, 0);
+    const auto look = [&](auto& rules) {
+        EXPECT_EQ(rules.Anchor(), (PopupAnchor{rules.Anchor().edge, 8000, {}, 700}));
+        EXPECT_EQ(form->refreshes, 0);
+    };
+    for (const bool isThere : {true, false}) {
+        desktop_.OnCalendar([&](Calendar& calendar) { look(calendar); });
+        desktop_.OnColorPalette([&](ColorPalette& palette) { look(palette); });
+        desktop_.OnSelection([&](SelectGrid& grid) { look(grid); });
+        form->exists = isThere;
+        const std::function<void()> calls[] = {
+            [&] { utils_->ShowCalendar(7999.6F, -1, 700, u"", u"", form); },
+            [&] { utils_->ShowColor(8000, -1, 700, form); },
+            [&] { utils_->ShowSelection(u"L", u"H:A\tAlpha\t0:", u"", 8000, -1, 700, form); }};
+        for (const auto& call : calls) {
+            form->refreshes = 0;
+            call();
+            EXPECT_EQ(form->refreshes, isThere ? 1 : 0);
+        }
+    }
+    EXPECT_EQ(desktop_.AnswersLeft(), 0u);
 }
 
 }  // namespace
