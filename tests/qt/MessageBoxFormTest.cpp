@@ -263,7 +263,7 @@ TEST_F(MessageBoxFormTest, AMessageOfTheLibrarysOwnNeedsNoSession) {
 
 // The desktop
 
-TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyByItsButtonOrWithTheDesktop) {
+TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyOrWithTheDesktop) {
     const auto modal = MakeBox(mbYesNo);
     desktop_.Show(modal, Modality::Modeless);
     const QPointer<QDialog> window = OpenDialog();
@@ -276,13 +276,6 @@ TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyByItsButtonOrWithTheDesktop) {
     desktop_.Show(modal, Modality::Modal);
     EXPECT_EQ(modal->ReturnedValue(), mbNo);
     EXPECT_EQ(window, nullptr);
-
-    const auto answered = MakeBox(mbYesNoCancel);
-    desktop_.Show(answered, Modality::Modeless);
-    ASSERT_TRUE(Soon([&] { return OpenDialog()->isActiveWindow(); }));
-    PressKey(*OpenDialog(), Qt::Key_N);
-    EXPECT_TRUE(Soon([&] { return OpenDialog() == nullptr; }));
-    EXPECT_EQ(answered->ReturnedValue(), mbNo);
 
     const auto left = MakeBox(mbYesNoCancel);
     std::make_unique<QtPlatform>()->Show(left, Modality::Modeless);

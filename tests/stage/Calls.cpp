@@ -120,8 +120,13 @@ std::vector<Box> Boxes() {
         boxes.push_back({QString("icon %1").arg(i), "One of nine icons.", mbOkOnly,
                          static_cast<IconChoice>(i)});
         boxes.push_back({QString("font %1").arg(i + 1),
-                         "One of nine fonts.\r\nIts lines stand evenly.", mbOkCancel, mbInformation,
-                         "Visits", mbWhite, static_cast<FontSizeChoice>(i + 1)});
+                         "This is one of nine fonts. The insurance of this patient ended on "
+                         "02/29/2004, before the "
+                         "date of the visit. Claims for the visit will be denied unless another "
+                         "policy is entered "
+                         "first.\r\n\r\nBill the visit to the patient?",
+                         mbOkCancel, mbInformation, "Visits", mbWhite,
+                         static_cast<FontSizeChoice>(i + 1)});
     }
     return boxes;
 }
