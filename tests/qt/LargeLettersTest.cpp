@@ -78,8 +78,9 @@ bool IsTextInReach(const QTextEdit& text) {
     const QWidget& later = Find(*text.window(), "cmdUpDn_0");
     QTextCursor end(text.document());
     end.movePosition(QTextCursor::End);
-    if (!later.isVisible()) return text.cursorRect(end).bottom() < text.viewport()->height();
-    return later.isEnabled() && text.geometry().right() <= later.x();
+    const bool isWhole = text.cursorRect(end).bottom() < text.viewport()->height();
+    if (!later.isVisible()) return isWhole;
+    return (isWhole || later.isEnabled()) && text.geometry().right() <= later.x();
 }
 
 /// Whether the font of a part is a rule.
@@ -183,6 +184,19 @@ TEST_P(LargeLettersTest, NothingIsCutOrHiddenInAnyDialog) {
         Measure([&] { call.open(*host_); });
     }
     Measure([&] { desktop_.ShowStockMessage(u"Invalid", StockIcon::Critical, u"Visits"); });
+}
+
+// About as many lines as there is room for
+TEST_P(LargeLettersTest, NorIsTheEndOfAMessage) {
+    for (const FontSizeChoice font : {mb5, mb8, mb9, mb14}) {
+        for (int lines = 16; lines < 40; ++lines) {
+            SCOPED_TRACE(testing::Message() << lines << " lines in font " << font);
+            const QString visits = QString("03/07/2004  Garcia, Maria\r\n").repeated(lines);
+            Measure([&] {
+                utils_->ShowMsgBox(visits, mbOkCancel, mbQuestion, u"Visits", mbWhite, font);
+            });
+        }
+    }
 }
 
 TEST_P(LargeLettersTest, NorInTheWindowsBesideThem) {
