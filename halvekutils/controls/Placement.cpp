@@ -66,7 +66,7 @@ PopupAnchor AnchorBeside(PopupEdge edge, const PopupTarget& target) {
 
 Rect ScreenOf(const PopupAnchor& anchor, const Desktop& desktop) {
     if (anchor.screen) return *anchor.screen;
-    if (!anchor.left && !anchor.topUp && !anchor.topDown) return desktop.ScreenRect();
+    if (!anchor.HasPosition()) return desktop.ScreenRect();
     const Rect current = desktop.ScreenRect();
     // A right edge may be the border to the next screen.
     const std::int32_t inside = anchor.edge == PopupEdge::Right ? 1 : 0;

@@ -28,7 +28,9 @@ struct PopupAnchor {
     /// Where people read from right to left: the target's right edge, on which the pop-up's right
     /// edge lies instead.
     std::optional<std::int32_t> right = std::nullopt;
-    std::uint32_t window = 0;  ///< the target's window; 0 for none
+    std::uint32_t window = 0;  ///< the window that the pop-up is to belong to; 0 for none
+
+    bool HasPosition() const { return left || topUp || topDown; }
 
     friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;
 };

@@ -425,8 +425,9 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Gives a control a font of at least the given size.
     ///
-    /// A font that has only a few sizes may come out smaller. Then larger sizes are tried in steps
-    /// of 0.1 points, up to 10 points more; if none suffices, the font is set to `fontSize`.
+    /// Style sheets do not change it, later ones included; a font that the host sets afterwards
+    /// does. A font that has only a few sizes may come out smaller. Then larger sizes are tried in
+    /// steps of 0.1 points, up to 10 points more; if none suffices, the font is set to `fontSize`.
     /// @param ob  FontOf(&widget)
     /// @param fontName  the face; the desktop replaces one that is not installed
     /// @param fontSize  points, above 0 and up to 2160; any other value changes nothing, beeps and
@@ -460,7 +461,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     ///     means not given, which centres it. It always lies wholly on the screen.
     /// @param DateToShow  any date; without one, or before 1753, the calendar opens on DefaultDate
     /// @param DefaultDate  likewise; without one, the calendar opens on today
-    /// @param FormToRefresh  repainted when the calendar ends; null for none
+    /// @param FormToRefresh  repainted when the calendar ends; owns it while none of the host's
+    ///     windows is active; null for none
     /// @param bNeedsConversions  DateToShow may be digits, see ConvertNumberToDate
     /// @return mm/dd/yyyy; empty when the calendar was closed without a choice
     ///
@@ -718,7 +720,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param posLeft,posTopUp,posTopDown  twips on the screen: the palette's left edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
-    /// @param FormToRefresh  repainted when the palette ends; null for none
+    /// @param FormToRefresh  repainted when the palette ends; owns it while none of the host's
+    ///     windows is active; null for none
     /// @return the colour, a tab and its index in the list; empty when the user chose none
     ///
     /// @code{.cpp}
@@ -769,7 +772,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
     /// @param posLeft,posTopUp,posTopDown  twips on the screen: the dialog's right edge, its
     ///     bottom edge when it opens upwards, and its top edge when it opens downwards; negative
     ///     means not given, which centres it. It always lies wholly on the screen.
-    /// @param FormToRefresh  repainted when the dialog ends; null for none
+    /// @param FormToRefresh  repainted when the dialog ends; owns it while none of the host's
+    ///     windows is active; null for none
     /// @param TypedCharacter  what the user has typed already; goes into the box of codes, and the
     ///     variable is cleared
     /// @param DoNotIncludeDeleted  true to leave out deleted entries; otherwise they show in red

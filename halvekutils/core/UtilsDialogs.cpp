@@ -41,6 +41,12 @@ PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTa
     return anchor;
 }
 
+/// Makes a pop-up that no target gives an owner belong to the form that is refreshed after it.
+PopupAnchor OwnedBy(const std::shared_ptr<OwnerForm>& form, PopupAnchor anchor) {
+    if (anchor.window == 0 && form != nullptr && form->Exists()) anchor.window = form->Window();
+    return anchor;
+}
+
 /// Repaints a host's form after a dialog, unless there is none or it was destroyed. A fault is
 /// logged with the prefix.
 void Refresh(Utils& utils, const char16_t* faultPrefix, const std::shared_ptr<OwnerForm>& form) {
@@ -105,10 +111,11 @@ namespace {
 
 constexpr char16_t kCalendarFault[] = u"Error in Utils.ShowCalendar ";
 
-std::u16string OpenCalendar(Utils& utils, const CalendarRequest& request,
+std::u16string OpenCalendar(Utils& utils, CalendarRequest request,
                             const std::shared_ptr<OwnerForm>& formToRefresh) {
     const auto show = [&] {
         Services::Current();  // throws before the first InitUtils
+        request.anchor = OwnedBy(formToRefresh, request.anchor);
         const auto calendar = std::make_shared<Calendar>(request, *TheSession().machine);
         Platform::Installed().Show(calendar);
         return calendar->Result();
@@ -157,8 +164,8 @@ std::u16string OpenPalette(Utils& utils, const PopupAnchor& anchor,
                            const std::shared_ptr<OwnerForm>& formToRefresh) {
     std::shared_ptr<ColorPalette> palette;
     Guarded(OnFault::Beep, kPaletteFault, utils, [&] {
-        palette =
-            std::make_shared<ColorPalette>(TheSession().colorArray, anchor, Services::Current());
+        palette = std::make_shared<ColorPalette>(
+            TheSession().colorArray, OwnedBy(formToRefresh, anchor), Services::Current());
         Platform::Installed().Show(palette);
     });
     Refresh(utils, kPaletteFault, formToRefresh);
@@ -225,7 +232,7 @@ std::u16string OpenSelection(Utils& utils, SelectionRequest request, const Place
         Services& session = Services::Current();
         request.typedCharacter = typedCharacter.Get();
         typedCharacter.Set({});
-        request.anchor = place();
+        request.anchor = OwnedBy(formToRefresh, place());
         grid = std::make_shared<SelectGrid>(std::move(request), session, MessagesOf(utils));
         grid->Prepare();
         ShowModal(grid);

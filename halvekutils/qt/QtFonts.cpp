@@ -2,12 +2,16 @@
 #include <halvekutils/base/Existing.h>
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
+#include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/SheetRules.h>
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QFontInfo>
 #include <QHeaderView>
 #include <QPointer>
+#include <QScopedValueRollback>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -39,17 +43,64 @@ bool HasReached(QWidget& widget, const QFont& font) {
            std::ranges::all_of(headers, [&](QHeaderView* header) { return Has(*header, font); });
 }
 
+void SetFont(QWidget& widget, const QFont& font) {
+    widget.setFont(font);
+    const bool mayNeedRules = font.pointSizeF() > 0 && !HasReached(widget, font);
+    if (mayNeedRules || HasSheetRules(widget, SheetSubject::Font)) {
+        SetSheetRules(widget, SheetSubject::Font, FontRules(font));
+    }
+}
+
+/// Gives a widget its font again when a style sheet that the host sets later has replaced it, as
+/// one for other colours may. A font that the host itself sets ends this.
+class FontKeeper : public QObject {
+  public:
+    static FontKeeper& Of(QWidget& widget) {
+        QObject* const found = widget.findChild<QObject*>(kName, Qt::FindDirectChildrenOnly);
+        return found != nullptr ? *static_cast<FontKeeper*>(found) : *new FontKeeper(widget);
+    }
+
+    void Set(const QFont& font) {
+        const QScopedValueRollback setting(isSetting_, true);
+        font_ = font;
+        SetFont(widget_, font);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (isSetting_) return false;
+        GuardEvent(u"ControlFont.Change", [&] {
+            const bool hasSheet = widget_.style()->inherits("QStyleSheetStyle");
+            if (event->type() == QEvent::StyleChange && hasSheet) Set(font_);
+            if (event->type() == QEvent::FontChange && !hasSheet && !Has(widget_, font_)) End();
+        });
+        return false;
+    }
+
+  private:
+    static constexpr QLatin1String kName{"halvekFontKeeper"};
+
+    explicit FontKeeper(QWidget& widget) : QObject(&widget), widget_(widget) {
+        setObjectName(kName);
+        widget.installEventFilter(this);
+    }
+    void End() {
+        setObjectName({});
+        widget_.removeEventFilter(this);
+        deleteLater();
+    }
+
+    QWidget& widget_;
+    QFont font_;
+    bool isSetting_ = false;
+};
+
 /// Changes one thing about a widget's font, which a host's style sheet must not undo.
 template <class Change>
 void ChangeFont(QWidget& widget, const Change& change) {
     widget.ensurePolished();
     QFont font = widget.font();
     change(font);
-    widget.setFont(font);
-    const bool mayNeedRules = font.pointSizeF() > 0 && !HasReached(widget, font);
-    if (mayNeedRules || HasSheetRules(widget, SheetSubject::Font)) {
-        SetSheetRules(widget, SheetSubject::Font, FontRules(font));
-    }
+    FontKeeper::Of(widget).Set(font);
 }
 
 class WidgetFont : public ControlFont {

@@ -118,6 +118,27 @@ TEST_F(ControlHelpersFormTest, FontsReachControlsWhateverTheHostsStyleSheetSays)
     EXPECT_EQ(FaultOf([&] { gone->Size(8); }), 91);
 }
 
+TEST_F(ControlHelpersFormTest, AFontOutlivesLaterStyleSheetsButNotAFontOfTheHosts) {
+    QWidget form;
+    QLabel label("IIII", &form);
+    label.setObjectName("caption");
+    EXPECT_TRUE(utils_->SetFontProperties(FontOf(&label), u"DejaVu Sans", 9));
+    for (const QString sheet : {"* { font: 20pt \"DejaVu Serif\"; }", "",
+                                "#caption { font: bold 15px; color: blue }", "* { color: red }"}) {
+        form.setStyleSheet(sheet);
+        label.ensurePolished();
+        EXPECT_EQ(label.font().family(), "DejaVu Sans") << sheet.toStdString();
+        EXPECT_EQ(label.fontInfo().pointSizeF(), 9) << sheet.toStdString();
+        label.setStyleSheet(sheet);
+        EXPECT_EQ(label.fontInfo().pointSizeF(), 9) << sheet.toStdString();
+    }
+    QLabel changed("IIII");
+    EXPECT_TRUE(utils_->SetFontProperties(FontOf(&changed), u"DejaVu Sans", 9));
+    changed.setFont(QFont("DejaVu Sans", 12));
+    changed.setStyleSheet("* { color: red }");
+    EXPECT_EQ(changed.font().pointSize(), 12);
+}
+
 TEST_F(ControlHelpersFormTest, ATargetIsTheVisiblePartOfAWidgetOrCellUntilItIsGone) {
     QWidget form;
     form.setGeometry(100, 100, 300, 300);

@@ -100,7 +100,8 @@ struct ScreensTest : FormTest {
     }
 
     /// Opens a dialog in front of the user, who looks and closes it.
-    void Look(const DialogCall& opening, const std::string& when) {
+    void Look(const DialogCall& opening, const std::string& when,
+              const std::shared_ptr<OwnerForm>& form = nullptr) {
         ++looked_;
         const User user([&](QDialog& dialog) {
             const auto misses = [&] {
@@ -111,7 +112,7 @@ struct ScreensTest : FormTest {
             missed_ += !fine;
             dialog.reject();
         });
-        opening.open(*utils_, *target_, nullptr);
+        opening.open(*utils_, *target_, form);
         EXPECT_TRUE(user.HasActed());
     }
 
@@ -176,28 +177,6 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
     Tell("dialogs");
 }
 
-/// On the first and on the second screen: each opens once in a session.
-struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
-
-TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
-    const HelpFile help(10);
-    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
-    OpenHost(*QGuiApplication::screens()[GetParam()], true);
-    utils_->ShowInDebug(u"line");
-    utils_->ShowHelp(0, 100, help.Path().u16string());
-    EXPECT_TRUE(Soon([&] { return Window("HelpViewer").isActiveWindow(); }));
-    for (const char* const name : {"frmDebug", "HelpViewer"}) {
-        const QWidget& window = Window(name);
-        const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
-        EXPECT_TRUE(fits) << name << MissesOf(window, false);
-        ++looked_;
-        missed_ += !fits;
-    }
-    EXPECT_FALSE(Window("frmDebug").isActiveWindow());
-    Tell("help and console");
-}
-INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
-
 /// Another program that the user types into.
 struct OtherProgram {
     OtherProgram() {
@@ -225,6 +204,58 @@ struct OtherProgram {
     QProcess program;
     QByteArray heard;
 };
+
+TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) {
+    QScreen& second = *QGuiApplication::screens().last();
+    OpenHost(second, false);
+    QWidget other;  // the active one before, on the first screen
+    other.setGeometry(40, 40, 200, 100);
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(Soon([&] { return other.isActiveWindow(); }));
+    const OtherProgram program;
+    using Form = const std::shared_ptr<OwnerForm>&;
+    const DialogCall calls[] = {
+        {"calendar", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             return utils.ShowCalendar(-1, -1, -1, u"", u"", form);
+         }},
+        {"palette", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             utils.InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
+             return utils.ShowColor(-1, -1, -1, form);
+         }},
+        {"selection", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             return utils.ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1, form);
+         }},
+    };
+    for (const DialogCall& opening : calls)
+        Look(opening, ", form to refresh", AsOwnerForm(host_.get()));
+    Tell("forms to refresh");
+}
+
+/// On the first and on the second screen: each opens once in a session.
+struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
+
+TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
+    const HelpFile help(10);
+    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    OpenHost(*QGuiApplication::screens()[GetParam()], true);
+    utils_->ShowInDebug(u"line");
+    utils_->ShowHelp(0, 100, help.Path().u16string());
+    EXPECT_TRUE(Soon([&] { return Window("HelpViewer").isActiveWindow(); }));
+    for (const char* const name : {"frmDebug", "HelpViewer"}) {
+        const QWidget& window = Window(name);
+        const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
+        EXPECT_TRUE(fits) << name << MissesOf(window, false);
+        ++looked_;
+        missed_ += !fits;
+    }
+    EXPECT_FALSE(Window("frmDebug").isActiveWindow());
+    Tell("help and console");
+}
+INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
 
 /// A window manager that draws no attention to windows in full view
 bool AttendsToHiddenWindowsOnly() {

@@ -4,6 +4,7 @@
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 #include <halvekutils/qt/helpers/StaleKeys.h>
+#include <halvekutils/qt/helpers/WindowOpening.h>
 
 #include <QCloseEvent>
 #include <QPushButton>
@@ -64,12 +65,14 @@ void DialogForm::EndShow() {
     emit Ended();
 }
 
-QPoint DialogForm::PlaceOf(const QWidget*) const {
+QPoint DialogForm::PlaceOf(const QWidget* owner) const {
     const bool isFramed = isVisible() && frameGeometry() != geometry();
     const Size outer = isFramed ? Size{PixelsToTwips(frameGeometry().width()),
                                        PixelsToTwips(frameGeometry().height())}
                                 : outer_;
-    const Point corner = PlacePopup(anchor_, outer, screen_);
+    const bool isAtOwner = owner != nullptr && !anchor_.screen && !anchor_.HasPosition();
+    const Rect screen = isAtOwner ? ToRect(WindowOpening::UsableArea(owner->screen())) : screen_;
+    const Point corner = PlacePopup(anchor_, outer, screen);
     return {TwipsToPixels(corner.left), TwipsToPixels(corner.top)};
 }
 
