@@ -124,25 +124,6 @@ TEST_F(Currency, EveryAmountComesBackToItself) {
     }
 }
 
-TEST_F(Currency, AnUpperAmountBelowTheLowerOneIsRefused) {
-    std::istringstream rows(
-        "50 20 refused  $10.01 $10.00 refused  -5 -6 refused  10 10 ok  0 -10 ok  none 10 ok  "
-        "50 0 ok  50 none ok  1,000 $1,000.01 ok");
-    for (std::string lower, upper, result; rows >> lower >> upper >> result;) {
-        box_->Text(Wide(upper));
-        cancel_ = false;
-        utils_->OnCurrencyCtrValidateRange(box_, Wide(lower), box_->Text(), u"From", u"To",
-                                           cancel_);
-        EXPECT_EQ(cancel_, result == "refused") << lower;
-        EXPECT_EQ(ToUtf8(box_->Text()), cancel_ ? "" : upper);
-    }
-    ASSERT_EQ(desktop_.StockMessages().size(), 3);
-    const auto& message = desktop_.StockMessages().front();
-    EXPECT_EQ(message.title + message.text,
-              u"Front Desk\"To\" amount cannot be less then \"From\" amount.");
-    EXPECT_EQ(message.icon, StockIcon::Critical);
-}
-
 struct BrokenControl : TextField {
     using TextField::Locked, TextField::Text;
     std::u16string Text() const override { throw std::runtime_error("broken"); }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "tests/CleanState.h"
 #include "tests/FakeServices.h"
 
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/dialogs/Calculator.h>
+#include <halvekutils/scripted/ScriptedPlatform.h>
 
 #include <gtest/gtest.h>
 
@@ -121,23 +121,6 @@ TEST(Calculator, TextOfAnyLengthAndAnyNumberIsSurvived) {
             EXPECT_TRUE(shown == u"ERROR" || IsNumeric(shown)) << ToUtf8(shown);
         }
     }
-}
-
-struct ScriptedCalculator : CleanState {};
-
-TEST_F(ScriptedCalculator, CalculateReturnsWhatTheUserAcceptsAndLogsAFault) {
-    const auto utils = Utils::Create();
-    EXPECT_EQ(utils->Calculate(u"5"), u"");  // before InitUtils
-    utils->InitUtils(u"", u"Front Desk", u"", false, u"");
-    desktop_.OnCalculator([](Calculator& calculator) {
-        for (const int key : {106, 99, 13, 13}) calculator.HookedKeyDown(key);
-    });
-    EXPECT_EQ(utils->Calculate(u"$1.25"), u"3.75");
-    desktop_.OnCalculator([](Calculator& calculator) { calculator.Press(3); });
-    EXPECT_EQ(utils->Calculate(), u"");
-    EXPECT_EQ(desktop_.Beeps(), 1);
-    const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
-    EXPECT_NE(log.find("\tError in Utils.Calculate Object not set"), log.npos);
 }
 
 }  // namespace

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
-#include "tests/HostWindow.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cmath>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -41,35 +37,10 @@ TEST_F(CalendarTest, OpensOnTheDateOrTheDefaultOrToday) {
     EXPECT_EQ(Chosen({Key::Enter}, u"3/7/04", u"", true), u"03/07/2004");
 }
 
-TEST_F(CalendarTest, KeysMoveTheMarkedDayUntilOneIsChosen) {
-    EXPECT_EQ(
-        Chosen({Key::PageDown, Key::CtrlPageUp, Key::Home, Key::Up, Key::Enter}, u"1/31/2024"),
-        u"01/25/2023");
-    EXPECT_EQ(Chosen({Key::Right, Key::Down, Key::End, Key::PageUp, Key::Enter}, u"12/30/2023"),
-              u"12/31/2023");
-    EXPECT_EQ(Chosen({Key::PageUp, Key::Left, Key::Enter, Key::Enter}, u"1/9/1753"), u"01/01/1753");
-    EXPECT_EQ(Chosen({Key::CtrlPageDown, Key::Right, Key::Enter}, u"5/1/9999"), u"12/31/9999");
+TEST_F(CalendarTest, GivesNoDayUnlessOneIsChosen) {
     EXPECT_EQ(Chosen({Key::Today, Key::Enter, Key::Right}, u"2/15/1999"), u"03/05/2024");
     EXPECT_EQ(Chosen({Key::Escape, Key::Enter}), u"");
     EXPECT_EQ(Chosen({Key::Right}), u"");
-}
-
-TEST_F(CalendarTest, TakesItsArgumentsBeforeItOpensAndAFaultGivesNoDay) {
-    const auto window = std::make_shared<HostWindow>();
-    auto date = std::make_unique<std::u16string>(u"March 7, 2004");
-    EXPECT_EQ(utils_->ShowCalendarAndCalculateCoordinates(nullptr, *date), u"");
-    utils_->InitUtils(u"", u"Front Desk", u"", false, u"");
-    desktop_.OnCalendar([&](Calendar& calendar) {
-        date.reset();
-        EXPECT_EQ(calendar.Anchor(), (PopupAnchor{PopupEdge::Left, 8000, {}, 700}));
-        EXPECT_EQ(window->refreshes, 0);
-        calendar.ClickDay(Calendar::kLastDay + std::chrono::days(1));
-        calendar.ClickDay(Calendar::kFirstDay);
-    });
-    EXPECT_EQ(utils_->ShowCalendar(7999.6F, NAN, 700, *date, u"", window), u"01/01/1753");
-    EXPECT_EQ(window->refreshes, 1);
-    const std::string log = ReadFile(machine_.ownFolder / "Error.Log");
-    EXPECT_TRUE(log.ends_with("\tError in Utils.ShowCalendar Object not set: current Utils\r\n"));
 }
 
 }  // namespace

@@ -43,19 +43,5 @@ TEST(ColorPalette, KeysMoveOverTheRowsAndChoose) {
     EXPECT_EQ(session.shown, Texts{u"CLICKED COLOR 2"});
 }
 
-TEST_F(CleanState, ShowColorReturnsTheColourAndItsIndexAndLogsItsFaults) {
-    const auto utils = Utils::Create();
-    utils->InitUtils(u"", u"", u"", false, u"");
-    EXPECT_EQ(utils->ShowColor(), u"");
-    utils->InitPrefs(StringArray(1, Texts{u"5", u"-1", u"255", u"0", u"0"}), 0, 0, 0, 0);
-    desktop_.OnColorPalette([](ColorPalette& palette) {
-        EXPECT_EQ(palette.Anchor(), (PopupAnchor{PopupEdge::Left, 70, {}, 90}));
-        palette.Click(2);
-    });
-    EXPECT_EQ(utils->ShowColor(70, -1, 90), u"255\t3");
-    EXPECT_TRUE(ReadFile(machine_.ownFolder / "Error.Log")
-                    .ends_with("\tError in Utils.ShowColor Subscript out of range: color 1\r\n"));
-}
-
 }  // namespace
 }  // namespace halvek

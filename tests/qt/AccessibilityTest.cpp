@@ -16,9 +16,10 @@ void Hear(QAccessibleInterface* part, QStringList& heard) {
     const QString object = part->object() == nullptr ? "" : part->object()->objectName();
     const QString name = part->text(QAccessible::Name);
     const bool isCell = part->object() == nullptr;
-    const bool isUsed = part->state().focusable || part->role() == QAccessible::Dialog ||
-                        part->role() == QAccessible::Button ||
-                        part->role() == QAccessible::ButtonMenu;
+    static const QSet<int> kUsed = {QAccessible::Dialog, QAccessible::Button,
+                                    QAccessible::ButtonMenu, QAccessible::Graphic,
+                                    QAccessible::EditableText};
+    const bool isUsed = part->state().focusable || kUsed.contains(part->role());
     if (isCell ? name.size() > 2 : isUsed)
         heard += QStringLiteral("%1 %2 %3").arg(object, role, name).trimmed();
     for (int i = 0; i < part->childCount(); ++i) Hear(part->child(i), heard);
@@ -60,13 +61,12 @@ TEST_F(AccessibilityTest, EveryControlOfADialogIsCalledWhatItIsAndReachedByTab) 
     const std::u16string lines(9999, u'x');
     const std::pair<std::function<void()>, const char*> dialogs[] = {
         {[&] { utils_->ShowMsgBox(u"Save?", mbSaveDontSave, mbQuestion, u"R&D"); },
-         "frmMessageBox Dialog R&D; arrCmd_0 Button Save; arrCmd_1 Button Don't Save > "
-         "arrCmd_0 arrCmd_1"},
+         "frmMessageBox Dialog R&D; lblText EditableText Message; arrCmd_0 Button Save; "
+         "arrCmd_1 Button Don't Save; Image1 Graphic Question > arrCmd_0 arrCmd_1"},
         {[&] { utils_->ShowMsgBox(lines, mbYesNoHelp, mbQuestion, u"Visit"); },
-         "frmMessageBox Dialog Visit; cmdUpDn_0 Button Later lines; cmdUpDn_1 Button Earlier "
-         "lines; "
-         "arrCmd_0 Button Yes; arrCmd_1 Button No; arrCmd_2 Button Help > "
-         "arrCmd_0 arrCmd_1 arrCmd_2"},
+         "frmMessageBox Dialog Visit; lblText EditableText Message; cmdUpDn_0 Button Later lines; "
+         "cmdUpDn_1 Button Earlier lines; arrCmd_0 Button Yes; arrCmd_1 Button No; "
+         "arrCmd_2 Button Help; Image1 Graphic Question > arrCmd_0 arrCmd_1 arrCmd_2"},
         {[&] { utils_->ShowCalendar(-1, -1, -1, u"3/7/2004"); },
          "frmCalendar Dialog Calendar; MonthView1 Table Calendar; "
          "qt_calendar_prevmonth Button Previous month (Page Up); "

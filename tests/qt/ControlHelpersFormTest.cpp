@@ -12,7 +12,6 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTableWidget>
-#include <qtestspontaneevent.h>
 
 namespace halvek {
 namespace {
@@ -91,29 +90,32 @@ TEST_F(ControlHelpersFormTest, ALabelWithAFrameKeepsItsSizeWhenItIsHighlighted) 
     }
 }
 
-TEST_F(ControlHelpersFormTest, AStyleSheetOfTheHostsDoesNotDefeatFonts) {
+TEST_F(ControlHelpersFormTest, FontsReachControlsWhateverTheHostsStyleSheetSays) {
     for (const QString sheet : {"* { font: 20pt \"DejaVu Serif\"; }", "QLabel { font-size: 15px }",
                                 "QTableView, QHeaderView { font: italic bold 20pt }", ""}) {
+        SCOPED_TRACE(qPrintable(sheet));
         QWidget form;
         form.setStyleSheet(sheet);
         QLabel label("IIII", &form);
         QTableView grid(&form);
         EXPECT_TRUE(utils_->SetFontProperties(FontOf(&label), u"DejaVu Sans", 9));
         utils_->HighlightHeading(AsHeading(&label));
-        EXPECT_EQ(label.font().family(), "DejaVu Sans");
+        label.ensurePolished();
+        EXPECT_EQ(label.fontInfo().family(), "DejaVu Sans");
         EXPECT_EQ(label.fontInfo().pointSizeF(), 9);
-        for (const QString code : {"4", "8", "0"}) {
+        for (const QString code : {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "", "00"}) {
             utils_->GridSetFontObject(GridFontOf(&grid), code);
+            const int row = code.size() == 1 ? std::min(code.toInt(), 8) : 8;
             for (QWidget* const part :
-                 {static_cast<QWidget*>(&grid), static_cast<QWidget*>(grid.horizontalHeader())}) {
+                 std::initializer_list<QWidget*>{&grid, grid.horizontalHeader()}) {
                 part->ensurePolished();
-                EXPECT_EQ(part->font().pointSize(), 8 + code.toInt() / 3 * 2)
-                    << sheet.toStdString();
-                EXPECT_EQ(part->font().bold(), code == "4");
-                EXPECT_EQ(part->font().italic(), code == "8");
+                EXPECT_EQ(part->font().pointSize(), 8 + row / 3 * 2);
+                EXPECT_EQ(part->font().bold() - part->font().italic(), row % 3 == 2 ? -1 : row % 3);
             }
         }
     }
+    const auto gone = FontOf(std::make_unique<QLabel>().get());
+    EXPECT_EQ(FaultOf([&] { gone->Size(8); }), 91);
 }
 
 TEST_F(ControlHelpersFormTest, AFontOutlivesLaterStyleSheetsButNotAFontOfTheHosts) {
@@ -137,25 +139,37 @@ TEST_F(ControlHelpersFormTest, AFontOutlivesLaterStyleSheetsButNotAFontOfTheHost
     EXPECT_EQ(changed.font().pointSize(), 12);
 }
 
-TEST_F(ControlHelpersFormTest, ACellOutOfViewCountsAsTheEdgeNearestToIt) {
+TEST_F(ControlHelpersFormTest, ATargetIsTheVisiblePartOfAWidgetOrCellUntilItIsGone) {
     QWidget form;
     form.setGeometry(100, 100, 300, 300);
-    QTableWidget grid(50, 2, &form);
-    grid.setGeometry(0, 0, 300, 200);
+    auto* const grid = new QTableWidget(50, 2, &form);
+    grid->setGeometry(0, 0, 300, 200);
     form.show();
     const auto view = [&] {
-        const QWidget& seen = *grid.viewport();
-        return QRect(seen.mapToGlobal(QPoint()), seen.size());
+        return QRect(grid->viewport()->mapToGlobal(QPoint()), grid->viewport()->size());
     };
-    const auto placeOf = [&](int row) {
-        return ToQRect(Beside(&grid, grid.model()->index(row, 0))->Place());
-    };
+    const auto cellIn = [&](int row) { return Beside(grid, grid->model()->index(row, 0)); };
+    const auto placeOf = [&](int row) { return ToQRect(cellIn(row)->Place()); };
+    const auto whole = Beside(grid);
+    const auto place = Beside(QRect(100, 100, 300, 200));  // of a host without widgets
+    EXPECT_EQ(whole->Place(), (Rect{1500, 1500, 4500, 3000}));
+    EXPECT_EQ(place->Place(), whole->Place());
+    EXPECT_EQ(place->Screen(), whole->Screen());
+    EXPECT_TRUE(view().contains(placeOf(1)));
     EXPECT_EQ(placeOf(40).top(), view().bottom());
     EXPECT_EQ(placeOf(40).left(), view().left());
-    grid.scrollToBottom();
+    grid->scrollToBottom();
     EXPECT_EQ(placeOf(0).bottom(), view().top());
-    grid.move(0, 250);  // the form's edge now cuts the view
+    grid->move(0, 250);  // the form's edge now cuts the view
     EXPECT_EQ(placeOf(49).top(), form.geometry().bottom());
+    const auto cell = cellIn(1);
+    grid->model()->removeRows(0, 10);
+    EXPECT_FALSE(cell->Exists());
+    EXPECT_EQ(FaultOf([&] { cell->Place(); }), 91);
+    delete grid;
+    EXPECT_FALSE(whole->Exists());
+    EXPECT_EQ(FaultOf([&] { whole->Screen(); }), 91);
+    EXPECT_EQ(Beside(nullptr), nullptr);
 }
 
 TEST_F(ControlHelpersFormTest, ComboBoxesAreFilledAndSearched) {
@@ -186,33 +200,6 @@ TEST_F(ControlHelpersFormTest, ComboBoxesAreFilledAndSearched) {
         EXPECT_EQ(utils_->FindInCombo(AsComboBox(&box), u"Adamson", part, matchCase), -1);
         EXPECT_EQ(box.currentIndex(), found);
     }
-}
-
-TEST_F(ControlHelpersFormTest, FontsReachGridsAndNoControlThatIsGone) {
-    const auto gone = FontOf(std::make_unique<QLabel>().get());
-    EXPECT_EQ(FaultOf([&] { gone->Size(8); }), 91);
-    QTableView grid;
-    for (const QString code : {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "", "00"}) {
-        utils_->GridSetFontObject(GridFontOf(&grid), code);
-        const int row = code.size() == 1 ? std::min(code.toInt(), 8) : 8;
-        EXPECT_EQ(grid.font().pointSize(), 8 + row / 3 * 2);
-        EXPECT_EQ(grid.font().bold() - grid.font().italic(), row % 3 == 2 ? -1 : row % 3);
-    }
-}
-
-TEST_F(ControlHelpersFormTest, AWindowWithoutItsCloseButtonIsClosedByTheHostOnly) {
-    QDialog dialog;
-    const User user([&](QDialog&) {
-        for (const auto window : {dialog.winId(), dialog.winId(), WId{0x7FFFFFFF}}) {
-            utils_->KillCloseButton(static_cast<std::int32_t>(window));
-            QCloseEvent request;
-            QSpontaneKeyEvent::setSpontaneous(&request);
-            QCoreApplication::instance()->notify(&dialog, &request);
-            EXPECT_FALSE(request.isAccepted());
-        }
-        QApplication::closeAllWindows();
-    });
-    dialog.exec();
 }
 
 }  // namespace

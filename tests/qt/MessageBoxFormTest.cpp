@@ -11,7 +11,6 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -22,11 +21,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <thread>
-#include <vector>
 
 namespace halvek {
 namespace {
@@ -57,76 +53,7 @@ std::u16string Lines(int count) {
     return text;
 }
 
-QString Button(std::size_t index) {
-    return QStringLiteral("arrCmd_%1").arg(index);
-}
-
-struct SetRow {
-    ButtonsChoice set;
-    std::string_view letters;
-    std::vector<MbMsgBoxResult> results;
-    std::optional<MbMsgBoxResult> closed;  ///< by a close request
-    bool escapeCloses;
-};
-
-// One of each kind; the rules of every set need no window.
-const SetRow kSets[] = {
-    {mbOkOnly, "O", {mbOK}, mbOK, true},
-    {mbAbortRetryIgnore, "ARI", {mbAbort, mbRetry, mbIgnore}, {}, false},
-    {mbYesNoCancel, "YNC", {mbYes, mbNo, mbCancel}, mbCancel, true},
-    {mbYesHelp, "YH", {mbYes, mbHelp}, mbYes, false},
-};
-
 // Answers
-
-TEST_F(MessageBoxFormTest, EveryButtonIsPressedByKeysAndByTheMouse) {
-    const auto afterTabs = [](std::size_t tabs, QKeyCombination key) {
-        std::vector<QKeyCombination> keys(tabs, Qt::Key_Tab);
-        keys.push_back(key);
-        return Keys(keys);
-    };
-    for (const SetRow& row : kSets) {
-        const std::size_t count = row.results.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            const auto letter = static_cast<Qt::Key>(row.letters[i]);
-            const auto click = [&](QDialog& box) { Click(box, Find(box, qPrintable(Button(i)))); };
-            for (const User::Acts& acts :
-                 {User::Acts(click), Keys({letter}), Keys({Qt::AltModifier | letter}),
-                  afterTabs(i, Qt::Key_Return), afterTabs(i, Qt::Key_Space),
-                  // Once around: nothing but the buttons takes the focus.
-                  afterTabs(i + count, Qt::KeypadModifier | Qt::Key_Enter)}) {
-                EXPECT_EQ(Answer(row.set, acts), row.results[i]) << row.set << " " << i;
-            }
-        }
-    }
-}
-
-TEST_F(MessageBoxFormTest, EscapeAndCloseRequestsAnswerOrDoNothing) {
-    for (const SetRow& row : kSets) {
-        const MbMsgBoxResult last = row.results.back();
-        const auto lastLetter = static_cast<Qt::Key>(row.letters.back());
-        const auto close = [&](QDialog& box) {
-            CloseRequest(box);
-            box.close();
-            Keys({lastLetter})(box);
-        };
-        EXPECT_EQ(Answer(row.set, close), row.closed.value_or(last)) << row.set;
-        const auto byEscape = Answer(row.set, Keys({Qt::Key_Escape, lastLetter}));
-        EXPECT_EQ(byEscape, row.escapeCloses ? *row.closed : last) << row.set;
-    }
-}
-
-TEST_F(MessageBoxFormTest, ABoxWithoutButtonsEndsByEnterEscapeOrTheCloseBox) {
-    for (const User::Acts& way : {Keys({Qt::Key_Return}), Keys({Qt::Key_Escape}),
-                                  User::Acts([](QDialog& box) { CloseRequest(box); })}) {
-        const auto afterOtherKeys = [&](QDialog& box) {
-            Keys({Qt::Key_Space, Qt::Key_O, Qt::Key_Tab})(box);
-            EXPECT_TRUE(box.isVisible());
-            way(box);
-        };
-        EXPECT_EQ(Answer(mbNoButtons, afterOtherKeys), mbOK);
-    }
-}
 
 // Repetitions of a key that was down before the box opened are dropped, whatever they would do.
 TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
@@ -145,7 +72,8 @@ TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
                                   held.keyboardModifiers(), QStringLiteral("y"), true);
                 EXPECT_TRUE(box.isVisible()) << held.toCombined();
             }
-            EXPECT_TRUE(Find<QTimer>(box, "tmrUnload").isActive());
+            const QTimer& countdown = Find<QTimer>(box, "tmrUnload");
+            EXPECT_TRUE(countdown.isActive() && countdown.interval() == 1000);
             PressKey(box, held);
         };
         EXPECT_EQ(Answer(mbYesNo, repeat, u"Go on?", u"Visit", 9), mbYes) << held.toCombined();
@@ -161,7 +89,6 @@ TEST_F(MessageBoxFormTest, CopyTakesTheSelectionOrElseTheMessage) {
             QCoreApplication::sendEvent(text.viewport(), &ask);
             auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
-            ASSERT_EQ(menu->actions().size(), 2);
             EXPECT_EQ(menu->actions()[0]->isEnabled(), text.textCursor().hasSelection());
             menu->actions()[action]->trigger();
             menu->close();
@@ -170,7 +97,7 @@ TEST_F(MessageBoxFormTest, CopyTakesTheSelectionOrElseTheMessage) {
         choose(1);
         EXPECT_EQ(clipboard.text(), message);
         QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, text.mapTo(&box, QPoint(4, 4)));
-        PressKey(box, Qt::ControlModifier | Qt::Key_C);
+        PressKey(box, Qt::CTRL | Qt::Key_C);
         EXPECT_EQ(clipboard.text(), "first");
         choose(1);
         EXPECT_EQ(clipboard.text(), message);
@@ -179,100 +106,6 @@ TEST_F(MessageBoxFormTest, CopyTakesTheSelectionOrElseTheMessage) {
         PressKey(box, Qt::Key_C);
     };
     EXPECT_EQ(Answer(mbOkCancel, copy, Lines(2)), mbCancel);
-}
-
-TEST_F(MessageBoxFormTest, OnlyControlCCopies) {
-    QClipboard& clipboard = *QApplication::clipboard();
-    for (const QKeyCombination other :
-         {Qt::ControlModifier | Qt::Key_Insert, Qt::MetaModifier | Qt::Key_C,
-          (Qt::ControlModifier | Qt::ShiftModifier) | Qt::Key_C,
-          (Qt::ControlModifier | Qt::AltModifier) | Qt::Key_C,
-          (Qt::ControlModifier | Qt::MetaModifier) | Qt::Key_C}) {
-        const auto copy = [&](QDialog& box) {
-            PressKey(box, Qt::ControlModifier | Qt::Key_C);
-            EXPECT_EQ(clipboard.text(), "Visit\r\n\r\nGo on?\r\n\r\nOK   Cancel");
-            clipboard.clear();
-            Keys({other, Qt::Key_C})(box);
-        };
-        EXPECT_EQ(Answer(mbOkCancel, copy), mbCancel);
-        EXPECT_EQ(clipboard.text(), "") << other.toCombined();
-    }
-}
-
-TEST_F(MessageBoxFormTest, EveryEndingRestoresTheMousePointer) {
-    std::unique_ptr<QWidget> owner;
-    const struct {
-        const char* name;
-        User::Acts end;
-        MbMsgBoxResult answer;
-    } rows[] = {
-        {"button", Keys({Qt::Key_Return}), mbYes},
-        {"countdown", [](QDialog& box) { Find<QTimer>(box, "tmrUnload").setInterval(0); },
-         kClosedByCountdown},
-        {"the owner goes", [&](QDialog&) { owner.reset(); }, kNotAnswered},
-        {"the application ends", [](QDialog&) { QCoreApplication::exit(1); }, kNotAnswered},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto watchAndEnd = [&](QDialog& box) {
-            EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-            row.end(box);
-        };
-        const auto ask = [&] {
-            owner = OpenHostWindow(QRect(100, 100, 400, 300));
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-            EXPECT_EQ(Answer(mbYesNo, watchAndEnd, u"Go on?", u"Visit", 2), row.answer);
-            EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-            QGuiApplication::restoreOverrideCursor();
-            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-            QCoreApplication::exit();
-        };
-        QTimer::singleShot(0, ask);
-        QApplication::exec();
-        owner.reset();
-    }
-}
-
-TEST_F(MessageBoxFormTest, ACountdownTicksOnceASecondAndAKeyStopsIt) {
-    int timeouts = 0;
-    const auto wait = [&](QDialog& box) {
-        auto& timer = Find<QTimer>(box, "tmrUnload");
-        EXPECT_EQ(timer.interval(), 1000);
-        QObject::connect(&timer, &QTimer::timeout, [&] { ++timeouts; });
-        timer.setInterval(0);
-        EXPECT_TRUE(Soon([&] { return timeouts > 0; }));
-        EXPECT_TRUE(box.windowTitle().startsWith("Visit          00:00:0"));
-    };
-    EXPECT_EQ(Answer(mbYesNo, wait, u"Go on?", u"Visit", 3), kClosedByCountdown);
-    EXPECT_EQ(timeouts, 3);
-
-    for (const auto key : {Qt::Key_Q, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_Shift}) {
-        const auto stop = [&](QDialog& box) {
-            EXPECT_TRUE(Find(box, "Countdown").isVisible());
-            EXPECT_EQ(box.accessibleDescription(),
-                      "Go on?\nCloses by itself after 3 seconds; any key stops it");
-            PressKey(box, key);
-            EXPECT_FALSE(Find<QTimer>(box, "tmrUnload").isActive()) << key;
-            EXPECT_FALSE(Find(box, "Countdown").isVisible());
-            EXPECT_EQ(box.accessibleDescription(), "Go on?");
-            PressKey(box, Qt::Key_N);
-        };
-        EXPECT_EQ(Answer(mbYesNo, stop, u"Go on?", u"Visit", 3), mbNo);
-    }
-}
-
-TEST_F(MessageBoxFormTest, ABoxOpensOverABox) {
-    const auto outer = [&](QDialog& box) {
-        EXPECT_EQ(Answer(mbYesNo, Keys({Qt::Key_N})), mbNo);
-        EXPECT_EQ(QApplication::activeModalWidget(), &box);
-        PressKey(box, Qt::Key_C);
-    };
-    EXPECT_EQ(Answer(mbOkCancel, outer), mbCancel);
-    const auto bothGo = [&](QDialog&) {
-        EXPECT_EQ(Answer(mbYesNo, [](QDialog&) { QCoreApplication::exit(); }), kNotAnswered);
-    };
-    QTimer::singleShot(0, [&] { EXPECT_EQ(Answer(mbOkCancel, bothGo), mbCancel); });
-    QApplication::exec();
 }
 
 // The text
@@ -308,7 +141,7 @@ TEST_F(MessageBoxFormTest, TheMouseSelectsAndScrollsWithoutTakingTheFocus) {
         const QPoint start = text.mapTo(&box, QPoint(4, 4));
         QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, start);
         EXPECT_EQ(text.textCursor().selectedText(), "first");
-        EXPECT_EQ(box.focusWidget()->objectName(), Button(0));
+        EXPECT_EQ(box.focusWidget()->objectName(), "arrCmd_0");
         QTest::mousePress(box.windowHandle(), Qt::LeftButton, {}, start);
         const QPoint below = start + QPoint(0, text.height() + 20);
         QCursor::setPos(box.mapToGlobal(below));
@@ -416,47 +249,21 @@ TEST_F(MessageBoxFormTest, TextOfAnyColorsIsReadable) {
     EXPECT_EQ(ToQColor(scheme(25), palette), palette.color(QPalette::Button));
 }
 
-TEST_F(MessageBoxFormTest, AMessageOfTheLibrarysOwnIsABoxLikeAnyOther) {
+TEST_F(MessageBoxFormTest, AMessageOfTheLibrarysOwnNeedsNoSession) {
     TheSession() = Session();
     Services::Install(nullptr);
     const User user([](QDialog& box) {
-        EXPECT_EQ(box.objectName(), "frmMessageBox");
         EXPECT_EQ(box.windowTitle(), "Front Desk");
         EXPECT_EQ(Find<QTextEdit>(box, "lblText").toPlainText(), "File <b> is not found.");
-        EXPECT_EQ(Find(box, "Image1").accessibleName(), "Critical");
         PressKey(box, Qt::Key_Escape);
     });
     desktop_.ShowStockMessage(u"File <b> is not found.", StockIcon::Critical, u"Front Desk");
     EXPECT_TRUE(user.HasActed());
 }
 
-TEST_F(MessageBoxFormTest, EveryControlHasANameAndARole) {
-    const struct {
-        const char* control;
-        QAccessible::Role role;
-        const char* name;
-    } rows[] = {
-        {"frmMessageBox", QAccessible::Dialog, "Visit & [*]"},
-        {"lblText", QAccessible::EditableText, "Message"},
-        {"Image1", QAccessible::Graphic, "Question"},
-        {"arrCmd_1", QAccessible::PushButton, "Don't Save"},
-    };
-    const auto listen = [&](QDialog& box) {
-        for (const auto& row : rows) {
-            SCOPED_TRACE(row.control);
-            QWidget& control = &row == rows ? box : Find(box, row.control);
-            auto* const heard = QAccessible::queryAccessibleInterface(&control);
-            EXPECT_EQ(heard->text(QAccessible::Name), row.name);
-            EXPECT_EQ(heard->role(), row.role);
-        }
-        PressKey(box, Qt::Key_S);
-    };
-    EXPECT_EQ(Answer(mbSaveDontSave, listen, Lines(150), u"Visit & [*]"), mbSave);
-}
-
 // The desktop
 
-TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyByItsButtonOrWithTheDesktop) {
+TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyOrWithTheDesktop) {
     const auto modal = MakeBox(mbYesNo);
     desktop_.Show(modal, Modality::Modeless);
     const QPointer<QDialog> window = OpenDialog();
@@ -469,13 +276,6 @@ TEST_F(MessageBoxFormTest, AModelessBoxEndsModallyByItsButtonOrWithTheDesktop) {
     desktop_.Show(modal, Modality::Modal);
     EXPECT_EQ(modal->ReturnedValue(), mbNo);
     EXPECT_EQ(window, nullptr);
-
-    const auto answered = MakeBox(mbYesNoCancel);
-    desktop_.Show(answered, Modality::Modeless);
-    ASSERT_TRUE(Soon([&] { return OpenDialog()->isActiveWindow(); }));
-    PressKey(*OpenDialog(), Qt::Key_N);
-    EXPECT_TRUE(Soon([&] { return OpenDialog() == nullptr; }));
-    EXPECT_EQ(answered->ReturnedValue(), mbNo);
 
     const auto left = MakeBox(mbYesNoCancel);
     std::make_unique<QtPlatform>()->Show(left, Modality::Modeless);

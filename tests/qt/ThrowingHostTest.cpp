@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/HostWindow.h"
+#include "tests/qt/DialogCalls.h"
 #include "tests/qt/FormTest.h"
-
-#include <halvekutils/qt/QtControls.h>
 
 #include <stdexcept>
 
@@ -33,39 +33,22 @@ class ThrowingFilter : public QObject {
 };
 
 /// A host's form that cannot be refreshed.
-struct BrokenForm : OwnerForm {
-    std::int32_t Left() const override { return 0; }
-    std::int32_t Top() const override { return 0; }
-    std::int32_t Width() const override { return 0; }
-    std::int32_t Height() const override { return 0; }
-    bool Exists() const override { return true; }
+struct BrokenForm : HostWindow {
     void Refresh() override { throw std::runtime_error("a host's fault"); }
 };
 
 struct ThrowingHost : FormTest {
     // The faults are logged.
     ~ThrowingHost() override { std::filesystem::remove(machine_.ownFolder / "Error.Log"); }
-
-    std::vector<std::function<void()>> Calls() {
-        const auto form = std::make_shared<BrokenForm>();
-        return {
-            [=, this] { utils_->ShowMsgBox(u"?", mbOkCancel, mbNoIcon, u""); },
-            [=, this] { utils_->Calculate(u"1"); },
-            [=, this] { utils_->ShowCalendar(-1, -1, -1, u"", u"", form); },
-            [=, this] { utils_->ShowColor(-1, -1, -1, form); },
-            [=, this] {
-                utils_->ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1, form);
-            },
-        };
-    }
 };
 
 TEST_F(ThrowingHost, EveryDialogReturnsWhereverAHostsFilterThrows) {
     constexpr int kStep = 3;
     // Qt leaks what its functions hold when an exception passes through them.
     if (__lsan_disable != nullptr) __lsan_disable();
-    utils_->InitPrefs(StringArray(1, {u"255", u"0", u"0", u"0"}), 0, 0, 0, 0);
-    for (const auto& call : Calls()) {
+    const auto host = OpenHostWindow({100, 100, 300, 200});
+    for (const DialogCall& row : kDialogCalls) {
+        SCOPED_TRACE(row.name);
         bool hasThrown = true;
         for (int events = 0; hasThrown; events += kStep) {
             QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -79,7 +62,7 @@ TEST_F(ThrowingHost, EveryDialogReturnsWhereverAHostsFilterThrows) {
                 ADD_FAILURE() << "a call never returns";
                 QCoreApplication::exit();
             });
-            call();
+            row.open(*utils_, *host, std::make_shared<BrokenForm>());
             hasThrown = filter.HasThrown();
             EXPECT_EQ(OpenDialog(), nullptr) << events;
             EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << events;

@@ -2,9 +2,8 @@
 // Where windows open on a desktop with two screens and a task bar, and who has the keyboard; and
 // that they open on any other.
 #include "tests/HelpFile.h"
+#include "tests/qt/DialogCalls.h"
 #include "tests/qt/FormTest.h"
-
-#include <halvekutils/qt/QtControls.h>
 
 #include <QProcess>
 #include <QPushButton>
@@ -63,37 +62,8 @@ QRect WorkArea() {
     return n.size() < 4 ? QRect() : QRect(n[0].toInt(), n[1].toInt(), n[2].toInt(), n[3].toInt());
 }
 
-/// A call that opens a window; one that is beside a target gets the button.
-struct Opening {
-    const char* name;
-    bool isBeside;
-    std::function<void(Utils& utils, QPushButton& target)> call;
-};
-
-std::vector<Opening> Dialogs() {
-    return {
-        {"message box", false,
-         [](Utils& utils, QPushButton&) { utils.ShowMsgBox(u"?", mbOkCancel, mbNoIcon, u""); }},
-        {"calculator", false, [](Utils& utils, QPushButton&) { utils.Calculate(u"1"); }},
-        {"calendar", true,
-         [](Utils& utils, QPushButton& target) {
-             utils.ShowCalendarAndCalculateCoordinates(Beside(&target));
-         }},
-        {"palette", true,
-         [](Utils& utils, QPushButton& target) {
-             utils.ShowColorAndCalculateCoordinates(Beside(&target));
-         }},
-        {"selection", true,
-         [](Utils& utils, QPushButton& target) {
-             utils.ShowSelectionAndCalculateCoordinates(u"Codes", u"H:A\tAlpha\t0:", u"",
-                                                        Beside(&target));
-         }},
-    };
-}
-
 struct ScreensTest : FormTest {
     ScreensTest() {
-        utils_->InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
         const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
         bar_ = std::make_unique<TaskBar>(desktop);
         EXPECT_TRUE(Soon([&] {
@@ -136,7 +106,8 @@ struct ScreensTest : FormTest {
     }
 
     /// Opens a dialog in front of the user, who looks and closes it.
-    void Look(const Opening& opening, const std::string& when) {
+    void Look(const DialogCall& opening, const std::string& when,
+              const std::shared_ptr<OwnerForm>& form = nullptr) {
         ++looked_;
         const User user([&](QDialog& dialog) {
             const auto misses = [&] {
@@ -147,7 +118,7 @@ struct ScreensTest : FormTest {
             missed_ += !fine;
             dialog.reject();
         });
-        opening.call(*utils_, *target_);
+        opening.open(*utils_, *target_, form);
         EXPECT_TRUE(user.HasActed());
     }
 
@@ -169,13 +140,12 @@ using AnyDesktopTest = FormTest;
 TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
     const HelpFile help(10);
     utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
-    utils_->InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
     QWidget host;
     QPushButton target("...", &host);
     host.show();
     const auto isSeen = [](const QWidget& window) { return window.windowHandle()->isExposed(); };
     ASSERT_TRUE(Soon([&] { return isSeen(host); }));
-    for (const Opening& opening : Dialogs()) {
+    for (const DialogCall& opening : kDialogCalls) {
         int seen = 0;
         QTimer look;
         QObject::connect(&look, &QTimer::timeout, [&] {
@@ -185,7 +155,7 @@ TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
             dialog->close();
         });
         look.start(0);
-        opening.call(*utils_, target);
+        opening.open(*utils_, target, nullptr);
         EXPECT_EQ(seen, 1) << opening.name;
     }
     utils_->ShowInDebug(u"line");
@@ -200,12 +170,12 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
     for (QScreen* const screen : QGuiApplication::screens()) {
         for (const bool low : {false, true}) {
             OpenHost(*screen, low);
-            for (const Opening& opening : Dialogs()) {
+            for (const DialogCall& opening : kDialogCalls) {
                 const std::string where =
                     " on " + screen->name().toStdString() + (low ? ", low" : "");
                 Look(opening, where);
                 // Again at once, before the first one's end is over.
-                Look(Dialogs()[0], where + ", second");
+                Look(kDialogCalls[0], where + ", second");
                 Look(opening, where + ", third");
             }
         }
@@ -250,22 +220,24 @@ TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) 
     other.activateWindow();
     ASSERT_TRUE(Soon([&] { return other.isActiveWindow(); }));
     const OtherProgram program;
-    const Opening calls[] = {
-        {"calendar", false,
-         [&](Utils& utils, QPushButton&) {
-             utils.ShowCalendar(-1, -1, -1, u"", u"", AsOwnerForm(host_.get()));
+    using Form = const std::shared_ptr<OwnerForm>&;
+    const DialogCall calls[] = {
+        {"calendar", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             return utils.ShowCalendar(-1, -1, -1, u"", u"", form);
          }},
-        {"palette", false,
-         [&](Utils& utils, QPushButton&) {
-             utils.ShowColor(-1, -1, -1, AsOwnerForm(host_.get()));
+        {"palette", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             utils.InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
+             return utils.ShowColor(-1, -1, -1, form);
          }},
-        {"selection", false,
-         [&](Utils& utils, QPushButton&) {
-             utils.ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1,
-                                 AsOwnerForm(host_.get()));
+        {"selection", false, u"",
+         [](Utils& utils, QWidget&, Form form) {
+             return utils.ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1, form);
          }},
     };
-    for (const Opening& opening : calls) Look(opening, ", form to refresh");
+    for (const DialogCall& opening : calls)
+        Look(opening, ", form to refresh", AsOwnerForm(host_.get()));
     Tell("forms to refresh");
 }
 
@@ -309,7 +281,7 @@ bool AttendsToHiddenWindowsOnly() {
 
 TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
     OpenHost(*QGuiApplication::screens().last(), false);
-    for (const Opening& opening : Dialogs()) {
+    for (const DialogCall& opening : kDialogCalls) {
         OtherProgram other;
         bool isThere = false;
         QTimer look;
@@ -333,7 +305,7 @@ TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
             dialog->close();
         });
         look.start(0);
-        opening.call(*utils_, *target_);
+        opening.open(*utils_, *target_, nullptr);
         EXPECT_TRUE(isThere);
         host_->activateWindow();
         EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));

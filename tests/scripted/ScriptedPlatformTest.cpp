@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
+#include "tests/HostWindow.h"
 
 #include <halvekutils/platform/Beep.h>
 
@@ -32,6 +33,33 @@ TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {
         EXPECT_EQ(Ask(mbAbortRetryIgnore), mbIgnore);
     });
     EXPECT_EQ(Ask(mbYesNoCancel), mbCancel);  // a box left open is closed
+}
+
+TEST_F(ScriptedPlatformTest, MessagesKeepASelectionOpenUntilTheCodesAreGood) {
+    const struct {
+        TextIn typed, told, title;
+        IconChoice icon;
+    } refused[] = {
+        {u"A1,X9", u"'X9' is not a valid entry.", u"Front Desk", mbInformation},
+        {u"A1,,", u"Invalid Entry", u"Invalid Entry", mbNoIcon},
+        {u"A1,A1", u"Duplicates are not allowed!", u"Front Desk", mbNoIcon},
+    };
+    desktop_.OnSelection([&](SelectGrid& grid) {
+        for (const auto& row : refused) {
+            desktop_.OnMessageBox([&](MessageBox& box) {
+                EXPECT_EQ(box.Prompt(), row.told);
+                EXPECT_EQ(box.Picture(), row.icon);
+                EXPECT_EQ(box.Caption(), row.title);
+                box.Press(0);
+            });
+            grid.EditBox(row.typed, 0);
+            grid.Accept();
+            EXPECT_TRUE(grid.IsOpen());
+        }
+        grid.EditBox(u"A1,C3", 5);
+        grid.Accept();
+    });
+    EXPECT_EQ(utils_->ShowSelectionGrid(u"Providers", u"H:A1\tAdams\t0:C3\tClark\t0:"), u"A1,C3");
 }
 
 TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMissing) {
@@ -76,20 +104,29 @@ TEST(NoPlatform, IsAFault) {
     EXPECT_EQ(FaultOf([] { Platform::Installed(); }), 91);
 }
 
-TEST_F(ScriptedPlatformTest, TheHostMayReleaseEverythingWhileItsBoxIsOpen) {
-    auto utils = Utils::Create();
-    Utils& released = *utils;
-    const std::weak_ptr<Utils> alive = utils;
-    auto text = std::make_unique<std::u16string>(500, u't');
-    desktop_.OnMessageBox([&](MessageBox& box) {
-        utils.reset();
-        text.reset();
-        EXPECT_FALSE(alive.expired());
-        EXPECT_EQ(box.Prompt().Str() + box.Caption().Str(), std::u16string(1000, u't'));
-        box.Press(0);
-    });
-    EXPECT_EQ(released.ShowMsgBox(*text, mbYesNo, mbNoIcon, *text), mbYes);
-    EXPECT_TRUE(alive.expired());
+TEST_F(ScriptedPlatformTest, TheFormOfThePopUpIsRefreshedAfterIt) {
+    const auto form = std::make_shared<HostWindow>();
+    utils_->InitPrefs(StringArray(1, {u"255", u"0", u"0", u"0"}), 0, 0, 0, 0);
+    const auto look = [&](auto& rules) {
+        EXPECT_EQ(rules.Anchor(), (PopupAnchor{rules.Anchor().edge, 8000, {}, 700}));
+        EXPECT_EQ(form->refreshes, 0);
+    };
+    for (const bool isThere : {true, false}) {
+        desktop_.OnCalendar([&](Calendar& calendar) { look(calendar); });
+        desktop_.OnColorPalette([&](ColorPalette& palette) { look(palette); });
+        desktop_.OnSelection([&](SelectGrid& grid) { look(grid); });
+        form->exists = isThere;
+        const std::function<void()> calls[] = {
+            [&] { utils_->ShowCalendar(7999.6F, -1, 700, u"", u"", form); },
+            [&] { utils_->ShowColor(8000, -1, 700, form); },
+            [&] { utils_->ShowSelection(u"L", u"H:A\tAlpha\t0:", u"", 8000, -1, 700, form); }};
+        for (const auto& call : calls) {
+            form->refreshes = 0;
+            call();
+            EXPECT_EQ(form->refreshes, isThere ? 1 : 0);
+        }
+    }
+    EXPECT_EQ(desktop_.AnswersLeft(), 0u);
 }
 
 }  // namespace

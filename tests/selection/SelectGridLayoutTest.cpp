@@ -61,21 +61,5 @@ TEST(SelectGridLayout, TheHeightFollowsTheBands) {
     EXPECT_GT(many.form.height + band, kScreen.height);
 }
 
-TEST(SelectGridLayout, EveryPartLiesInsideTheForm) {
-    for (const Size screen : {kScreen, Size{4800, 3600}, Size{100'000, 50'000}}) {
-        for (const std::int32_t rows : {0, 3, 60, 30'000}) {
-            const SelectGridLayout layout = LayOut(12, rows, screen);
-            EXPECT_GT(layout.box.top, 0);
-            EXPECT_GT(layout.grid.top, layout.box.Bottom());
-            EXPECT_GT(layout.ok.top, layout.grid.Bottom());
-            EXPECT_EQ(layout.exit.top, layout.ok.top);
-            EXPECT_GT(layout.exit.left, layout.ok.Right());
-            EXPECT_LT(layout.exit.Right(), layout.inner.width);
-            EXPECT_LT(layout.exit.Bottom(), layout.inner.height);
-            EXPECT_TRUE(layout.form.width <= screen.width && layout.form.height <= screen.height);
-        }
-    }
-}
-
 }  // namespace
 }  // namespace halvek

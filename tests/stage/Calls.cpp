@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Calls.h"
 
+#include "Desk.h"
 #include "tests/HelpFile.h"
 
 #include <halvekutils/core/DebugConsole.h>
@@ -10,15 +11,16 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QDialog>
 #include <QFile>
 #include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QWindow>
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -43,7 +45,7 @@ QWidget* Shown(const char* name) {
 // Message boxes
 
 struct Box {
-    const char* name;
+    QString name;
     QString prompt;
     ButtonsChoice buttons = mbOkOnly;
     IconChoice icon = mbNoIcon;
@@ -62,15 +64,6 @@ QString Lines(int count) {
     QString text = "These visits have no diagnosis yet:\r\n";
     for (int i = 1; i <= count; ++i)
         text += QString("\r\nVisit %1, room %2").arg(1000 + i).arg(i % 9);
-    return text;
-}
-
-QString Columns() {
-    QString text = "Code    Description                       Fee\r\n" + QString(46, '-');
-    for (const char* const row : {"99213   Office visit, established       92.50",
-                                  "36415   Blood drawn                      9.75",
-                                  "81002   Urine test, dip stick            7.00"})
-        text += QString("\r\n") + row;
     return text;
 }
 
@@ -107,17 +100,11 @@ std::vector<Box> Boxes() {
         {"box yes no help", "Two patients have this name and birth date. Merge their charts?",
          mbYesNoHelp, mbQuestion},
         {"box ok help", "This procedure needs a modifier.", mbOkHelp, mbExclamation},
-        {"box white", "White.\r\n\r\nThe text and the buttons go with it.", mbYesNo, mbQuestion},
-        {"box gray", "Gray.\r\n\r\nThe text and the buttons go with it.", mbYesNo, mbQuestion,
-         "Visits", mbGray},
-        {"box skin", "Skin.\r\n\r\nThe text and the buttons go with it.", mbYesNo, mbQuestion,
-         "Visits", mbSkinColor},
         {"box long", Lines(60), mbOkCancel, mbExclamation},
         {"box wide",
          QString("The plan does not cover this service, as its terms say. ").repeated(14), mbOkHelp,
          mbInformation},
         {"box huge", Lines(5000), mbYesNo, mbQuestion, "Visits", mbSkinColor},
-        {"box columns", Columns(), mbOkOnly, mbPrint, "Fees", mbWhite, mb5},
         {"box bold", "Room 4 is ready.", mbOkOnly, mbReminder, "Rooms", mbSkinColor, mb14, true},
         {"box countdown", "The schedule is about to close.", mbOkCancel, mbReminder, "Schedule",
          mbGray, mb10, false, 30},
@@ -129,14 +116,17 @@ std::vector<Box> Boxes() {
         {"box unknown", "No such values", none(mbOkOnly), none(mbNoIcon), "Visits", none(mbWhite),
          none(mb9)},
     };
-    constexpr const char* kIcons[] = {"icon 0", "icon 1", "icon 2", "icon 3", "icon 4",
-                                      "icon 5", "icon 6", "icon 7", "icon 8"};
-    constexpr const char* kFonts[] = {"font 1", "font 2", "font 3", "font 4", "font 5",
-                                      "font 6", "font 7", "font 8", "font 9"};
     for (int i = 0; i < 9; ++i) {
-        boxes.push_back({kIcons[i], "One of nine icons.", mbOkOnly, static_cast<IconChoice>(i)});
-        boxes.push_back({kFonts[i], "One of nine fonts.\r\nIts lines stand evenly.", mbOkCancel,
-                         mbInformation, "Visits", mbWhite, static_cast<FontSizeChoice>(i + 1)});
+        boxes.push_back({QString("icon %1").arg(i), "One of nine icons.", mbOkOnly,
+                         static_cast<IconChoice>(i)});
+        boxes.push_back({QString("font %1").arg(i + 1),
+                         "This is one of nine fonts. The insurance of this patient ended on "
+                         "02/29/2004, before the "
+                         "date of the visit. Claims for the visit will be denied unless another "
+                         "policy is entered "
+                         "first.\r\n\r\nBill the visit to the patient?",
+                         mbOkCancel, mbInformation, "Visits", mbWhite,
+                         static_cast<FontSizeChoice>(i + 1)});
     }
     return boxes;
 }
@@ -147,11 +137,6 @@ void AddBoxes(std::vector<Call>& calls) {
         if (box.seconds > 0) legal += "|99";
         calls.push_back({box.name, legal, [box](QWidget&) { return ShowBox(box); }});
     }
-    calls.push_back({"forbidden characters", "SmithJones", [](QWidget&) {
-                         std::u16string clean;
-                         Library().RemoveUnwantedChars(u"Smith|Jones", clean, u"", true);
-                         return ToQString(clean);
-                     }});
 }
 
 // Pop-ups
@@ -230,15 +215,6 @@ void AddPalettes(std::vector<Call>& calls) {
 }
 
 // Selection lists
-
-/// The lists that a practice's server sends, from the file lists.txt.
-QString ListNamed(const QString& name) {
-    QFile file(HALVEK_TEST_DATA "/stage/lists.txt");
-    if (!file.open(QIODevice::ReadOnly)) qFatal("there is no %s", qPrintable(file.fileName()));
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
-        if (line.section('=', 0, 0) == name) return line.section('=', 1);
-    return {};
-}
 
 QString ManyPatients() {
     QString list = "Code\tDescription\tDeleted:";
@@ -351,12 +327,31 @@ void AddHelp(std::vector<Call>& calls) {
     }
 }
 
+// A host's own windows
+
+/// A dialog of the host's without a close button; one of its own closes it.
+QString ShowWithoutCloseButton(QWidget& owner) {
+    QDialog dialog(&owner);
+    dialog.setObjectName("Host");
+    QPushButton close("Close", &dialog);
+    QObject::connect(&close, &QPushButton::clicked, &dialog, &QDialog::accept);
+    Library().KillCloseButton(static_cast<std::int32_t>(dialog.winId()));
+    return dialog.exec() == QDialog::Accepted ? "closed" : "escaped";
+}
+
+QString ShowFields(QWidget&) {
+    Desk desk(Utils::CurrentUtils());
+    desk.show();
+    WaitUntilClosed(desk);
+    return "closed";
+}
+
 std::vector<Call> MakeCalls() {
-    std::vector<Call> calls;
+    std::vector<Call> calls = {{"no close button", "", ShowWithoutCloseButton},
+                               {"fields", "", ShowFields}};
     for (const auto add :
          {AddBoxes, AddCalendars, AddCalculators, AddPalettes, AddLists, AddConsoles, AddHelp})
         add(calls);
-    std::ranges::move(HostCalls(), std::back_inserter(calls));
     return calls;
 }
 
@@ -370,6 +365,14 @@ const std::vector<Call>& Calls() {
 const Call* FindCall(const QString& name) {
     const auto found = std::ranges::find(Calls(), name, &Call::name);
     return found == Calls().end() ? nullptr : &*found;
+}
+
+QString ListNamed(const QString& name) {
+    QFile file(HALVEK_TEST_DATA "/stage/lists.txt");
+    if (!file.open(QIODevice::ReadOnly)) qFatal("there is no %s", qPrintable(file.fileName()));
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
+        if (line.section('=', 0, 0) == name) return line.section('=', 1);
+    return {};
 }
 
 void StartSession(const QString& errorLog, bool debugMode) {

@@ -32,5 +32,6 @@ void WaitUntilClosed(QWidget& window);
 /// WaitUntilClosed waits for, else `base`.
 QWidget* Front(QWidget* base);
 
-/// The windows of a host's: headings, reminders, menus.
-std::vector<Call> HostCalls();
+/// A list of codes as a practice's server sends it, from the file lists.txt; empty when there is
+/// none of that name.
+QString ListNamed(const QString& name);

@@ -51,18 +51,6 @@ bool IsClick(const XiEvent& event) {
     return event.type == kButtonRelease && event.device == kSharedPointer;
 }
 
-std::uint32_t AtomOf(const char* name) {
-    auto* const display = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-    const QByteArray text(name);
-    auto* const reply = xcb_intern_atom_reply(
-        display,
-        xcb_intern_atom(display, false, static_cast<std::uint16_t>(text.size()), text.constData()),
-        nullptr);
-    const std::uint32_t atom = reply == nullptr ? 0 : reply->atom;
-    std::free(reply);
-    return atom;
-}
-
 /// Whether a click would reach this program. The frame of a window that has just been closed stays
 /// until the window manager takes it away.
 bool PointerIsOverHost() {
@@ -93,7 +81,7 @@ QPoint PlaceFor(QWidget& window, const QString& place) {
 
 }  // namespace
 
-Conversation::Conversation() : mark_(AtomOf("_NET_WM_WINDOW_ROLE")) {
+Conversation::Conversation() {
     marked_.create();
     qApp->installNativeEventFilter(this);
     Record::Answer("marks " + QString::number(marked_.winId()));
@@ -121,11 +109,11 @@ void Conversation::Answer(const QString& line) {
     if (word == "new") return Renew(rest);
     if (word == "where") return AnswerWhere(rest);
     if (word == "read") return Read(rest);
+    if (word == "picture") Front(window_.get())->grab().save(rest);
     if (word == "front") return Record::Answer(QString::number(Front(window_.get())->winId()));
     if (auto* const desk = dynamic_cast<Desk*>(window_.get()); desk && word == "load")
         desk->Load(rest.section(' ', 0, 0), rest.section(' ', 1));
-    if (word == "clipboard") QApplication::clipboard()->setText(rest);
-    if (word == "lines") QApplication::clipboard()->setText(QString(rest).replace(';', "\r\n"));
+    if (word == "clipboard") QApplication::clipboard()->setText(QString(rest).replace(';', "\r\n"));
     if (word == "locale") QLocale::setDefault(QLocale(rest));
     if (word == "slow-hand") QApplication::setDoubleClickInterval(kSlowHand);
     if (word == "await") {
@@ -181,7 +169,7 @@ bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*)
     const int kind = event->response_type & 0x7F;
     if (kind == XCB_PROPERTY_NOTIFY) {
         const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
-        marksSeen_ += change.window == marked_.winId() && change.atom == mark_;
+        marksSeen_ += change.window == marked_.winId() && change.atom == XCB_ATOM_WM_ICON_NAME;
     } else if (kind == XCB_BUTTON_RELEASE) {
         ++clicksSeen_;
     } else if (kind == XCB_GE_GENERIC) {

@@ -9,7 +9,6 @@
 #include <QWidget>
 #include <QWindow>
 
-#include <cstdint>
 #include <memory>
 
 /// Carries out the commands that the player of the stories writes to the standard input, one a
@@ -19,8 +18,9 @@
 ///     front                    the id of the window in front
 ///     where NAME               "at X Y" on the screen, or "nowhere"
 ///     read NAME[.PART]         puts on record what a person sees of a control
+///     picture FILE             draws the window in front
 ///     load FIELD TEXT          the program sets a text
-///     clipboard|locale TEXT    what the desktop offers
+///     clipboard|locale TEXT    what the desktop offers; ";" ends a line
 ///     slow-hand                both clicks of a double click may be far apart
 ///     await MARKS CLICKS [pointer]
 ///                              "done" once all that was done before has had its effect; "stuck:"
@@ -50,8 +50,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     std::unique_ptr<QWidget> window_;
     QByteArray heard_;
     QTimer check_;
-    QWindow marked_;      ///< never shown
-    std::uint32_t mark_;  ///< the property's atom
+    QWindow marked_;  ///< never shown
     int marksSeen_ = 0;
     int clicksSeen_ = 0;
     int marksAwaited_ = 0;

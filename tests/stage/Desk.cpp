@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Desk.h"
 
-#include "Providers.h"
+#include "Calls.h"
 #include "Record.h"
 
 #include <halvekutils/qt/CurrencyField.h>
@@ -9,15 +9,20 @@
 #include <halvekutils/qt/QtText.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenuBar>
-#include <QSignalBlocker>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QStatusBar>
 #include <QStyledItemDelegate>
+#include <QTableView>
 #include <QTimer>
 #include <QToolBar>
-#include <QVBoxLayout>
 
+#include <functional>
 #include <utility>
 
 using namespace halvek;
@@ -46,9 +51,9 @@ class Page : public QDialog {
     void reject() override { Record::Got("escaped"); }
 };
 
-QString Blank(const std::u16string& text) {
-    const QString shown = ToQString(text);
-    return shown.isNull() ? QString("") : shown;
+/// What the library gives, never null.
+QString Text(const std::u16string& text) {
+    return ToQString(text) + "";
 }
 
 }  // namespace
@@ -62,154 +67,135 @@ Desk::Desk(std::shared_ptr<Utils> utils) : utils_(std::move(utils)), page_(new P
     setCentralWidget(page_);
     BuildFields();
     BuildRecords();
-    BuildDialogButtons();
-    BuildDates();
-    BuildLists();
+    BuildLibraryButtons();
     BuildClosingButtons();
     BuildActions();
     utils_->InitServerTime(QString("1/1/2001 10:00"));
-    note_->setFocus();
+    Field("Note").setFocus();
 }
 
 void Desk::BuildFields() {
-    const struct {
-        QLineEdit* field;
-        const char* name;
-    } rows[] = {{note_, "Note"}, {amount_, "Amount"}, {adjustment_, "Adjustment"},
-                {from_, "From"}, {to_, "To"},         {visit_, "Visit"},
-                {fee_, "Fee"},   {total_, "Total"}};
-    for (const auto& [field, name] : rows) {
+    for (const QString name :
+         {"Note", "Amount", "Adjustment", "From", "To", "Visit", "Fee", "Total"}) {
+        QLineEdit* const field = name == "Fee" ? fee_ : new QLineEdit;
         field->setObjectName(name);
         left_->addRow(name, field);
     }
-    MakeCurrencyField(amount_);
-    MakeSignedCurrencyField(adjustment_);
-    MakeCurrencyField(from_);
-    MakeCurrencyField(to_);
-    CheckCurrencyRange(from_, to_, u"From", u"To");
-    note_->setText("note");
+    for (const char* const name : {"Amount", "From", "To"}) MakeCurrencyField(&Field(name));
+    MakeSignedCurrencyField(&Field("Adjustment"));
+    CheckCurrencyRange(&Field("From"), &Field("To"), u"From", u"To");
+    Field("Note").setText("note");
     connect(fee_, &CurrencyLineEdit::CentsChanged, this, [this](std::optional<std::int64_t> cents) {
-        SetCurrencyCents(total_, cents.value_or(0) + kServiceCents);
+        SetCurrencyCents(&Field("Total"), cents.value_or(0) + kServiceCents);
     });
 }
 
 void Desk::BuildRecords() {
-    fees_.setRowCount(1);
-    fees_.setColumnCount(1);
-    fees_.setItem(0, 0, new QStandardItem);
     mapper_.setModel(&fees_);
     mapper_.addMapping(fee_, 0);
     mapper_.toFirst();
-    connect(&fees_, &QStandardItemModel::dataChanged, this,
-            [this] { Record::Got("fee is", fees_.index(0, 0).data().toString()); });
-
-    payments_.setRowCount(2);
-    payments_.setColumnCount(2);
-    for (const int row : {0, 1}) {
-        for (const int column : {0, 1}) payments_.setItem(row, column, new QStandardItem(""));
-    }
-    table_->setObjectName("Payments");
-    table_->setModel(&payments_);
-    table_->setItemDelegate(new AmountDelegate(table_));
-    table_->horizontalHeader()->hide();
-    table_->setFixedHeight(80);
-    connect(&payments_, &QStandardItemModel::dataChanged, this,
-            [](const QModelIndex& cell) { Record::Got("payment is", cell.data().toString()); });
-    right_->addWidget(table_);
-}
-
-QPushButton* Desk::AddButton(const QString& name, const std::function<void()>& act) {
-    auto* const button = new QPushButton(name);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    if (act) connect(button, &QPushButton::clicked, this, act);
-    return button;
-}
-
-void Desk::BuildDialogButtons() {
-    right_->addWidget(
-        AddButton("Calculator", [this] { Record::Got("calculator", Blank(utils_->Calculate())); }));
-    right_->addWidget(AddButton("Figure", [this] {
-        const std::u16string result = utils_->Calculate(amount_->text());
-        if (!result.empty()) amount_->setText(ToQString(result));
-        Record::Got("figured", Blank(result));
-    }));
-    QPushButton* const day = AddButton("Day", {});
-    connect(day, &QPushButton::clicked, this, [this, day] {
-        Record::Got(
-            "day", Blank(utils_->ShowCalendarAndCalculateCoordinates(Beside(day), visit_->text())));
-    });
-    QPushButton* const color = AddButton("Color", {});
-    connect(color, &QPushButton::clicked, this, [this, color] {
-        Record::Got(
-            "color",
-            Blank(utils_->ShowColorAndCalculateCoordinates(Beside(color))).replace('\t', ' '));
-    });
-    right_->addWidget(day);
-    right_->addWidget(color);
-    // The button that a click through a closed pop-up would press
-    QPushButton* const beneath = AddButton("Beneath", [] { Record::Got("pressed through"); });
-    beneath->setFixedHeight(260);
-    right_->addWidget(beneath);
-}
-
-void Desk::BuildDates() {
-    left_->addRow(AddButton("Clock", [this] {
-        utils_->InitServerTime(note_->text());
-        Record::Got("clock", ToQString(DateTimeText(utils_->ServerTime())).left(16));
-    }));
-    left_->addRow(AddButton("Digits", [this] {
-        Record::Got("date", Blank(utils_->ConvertNumberToDate(note_->text(), true)));
-    }));
-}
-
-/// What is chosen before stands in the field for the visit.
-void Desk::BuildLists() {
-    const std::pair<const char*, QString> lists[] = {{"Providers", ProviderList()},
-                                                     {"Insurance", InsuranceList()}};
-    for (const auto& [name, list] : lists) {
-        QPushButton* const button = AddButton(name, {});
-        connect(button, &QPushButton::clicked, this, [this, button, entries = list] {
-            const QString chosen = Blank(utils_->ShowSelectionGridAndCalculateCoordinates(
-                button->text(), entries, visit_->text(), Beside(button)));
-            Record::Got(button->text().toLower(), chosen);
+    for (const int cell : {0, 1, 2, 3})
+        payments_.setItem(cell / 2, cell % 2, new QStandardItem(""));
+    auto* const table = new QTableView;
+    table->setObjectName("Payments");
+    table->setModel(&payments_);
+    table->setItemDelegate(new AmountDelegate(table));
+    table->horizontalHeader()->hide();
+    table->setFixedHeight(80);
+    right_->addWidget(table);
+    for (auto* const model : {&fees_, &payments_}) {
+        const QString what = model == &fees_ ? "fee is" : "payment is";
+        connect(model, &QStandardItemModel::dataChanged, this, [what](const QModelIndex& cell) {
+            Record::Got(what, cell.data().toString() + "");
         });
-        left_->addRow(button);
     }
+}
+
+/// Buttons that record what the library gives. What is chosen before stands in the visit's field.
+void Desk::BuildLibraryButtons() {
+    using Act = std::function<QString(QPushButton & button)>;
+    const auto choose = [this](const QString& list) {
+        return [this, values = ListNamed(list)](QPushButton& button) {
+            return Text(utils_->ShowSelectionGridAndCalculateCoordinates(
+                button.text(), values, Field("Visit").text(), Beside(&button)));
+        };
+    };
+    const Act figure = [this](QPushButton&) {
+        const QString result = Text(utils_->Calculate(Amount()));
+        if (!result.isEmpty()) Field("Amount").setText(result);
+        return result;
+    };
+    const Act day = [this](QPushButton& button) {
+        return Text(
+            utils_->ShowCalendarAndCalculateCoordinates(Beside(&button), Field("Visit").text()));
+    };
+    const Act color = [this](QPushButton& button) {
+        return Text(utils_->ShowColorAndCalculateCoordinates(Beside(&button))).replace('\t', ' ');
+    };
+    const Act clock = [this](QPushButton&) {
+        utils_->InitServerTime(Field("Note").text());
+        return Text(DateTimeText(utils_->ServerTime())).left(16);
+    };
+    const Act digits = [this](QPushButton&) {
+        return Text(utils_->ConvertNumberToDate(Field("Note").text(), true));
+    };
+    const struct {
+        QLayout* column;
+        const char *name, *got;
+        Act act;
+    } rows[] = {
+        {right_, "Calculator", "calculator",
+         [this](QPushButton&) { return Text(utils_->Calculate()); }},
+        {right_, "Figure", "figured", figure},
+        {right_, "Day", "day", day},
+        {right_, "Color", "color", color},
+        {right_, "Beneath", "pressed through", [](QPushButton&) { return QString(); }},
+        {left_, "Clock", "clock", clock},
+        {left_, "Digits", "date", digits},
+        {left_, "Providers", "providers", choose("300 Providers")},
+        {left_, "Insurance", "insurance", choose("Three Insurances")},
+        // The host itself marks it as needing no valid fields.
+        {left_, "Quit", "quit", [](QPushButton&) { return QString(); }},
+    };
+    for (const auto& [column, name, got, act] : rows) {
+        auto* const button = new QPushButton(name);
+        button->setObjectName(name);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this,
+                [got = got, act = act, button] { Record::Got(got, act(*button)); });
+        column->addWidget(button);
+    }
+    // It would be pressed by a click through a closed pop-up.
+    findChild<QPushButton*>("Beneath")->setFixedHeight(260);
+    findChild<QPushButton*>("Quit")->setProperty("causesValidation", false);
 }
 
 void Desk::BuildClosingButtons() {
     auto* const urgent = new QCheckBox("Urgent");
-    urgent->setObjectName("Urgent");
     connect(urgent, &QCheckBox::clicked, this,
-            [this](bool on) { Record::Got(on ? "urgent" : "not urgent", amount_->text()); });
-    left_->addRow(urgent);
+            [this](bool on) { Record::Got(on ? "urgent" : "not urgent", Amount()); });
     auto* const cash = new QRadioButton("Cash");
-    cash->setObjectName("Cash");
     cash->setFocusPolicy(Qt::NoFocus);  // pressed while the field keeps the focus
-    connect(cash, &QRadioButton::clicked, this, [this] { Record::Got("cash", amount_->text()); });
-    left_->addRow(cash);
-
-    auto* const buttons = new QDialogButtonBox;
-    QPushButton* const post = buttons->addButton("Post", QDialogButtonBox::AcceptRole);
+    connect(cash, &QRadioButton::clicked, this, [this] { Record::Got("cash", Amount()); });
+    auto* const box = new QDialogButtonBox;
+    QPushButton* const post = box->addButton("Post", QDialogButtonBox::AcceptRole);
     post->setDefault(true);
-    connect(post, &QPushButton::clicked, this, [this] { Record::Got("posted", amount_->text()); });
-    QPushButton* const cancel = buttons->addButton("Cancel", QDialogButtonBox::RejectRole);
+    connect(post, &QPushButton::clicked, this, [this] { Record::Got("posted", Amount()); });
+    QPushButton* const cancel = box->addButton("Cancel", QDialogButtonBox::RejectRole);
     connect(cancel, &QPushButton::clicked, this, [] { Record::Got("cancelled"); });
-    QPushButton* const help = buttons->addButton("Help", QDialogButtonBox::HelpRole);
+    QPushButton* const help = box->addButton("Help", QDialogButtonBox::HelpRole);
     connect(help, &QPushButton::clicked, this, [] { Record::Got("help"); });
-    for (QPushButton* const button : {post, cancel, help}) button->setObjectName(button->text());
-    left_->addRow(buttons);
-    // Outside the box: the host itself marks it as needing no valid fields
-    QPushButton* const quit = AddButton("Quit", [] { Record::Got("quit"); });
-    quit->setProperty("causesValidation", false);
-    left_->addRow(quit);
+    for (QAbstractButton* const button :
+         std::initializer_list<QAbstractButton*>{urgent, cash, post, cancel, help})
+        button->setObjectName(button->text());
+    for (QWidget* const row : std::initializer_list<QWidget*>{urgent, cash, box})
+        left_->addRow(row);
 }
 
 void Desk::BuildActions() {
     auto* const save = new QAction("&Save", this);
     save->setShortcut(QKeySequence::Save);
-    connect(save, &QAction::triggered, this, [this] { Record::Got("saved", amount_->text()); });
+    connect(save, &QAction::triggered, this, [this] { Record::Got("saved", Amount()); });
     menuBar()->addMenu("&File")->addAction(save);
     QToolBar* const bar = addToolBar("Tools");
     bar->addAction(save);
@@ -217,22 +203,19 @@ void Desk::BuildActions() {
     statusBar()->showMessage("Ready");
 }
 
-void Desk::SaveByItself() {
-    if (LeaveCurrencyFields(this)) Record::Got("saved", amount_->text());
-}
-
 void Desk::Load(const QString& field, const QString& text) {
     if (field == "Autosave") {
-        QTimer::singleShot(0, this, [this] { SaveByItself(); });
+        QTimer::singleShot(0, this, [this] {
+            if (LeaveCurrencyFields(this)) Record::Got("saved", Amount());
+        });
     } else if (field == "Fee.cents") {
         fee_->setProperty("cents", text);
     } else if (field.endsWith(".cents")) {
-        SetCurrencyCents(findChild<QLineEdit*>(field.section('.', 0, 0)), text.toLongLong());
-    } else if (field == "Payments") {
-        payments_.setData(payments_.index(0, 0), text);
-    } else if (field == "Fee") {
-        fees_.setData(fees_.index(0, 0), text);
-    } else if (auto* const line = findChild<QLineEdit*>(field)) {
-        line->setText(text);
+        SetCurrencyCents(&Field(field.section('.', 0, 0)), text.toLongLong());
+    } else if (field == "Fee" || field == "Payments") {
+        QStandardItemModel& model = field == "Fee" ? fees_ : payments_;
+        model.setData(model.index(0, 0), text);
+    } else {
+        Field(field).setText(text);
     }
 }

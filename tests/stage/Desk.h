@@ -4,19 +4,13 @@
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/qt/CurrencyLineEdit.h>
 
-#include <QCheckBox>
+#include <QBoxLayout>
 #include <QDataWidgetMapper>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QLineEdit>
 #include <QMainWindow>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QStandardItemModel>
-#include <QTableView>
 
-#include <functional>
 #include <memory>
 
 /// The window of a cashier: fields, a table and a form on a record, buttons, a menu and a tool bar.
@@ -31,30 +25,20 @@ class Desk : public QMainWindow {
     void Load(const QString& field, const QString& text);
 
   private:
-    void SaveByItself();
     void BuildFields();
     void BuildRecords();
-    void BuildDialogButtons();
+    void BuildLibraryButtons();
     void BuildClosingButtons();
-    void BuildDates();
-    void BuildLists();
     void BuildActions();
-    QPushButton* AddButton(const QString& name, const std::function<void()>& act);
+    QLineEdit& Field(const QString& name) const { return *findChild<QLineEdit*>(name); }
+    QString Amount() const { return Field("Amount").text(); }
 
     std::shared_ptr<halvek::Utils> utils_;
     QDialog* const page_;
     QFormLayout* const left_ = new QFormLayout;
     QVBoxLayout* const right_ = new QVBoxLayout;
-    QLineEdit* const amount_ = new QLineEdit;
-    QLineEdit* const adjustment_ = new QLineEdit;
-    QLineEdit* const from_ = new QLineEdit;
-    QLineEdit* const to_ = new QLineEdit;
-    QLineEdit* const visit_ = new QLineEdit;
-    QLineEdit* const note_ = new QLineEdit;
-    QLineEdit* const total_ = new QLineEdit;  ///< of the fee and the service
     halvek::CurrencyLineEdit* const fee_ = new halvek::CurrencyLineEdit;
-    QStandardItemModel fees_;
+    QStandardItemModel fees_{1, 1};
     QDataWidgetMapper mapper_;
-    QStandardItemModel payments_;
-    QTableView* const table_ = new QTableView;
+    QStandardItemModel payments_{2, 2};
 };

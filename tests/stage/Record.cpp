@@ -9,7 +9,6 @@ void Record::Got(const QString& what, const QString& value) {
 }
 
 void Record::Answer(const QString& line) {
-    if (Listener) return Listener(line);
     std::puts(line.toUtf8().constData());
     std::fflush(stdout);
 }

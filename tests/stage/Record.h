@@ -3,8 +3,6 @@
 
 #include <QString>
 
-#include <functional>
-
 /// What the host gets, one event a line, for the player of the stories.
 class Record {
   public:
@@ -13,7 +11,4 @@ class Record {
 
     /// Answers the player.
     static void Answer(const QString& line);
-
-    /// Gets the lines instead of the standard output.
-    static inline std::function<void(const QString& line)> Listener;
 };

@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -81,7 +82,6 @@ QString PartOf(const QWidget& control, const QString& part) {
     if (part == "current") return CurrentOf(control);
     if (part.startsWith("row")) return RowOf(control, part.mid(3).toInt());
     if (part == "selected" && line != nullptr) return line->selectedText();
-    if (part == "caret" && line != nullptr) return QString::number(line->cursorPosition());
     if (part == "aligned" && line != nullptr) {
         return line->alignment() & Qt::AlignRight ? "right" : "left";
     }
@@ -92,10 +92,6 @@ QString PartOf(const QWidget& control, const QString& part) {
     if (part == "inside") {
         const QRect screen = control.screen()->availableGeometry();
         return screen.contains(control.frameGeometry()) ? "true" : "false";
-    }
-    if (part == "right") {
-        return QString::number(control.screen()->geometry().right() -
-                               control.frameGeometry().right());
     }
     return control.property(part.toUtf8()).toString();
 }
@@ -123,6 +119,7 @@ QString TextSeen(const QWidget& front, const QString& name) {
         return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "nobody";
     }
     if (name == "keys") return HeldKeys().trimmed();
+    if (name == "clipboard") return QApplication::clipboard()->text().replace("\r\n", ";");
     const QWidget* const control = Find(front, name.section('.', 0, 0));
     if (control == nullptr) return "not seen";
     return name.contains('.') ? PartOf(*control, name.section('.', 1)) : TextOf(*control);

@@ -13,7 +13,7 @@
 /// The middle of a control on the screen; for a text box, "NAME:left", just inside its edge.
 std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name);
 
-/// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".right" of
-/// a window, how many pixels it ends before the screen does, ".inside" whether all of it is on the
-/// screen; "focus" for the control with the keyboard, "keys" for Shift, Ctrl and Alt while held.
+/// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".inside"
+/// whether all of a window is on the screen; "focus" for the control with the keyboard, "keys" for
+/// Shift, Ctrl and Alt while held, "clipboard" for its text.
 QString TextSeen(const QWidget& front, const QString& name);

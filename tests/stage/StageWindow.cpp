@@ -20,17 +20,10 @@ StageWindow::StageWindow() {
     rows->addWidget(list_);
     setCentralWidget(both);
     statusBar()->showMessage("Type a name and press Enter.");
-    connect(line_, &QLineEdit::textChanged, this,
-            [this](const QString& text) { ShowMatches(text); });
     connect(line_, &QLineEdit::returnPressed, this, [this] { Open(line_->text()); });
     connect(list_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* item) { Open(item->text()); });
     line_->setFocus();
-}
-
-void StageWindow::ShowMatches(const QString& part) {
-    for (int row = 0; row < list_->count(); ++row)
-        list_->item(row)->setHidden(!list_->item(row)->text().contains(part));
 }
 
 void StageWindow::Open(const QString& name) {

@@ -14,8 +14,6 @@ class StageWindow : public QMainWindow {
     void Open(const QString& name);
 
   private:
-    void ShowMatches(const QString& part);
-
     QLineEdit* const line_ = new QLineEdit;
     QListWidget* const list_ = new QListWidget;
 };

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Where tests and people see each window of the library: a list of calls, a cashier's desk, and
-// pictures of all. See Calls.h, Conversation.h and Pictures.h.
+// Where tests and people see each window of the library: a list of calls and a cashier's desk. See
+// Calls.h and Conversation.h.
 #include "Calls.h"
 #include "Conversation.h"
 #include "Looks.h"
-#include "Pictures.h"
 #include "RecordingPlatform.h"
 #include "StageWindow.h"
 
@@ -18,7 +17,6 @@ int main(int argc, char** argv) {
     options.addHelpOption();
     options.addOptions({
         {"player", "Do what the standard input says, for stories by real keys."},
-        {"pictures", "Leave pictures of all windows in <folder>.", "folder"},
         {"palette", "Use these <colours>: light, dark or contrast.", "colours", "light"},
         {"font", "Use a font of so many <points>.", "points", "0"},
     });
@@ -31,9 +29,6 @@ int main(int argc, char** argv) {
         return QApplication::exec();
     }
     StartSession(QDir::tempPath() + "/halvek-stage.log", false);
-    if (options.isSet("pictures")) {
-        return Pictures(HALVEK_TEST_DATA "/stage/tour.txt", options.value("pictures")).Play();
-    }
     StageWindow stage;
     stage.show();
     return QApplication::exec();

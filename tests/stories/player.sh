@@ -44,7 +44,7 @@ hear() {
 act() {
     ((marks += 1, clicks += $1))
     shift
-    printf '%s\n' "$@" "set_window --role mark$marks $marked" get_num_desktops >&"$hand"
+    printf '%s\n' "$@" "set_window --icon-name mark$marks $marked" get_num_desktops >&"$hand"
     echo "await $marks $clicks ${over:-}" >&"$questions"
     hear
 }
@@ -158,6 +158,14 @@ type_text() {
     for ((i = 0; i < ${#1}; i++)); do press "${1:i:1}" || return; done
 }
 
+# A picture of the window in front, when HALVEK_PICTURES names a folder
+take_picture() {
+    [ -n "${HALVEK_PICTURES:-}" ] || return 0
+    mkdir -p "$HALVEK_PICTURES"
+    echo "picture $HALVEK_PICTURES/$look$((++pictures))-${name_of_story//[: ]/-}.png" >&"$questions"
+    act 0
+}
+
 # One step of a story, as stories.txt explains them
 take_step() {
     local name
@@ -184,9 +192,8 @@ take_step() {
     @closed) await_outcome ;;
     @hold=*) act 0 "keydown ${code[${1#*=}]}" ;;
     @release=*) act 0 "keyup ${code[${1#*=}]}" ;;
-    @picture) picture "$look$((++pictures))-${name_of_story//[: ]/-}" ;;
+    @picture) take_picture ;;
     @paste=*) echo "clipboard ${1#*=}" >&"$questions" && press Ctrl+v ;;
-    @lines=*) echo "lines ${1#*=}" >&"$questions" && press Ctrl+v ;;
     @load=*) echo "load ${1#*=}" >&"$questions" && act 0 ;;
     @locale=*) echo "locale ${1#*=}" >&"$questions" && act 0 ;;
     *) press "$1" ;;
