@@ -30,6 +30,7 @@ struct PopupAnchor {
     std::optional<std::int32_t> right = std::nullopt;
     std::uint32_t window = 0;  ///< the window that the pop-up is to belong to; 0 for none
 
+    /// True when a position is given.
     bool HasPosition() const { return left || topUp || topDown; }
 
     friend bool operator==(const PopupAnchor&, const PopupAnchor&) = default;

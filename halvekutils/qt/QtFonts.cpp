@@ -67,11 +67,12 @@ class FontKeeper : public QObject {
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (isSetting_) return false;
+        const bool isStyle = event->type() == QEvent::StyleChange;
+        if (isSetting_ || (!isStyle && event->type() != QEvent::FontChange)) return false;
         GuardEvent(u"ControlFont.Change", [&] {
             const bool hasSheet = widget_.style()->inherits("QStyleSheetStyle");
-            if (event->type() == QEvent::StyleChange && hasSheet) Set(font_);
-            if (event->type() == QEvent::FontChange && !hasSheet && !Has(widget_, font_)) End();
+            if (isStyle && hasSheet) Set(font_);
+            if (!isStyle && !hasSheet && !Has(widget_, font_)) End();
         });
         return false;
     }

@@ -243,7 +243,7 @@ TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) 
 
 TEST_F(ScreensTest, TheKeyboardComesBackFromADialogThoughTheWindowManagerLosesIt) {
     OpenHost(*QGuiApplication::screens().first(), false);
-    Look(Dialogs()[0], "");
+    Look(kDialogCalls[0], "");
     ASSERT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
     LoseKeyboard();
     if (!QTest::qWaitFor([] { return QGuiApplication::focusWindow() == nullptr; }, 1000)) {
