@@ -14,12 +14,17 @@ namespace {
 void FillPractice(const QString& path) {
     QString fault;
     const auto database = Database::Open(path, fault);
-    frontdesk::Transaction filling(*database);
-    database->Run("CREATE TABLE patients (id INTEGER PRIMARY KEY, name TEXT UNIQUE)");
-    for (int i = 0; i < 300; ++i) {
-        database->Run("INSERT INTO patients (name) VALUES (?)", {QString("Moss, Ada %1").arg(i)});
-    }
-    Require(filling.Commit(), "the file is made");
+    const bool isMade = database->Store([&] {
+        database->Run("CREATE TABLE patients (id INTEGER PRIMARY KEY, name TEXT UNIQUE)");
+        for (int i = 0; i < 300; ++i) {
+            const QString name = QString("Moss, Ada %1").arg(i);
+            database->Run("INSERT INTO patients (name) VALUES (?)", {name});
+        }
+        for (const char* const mark : {"application_id=0x4644736B", "user_version=1"}) {
+            database->Run(QString("PRAGMA ") + mark);
+        }
+    });
+    Require(isMade, "the file is made");
 }
 
 }  // namespace

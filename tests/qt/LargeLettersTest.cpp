@@ -75,12 +75,12 @@ bool IsPlacedByRule(const QWidget& part) {
 
 /// Whether a message box shows all of its text, or a button that leads to the rest.
 bool IsTextInReach(const QTextEdit& text) {
-    const QWidget& later = Find(*text.window(), "cmdUpDn_0");
+    const auto* const later = text.window()->findChild<const QWidget*>("cmdUpDn_0");
     QTextCursor end(text.document());
     end.movePosition(QTextCursor::End);
     const bool isWhole = text.cursorRect(end).bottom() < text.viewport()->height();
-    if (!later.isVisible()) return isWhole;
-    return (isWhole || later.isEnabled()) && text.geometry().right() <= later.x();
+    if (later == nullptr) return isWhole;
+    return (isWhole || later->isEnabled()) && text.geometry().right() <= later->x();
 }
 
 /// Whether the font of a part is a rule.

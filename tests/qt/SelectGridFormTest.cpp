@@ -3,6 +3,7 @@
 
 #include <halvekutils/qt/QtText.h>
 
+#include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -104,6 +105,19 @@ TEST_F(SelectGridFormTest, AHugeChoiceIsKeptWhole) {
     const QString chosen = Chosen(takeAll, Numbered(50'000));
     EXPECT_TRUE(chosen.startsWith("N2,N3,") && chosen.endsWith(",N49999,N50000"));
     EXPECT_EQ(chosen.count(','), 49'998);
+}
+
+TEST_F(SelectGridFormTest, AHugePasteIsRefusedWhole) {
+    QGuiApplication::clipboard()->setText("A,D" + QString(5'000'000, 'x'));
+    const auto paste = [](const Seen& seen) {
+        seen.Type("C,");
+        seen.Press(Qt::CTRL | Qt::Key_V);
+        EXPECT_EQ(seen.box.text(), "C,");
+        seen.Type("D");
+        seen.Press(Qt::Key_Return);
+    };
+    EXPECT_EQ(Chosen(paste), "C,D");
+    QGuiApplication::clipboard()->clear();
 }
 
 /// Whether a part of a picture is coloured: "red", "blue" or neither.

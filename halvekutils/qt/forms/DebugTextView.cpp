@@ -14,6 +14,7 @@ namespace {
 
 /// Qt lays out a line as a whole: a line of megabytes would freeze the program.
 constexpr int kMaxLineLength = 1000;
+constexpr std::size_t kMaxAddition = 1'000'000;
 
 bool EndsLine(char16_t character) {
     return character == u'\r' || character == u'\n';
@@ -43,6 +44,13 @@ QString Shown(std::u16string_view text) {
         }
     }
     return shown;
+}
+
+/// What is shown of text that is added, which may hold megabytes.
+QString ShownOf(std::u16string_view added) {
+    if (added.size() <= kMaxAddition) return Shown(added);
+    return Shown(added.substr(0, kMaxAddition)) +
+           QStringLiteral("\n... (%1 more characters)\n").arg(added.size() - kMaxAddition);
 }
 
 }  // namespace
@@ -76,7 +84,7 @@ void DebugTextView::ShowText() {
     const std::u16string_view text = console_.Text();
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
-    end.insertText(Shown(text.substr(shown_)));
+    end.insertText(ShownOf(text.substr(shown_)));
     shown_ = text.size();
     if (!textCursor().hasSelection()) moveCursor(QTextCursor::End);
 }

@@ -6,8 +6,10 @@
 #include <halvekutils/qt/helpers/Keys.h>
 #include <halvekutils/selection/PastedCodes.h>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QToolTip>
 
 #include <algorithm>
 #include <limits>
@@ -17,7 +19,7 @@ namespace halvek {
 
 namespace {
 
-constexpr std::size_t kMaxEdited = 200'000;
+constexpr qsizetype kMaxEdited = 200'000;
 constexpr std::size_t kMaxShown = 1000;
 
 }  // namespace
@@ -34,6 +36,7 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     setAccessibleName(tr("Selected codes"));
     new FieldOutline(*this);
     setPlaceholderText(tr("Codes, separated by commas"));
+    // Qt's own limit takes time in the square of what is pasted.
     setMaxLength(std::numeric_limits<int>::max());
     connect(this, &QLineEdit::textChanged, this, &TypedCodesEdit::TextEdited);
 }
@@ -41,10 +44,21 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
 void TypedCodesEdit::TextEdited() {
     if (mirroring_) return;
     GuardEvent(u"frmSelectGrid.txtSelect_Change", [this] {
+        if (text().size() > kMaxEdited) return RefuseInserted();
         TidyInserted(ToQString(rules_.Box().text));
         const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
         rules_.EditBox(text(), caret, selectionLength());
     });
+}
+
+/// A part of what is pasted could end in a part of a code, which may be another one.
+void TypedCodesEdit::RefuseInserted() {
+    const QScopedValueRollback mirroring(mirroring_, true);
+    setText(ToQString(rules_.Box().text));
+    SelectAsRulesDo();
+    QApplication::beep();
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), tr("Too many codes to be pasted here"),
+                       this);
 }
 
 /// Codes come in several characters at once when they are pasted or dropped.
@@ -70,7 +84,7 @@ void TypedCodesEdit::Refresh() {
     if (shownVersion_ == rules_.BoxVersion()) return;
     const QScopedValueRollback mirroring(mirroring_, true);
     // Every change of a line edit costs time in proportion to its text.
-    const bool tooLong = box.text.size() > kMaxEdited;
+    const bool tooLong = box.text.size() > static_cast<std::size_t>(kMaxEdited);
     setReadOnly(tooLong);
     setToolTip(tooLong ? tr("Too many codes to be edited here") : Hint());
     const QString wanted =

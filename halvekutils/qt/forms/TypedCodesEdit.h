@@ -40,6 +40,7 @@ class TypedCodesEdit : public QLineEdit {
 
   private:
     void TextEdited();
+    void RefuseInserted();
     void TidyInserted(const QString& before);
     void SelectAsRulesDo();
     void EnterBox(SelectGrid::BoxFocus how);
