@@ -50,7 +50,7 @@ visit() {
     local before
     calls=$work/calls
     rm -f "$work"/practice.db* "$calls"
-    start "$bin/halvekutils-demo" --data "$work/practice.db" --calls "$calls" --palette light
+    start "$bin/halvekutils-demo" --data "$work/practice.db" --calls "$calls"
     client=$!
     wait_for_window "Front Desk"
     wait_until "the printers are known" called BuildPrintersCollection
