@@ -66,12 +66,12 @@ visit() {
     wait_until "the client is gone" has_ended "$client"
 }
 
-"$bin/halvek-bench"
+"$bin/halvek-bench" || [ $? -eq 1 ] || exit 1  # 1: a goal is missed
 echo
 host_start
 echo
 start_desktop
-"$bin/halvek-bench" --desktop
+"$bin/halvek-bench" --desktop || [ $? -eq 1 ] || exit 1
 echo
 for _ in 1 2 3 4 5; do visit; done
 awk -v time="$(median 1 <"$work/visits")" 'BEGIN {

@@ -26,8 +26,8 @@ QString DataFolder();
 /// The library's error log.
 QString ErrorLogFile();
 
-/// The client without its windows: what all screens share. Every call of the library is made and
-/// noted here, except those on a screen's own controls.
+/// The client without its windows: what all screens share. The calls of the library that they
+/// share are made and noted here.
 class Desk : public QObject {
     Q_OBJECT
 

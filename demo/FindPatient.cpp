@@ -61,7 +61,7 @@ class FindPatient : public QLineEdit {
     }
 
     void Open(const QString& found) {
-        const int number = found.section('#', 1).section(' ', 0, 0).toInt();
+        const int number = found.section('#', -1).section(' ', 0, 0).toInt();
         // Afterwards, because the completer still writes the chosen line into the field.
         QTimer::singleShot(0, this, [this, number] {
             clear();

@@ -248,9 +248,9 @@ void FrontDeskWindow::paintEvent(QPaintEvent* event) {
 
 // A scroll area follows the Tab key by itself, but no key that leads straight to a field.
 void FrontDeskWindow::KeepInView(const QWidget* focused) {
+    if (focused == nullptr) return;  // also while the window is destroyed
     auto* area = static_cast<QScrollArea*>(stack_.currentWidget());
-    if (focused == nullptr || !area->isAncestorOf(focused)) return;
-    area->ensureWidgetVisible(const_cast<QWidget*>(focused));
+    if (area->isAncestorOf(focused)) area->ensureWidgetVisible(const_cast<QWidget*>(focused));
 }
 
 void FrontDeskWindow::keyPressEvent(QKeyEvent* event) {
@@ -269,6 +269,7 @@ void FrontDeskWindow::ShowErrorLog() {
     }
     desk_.Library().ShowMsgBox(text, halvek::mbOkOnly, halvek::mbNoIcon, u"Error log",
                                halvek::mbGray, halvek::mb5);
+    desk_.Calls().Add("ShowMsgBox", {text});
 }
 
 void FrontDeskWindow::ShowClock() {

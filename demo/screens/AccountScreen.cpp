@@ -46,7 +46,7 @@ class AccountScreen : public Screen {
     QPushButton* pay_;
     QPushButton* cancel_;
     QPushButton* writeOff_;
-    int alerted_ = 0;  ///< the account for which the alert sounded last
+    int alerted_ = 0;  ///< the account whose reminders were shown last; its alert is over
 };
 
 AccountScreen::AccountScreen(Desk& desk)
@@ -93,8 +93,9 @@ void AccountScreen::Refresh() {
     const auto& patient = desk_.Current();
     EnableButtons();
     if (!patient) return;
+    const QString insurance = desk_.Server().Description("INS", patient->insurance);
     const QStringList texts = {patient->phone, patient->address,
-                               desk_.Server().Description("INS", patient->insurance),
+                               insurance.isEmpty() ? patient->insurance : insurance,
                                patient->policy, Money(patient->balance)};
     for (int i = 0; i < texts.size(); ++i) facts_[i]->setText(texts[i]);
     Remind();
@@ -142,7 +143,7 @@ void AccountScreen::CancelVisit() {
 }
 
 void AccountScreen::WriteOff() {
-    const Patient& patient = *desk_.Current();
+    const Patient patient = *desk_.Current();
     const QString question = "Write off " + Money(patient.balance) + '?';
     if (desk_.Ask(question, halvek::mbYesNo, halvek::mbExclamation, kTitle) != halvek::mbYes)
         return;

@@ -161,11 +161,13 @@ void CheckInScreen::KeepDraft() {
 void CheckInScreen::ShowCopay() {
     const qint64 copay = desk_.Server().CopayOf(insurance_->Codes());
     copay_->setText("Copay of this visit: " + Money(copay));
-    SetText(*checkInAndPost_, copay == 0 ? "Check in" : "Check in and post " + Money(copay));
+    const bool posts = copay != 0 && desk_.Rights("PAYMENTS")->AllowAdd();
+    SetText(*checkInAndPost_, posts ? "Check in and post " + Money(copay) : "Check in");
 }
 
 void CheckInScreen::PostCopay() {
-    const qint64 copay = desk_.Server().CopayOf(desk_.Current()->insurance);
+    const bool mayPost = desk_.Current() && desk_.Rights("PAYMENTS")->AllowAdd();
+    const qint64 copay = mayPost ? desk_.Server().CopayOf(desk_.Current()->insurance) : 0;
     emit desk_.GoTo(copay == 0 ? ScreenId::Schedule : ScreenId::Payment);
     if (copay != 0) emit desk_.PostNow(copay);
 }

@@ -226,7 +226,8 @@ void PaymentScreen::PostNow(qint64 cents) {
 }
 
 void PaymentScreen::Post() {
-    if (!desk_.Current() || !halvek::LeaveCurrencyFields(this)) return;
+    const bool mayPost = desk_.Current() && desk_.Rights("PAYMENTS")->AllowAdd();
+    if (!mayPost || !halvek::LeaveCurrencyFields(this)) return;
     const Patient patient = *desk_.Current();
     const QString printer = printer_->currentText();
     const qint64 amount = CurrencyCents(amount_).value_or(0);

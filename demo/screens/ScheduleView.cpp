@@ -137,7 +137,7 @@ void ScheduleView::FillGrid(const QStringList& providers, const QList<QTime>& ti
     }
     for (int column = 0; column < providers.size(); ++column) {
         const QString name = practice_.Description("PRV", providers[column]);
-        model_.setHeaderData(column, Qt::Horizontal, name);
+        model_.setHeaderData(column, Qt::Horizontal, name.isEmpty() ? providers[column] : name);
     }
 }
 

@@ -218,7 +218,7 @@ std::u16string NumberText(double number) {
 void AppendInteger(std::u16string& out, std::int64_t number) {
     char buffer[24];
     const auto [end, error] = std::to_chars(buffer, std::end(buffer), number);
-    // Appending these bytes would make a text of them first.
+    // append() would first make a temporary text of these bytes.
     const std::size_t start = out.size();
     out.resize(start + static_cast<std::size_t>(end - buffer));
     std::copy(buffer, end, out.begin() + static_cast<std::ptrdiff_t>(start));

@@ -283,9 +283,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Shows a message box and waits for its answer.
     ///
-    /// @param Prompt  plain text; CR LF starts a new line. Shows its first 65,535 characters and
-    /// how
-    ///     many more there are
+    /// @param Prompt  plain text; CR LF starts a new line. Of a longer one
+    ///     the first 65,535 characters are shown, and how many more there are
     /// @param Buttons  the button set
     /// @param Icon  the picture
     /// @param Title  empty for the application's name
@@ -427,9 +426,10 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Gives a control a font of at least the given size.
     ///
-    /// Style sheets do not change it, later ones included; a font that the host sets afterwards
-    /// does. A font that has only a few sizes may come out smaller. Then larger sizes are tried in
-    /// steps of 0.1 points, up to 10 points more; if none suffices, the font is set to `fontSize`.
+    /// Style sheets do not change it, later ones included; a font that the host sets afterwards,
+    /// where none applies, does. A font that has only a few sizes may come out smaller. Then larger
+    /// sizes are tried in steps of 0.1 points, up to 10 points more; if none suffices, the font is
+    /// set to `fontSize`.
     /// @param ob  FontOf(&widget)
     /// @param fontName  the face; the desktop replaces one that is not installed
     /// @param fontSize  points, above 0 and up to 2160; any other value changes nothing, beeps and

@@ -41,7 +41,7 @@ PopupAnchor AnchorOf(Utils& utils, PopupEdge edge, const std::shared_ptr<PopupTa
     return anchor;
 }
 
-/// Makes a pop-up that no target gives an owner belong to the form that is refreshed after it.
+/// Where no target gives a pop-up its owner, it belongs to the form that is refreshed after it.
 PopupAnchor OwnedBy(const std::shared_ptr<OwnerForm>& form, PopupAnchor anchor) {
     if (anchor.window == 0 && form != nullptr && form->Exists()) anchor.window = form->Window();
     return anchor;

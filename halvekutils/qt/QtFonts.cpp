@@ -52,7 +52,7 @@ void SetFont(QWidget& widget, const QFont& font) {
 }
 
 /// Gives a widget its font again when a style sheet that the host sets later has replaced it, as
-/// one for other colours may. A font that the host itself sets ends this.
+/// one for other colours may. A font that the host sets where no style sheet applies ends this.
 class FontKeeper : public QObject {
   public:
     static FontKeeper& Of(QWidget& widget) {

@@ -173,6 +173,7 @@ void WindowOpening::GiveBack(QWidget* owner, bool wasActive) {
     // Not every window manager gives the keyboard back.
     if (owner == nullptr) return;
     owner->activateWindow();
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) return;
     constexpr int kChecks = 4;
     CheckGivenBack(owner, kChecks);
 }
