@@ -283,8 +283,8 @@ class HALVEK_EXPORT Utils : public std::enable_shared_from_this<Utils> {
 
     /// Shows a message box and waits for its answer.
     ///
-    /// @param Prompt  plain text; CR LF starts a new line. Of a longer one
-    ///     the first 65,535 characters are shown, and how many more there are
+    /// @param Prompt  plain text; CR LF starts a new line. A text of more than 65,535
+    ///     characters is cut there, and a note says how many more there are
     /// @param Buttons  the button set
     /// @param Icon  the picture
     /// @param Title  empty for the application's name

@@ -27,10 +27,10 @@ using namespace std::string_view_literals;
 
 struct CupsDesktop : ScriptedPlatform {
     std::unique_ptr<PrinterSource> Printers() override {
-        return std::make_unique<CupsPrinters>(library);
+        return std::make_unique<CupsPrinters>(libcups);
     }
 
-    const char* library = CupsPrinters::kLibrary;
+    const char* libcups = CupsPrinters::kLibrary;
 };
 
 class CupsPrintersTest : public CleanState {
@@ -83,14 +83,14 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
 
 TEST_F(CupsPrintersTest, WithoutItsLibraryASchedulerCountsAsNotThere) {
     struct {
-        const char* library;
+        const char* libcups;
         const char* reason;
     } const rows[] = {{"libcups-gone.so", "No such file"},
                       {"libc.so.6", "undefined symbol: cupsEncryption"}};
     utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
     const PrivateScheduler scheduler(1);
-    for (const auto& [library, reason] : rows) {
-        cups_.library = library;
+    for (const auto& [libcups, reason] : rows) {
+        cups_.libcups = libcups;
         EXPECT_EQ(Build(scheduler.Socket()), "");
         EXPECT_TRUE(LogEndsWithFallBack()) << Log();
         EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"), "");
