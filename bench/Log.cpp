@@ -75,11 +75,21 @@ Case Append(const fs::path& parent) {
 
 }  // namespace
 
+// Who owns a file on a disk that is mounted from elsewhere may differ, and then the log looks at
+// its folder, too.
 Rows LogRows() {
-    return {{"LogError, a line of 120 bytes, on disk", "stat, open, write, close", 1.2,
-             "QFile opened to append", 0, [](double) { return Append(fs::current_path()); }, false},
-            {"LogError, a line of 120 bytes, in memory", "stat, open, write, close", 1.2,
-             "QFile opened to append", 0, [](double) { return Append("/dev/shm"); }, false}};
+    const Row inMemory = {"LogError, a line of 120 bytes, in memory",
+                          "stat, open, write, close",
+                          1.2,
+                          "QFile opened to append",
+                          0,
+                          [](double) { return Append("/dev/shm"); },
+                          false};
+    Row onDisk = inMemory;
+    onDisk.work = "LogError, a line of 120 bytes, on disk";
+    onDisk.prepare = [](double) { return Append(fs::current_path()); };
+    onDisk.counted = false;
+    return {onDisk, inMemory};
 }
 
 }  // namespace bench

@@ -29,8 +29,9 @@ struct Row {
 
     /// Makes the input, `scale` times as large as the row says: 1, and for the growth 0.1 and 10.
     std::function<Case(double scale)> prepare;
-    bool grows = true;   ///< false for work whose size is fixed
-    bool first = false;  ///< measured as the first such work of a process
+    bool grows = true;    ///< false for work whose size is fixed
+    bool first = false;   ///< measured as the first such work of a process
+    bool counted = true;  ///< false for what takes another way on another disk
 };
 
 using Rows = std::vector<Row>;

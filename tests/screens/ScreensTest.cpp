@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <csignal>
 #include <iostream>
 
 namespace halvek {
@@ -181,6 +182,29 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
         }
     }
     Tell("dialogs");
+}
+
+TEST_F(ScreensTest, ADialogStandsWhereAskedThoughTheWindowManagerIsSlow) {
+    const int manager = qEnvironmentVariableIntValue("HALVEK_WINDOW_MANAGER");
+    ASSERT_GT(manager, 0);
+    OpenHost(*QGuiApplication::screens().last(), false);
+    for (const DialogCall& opening : kDialogCalls) {
+        ::kill(manager, SIGSTOP);
+        QTimer::singleShot(700, [&] { ::kill(manager, SIGCONT); });
+        ++looked_;
+        const User user([&](QDialog& dialog) {
+            EXPECT_TRUE(Soon([&] { return dialog.windowHandle()->isExposed(); })) << opening.name;
+            QTest::qWait(300);
+            const std::string misses = MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
+            EXPECT_EQ(misses, "") << opening.name;
+            missed_ += !misses.empty();
+            dialog.reject();
+        });
+        opening.open(*utils_, *target_, nullptr);
+        EXPECT_TRUE(user.HasActed());
+        EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
+    }
+    Tell("slow window manager");
 }
 
 /// Another program that the user types into.

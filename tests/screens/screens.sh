@@ -55,5 +55,6 @@ openbox) start openbox --sm-disable ;;
 *) start "$manager" ;;
 esac
 wait_until "the window manager starts" wmctrl -m
+export HALVEK_WINDOW_MANAGER=${started[-1]}
 "$tests" --gtest_brief=1 "${@:3}" || fail "windows open in the wrong place under $manager"
 finish

@@ -4,8 +4,10 @@
 
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 namespace halvek {
@@ -57,10 +59,11 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     WindowOpening::SetOwner(dialog_, owner);
     ShowArrowPointer();
     dialog_.installEventFilter(this);
-    corrections_ = 0;
-    sinceShown_.start();
-    WindowOpening::OfApplication().Show(dialog_);
+    dialog_.winId();  // creates the window handle
     dialog_.windowHandle()->installEventFilter(this);
+    corrections_ = 0;
+    sinceExposed_.invalidate();
+    WindowOpening::OfApplication().Show(dialog_);
     dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows the focus at once
 }
 
@@ -73,6 +76,11 @@ bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
             if (!ended_ && dialog_.isHidden()) abandon_();
         };
         QMetaObject::invokeMethod(this, abandon, Qt::QueuedConnection);
+    } else if (watched->isWindowType() && event->type() == QEvent::Expose &&
+               !sinceExposed_.isValid()) {
+        constexpr std::chrono::milliseconds kFramed(100);
+        sinceExposed_.start();
+        QTimer::singleShot(kFramed, this, [this] { StandWhereAsked(); });
     } else if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress) {
         const auto& press = *static_cast<QMouseEvent*>(event);
         lastPress_ = {press.button(), press.globalPosition(), press.timestamp()};
@@ -80,14 +88,17 @@ bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// Some window managers forget their frame when they place a new window, and no frame is known
-// before the window has it. The first move events show where it is and how large.
+// Some window managers forget their frame when they place a new window. How large it is nobody
+// knows before the window has it, at the latest when it is exposed; from then on it is corrected
+// only for as long as the user cannot have moved it.
 void DialogShow::StandWhereAsked() {
     constexpr qint64 kStillOpening = 500;
     constexpr int kMaxCorrections = 2;
-    if (corrections_ == kMaxCorrections || sinceShown_.hasExpired(kStillOpening)) return;
+    const bool isFramed = dialog_.frameGeometry() != dialog_.geometry();
+    if (!isFramed && !sinceExposed_.isValid()) return;
+    if (sinceExposed_.isValid() && sinceExposed_.hasExpired(kStillOpening)) return;
     const QPoint corner = place_(owner_);
-    if (dialog_.frameGeometry().topLeft() == corner) return;
+    if (corrections_ == kMaxCorrections || dialog_.frameGeometry().topLeft() == corner) return;
     ++corrections_;
     dialog_.move(corner);
 }

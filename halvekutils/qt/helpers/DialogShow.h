@@ -52,7 +52,7 @@ class DialogShow : public QObject {
     QPointer<QWidget> owner_;
     QEventLoop loop_;
     Place place_;
-    QElapsedTimer sinceShown_;
+    QElapsedTimer sinceExposed_;  ///< invalid before
     int corrections_ = 0;
     std::optional<MousePress> lastPress_;  ///< in the dialog
     bool ended_ = false;
