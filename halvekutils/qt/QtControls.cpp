@@ -58,7 +58,7 @@ class WidgetOwnerForm : public OwnerForm {
 
   private:
     QWidget& Form() const { return Existing(window_, u"window"); }
-    QRect Frame() const { return Form().frameGeometry(); }
+    QRect Frame() const { return WindowOpening::FrameOf(Form()); }
 
     QPointer<QWidget> window_;
 };

@@ -90,7 +90,7 @@ struct ScreensTest : FormTest {
 
     /// What is wrong about the place of a window.
     std::string MissesOf(const QWidget& window, bool isBeside) const {
-        const QRect frame = window.frameGeometry();
+        const QRect frame = window.windowHandle()->frameGeometry();
         const QRect area = host_->screen()->geometry() & usable_;
         std::ostringstream misses;
         if (window.screen() != host_->screen()) misses << " screen";

@@ -66,10 +66,10 @@ void DialogForm::EndShow() {
 }
 
 QPoint DialogForm::PlaceOf(const QWidget* owner) const {
-    const bool isFramed = isVisible() && frameGeometry() != geometry();
-    const Size outer = isFramed ? Size{PixelsToTwips(frameGeometry().width()),
-                                       PixelsToTwips(frameGeometry().height())}
-                                : outer_;
+    const QRect frame = WindowOpening::FrameOf(*this);
+    const bool isFramed = isVisible() && frame != geometry();
+    const Size outer =
+        isFramed ? Size{PixelsToTwips(frame.width()), PixelsToTwips(frame.height())} : outer_;
     const bool isAtOwner = owner != nullptr && !anchor_.screen && !anchor_.HasPosition();
     const Rect screen = isAtOwner ? ToRect(WindowOpening::UsableArea(owner->screen())) : screen_;
     const Point corner = PlacePopup(anchor_, outer, screen);

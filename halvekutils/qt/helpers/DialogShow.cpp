@@ -94,13 +94,14 @@ bool DialogShow::eventFilter(QObject* watched, QEvent* event) {
 void DialogShow::StandWhereAsked() {
     constexpr qint64 kStillOpening = 500;
     constexpr int kMaxCorrections = 2;
-    const bool isFramed = dialog_.frameGeometry() != dialog_.geometry();
+    const QRect frame = WindowOpening::FrameOf(dialog_);
+    const bool isFramed = frame != dialog_.geometry();
     if (!isFramed && !sinceExposed_.isValid()) return;
     if (sinceExposed_.isValid() && sinceExposed_.hasExpired(kStillOpening)) return;
     const QPoint corner = place_(owner_);
-    if (corrections_ == kMaxCorrections || dialog_.frameGeometry().topLeft() == corner) return;
+    if (corrections_ == kMaxCorrections || frame.topLeft() == corner) return;
     ++corrections_;
-    dialog_.move(corner);
+    dialog_.setGeometry(dialog_.geometry().translated(corner - frame.topLeft()));
 }
 
 void DialogShow::ShowArrowPointer() {

@@ -114,9 +114,15 @@ QRect WindowOpening::UsableArea(const QScreen* screen) {
 QRect WindowOpening::Centred(const QSize& outer, const QWidget* owner) const {
     const QScreen* const screen = owner != nullptr ? owner->screen() : Screen();
     QRect place(QPoint(), outer);
-    place.moveCenter(owner != nullptr ? owner->frameGeometry().center()
-                                      : UsableArea(screen).center());
+    place.moveCenter(owner != nullptr ? FrameOf(*owner).center() : UsableArea(screen).center());
     return Inside(place, screen);
+}
+
+// A widget keeps the first margins that it hears of. While the window manager makes the frame, they
+// may be nonsense; the window asks again.
+QRect WindowOpening::FrameOf(const QWidget& window) {
+    const QWindow* const handle = window.windowHandle();
+    return handle == nullptr ? window.geometry() : handle->frameGeometry();
 }
 
 // A window manager reports frame sizes only for windows on the screen.
@@ -124,7 +130,7 @@ QSize WindowOpening::FrameSize() {
     constexpr QSize kTypical(8, 30);
     const QWidget* const owner = OfApplication().Owner();
     const QSize added =
-        owner == nullptr ? QSize() : owner->frameGeometry().size() - owner->geometry().size();
+        owner == nullptr ? QSize() : FrameOf(*owner).size() - owner->geometry().size();
     return added.height() > 0 ? added : kTypical;
 }
 

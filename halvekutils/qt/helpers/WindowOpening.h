@@ -45,6 +45,9 @@ class WindowOpening : public QObject {
     /// visible.
     QRect Centred(const QSize& outer, const QWidget* owner) const;
 
+    /// Where a window with its frame is.
+    static QRect FrameOf(const QWidget& window);
+
     /// What the frame adds to the size of a window opened now: as much as its owner's does.
     static QSize FrameSize();
 
