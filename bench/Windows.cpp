@@ -25,8 +25,8 @@ class Closer : public QObject {
     Closer& operator=(const Closer&) = delete;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        auto* const dialog = qobject_cast<QDialog*>(watched);
-        if (event->type() == QEvent::Paint && dialog != nullptr) {
+        if (event->type() != QEvent::Paint) return false;
+        if (auto* const dialog = qobject_cast<QDialog*>(watched)) {
             QMetaObject::invokeMethod(dialog, &QWidget::close, Qt::QueuedConnection);
         }
         return false;

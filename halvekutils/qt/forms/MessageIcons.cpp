@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <halvekutils/qt/forms/MessageIcons.h>
+#include <halvekutils/qt/helpers/KeptPicture.h>
 
 #include <QAccessibleWidget>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
-#include <QPixmapCache>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -212,22 +211,6 @@ QAccessibleInterface* AccessibleIcon(const QString&, QObject* object) {
     return icon == nullptr ? nullptr : new QAccessibleWidget(icon, QAccessible::Graphic);
 }
 
-/// An icon as it is painted, kept for the next box that shows it.
-QPixmap PictureOf(int number, int side, qreal pixelRatio) {
-    const QString key =
-        QStringLiteral("halvekutils/icon/%1/%2/%3").arg(number).arg(side).arg(pixelRatio);
-    QPixmap picture;
-    if (QPixmapCache::find(key, &picture)) return picture;
-    picture = QPixmap(QSize(side, side) * pixelRatio);
-    picture.setDevicePixelRatio(pixelRatio);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    PaintMessageIcon(painter, number, QRect(0, 0, side, side));
-    painter.end();
-    QPixmapCache::insert(key, picture);
-    return picture;
-}
-
 }  // namespace
 
 void PaintMessageIcon(QPainter& painter, int number, const QRectF& area) {
@@ -262,8 +245,12 @@ QSize MessageIcon::sizeHint() const {
 
 void MessageIcon::paintEvent(QPaintEvent*) {
     const int side = std::min(width(), height());
-    const QPixmap picture = PictureOf(number_, side, devicePixelRatioF());
-    QPainter(this).drawPixmap((width() - side) / 2, (height() - side) / 2, picture);
+    const QRect area((width() - side) / 2, (height() - side) / 2, side, side);
+    QPainter painter(this);
+    DrawKept(painter, area, QLatin1String("icon"), static_cast<unsigned>(number_),
+             [&](QPainter& picture) {
+                 PaintMessageIcon(picture, number_, QRect(QPoint(), area.size()));
+             });
 }
 
 }  // namespace halvek

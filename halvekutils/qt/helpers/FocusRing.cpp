@@ -2,6 +2,7 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/FocusRing.h>
+#include <halvekutils/qt/helpers/KeptPicture.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -38,8 +39,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     GuardEvent(u"FocusRing.Paint", [button, &colors, &face] {
         QPainter painter(button);
         if (button->hasFocus()) {
-            design::PaintRing(painter, button->rect(),
-                              design::Visible(colors.color(QPalette::Highlight), face));
+            const QColor ring = design::Visible(colors.color(QPalette::Highlight), face);
+            DrawKept(painter, button->rect(), QLatin1String("ring"), ring.rgba(),
+                     [&](QPainter& picture) { design::PaintRing(picture, button->rect(), ring); });
         } else {
             painter.setPen(design::Blended(colors.color(QPalette::ButtonText), face, kOutline));
             painter.drawRect(button->rect().adjusted(0, 0, -1, -1));
