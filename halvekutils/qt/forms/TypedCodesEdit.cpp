@@ -35,6 +35,10 @@ TypedCodesEdit::TypedCodesEdit(SelectGrid& rules, QWidget* parent)
     setObjectName(QLatin1String("txtSelect"));
     setAccessibleName(tr("Selected codes"));
     new FieldOutline(*this);
+    // A line edit shapes its whole text at each change and again when it is painted.
+    QFont letters;
+    letters.setStyleStrategy(QFont::PreferNoShaping);
+    setFont(letters);
     setPlaceholderText(tr("Codes, separated by commas"));
     // Qt's own limit takes time in the square of what is pasted.
     setMaxLength(std::numeric_limits<int>::max());
@@ -112,18 +116,11 @@ void TypedCodesEdit::Return() {
 }
 
 void TypedCodesEdit::focusInEvent(QFocusEvent* event) {
-    // Qt selects the whole text when a key moves the focus here; the next letter would replace it.
-    const int caret = cursorPosition();
-    const int start = selectionStart();
-    const int length = selectionLength();
-    QLineEdit::focusInEvent(event);
-    if (length > 0) {
-        setSelection(start, length);
-    } else {
-        setCursorPosition(caret);
-    }
     const Qt::FocusReason reason = event->reason();
     enteredByClick_ = reason == Qt::MouseFocusReason;
+    // Qt selects the whole text when a key moves the focus here; the next letter would replace it.
+    QFocusEvent quiet(event->type(), enteredByClick_ ? reason : Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&quiet);
     if (enteredByClick_) return;
     const bool restored =
         wasFocused_ && (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
