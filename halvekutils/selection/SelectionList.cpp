@@ -290,12 +290,13 @@ std::u16string_view SelectionList::TrimmedCode(std::int32_t entry) const {
 }
 
 SelectionList::Texts SelectionList::TextsOf(std::int32_t entry) const {
-    std::u16string_view text = From(entry);
-    Texts texts{FirstField(text), {}};
-    text.remove_prefix(texts.code.size());
-    if (!text.starts_with(kFieldEnd)) return texts;
-    text.remove_prefix(1);
-    texts.description = FirstField(text);
+    const std::u16string_view text = From(entry);
+    CharacterScan ends(text, kFieldEnd, kEntryEnd);
+    const std::size_t codeEnd = std::min(ends.Next(), text.size());
+    Texts texts{text.substr(0, codeEnd), {}};
+    if (!text.substr(codeEnd).starts_with(kFieldEnd)) return texts;
+    const std::size_t start = codeEnd + 1;
+    texts.description = text.substr(start, std::min(ends.Next(), text.size()) - start);
     return texts;
 }
 

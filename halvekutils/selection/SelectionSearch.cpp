@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <halvekutils/base/CharacterBlock.h>
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/PlainLetter.h>
 #include <halvekutils/selection/SelectionSearch.h>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <utility>
 
 namespace halvek {
@@ -31,10 +33,24 @@ bool IsInWord(char16_t character) {
     return IsLetter(plain) || IsDigit(plain) || (plain >= 0xC0 && !isSymbol);
 }
 
-/// Whether a text has the word at this place; its first character is known to be there.
+/// The next place, `at` or after it, where a word may begin: with this letter, or with a character
+/// beyond ASCII, which may be the letter with an accent. A block at a time.
+std::size_t NextStart(std::u16string_view text, std::size_t at, char16_t letter) {
+    const bool isSmall = letter >= u'a' && letter <= u'z';
+    const auto capital = static_cast<char16_t>(isSmall ? letter - (u'a' - u'A') : letter);
+    for (; at + kBlockLength <= text.size(); at += kBlockLength) {
+        const char16_t* const block = text.data() + at;
+        const std::uint32_t starts =
+            MaskOf(block, letter) | MaskOf(block, capital) | MaskOfOthers<1, 0x7E>(block);
+        if (starts != 0) return at + static_cast<std::size_t>(std::countr_zero(starts));
+    }
+    while (at < text.size() && Plain(text[at]) != letter) ++at;
+    return at;
+}
+
+/// Whether a text has the word at this place.
 bool HasWordAt(std::u16string_view text, std::size_t at, std::u16string_view word) {
-    if (text.size() - at < word.size()) return false;
-    for (std::size_t i = 1; i < word.size(); ++i) {
+    for (std::size_t i = 0; i < word.size(); ++i) {
         if (Plain(text[at + i]) != word[i]) return false;
     }
     return true;
@@ -44,8 +60,10 @@ bool HasWordAt(std::u16string_view text, std::size_t at, std::u16string_view wor
 /// not better than `best`, if only there is one.
 Fit FitIn(std::u16string_view text, std::u16string_view word, Fit atStart, Fit best) {
     Fit fit = None;
-    for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
-        if (Plain(text[at]) != word.front() || !HasWordAt(text, at, word)) continue;
+    const char16_t letter = word.front();
+    for (std::size_t at = NextStart(text, 0, letter); at + word.size() <= text.size();
+         at = NextStart(text, at + 1, letter)) {
+        if (!HasWordAt(text, at, word)) continue;
         if (at == 0) return atStart;
         if (!IsInWord(text[at - 1])) return StartsWord;
         fit = Contains;
