@@ -97,7 +97,8 @@ is_back() {
     [[ "$whole" == *"Stage frame."* ]] && has_active_title Stage
 }
 
-# What a key makes heard. The echo of a text typed before it may still be on its way.
+# What a key makes heard. The echo of a text typed before it may still be on its way, and so may the
+# name of what got the keyboard when a window opened.
 hears_now() {
     if [ -n "$echoing" ]; then hears_last "$1"; else hears "$1"; fi
 }
@@ -108,7 +109,7 @@ step() {
     ((steps += 1))
     if [ "$1" = open ]; then
         open_call "$call"
-        soon hears_last "$2" && return
+        soon hears_last "$2" && echoing=1 && return
     elif [[ $1 == close* ]]; then
         mark
         act "${1#close }"
