@@ -50,7 +50,7 @@ act() {
 }
 
 start_host() {
-    coproc host { exec "$program" --player --palette "$palette" 2>"$work/host.log"; }
+    coproc host { exec "$program" --player --palette "$palette" 2>>"$work/host.log"; }
     started+=("$host_PID")
     local from=${host[0]} to=${host[1]}
     exec {answers}<&"$from" {questions}>&"$to" {from}<&- {to}>&-
@@ -149,8 +149,14 @@ open_call() {
 
 # Waits until the host has got something: a box whose countdown ends, say.
 await_outcome() {
-    local before=$got
-    while [ "$got" = "$before" ]; do act 0 || return; done
+    local before=$got tries=1000
+    while [ "$got" = "$before" ]; do
+        ((tries-- > 0)) || {
+            trouble="the host gets nothing"
+            return 1
+        }
+        act 0 || return
+    done
 }
 
 type_text() {
@@ -203,6 +209,11 @@ take_step() {
 # Plays a story on a new window. Sets $got and $trouble. Usage: play NAME STEPS
 play() {
     local step name_of_story=$1
+    # What is left open after trouble may have no close button.
+    if [ -n "$trouble" ]; then
+        end_host
+        start_host
+    fi
     got="" trouble=""
     keyboard_is us
     new_window "" && numbers_are off || return

@@ -180,7 +180,7 @@ void WindowOpening::GiveBack(QWidget* owner, bool wasActive) {
     if (owner == nullptr) return;
     owner->activateWindow();
     if (QGuiApplication::platformName() != QLatin1String("xcb")) return;
-    constexpr int kChecks = 4;
+    constexpr int kChecks = 10;
     CheckGivenBack(owner, kChecks);
 }
 
