@@ -11,9 +11,6 @@
 #include <halvekutils/qt/helpers/Design.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextEdit>
@@ -80,45 +77,7 @@ TEST_F(MessageBoxFormTest, AHeldKeyAnswersNothing) {
     }
 }
 
-TEST_F(MessageBoxFormTest, CopyTakesTheSelectionOrElseTheMessage) {
-    QClipboard& clipboard = *QApplication::clipboard();
-    const auto copy = [&](QDialog& box) {
-        auto& text = Find<QTextEdit>(box, "lblText");
-        const auto choose = [&](int action) {
-            QContextMenuEvent ask(QContextMenuEvent::Mouse, {}, text.mapToGlobal(QPoint(4, 4)));
-            QCoreApplication::sendEvent(text.viewport(), &ask);
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            ASSERT_NE(menu, nullptr);
-            EXPECT_EQ(menu->actions()[0]->isEnabled(), text.textCursor().hasSelection());
-            menu->actions()[action]->trigger();
-            menu->close();
-        };
-        const QString message = "Visit\r\n\r\nfirst\r\nline\r\n\r\nOK   Cancel";
-        choose(1);
-        EXPECT_EQ(clipboard.text(), message);
-        QTest::mouseDClick(box.windowHandle(), Qt::LeftButton, {}, text.mapTo(&box, QPoint(4, 4)));
-        PressKey(box, Qt::CTRL | Qt::Key_C);
-        EXPECT_EQ(clipboard.text(), "first");
-        choose(1);
-        EXPECT_EQ(clipboard.text(), message);
-        choose(0);
-        EXPECT_EQ(clipboard.text(), "first");
-        PressKey(box, Qt::Key_C);
-    };
-    EXPECT_EQ(Answer(mbOkCancel, copy, Lines(2)), mbCancel);
-}
-
 // The text
-
-TEST_F(MessageBoxFormTest, HostTextIsShownAsItIs) {
-    const std::u16string text = u"<b>R&D</b> &amp; [*] [*][*] && \t%1";
-    const auto look = [&](QDialog& box) {
-        EXPECT_EQ(Find<QTextEdit>(box, "lblText").toPlainText(), ToQString(text + u"\nnext"));
-        EXPECT_EQ(box.windowHandle()->title(), ToQString(text));
-        PressKey(box, Qt::Key_O);
-    };
-    EXPECT_EQ(Answer(mbOkOnly, look, text + u"\r\nnext", text), mbOK);
-}
 
 TEST_F(MessageBoxFormTest, TextOfAnyLengthLeavesABoxThatAnswers) {
     const std::u16string controls = std::u16string(u"a\0b", 3) + u"\xD800\x202E\x0007 \xFFFF";

@@ -70,7 +70,6 @@ Desk::Desk(std::shared_ptr<Utils> utils) : utils_(std::move(utils)), page_(new P
     BuildLibraryButtons();
     BuildClosingButtons();
     BuildActions();
-    utils_->InitServerTime(QString("1/1/2001 10:00"));
     Field("Note").setFocus();
 }
 
@@ -132,13 +131,6 @@ void Desk::BuildLibraryButtons() {
     const Act color = [this](QPushButton& button) {
         return Text(utils_->ShowColorAndCalculateCoordinates(Beside(&button))).replace('\t', ' ');
     };
-    const Act clock = [this](QPushButton&) {
-        utils_->InitServerTime(Field("Note").text());
-        return Text(DateTimeText(utils_->ServerTime())).left(16);
-    };
-    const Act digits = [this](QPushButton&) {
-        return Text(utils_->ConvertNumberToDate(Field("Note").text(), true));
-    };
     const struct {
         QLayout* column;
         const char *name, *got;
@@ -150,8 +142,6 @@ void Desk::BuildLibraryButtons() {
         {right_, "Day", "day", day},
         {right_, "Color", "color", color},
         {right_, "Beneath", "pressed through", [](QPushButton&) { return QString(); }},
-        {left_, "Clock", "clock", clock},
-        {left_, "Digits", "date", digits},
         {left_, "Providers", "providers", choose("300 Providers")},
         {left_, "Insurance", "insurance", choose("Three Insurances")},
         // The host itself marks it as needing no valid fields.
