@@ -127,17 +127,16 @@ TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
         },
         [](QDialog& box, bool down) { Click(box, Find(box, down ? "cmdUpDn_0" : "cmdUpDn_1")); },
     };
-    std::size_t waysTried = std::size(ways);
     const auto scroll = [&](QDialog& box) {
         auto& text = Find<QTextEdit>(box, "lblText");
         const int line = text.fontMetrics().lineSpacing();
-        for (std::size_t way = 0; way < waysTried; ++way) {
+        for (const Scroll& way : ways) {
             for (const bool down : {true, false}) {
-                SCOPED_TRACE(std::to_string(way) + (down ? " down" : " up"));
+                SCOPED_TRACE(testing::Message() << &way - ways << down);
                 QScrollBar& bar = *text.verticalScrollBar();
                 for (int before = -1; bar.value() != before;) {
                     before = bar.value();
-                    ways[way](box, down);
+                    way(box, down);
                     const bool atEnd = bar.value() == (down ? bar.maximum() : 0);
                     // Every line is whole on one page or the next, except for a rounded pixel.
                     EXPECT_TRUE(atEnd || std::abs(bar.value() - before) <= text.height() - line + 1)
@@ -156,8 +155,6 @@ TEST_F(MessageBoxFormTest, EveryWayOfScrollingReachesBothEndsOfTheText) {
         PressKey(box, Qt::Key_O);
     };
     EXPECT_EQ(Answer(mbOkOnly, scroll, Lines(150)), mbOK);
-    waysTried = 2;  // the others scroll in too small steps
-    EXPECT_EQ(Answer(mbOkOnly, scroll, std::u16string(100'000, u'W')), mbOK);
 }
 
 TEST_F(MessageBoxFormTest, TheFocusIsSeenFromTheBeginning) {
