@@ -6,7 +6,6 @@
 #include <halvekutils/selection/SelectionList.h>
 #include <halvekutils/selection/SelectionSearch.h>
 
-#include <algorithm>
 #include <map>
 
 using namespace halvek;

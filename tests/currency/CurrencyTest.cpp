@@ -4,9 +4,7 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/platform/TextField.h>
 
-#include <gtest/gtest.h>
 
-#include <sstream>
 
 // The step of the walk in dollars; a separate program takes every dollar.
 #ifndef HALVEK_DOLLAR_STEP

@@ -8,12 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstddef>
 #include <limits>
-#include <memory>
-#include <string>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -13,9 +13,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdio>
-#include <memory>
 #include <random>
 #include <thread>
 

@@ -12,13 +12,8 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
-#include <cstddef>
 #include <cstring>
-#include <iterator>
-#include <string_view>
 #include <thread>
-#include <vector>
 
 namespace halvek {
 namespace {

@@ -15,10 +15,7 @@
 #include <QScrollBar>
 #include <QTextEdit>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
 
-#include <memory>
-#include <string>
 #include <thread>
 
 namespace halvek {

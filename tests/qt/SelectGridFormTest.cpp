@@ -11,10 +11,7 @@
 #include <QTableView>
 #include <QTextDocument>
 #include <QToolTip>
-#include <gtest/gtest.h>
 
-#include <memory>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -5,9 +5,6 @@
 #include <halvekutils/refdata/PrintersCollection.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <optional>
-#include <vector>
 
 namespace halvek {
 namespace {

@@ -6,7 +6,6 @@
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <tuple>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QColor>
-#include <QDialog>
 #include <QFile>
 #include <QPointer>
 #include <QPushButton>
@@ -21,8 +20,6 @@
 #include <QWindow>
 
 #include <algorithm>
-#include <memory>
-#include <utility>
 
 using namespace halvek;
 

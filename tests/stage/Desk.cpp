@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -22,8 +21,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include <functional>
-#include <utility>
 
 using namespace halvek;
 

@@ -7,7 +7,6 @@
 #include "RecordingPlatform.h"
 #include "StageWindow.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 

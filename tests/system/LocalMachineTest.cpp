@@ -14,14 +14,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstddef>
-#include <cstdint>
-#include <filesystem>
-#include <functional>
-#include <set>
-#include <string>
-#include <string_view>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -4,12 +4,7 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/text/DelimitedText.h>
 
-#include <cstddef>
-#include <cstdint>
 #include <map>
-#include <string_view>
-#include <utility>
-#include <vector>
 
 namespace halvek {
 namespace {

@@ -2,7 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <functional>
 #include <initializer_list>
 
 namespace halvek {
