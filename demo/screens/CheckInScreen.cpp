@@ -54,6 +54,7 @@ class CheckInScreen : public Screen {
     QLabel* visit_;
     QLabel* copay_;
     QPushButton* checkInAndPost_;
+    QPushButton* checkInOnly_;  // seen while the other one posts
     QWidget* card_;
     int visitShown_ = 0;
 };
@@ -68,6 +69,7 @@ CheckInScreen::CheckInScreen(Desk& desk)
       visit_(MakeNote()),
       copay_(MakeNote()),
       checkInAndPost_(MakePrimaryButton("Check in and post")),
+      checkInOnly_(MakeButton("Check in &only")),
       card_(MakeForm()) {
     column_->addWidget(new Columns(card_, 3, new Card("Reminders", reminders_), 2));
     column_->addStretch();
@@ -86,17 +88,16 @@ QWidget* CheckInScreen::MakeForm() {
     form->AddRow("Proced&ures", procedures_, procedures_->Meaning());
     form->AddRow("Ne&xt visit", next_);
     next_->setPlaceholderText("mm/dd/yyyy");
-    auto* checkIn = MakeButton("Check in &only");
     connect(checkInAndPost_, &QPushButton::clicked, this, [this] {
         if (CheckIn()) PostCopay();
     });
-    connect(checkIn, &QPushButton::clicked, this, [this] {
+    connect(checkInOnly_, &QPushButton::clicked, this, [this] {
         if (CheckIn()) emit desk_.GoTo(ScreenId::Schedule);
     });
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(checkInAndPost_);
-    buttons->addWidget(checkIn);
+    buttons->addWidget(checkInOnly_);
     buttons->addStretch();
     auto* card = new Card("Check-in");
     card->Content().addWidget(visit_);
@@ -163,6 +164,7 @@ void CheckInScreen::ShowCopay() {
     copay_->setText("Copay of this visit: " + Money(copay));
     const bool posts = copay != 0 && desk_.Rights("PAYMENTS")->AllowAdd();
     SetText(*checkInAndPost_, posts ? "Check in and post " + Money(copay) : "Check in");
+    checkInOnly_->setVisible(posts);
 }
 
 void CheckInScreen::PostCopay() {

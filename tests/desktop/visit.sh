@@ -23,6 +23,10 @@ ask() {
     python3 -c 'import sqlite3, sys
 print(*[row[0] for row in sqlite3.connect(sys.argv[1]).execute(sys.argv[2])])' "$practice" "$1"
 }
+change() {
+    python3 -c 'import sqlite3, sys
+with sqlite3.connect(sys.argv[1]) as practice: practice.execute(sys.argv[2])' "$practice" "$1"
+}
 holds() {
     [ "$(ask "$1")" = "$2" ] || fail "$1 gives $(ask "$1") instead of $2"
 }
@@ -44,6 +48,9 @@ use_dark_desktop() {
 }
 called() {
     grep -q "$1" "$calls"
+}
+is_checked_in() {
+    [ "$(ask "SELECT state FROM visit WHERE patient = 10117 AND day = '2024-03-05'")" = 2 ]
 }
 hides_paid_visits() {
     [ "$(ask "SELECT instr(text, CAST('hide paid' AS BLOB)) > 0 FROM setting")" = 1 ]
@@ -81,6 +88,22 @@ wait_until "the payment is posted" called '^ShowMsgBox("Post \$25.00?.* = 6$'
 wait_until "the client is active again" is_active "$main"
 kill_client
 is_paid
+
+# Who may not post payments checks in by the same keys, and nothing is posted.
+open_desk rights.db
+kill_client
+change "UPDATE user_right SET digit = '8' WHERE item = 'PAYMENTS'"
+posted=$(ask "SELECT count(*) FROM payment")
+open_desk rights.db
+keys ctrl+3
+wait_until "the check-in has the keyboard" called 'HighlightHeading("Insurance")'
+picture visit-without-right
+keys ctrl+Return
+wait_until "the patient is checked in" is_checked_in
+keys ctrl+4 2 5 Tab ctrl+Return alt+F4
+wait_until "the client ends" has_ended "$client"
+called ShowMsgBox && fail "somebody without the right to post is asked whether to"
+holds "SELECT count(*) FROM payment" "$posted"
 
 # What was posted is there again on a dark desktop, and a second patient by search, look-up, calendar
 # and full keys

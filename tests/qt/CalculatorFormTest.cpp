@@ -49,7 +49,11 @@ TEST_F(CalculatorFormTest, AButtonFlashesWithoutHoldingUpTheKeys) {
         const QColor before = face();
         Type(form, "7+7+7+7+7+7+7+7+7+7=");
         EXPECT_EQ(box.text(), "70");
-        EXPECT_EQ(face(), QColor(Qt::white));
+        // Again where a slow machine takes longer for a key than the flash lasts
+        EXPECT_TRUE(Soon([&] {
+            Type(form, "7");
+            return face() == Qt::white;
+        }));
         EXPECT_TRUE(Soon([&] { return face() == before; }));
     });
 }

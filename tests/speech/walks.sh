@@ -47,6 +47,10 @@ hears() {
     listen
     [[ "$heard" == "$1" || "$whole" == "$1" ]]
 }
+hears_among() {
+    listen
+    [[ "$heard" == *"$1"* ]]
+}
 hears_last() {
     listen
     [[ "$heard" == *"$1" ]]
@@ -97,7 +101,8 @@ is_back() {
     [[ "$whole" == *"Stage frame."* ]] && has_active_title Stage
 }
 
-# What a key makes heard. The echo of a text typed before it may still be on its way.
+# What a key makes heard. The echo of a text typed before it may still be on its way. On a busy
+# machine so may the name of what got the keyboard when a window opened, which the reader says again.
 hears_now() {
     if [ -n "$echoing" ]; then hears_last "$1"; else hears "$1"; fi
 }
@@ -108,7 +113,7 @@ step() {
     ((steps += 1))
     if [ "$1" = open ]; then
         open_call "$call"
-        soon hears_last "$2" && return
+        soon hears_among "$2" && echoing=1 && return
     elif [[ $1 == close* ]]; then
         mark
         act "${1#close }"
