@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/FaultOf.h"
 #include "tests/HelpFile.h"
 #include "tests/help/MadeHelpFile.h"
 
@@ -31,6 +32,18 @@ TEST(CompiledHelp, ReadsObjectsInAnyLetterCase) {
     const std::u16string bills = HelpTextOf(help.Read(u"/sub/bills.htm"));
     EXPECT_NE(bills.find(u"gr\u00FC\u00DFe"), std::string::npos);
     EXPECT_TRUE(bills.ends_with(u"<p>line 31668081</p><a name=late>Late</a>"));
+}
+
+TEST(CompiledHelp, AFileThatIsCutOffOrDamagedIsAFaultAtMost) {
+    const std::string whole = ReadFile(TheHelp().Path());
+    // The headers and the directory closely, the compressed data here and there
+    for (std::size_t at = 0; at < whole.size(); at += at < 0x1000 ? 37 : 1499) {
+        const auto cut = TheHelp().Beside(whole.substr(0, at));
+        EXPECT_EQ(FaultOf([&] { CompiledHelp help(cut); }), 57) << at;
+        const auto damaged = TheHelp().Beside(std::string(whole).replace(at, 1, "\xFF"));
+        const auto fault = FaultOf([&] { CompiledHelp(damaged).Read(u"/sub/bills.htm"); });
+        EXPECT_TRUE(fault == 0 || fault == 53 || fault == 57) << at << ": " << fault;
+    }
 }
 
 std::string Entry(std::string_view name, std::string_view place) {

@@ -74,6 +74,10 @@ TEST_F(PrintersCollectionTest, ListsTheServersEntriesAndThenTheWorkstations) {
     EXPECT_EQ(Identifiers(printers, 0), "S 7 9 x 1WIN 2WIN ");
     EXPECT_EQ(NewMessages(), "");
     EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(), 1), "7 9 x 1WIN 2WIN ");
+    EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(false, true), 1),
+              "S 7 x 1WIN 2WIN ");
+    EXPECT_EQ(Identifiers(utils_->GetPrintersCollectionFiltered(false, false, true), 1),
+              "S 7 9 x ");
 }
 
 TEST_F(PrintersCollectionTest, SkipsBadEntriesWithTheirPosition) {
