@@ -41,10 +41,14 @@ bool IsDigit(char16_t character) {
     return character >= u'0' && character <= u'9';
 }
 
-bool IsNameCharacter(char16_t character) {
+bool IsLetter(char16_t character) {
     const char16_t folded = character | 0x20;
-    return IsDigit(character) || (folded >= u'a' && folded <= u'z') || character == u'-' ||
-           character == u'_' || character >= 0x80;
+    return folded >= u'a' && folded <= u'z';
+}
+
+bool IsNameCharacter(char16_t character) {
+    return IsDigit(character) || IsLetter(character) || character == u'-' || character == u'_' ||
+           character >= 0x80;
 }
 
 std::size_t EndOfName(std::u16string_view text) {
@@ -97,6 +101,15 @@ std::u16string WithoutMarkup(std::u16string_view text) {
     return result;
 }
 
+/// What stands between the brackets of "rgb(...)": numbers and nothing else.
+std::u16string Components(std::u16string_view text) {
+    std::u16string result;
+    for (const char16_t character : text) {
+        if (std::u16string_view(u"0123456789.,% ").find(character) != kNone) result += character;
+    }
+    return result;
+}
+
 struct Range {
     int least;
     int most;
@@ -125,7 +138,10 @@ std::u16string HelpStyle::Number(std::u16string_view& rest, const Property& prop
         }
     }
     const bool isPercent = rest.starts_with(u'%');
-    const std::u16string unit(rest.substr(0, isPercent ? 1 : EndOfName(rest)));
+    // Letters only: a "1e9px" would be an exponent to the text layout.
+    const auto* const endOfUnit = std::ranges::find_if_not(rest, IsLetter);
+    const auto unitLength = static_cast<std::size_t>(endOfUnit - rest.begin());
+    const std::u16string unit(rest.substr(0, isPercent ? 1 : unitLength));
     rest.remove_prefix(unit.size());
     const bool isRelative = EqualFolded(unit, u"em") || EqualFolded(unit, u"ex");
     Range range{0, 50};
@@ -165,6 +181,9 @@ std::u16string HelpStyle::Value(std::u16string_view written, const Property& pro
     std::u16string value;
     for (std::u16string_view rest = written.substr(0, kMaxValue); !rest.empty();) {
         const char16_t first = rest[0];
+        // Two numbers must not become a larger one where what stood between them is left out.
+        const bool isApart = value.empty() || value.back() == u' ' || value.back() == u',';
+        if (!isApart && first != u',') value += u' ';
         if (first == u'"' || first == u'\'') {
             const std::size_t end = rest.find(first, 1);
             if (end == kNone) break;
@@ -190,11 +209,11 @@ std::u16string HelpStyle::Value(std::u16string_view written, const Property& pro
             } else if (EqualFolded(name, u"url")) {
                 value += Url(rest.substr(1, close - 1));
             } else if (EqualFolded(name, u"rgb") || EqualFolded(name, u"rgba")) {
-                ((value += name) += WithoutMarkup(rest.substr(0, close))) += u')';
+                (((value += name) += u'(') += Components(rest.substr(1, close - 1))) += u')';
             }
             if (isFunction) rest.remove_prefix(close + 1);
         } else {
-            if (first == u' ' || first == u',') value += first;
+            if (first == u',') value += first;
             rest.remove_prefix(1);
         }
     }

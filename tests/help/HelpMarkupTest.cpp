@@ -63,8 +63,10 @@ TEST(HelpMarkup, KeepsWhatTheLayoutKnowsAndNoMore) {
         {"<style>@import url(x); @media print{p{color:red}} @media screen{b{color:blue}} "
          "i,u.x{margin:99999px;behavior:url(x)}</style>",
          "<style>b{color:blue;}\ni,u.x{margin:50px;}\n</style>"},
-        {"<p style='text-indent:-18pt;margin:-5px;line-height:0;width:1e9px;float:left'>x",
-         "<p style=\"text-indent:-18pt;margin:0px;line-height:1;width:1e9px;\">x"},
+        {"<p "
+         "style='text-indent:-18pt;margin:-5px;line-height:0;width:1e9px;float:left;padding:40!"
+         "40px'>x",
+         "<p style=\"text-indent:-18pt;margin:0px;line-height:1;width:1e 9px;padding:40 40px;\">x"},
         {"<body background=none.png><p style='background:url(none.png)'>x", "<body><p>x"},
         {"<title>A\n <b></title>", "<title>A &lt;b&gt;</title>"},
         {"\x01\xEF\xB7\x90\xEF\xBF\xBC&#64977;&#55296;", "   \xEF\xBF\xBD"},
