@@ -8,8 +8,6 @@
 #include <halvekutils/currency/CurrencyHandlers.h>
 #include <halvekutils/platform/TextField.h>
 
-#include <algorithm>
-#include <optional>
 
 namespace halvek {
 

@@ -6,7 +6,6 @@
 #include <halvekutils/help/CompiledHelp.h>
 #include <halvekutils/help/HelpSearch.h>
 
-#include <memory>
 
 using namespace halvek;
 

@@ -9,7 +9,6 @@
 #include <QGuiApplication>
 #include <QTextDocument>
 
-#include <cstdlib>
 
 using namespace halvek;
 

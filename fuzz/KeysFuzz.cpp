@@ -4,10 +4,7 @@
 
 #include <halvekutils/base/KeyedCollection.h>
 
-#include <algorithm>
-#include <memory>
 #include <optional>
-#include <utility>
 
 using namespace halvek;
 

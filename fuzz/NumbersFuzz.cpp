@@ -4,8 +4,6 @@
 #include <halvekutils/base/NumericText.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <optional>
 #include <regex>
 
 using namespace halvek;

@@ -6,7 +6,6 @@
 #include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/printers/PrinterAnswer.h>
 
-#include <string>
 
 using namespace halvek;
 

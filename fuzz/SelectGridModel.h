@@ -3,7 +3,6 @@
 
 #include "fuzz/FuzzTarget.h"
 
-#include <algorithm>
 
 namespace halvek {
 

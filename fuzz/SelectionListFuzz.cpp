@@ -4,8 +4,8 @@
 #include <halvekutils/base/CaseFolding.h>
 #include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/selection/SelectionList.h>
+#include <halvekutils/selection/SelectionSearch.h>
 
-#include <algorithm>
 #include <map>
 
 using namespace halvek;
@@ -35,12 +35,78 @@ std::vector<Entry> EntriesOf(const std::u16string& text, bool doNotIncludeDelete
     return entries;
 }
 
+/// As people type a name: the first letter of each row stands for all others of it.
+std::u16string Plain(std::u16string text) {
+    constexpr std::u16string_view kRows[] = {u"aAàáÀÁ",        u"eEèÉ",    u"sSšŠ",
+                                             u"lLłŁ",          u"oOòøØ",   u"yYýŸ",
+                                             u"'\u2018\u2019", u" \u00A0", u"æÆ"};
+    for (char16_t& character : text) {
+        for (const auto row : kRows) {
+            if (row.find(character) != row.npos) character = row[0];
+        }
+    }
+    return text;
+}
+
+/// 0 for the start of the code, 1 of the description, 2 of a word, 3 for inside; 4 for the entry
+/// for all, 9 for nowhere.
+int FitOf(const Entry& entry, const std::u16string& word, bool isForAll) {
+    const std::u16string code = Plain(Trimmed(entry.code));
+    int fit = 9;
+    for (const bool isCode : {true, false}) {
+        const std::u16string text = isCode ? code : Plain(Trimmed(entry.description));
+        for (std::size_t at = text.find(word); at != text.npos; at = text.find(word, at + 1)) {
+            const bool isInside =
+                at > 0 && std::u16string_view(u"aeosly1æß").find(text[at - 1]) != text.npos;
+            fit = std::min(fit, at == 0 ? (isCode ? 0 : 1) : isInside ? 3 : 2);
+        }
+    }
+    if (isForAll) return std::max(fit, 4);
+    return code.empty() ? 9 : fit;
+}
+
+/// A search for what is typed letter by letter, beside one that looks at every place in every text.
+void CheckSearch(const std::u16string& text, const std::u16string& typed, std::int32_t current) {
+    const SelectionList list(text, false);
+    const auto entries = EntriesOf(text, false);
+    SelectionSearch search(list);
+    for (std::size_t length = 0; length <= 2 * typed.size(); ++length) {
+        const std::size_t taken = std::min(length, 2 * typed.size() - length);
+        const std::u16string word = typed.substr(0, taken);
+        search.Find(word);
+        std::vector<std::int32_t> found;
+        std::int32_t best = 0;
+        int bestFit = 9;
+        for (std::int32_t i = 1; i <= list.LastShown() && !word.empty(); ++i) {
+            const int fit = FitOf(entries[static_cast<std::size_t>(i) - 1], Plain(word), i == 1);
+            if (fit < 9) found.push_back(i);
+            if (fit < bestFit) best = i;
+            bestFit = std::min(fit, bestFit);
+        }
+        const auto at = std::ranges::find(found, current);
+        const auto after = std::ranges::upper_bound(found, current);
+        const auto before = std::ranges::lower_bound(found, current);
+        Require(search.Best() == best && search.Count() == std::ssize(found), "the best of all");
+        Require(search.PlaceOf(current) == (at == found.end() ? 0 : at - found.begin() + 1),
+                "an entry's place among those found");
+        if (found.empty()) continue;
+        Require(
+            search.NextAfter(current, false) == (after == found.end() ? found.front() : *after) &&
+                search.NextAfter(current, true) ==
+                    (before == found.begin() ? found.back() : *std::prev(before)),
+            "the next one and the one before");
+    }
+}
+
 }  // namespace
 
 void halvek::Check(FuzzedDataProvider& input) {
+    constexpr std::u16string_view kLetters = u"::\t\taeosly'  -AEOSLYáÀøŁšß1×\u2019Æ";
     const bool doNotIncludeDeleted = input.ConsumeBool();
+    const auto current = input.ConsumeIntegralInRange(0, 40);
     const std::u16string sought = FuzzText(input, 8);
     const std::u16string text = RestAsText(input, u":\tAb 1");
+    CheckSearch(Narrowed(text, kLetters), Narrowed(sought, kLetters.substr(4)), current);
     const SelectionList list(text, doNotIncludeDeleted);
     const auto entries = EntriesOf(text, doNotIncludeDeleted);
     const auto count = static_cast<std::int32_t>(entries.size());

@@ -13,9 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <optional>
-#include <string>
 
 namespace halvek {
 

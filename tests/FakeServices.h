@@ -3,7 +3,6 @@
 
 #include <halvekutils/platform/Services.h>
 
-#include <string>
 #include <vector>
 
 namespace halvek {

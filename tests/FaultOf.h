@@ -3,7 +3,6 @@
 
 #include <halvekutils/base/RuntimeError.h>
 
-#include <cstdint>
 
 namespace halvek {
 

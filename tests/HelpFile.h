@@ -4,10 +4,6 @@
 #include "tests/TemporaryFolder.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <stdexcept>
-#include <string>
-#include <string_view>
 
 namespace halvek {
 

@@ -3,7 +3,6 @@
 
 #include <halvekutils/platform/Controls.h>
 
-#include <cstdint>
 
 namespace halvek {
 

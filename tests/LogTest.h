@@ -6,10 +6,6 @@
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/Utf8.h>
 
-#include <filesystem>
-#include <set>
-#include <string>
-#include <string_view>
 
 namespace halvek {
 

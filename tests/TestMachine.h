@@ -3,8 +3,6 @@
 
 #include <halvekutils/system/LocalMachine.h>
 
-#include <filesystem>
-#include <string>
 #include <utility>
 
 namespace halvek {

@@ -6,9 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <limits>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <string>
 #include <tuple>
 #include <utility>
 #include <vector>

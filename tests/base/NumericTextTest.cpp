@@ -7,9 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstddef>
 #include <limits>
-#include <string>
 #include <utility>
 #include <vector>
 

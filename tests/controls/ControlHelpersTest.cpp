@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <tuple>
-#include <vector>
 
 namespace halvek {
 namespace {

@@ -7,10 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
-#include <chrono>
-#include <sstream>
-#include <utility>
 
 namespace halvek {
 namespace {

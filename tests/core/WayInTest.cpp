@@ -6,11 +6,7 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/platform/TextField.h>
 
-#include <functional>
-#include <string_view>
 #include <thread>
-#include <utility>
-#include <vector>
 
 namespace halvek {
 namespace {

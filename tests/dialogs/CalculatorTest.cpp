@@ -11,8 +11,6 @@
 #include <fstream>
 #include <map>
 #include <sstream>
-#include <string>
-#include <string_view>
 
 namespace halvek {
 namespace {

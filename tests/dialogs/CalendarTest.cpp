@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
-#include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
 
 namespace halvek {
 namespace {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/LogTest.h"
 
-#include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <sched.h>
@@ -10,12 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <cstddef>
 #include <cstdio>
-#include <exception>
-#include <functional>
-#include <utility>
 
 namespace halvek {
 namespace {

@@ -20,13 +20,8 @@
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <filesystem>
-#include <functional>
 #include <new>
 #include <ostream>
-#include <utility>
 
 namespace halvek {
 namespace {

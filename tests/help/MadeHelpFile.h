@@ -4,9 +4,6 @@
 #include "tests/TemporaryFolder.h"
 
 #include <cstdint>
-#include <filesystem>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace halvek {

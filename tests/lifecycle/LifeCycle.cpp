@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include <cstdint>
-#include <string>
 
 namespace halvek {
 namespace {

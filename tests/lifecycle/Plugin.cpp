@@ -8,8 +8,6 @@
 #include <QWidget>
 
 #include <cstdlib>
-#include <memory>
-#include <string>
 
 using namespace halvek;
 

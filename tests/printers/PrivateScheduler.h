@@ -5,8 +5,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <stdexcept>
-#include <string>
 
 namespace halvek {
 

@@ -4,9 +4,7 @@
 #include <halvekutils/qt/QtText.h>
 
 #include <QLineEdit>
-#include <gtest/gtest.h>
 
-#include <functional>
 
 namespace halvek {
 namespace {

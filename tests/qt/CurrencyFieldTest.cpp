@@ -8,7 +8,6 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 namespace halvek {
 namespace {

@@ -7,8 +7,6 @@
 
 #include <QWidget>
 
-#include <memory>
-#include <string>
 
 namespace halvek {
 

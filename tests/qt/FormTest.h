@@ -11,12 +11,7 @@
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/qt/QtPlatform.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <gtest/gtest.h>
 
-#include <memory>
-#include <optional>
 
 namespace halvek {
 

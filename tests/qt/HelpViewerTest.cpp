@@ -6,7 +6,6 @@
 #include <halvekutils/base/Utf8.h>
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPrintPreviewWidget>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -124,23 +123,18 @@ TEST_F(HelpViewerTest, StaysUsableBesideModalDialogs) {
     }
 }
 
-/// A page that tries everything to leave its file, beside pages to find.
+/// A page that tries everything to leave its file.
 MadeHelpFile TryingFile(const std::string& own) {
-    const std::string list = "<li><object type=text/sitemap><param name=Name value=";
     const std::string tries =
         "<link rel=stylesheet href='file://" + own + ".css'><style>@import url(" + own +
         ".css);body{background:url(" + own + ")}</style><img src='" + own + "'><img src='file://" +
         own + "'><img src='../../../../" + own +
         "'><img src='ms-its:other.chm::/x.png' alt=Other><iframe src='file:///etc/passwd'></iframe>"
         "<a href='javascript:run()' onclick='run()'>Run</a>";
-    return MadeHelpFile(
-        {{"/tries.htm", tries},
-         {"/a.htm", "<title>First</title><p>one needle, two <b>need</b>les"},
-         {"/b.htm", "<title>Second</title><p>" + std::string(3000, 'x') + "<p>a needle"},
-         {"/x.hhk", list + "Alpha><param name=Local value=a.htm></object>" + list +
-                        "Beta><param name=Local value=b.htm></object>" + list +
-                        "Gamma><param name='See Also' value=Alpha></object>"},
-         {"/x.hhc", list + "Web><param name=Local value='https://example.org/help'></object>"}});
+    return MadeHelpFile({{"/tries.htm", tries},
+                         {"/x.hhc",
+                          "<li><object type=text/sitemap><param name=Name value=Web>"
+                          "<param name=Local value='https://example.org/help'></object>"}});
 }
 
 TEST_F(HelpViewerTest, APageGetsNothingFromOutsideItsFile) {
@@ -157,35 +151,6 @@ TEST_F(HelpViewerTest, APageGetsNothingFromOutsideItsFile) {
     ClickLink("Run");
     EXPECT_TRUE(Find<QLabel>(Viewer(), "lblOutside").text().endsWith("javascript:run()"));
     EXPECT_EQ(Page().documentTitle(), QString());
-}
-
-TEST_F(HelpViewerTest, FindsPagesByIndexAndBySearch) {
-    const MadeHelpFile made = TryingFile("/none");
-    utils_->ShowHelpByTopic(0, u"tries.htm", made.Path().u16string());
-    EXPECT_TRUE(Soon([] { return Viewer().isActiveWindow(); }));
-    PressKey(Viewer(), Qt::CTRL | Qt::Key_I);
-    QTest::keyClicks(&Find(Viewer(), "txtIndex"), "be");
-    PressKey(Viewer(), Qt::Key_Return);
-    EXPECT_EQ(Page().documentTitle(), QStringLiteral("Second"));
-    PressKey(Viewer(), Qt::CTRL | Qt::Key_I);
-    QTest::keyClicks(&Find(Viewer(), "txtIndex"), "gam");
-    PressKey(Viewer(), Qt::Key_Down);
-    PressKey(Viewer(), Qt::Key_Return);
-    PressKey(Viewer(), Qt::Key_Return);
-    EXPECT_EQ(Page().documentTitle(), QStringLiteral("First"));
-
-    PressKey(Viewer(), Qt::CTRL | Qt::SHIFT | Qt::Key_F);
-    QTest::keyClicks(&Find(Viewer(), "txtSearch"), "needle");
-    PressKey(Viewer(), Qt::Key_Return);
-    const QLabel& told = Find<QLabel>(Viewer(), "lblSearch");
-    EXPECT_TRUE(Soon([&] { return told.text() == QLatin1String("Found in 2 pages"); }));
-    QListWidget& found = Find<QListWidget>(Viewer(), "lstFound");
-    EXPECT_EQ(found.item(0)->text(), QStringLiteral("First (2)\none needle, two needles"));
-    found.setFocus();
-    found.setCurrentRow(1);
-    PressKey(Viewer(), Qt::Key_Return);
-    EXPECT_EQ(Page().documentTitle(), QStringLiteral("Second"));
-    EXPECT_EQ(Page().textCursor().selectedText(), QStringLiteral("needle"));
 }
 
 TEST_F(HelpViewerTest, AsksTheHostAboutAddressesOutside) {

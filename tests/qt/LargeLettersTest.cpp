@@ -93,29 +93,25 @@ bool HasFixedFont(const QWidget& part) {
 }
 
 void AddFaults(const QWidget& part, QStringList& faults) {
-    const auto fault = [&](const QString& what) {
-        faults += QStringLiteral("%1 %2").arg(part.objectName(), what);
+    const auto fault = [&](const char* what) {
+        faults += QStringLiteral("%1 (%2 x %3) %4")
+                      .arg(part.objectName())
+                      .arg(part.width())
+                      .arg(part.height())
+                      .arg(QLatin1String(what));
     };
     const auto lacks = [](QSize needed, QSize has) {
         return needed.width() > has.width() || needed.height() > has.height();
     };
-    if (lacks(TextSize(part), part.size())) {
-        fault(QStringLiteral("has %1 x %2 for a text of %3 x %4")
-                  .arg(part.width())
-                  .arg(part.height())
-                  .arg(TextSize(part).width())
-                  .arg(TextSize(part).height()));
-    }
-    if (IsTarget(part) && lacks({kLeastTarget, kLeastTarget}, part.size())) {
-        fault(QStringLiteral("is %1 x %2, hard to hit").arg(part.width()).arg(part.height()));
-    }
+    if (lacks(TextSize(part), part.size())) fault("is too small for its text");
+    if (IsTarget(part) && lacks({kLeastTarget, kLeastTarget}, part.size())) fault("is hard to hit");
     if (!HasFixedFont(part) && !TextSize(part).isEmpty() &&
         part.font().pointSizeF() < kSmallest * QApplication::font().pointSizeF()) {
-        fault(QStringLiteral("has %1 points").arg(part.font().pointSizeF()));
+        fault("has small letters");
     }
     if (const auto* const table = qobject_cast<const QTableView*>(&part)) {
         if (table->objectName().startsWith("qt_calendar") && lacks(Lacking(*table), {0, 0})) {
-            fault(QStringLiteral("cuts its cells"));
+            fault("cuts its cells");
         }
     }
     const auto* const message = qobject_cast<const QTextEdit*>(&part);
@@ -130,7 +126,7 @@ void AddFaults(const QWidget& part, QStringList& faults) {
             continue;
         }
         if (!part.rect().contains(widget->geometry()))
-            fault(QStringLiteral("cuts %1").arg(widget->objectName()));
+            faults += QStringLiteral("%1 is cut").arg(widget->objectName());
         for (const QWidget* const other : children) {
             if (!other->geometry().intersects(widget->geometry())) continue;
             faults +=
@@ -144,9 +140,7 @@ std::string FaultsOf(const QWidget& window) {
     QStringList faults;
     AddFaults(window, faults);
     if (!window.screen()->geometry().contains(window.frameGeometry()))
-        faults += QStringLiteral("%1 x %2 do not fit on the screen")
-                      .arg(window.width())
-                      .arg(window.height());
+        faults += "does not fit on the screen";
     return faults.join("; ").toStdString();
 }
 

@@ -5,8 +5,6 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 
-#include <cstdint>
-#include <string_view>
 
 namespace halvek {
 namespace {

@@ -10,7 +10,7 @@
 #include <QScreen>
 
 #include <csignal>
-#include <iostream>
+#include <ostream>
 
 namespace halvek {
 namespace {
@@ -109,30 +109,22 @@ struct ScreensTest : FormTest {
     /// Opens a dialog in front of the user, who looks and closes it.
     void Look(const DialogCall& opening, const std::string& when,
               const std::shared_ptr<OwnerForm>& form = nullptr) {
-        ++looked_;
         const User user([&](QDialog& dialog) {
             const auto misses = [&] {
                 return MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
             };
             const bool fine = QTest::qWaitFor([&] { return misses().empty(); }, 2000);
             EXPECT_TRUE(fine) << opening.name << when << misses();
-            missed_ += !fine;
             dialog.reject();
         });
         opening.open(*utils_, *target_, form);
         EXPECT_TRUE(user.HasActed());
     }
 
-    void Tell(const char* what) const {
-        std::cout << what << ": " << looked_ << " windows, " << missed_ << " misses\n";
-    }
-
     std::unique_ptr<TaskBar> bar_;
     QRect usable_;
     std::unique_ptr<QWidget> host_;
     QPushButton* target_ = nullptr;
-    int looked_ = 0;
-    int missed_ = 0;
 };
 
 /// On a desktop that decides itself where windows are and which of them is active
@@ -181,7 +173,6 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
             }
         }
     }
-    Tell("dialogs");
 }
 
 TEST_F(ScreensTest, ADialogStandsWhereAskedThoughTheWindowManagerIsSlow) {
@@ -191,20 +182,17 @@ TEST_F(ScreensTest, ADialogStandsWhereAskedThoughTheWindowManagerIsSlow) {
     for (const DialogCall& opening : kDialogCalls) {
         ::kill(manager, SIGSTOP);
         QTimer::singleShot(700, [&] { ::kill(manager, SIGCONT); });
-        ++looked_;
         const User user([&](QDialog& dialog) {
             EXPECT_TRUE(Soon([&] { return dialog.windowHandle()->isExposed(); })) << opening.name;
             QTest::qWait(300);
             const std::string misses = MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
             EXPECT_EQ(misses, "") << opening.name;
-            missed_ += !misses.empty();
             dialog.reject();
         });
         opening.open(*utils_, *target_, nullptr);
         EXPECT_TRUE(user.HasActed());
         EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
     }
-    Tell("slow window manager");
 }
 
 /// Another program that the user types into.
@@ -262,7 +250,6 @@ TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) 
     };
     for (const DialogCall& opening : calls)
         Look(opening, ", form to refresh", AsOwnerForm(host_.get()));
-    Tell("forms to refresh");
 }
 
 TEST_F(ScreensTest, TheKeyboardComesBackFromADialogThoughTheWindowManagerLosesIt) {
@@ -290,11 +277,8 @@ TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
         const QWidget& window = Window(name);
         const bool fits = QTest::qWaitFor([&] { return MissesOf(window, false).empty(); }, 2000);
         EXPECT_TRUE(fits) << name << MissesOf(window, false);
-        ++looked_;
-        missed_ += !fits;
     }
     EXPECT_FALSE(Window("frmDebug").isActiveWindow());
-    Tell("help and console");
 }
 INSTANTIATE_TEST_SUITE_P(Screens, OtherWindowsTest, ::testing::Values(0, 1));
 
@@ -322,8 +306,6 @@ TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
             EXPECT_TRUE(asks || AttendsToHiddenWindowsOnly()) << opening.name << state;
             const std::string misses = MissesOf(*dialog, opening.isBeside) + OwnerMiss(*dialog);
             EXPECT_EQ(misses, "") << opening.name;
-            ++looked_;
-            missed_ += HasFailure();
             Told("wmctrl -i -a " + IdOf(*dialog));
             EXPECT_TRUE(Soon([&] { return dialog->isActiveWindow(); })) << opening.name;
             dialog->close();
@@ -334,7 +316,6 @@ TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
         host_->activateWindow();
         EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
     }
-    Tell("in the background");
 }
 
 }  // namespace

@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QColor>
-#include <QDialog>
 #include <QFile>
 #include <QPointer>
 #include <QPushButton>
@@ -21,8 +20,6 @@
 #include <QWindow>
 
 #include <algorithm>
-#include <memory>
-#include <utility>
 
 using namespace halvek;
 
@@ -35,6 +32,13 @@ Utils& Library() {
     return *Utils::CurrentUtils();
 }
 
+/// The lines of a file beside this one.
+QStringList LinesOf(const QString& name) {
+    QFile file(HALVEK_TEST_DATA "/stage/" + name);
+    if (!file.open(QIODevice::ReadOnly)) qFatal("there is no %s", qPrintable(file.fileName()));
+    return QString::fromUtf8(file.readAll()).split('\n');
+}
+
 /// Null when it is not on the screen.
 QWidget* Shown(const char* name) {
     for (QWidget* const window : QApplication::topLevelWidgets())
@@ -42,136 +46,74 @@ QWidget* Shown(const char* name) {
     return nullptr;
 }
 
-// Message boxes
+/// The fields of each call of a kind in calls.txt, which explains them.
+std::vector<QStringList> CallsOf(const QString& kind) {
+    std::vector<QStringList> calls;
+    for (const QString& line : LinesOf("calls.txt")) {
+        QStringList fields;
+        for (const QString& field : line.split('|')) fields += field.trimmed().replace('~', ' ');
+        if (fields[0].section(' ', 0, 0) == kind) calls.push_back(fields);
+    }
+    return calls;
+}
 
-struct Box {
-    QString name;
-    QString prompt;
-    ButtonsChoice buttons = mbOkOnly;
-    IconChoice icon = mbNoIcon;
-    const char* title = "Visits";
-    ColorChoice background = mbWhite;
-    FontSizeChoice font = mb9;
-    bool isBold = false;
-    int seconds = 0;
-};
+// Message boxes
 
 // What each set of buttons may give, in the order of their values
 constexpr const char* kLegal[] = {"1",   "1|2", "3|4|5", "2|6|7",  "6|7", "2|4",
                                   "8|9", "1",   "6|10",  "6|7|10", "1|10"};
 
-QString Lines(int count) {
-    QString text = "These visits have no diagnosis yet:\r\n";
-    for (int i = 1; i <= count; ++i)
-        text += QString("\r\nVisit %1, room %2").arg(1000 + i).arg(i % 9);
-    return text;
-}
-
-QString ShowBox(const Box& box) {
-    ColorChoice background = box.background;
-    FontSizeChoice font = box.font;
-    const QString prompt = box.prompt;
-    QString result =
-        QString::number(Library().ShowMsgBox(prompt, box.buttons, box.icon, QString(box.title),
-                                             background, font, box.isBold, box.seconds));
-    if (background != box.background || font != box.font)
-        result += QString(", background %1, font %2").arg(background).arg(font);
+QString ShowBox(const QStringList& fields) {
+    const QStringList looks = fields[1].split(',');
+    const auto look = [&](int at, int usual) {
+        return at < looks.size() ? looks[at].toInt() : usual;
+    };
+    const auto background = static_cast<ColorChoice>(look(2, mbWhite));
+    const auto font = static_cast<FontSizeChoice>(look(3, mb9));
+    ColorChoice backgroundUsed = background;
+    FontSizeChoice fontUsed = font;
+    QString prompt = fields[3];
+    prompt.replace('^', "\r\n");
+    if (fields.size() > 4) prompt = prompt.repeated(fields[4].toInt());
+    QString result = QString::number(Library().ShowMsgBox(
+        prompt, static_cast<ButtonsChoice>(looks[0].toInt()), static_cast<IconChoice>(look(1, 0)),
+        fields[2], backgroundUsed, fontUsed, look(4, 0) != 0, look(5, 0)));
+    if (backgroundUsed != background || fontUsed != font)
+        result += QString(", background %1, font %2").arg(backgroundUsed).arg(fontUsed);
     return result;
 }
 
-std::vector<Box> Boxes() {
-    const auto none = [](auto kind) { return static_cast<decltype(kind)>(99); };
-    std::vector<Box> boxes = {
-        {"box ok", "The appointment was saved.", mbOkOnly, mbInformation, "Appointments"},
-        {"box ok cancel", "Print three statements?", mbOkCancel, mbPrint, "Statements"},
-        {"box abort retry ignore",
-         "The claim file could not be sent.\r\n\r\nThe line to the clearinghouse was busy.",
-         mbAbortRetryIgnore, mbCritical, "Claims"},
-        {"box yes no cancel", "This visit has changed. Post it before you close the window?",
-         mbYesNoCancel, mbQuestion},
-        {"box yes no", "Delete the visit of 03/07/2004?\r\n\r\nThis cannot be undone.", mbYesNo,
-         mbTrash},
-        {"box retry cancel", "Another desk is changing this account.", mbRetryCancel,
-         mbExclamation},
-        {"box save dont save", "The referral has unsaved changes.", mbSaveDontSave, mbQuestion},
-        {"box no buttons", "The patient is due for a recall in May.", mbNoButtons, mbReminder},
-        {"box yes help", "The insurance ended on 02/29/2004. Bill it all the same?", mbYesHelp,
-         mbExclamationCritical},
-        {"box yes no help", "Two patients have this name and birth date. Merge their charts?",
-         mbYesNoHelp, mbQuestion},
-        {"box ok help", "This procedure needs a modifier.", mbOkHelp, mbExclamation},
-        {"box long", Lines(60), mbOkCancel, mbExclamation},
-        {"box wide",
-         QString("The plan does not cover this service, as its terms say. ").repeated(14), mbOkHelp,
-         mbInformation},
-        {"box huge", Lines(5000), mbYesNo, mbQuestion, "Visits", mbSkinColor},
-        {"box bold", "Room 4 is ready.", mbOkOnly, mbReminder, "Rooms", mbSkinColor, mb14, true},
-        {"box countdown", "The schedule is about to close.", mbOkCancel, mbReminder, "Schedule",
-         mbGray, mb10, false, 30},
-        {"box countdown ends", "The schedule closes.", mbOkCancel, mbReminder, "Schedule", mbWhite,
-         mb9, false, 1},
-        {"box markup", "<b>Lab & Pharmacy</b> &amp; [*] is text,\r\nnot <i>markup</i>.", mbOkOnly,
-         mbNoIcon, "Lab & Pharmacy [*] <b>"},
-        {"box empty", "", mbOkCancel, mbNoIcon, ""},
-        {"box unknown", "No such values", none(mbOkOnly), none(mbNoIcon), "Visits", none(mbWhite),
-         none(mb9)},
-    };
-    for (int i = 0; i < 9; ++i) {
-        boxes.push_back({QString("icon %1").arg(i), "One of nine icons.", mbOkOnly,
-                         static_cast<IconChoice>(i)});
-        boxes.push_back({QString("font %1").arg(i + 1),
-                         "This is one of nine fonts. The insurance of this patient ended on "
-                         "02/29/2004, before the "
-                         "date of the visit. Claims for the visit will be denied unless another "
-                         "policy is entered "
-                         "first.\r\n\r\nBill the visit to the patient?",
-                         mbOkCancel, mbInformation, "Visits", mbWhite,
-                         static_cast<FontSizeChoice>(i + 1)});
-    }
-    return boxes;
-}
-
 void AddBoxes(std::vector<Call>& calls) {
-    for (const Box& box : Boxes()) {
-        QString legal = box.buttons > mbOkHelp ? "1.*" : kLegal[box.buttons];
-        if (box.seconds > 0) legal += "|99";
-        calls.push_back({box.name, legal, [box](QWidget&) { return ShowBox(box); }});
+    for (const QString kind : {"box", "icon", "font"}) {
+        for (const QStringList& fields : CallsOf(kind)) {
+            const QStringList looks = fields[1].split(',');
+            QString legal = looks[0].toInt() > mbOkHelp ? "1.*" : kLegal[looks[0].toInt()];
+            if (looks.size() > 5) legal += "|99";
+            calls.push_back({fields[0], legal, [fields](QWidget&) { return ShowBox(fields); }});
+        }
     }
 }
 
 // Pop-ups
 
 void AddCalendars(std::vector<Call>& calls) {
-    const struct {
-        const char *name, *day, *preset;
-        bool isBeside, hasDigits;
-    } rows[] = {{"calendar", "3/7/2004", "", true, false},
-                {"calendar first", "1/1/1753", "", false, false},
-                {"calendar last", "12/31/9999", "", false, false},
-                {"calendar preset", "", "2/29/2004", false, false},
-                {"calendar digits", "03071954", "", false, true},
-                {"calendar today", "", "", true, false}};
-    for (const auto& row : rows) {
-        const auto open = [row](QWidget& owner) {
-            const QString day = row.day, preset = row.preset;
-            return ToQString(row.isBeside ? Library().ShowCalendarAndCalculateCoordinates(
-                                                Beside(&owner), day, preset, nullptr, row.hasDigits)
-                                          : Library().ShowCalendar(-1, -1, -1, day, preset, nullptr,
-                                                                   row.hasDigits));
+    for (const QStringList& fields : CallsOf("calendar")) {
+        const auto open = [fields](QWidget& owner) {
+            const bool hasDigits = fields[3].contains("digits");
+            return ToQString(
+                fields[3].contains("beside")
+                    ? Library().ShowCalendarAndCalculateCoordinates(Beside(&owner), fields[1],
+                                                                    fields[2], nullptr, hasDigits)
+                    : Library().ShowCalendar(-1, -1, -1, fields[1], fields[2], nullptr, hasDigits));
         };
-        calls.push_back({row.name, R"(|(0[1-9]|1[0-2])/([0-2]\d|3[01])/\d{4})", open});
+        calls.push_back({fields[0], R"(|(0[1-9]|1[0-2])/([0-2]\d|3[01])/\d{4})", open});
     }
 }
 
 void AddCalculators(std::vector<Call>& calls) {
-    const std::pair<const char*, const char*> rows[] = {{"calculator", "$1,234.50"},
-                                                        {"calculator 25", "25"},
-                                                        {"calculator empty", ""},
-                                                        {"calculator text", "to be billed"},
-                                                        {"calculator large", "9E+307"}};
-    for (const auto& [name, amount] : rows) {
+    for (const QStringList& fields : CallsOf("calculator")) {
         // Any text in the box can be edited: "-5", "1E+16" and "ERROR".
-        calls.push_back({name, "[-+.0-9ERO]*", [start = QString(amount)](QWidget&) {
+        calls.push_back({fields[0], "[-+.0-9ERO]*", [start = fields[1]](QWidget&) {
                              return ToQString(Library().Calculate(start));
                          }});
     }
@@ -189,28 +131,21 @@ StringArray Hues(int count, int gap) {
 }
 
 void AddPalettes(std::vector<Call>& calls) {
-    const struct {
-        const char* name;
-        int count, gap;
-        bool isBeside;
-    } rows[] = {{"palette", 28, 99, true},
-                {"palette one", 1, 2, false},
-                {"palette gaps", 58, 7, false},
-                {"palette 10000", 10'000, 10'001, false}};
-    for (const auto& row : rows) {
-        const auto open = [row](QWidget& owner) {
-            const StringArray colors = Hues(row.count, row.gap);
+    for (const QStringList& fields : CallsOf("palette")) {
+        const int count = fields[1].toInt();
+        const auto open = [=](QWidget& owner) {
+            const StringArray colors = Hues(count, fields[2].toInt());
             Library().InitPrefs(colors, 0xD8E4BC, 0x402000, 0xC0C0C0, 0xC0FFFF);
-            const QString chosen =
-                ToQString(row.isBeside ? Library().ShowColorAndCalculateCoordinates(Beside(&owner))
-                                       : Library().ShowColor());
+            const QString chosen = ToQString(
+                fields[3] == "beside" ? Library().ShowColorAndCalculateCoordinates(Beside(&owner))
+                                      : Library().ShowColor());
             const int index = chosen.section('\t', 1).toInt();
             if (chosen.isEmpty()) return QString("no color");
             const bool isItsColor =
                 index > 0 && chosen.section('\t', 0, 0) == ToQString(colors[index]);
             return isItsColor ? QString("color %1").arg(index) : "not a color: " + chosen;
         };
-        calls.push_back({row.name, row.count < 100 ? R"(no color|color \d+)" : "", open});
+        calls.push_back({fields[0], count < 100 ? R"(no color|color \d+)" : "", open});
     }
 }
 
@@ -233,41 +168,25 @@ QString LegalCodes(const QString& list, const QString& chosen, bool isActiveOnly
 }
 
 void AddLists(std::vector<Call>& calls) {
-    const struct {
-        const char *name, *title, *chosen, *typed;
-        bool isBeside, isActiveOnly;
-    } rows[] = {{"list insurance", "Insurance Types", "MB,MG", "", true, false},
-                {"list typed", "Insurance Types", "MB,MG", "W", true, false},
-                {"list providers", "Providers", "CAS,OST", "", false, false},
-                {"list active", "Providers", "CAS,OST", "", true, true},
-                {"list places", "Places of Service", "11", "", false, false},
-                {"list locations", "Locations", "NC", "", true, false},
-                {"list long codes", "Authorizations", "AUTH-2004-000117-NORTH", "", false, false},
-                {"list one", "Billing Entities", "", "", false, false},
-                {"list two", "Signature on File", "Y", "", false, false},
-                {"list unknown", "Insurance Types", " MB , QQ, it's", "", false, false},
-                {"list patients", "Patients", "P10,P20,P30", "", false, false},
-                {"list empty", "Recall Reasons", "", "", false, false},
-                {"list missing", "Modifiers", "25,59", "", false, false}};
-    for (const auto& row : rows) {
-        const auto list = [row] {
-            const QString title = row.title;
+    for (const QStringList& fields : CallsOf("list")) {
+        const QString title = fields[1], chosen = fields[2];
+        const bool isActiveOnly = fields[4].contains("active");
+        const auto list = [title] {
             if (title == "Patients") return ManyPatients();
             return title == "Recall Reasons" ? QString("Code\tDescription:") : ListNamed(title);
         };
-        const auto open = [row, list](QWidget& owner) {
-            const QString title = row.title, values = list(), chosen = row.chosen;
-            std::u16string typed = QString(row.typed).toStdU16String();
+        const auto open = [=](QWidget& owner) {
+            std::u16string typed = fields[3].toStdU16String();
+            const QString values = list();
             QString result = ToQString(
-                row.isBeside
+                fields[4].contains("beside")
                     ? Library().ShowSelectionGridAndCalculateCoordinates(
-                          title, values, chosen, Beside(&owner), nullptr, typed, row.isActiveOnly)
+                          title, values, chosen, Beside(&owner), nullptr, typed, isActiveOnly)
                     : Library().ShowSelection(title, values, chosen, -1, -1, -1, nullptr, typed));
             return typed.empty() ? result : "the typed character is left: " + result;
         };
-        const bool isLarge = QString(row.title) == "Patients";
-        calls.push_back(
-            {row.name, isLarge ? "" : LegalCodes(list(), row.chosen, row.isActiveOnly), open});
+        const bool isLarge = title == "Patients";
+        calls.push_back({fields[0], isLarge ? "" : LegalCodes(list(), chosen, isActiveOnly), open});
     }
 }
 
@@ -278,7 +197,7 @@ void AddConsoles(std::vector<Call>& calls) {
         StartSession(log_, true);
         Library().ClearDebug();
         for (int i = 1; i <= lines; ++i) Library().ShowInDebug(QString("Line %1").arg(i));
-        if (isBesideBox) ShowBox({"", "Look at the debug console.", mbOkOnly, mbInformation});
+        if (isBesideBox) ShowBox({"", "0,2", "Visits", "Look at the debug console."});
         if (QWidget* const window = Shown("frmDebug")) WaitUntilClosed(*window);
         const auto text = ToQString(DebugConsole::Current()->Text());
         StartSession(log_, false);
@@ -368,9 +287,7 @@ const Call* FindCall(const QString& name) {
 }
 
 QString ListNamed(const QString& name) {
-    QFile file(HALVEK_TEST_DATA "/stage/lists.txt");
-    if (!file.open(QIODevice::ReadOnly)) qFatal("there is no %s", qPrintable(file.fileName()));
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
+    for (const QString& line : LinesOf("lists.txt"))
         if (line.section('=', 0, 0) == name) return line.section('=', 1);
     return {};
 }

@@ -19,7 +19,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 using halvek::Utils;
 

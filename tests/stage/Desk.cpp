@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -22,8 +21,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include <functional>
-#include <utility>
 
 using namespace halvek;
 
@@ -70,7 +67,6 @@ Desk::Desk(std::shared_ptr<Utils> utils) : utils_(std::move(utils)), page_(new P
     BuildLibraryButtons();
     BuildClosingButtons();
     BuildActions();
-    utils_->InitServerTime(QString("1/1/2001 10:00"));
     Field("Note").setFocus();
 }
 
@@ -132,13 +128,6 @@ void Desk::BuildLibraryButtons() {
     const Act color = [this](QPushButton& button) {
         return Text(utils_->ShowColorAndCalculateCoordinates(Beside(&button))).replace('\t', ' ');
     };
-    const Act clock = [this](QPushButton&) {
-        utils_->InitServerTime(Field("Note").text());
-        return Text(DateTimeText(utils_->ServerTime())).left(16);
-    };
-    const Act digits = [this](QPushButton&) {
-        return Text(utils_->ConvertNumberToDate(Field("Note").text(), true));
-    };
     const struct {
         QLayout* column;
         const char *name, *got;
@@ -150,8 +139,6 @@ void Desk::BuildLibraryButtons() {
         {right_, "Day", "day", day},
         {right_, "Color", "color", color},
         {right_, "Beneath", "pressed through", [](QPushButton&) { return QString(); }},
-        {left_, "Clock", "clock", clock},
-        {left_, "Digits", "date", digits},
         {left_, "Providers", "providers", choose("300 Providers")},
         {left_, "Insurance", "insurance", choose("Three Insurances")},
         // The host itself marks it as needing no valid fields.

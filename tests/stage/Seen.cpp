@@ -12,10 +12,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMetaEnum>
 #include <QScreen>
+#include <QSet>
 #include <QTableView>
 #include <QTextEdit>
 #include <QVariant>
+#include <QWindow>
 
 namespace {
 
@@ -66,7 +69,7 @@ QString TextOf(const QWidget& control) {
         return button->text();
     }
     if (const auto* const lines = qobject_cast<const QTextEdit*>(&control)) {
-        return lines->toPlainText();
+        return lines->toPlainText().replace('\n', ';');
     }
     // Of a picker, the entry that a screen reader says
     if (qobject_cast<const QAbstractItemView*>(&control) != nullptr) {
@@ -96,6 +99,29 @@ QString PartOf(const QWidget& control, const QString& part) {
     return control.property(part.toUtf8()).toString();
 }
 
+/// Adds every usable control that a screen reader meets: its name in the program (none for a cell),
+/// its role and its accessible name.
+void Hear(QAccessibleInterface* part, QStringList& heard) {
+    if (part == nullptr || part->state().invisible) return;
+    const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(part->role());
+    const QString object = part->object() == nullptr ? "" : part->object()->objectName();
+    const QString name = part->text(QAccessible::Name);
+    static const QSet<int> kUsed = {QAccessible::Dialog, QAccessible::Button,
+                                    QAccessible::ButtonMenu, QAccessible::Graphic,
+                                    QAccessible::EditableText};
+    const bool isCell = part->object() == nullptr;
+    const bool isUsed = part->state().focusable || kUsed.contains(part->role());
+    if (isCell ? name.size() > 2 : isUsed)
+        heard += QString("%1 %2 %3").arg(object, role, name).trimmed();
+    for (int i = 0; i < part->childCount(); ++i) Hear(part->child(i), heard);
+}
+
+QString HeardIn(const QWidget& front) {
+    QStringList heard;
+    Hear(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&front)), heard);
+    return heard.join(", ");
+}
+
 QString HeldKeys() {
     const auto utils = halvek::Utils::CurrentUtils();
     return QString(utils->ShiftPressed() ? "Shift " : "") + (utils->CtrlPressed() ? "Ctrl " : "") +
@@ -119,6 +145,8 @@ QString TextSeen(const QWidget& front, const QString& name) {
         return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "nobody";
     }
     if (name == "keys") return HeldKeys().trimmed();
+    if (name == "heard") return HeardIn(front);
+    if (name == "title") return front.windowHandle()->title();
     if (name == "clipboard") return QApplication::clipboard()->text().replace("\r\n", ";");
     const QWidget* const control = Find(front, name.section('.', 0, 0));
     if (control == nullptr) return "not seen";

@@ -15,5 +15,6 @@ std::optional<QPoint> PlaceOf(const QWidget& front, const QString& name);
 
 /// A text box's or button's text, or another part: ".selected" text, ".row0" of a grid, ".inside"
 /// whether all of a window is on the screen; "focus" for the control with the keyboard, "keys" for
-/// Shift, Ctrl and Alt while held, "clipboard" for its text.
+/// Shift, Ctrl and Alt while held, "clipboard" for its text, "title" for the window's, "heard" for
+/// all controls as screen readers meet them. ";" ends a line.
 QString TextSeen(const QWidget& front, const QString& name);

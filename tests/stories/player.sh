@@ -100,12 +100,13 @@ numbers_are() {
 }
 
 # Presses and releases a button without the tenth of a second that xdotool's own click takes.
+# Usage: click_here [BUTTON]
 click_here() {
     over=pointer act 0 || return
-    act 1 "mousedown 1" "mouseup 1"
+    act 1 "mousedown ${1:-1}" "mouseup ${1:-1}"
 }
 
-# Clicks the middle of a control
+# Clicks the middle of a control. Usage: click_on NAME [BUTTON]
 click_on() {
     echo "where ${1/#day:/qt_calendar_calendarview:}" >&"$questions"
     hear && [ "$answer" != nowhere ] || {
@@ -113,7 +114,7 @@ click_on() {
         return 1
     }
     echo "mousemove ${answer#at }" >&"$hand"
-    click_here
+    click_here "${2:-}"
 }
 
 press() {
@@ -184,6 +185,7 @@ take_step() {
         echo slow-hand >&"$questions"
         click_on "${1:2:-2}" && click_here
         ;;
+    \<*:menu\>) click_on "${1:1:-6}" 3 ;;
     \<*\>) click_on "${1:1:-1}" ;;
     \'*\') type_text "${1:1:-1}" ;;
     \?*) echo "read ${1:1}" >&"$questions" && act 0 ;;

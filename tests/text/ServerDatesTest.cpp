@@ -2,7 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <functional>
 #include <initializer_list>
 
 namespace halvek {
@@ -38,12 +37,15 @@ TEST_F(ServerDates, DaysAndSecondsAreDatesOverTheWholeRange) {
 }
 
 TEST_F(ServerDates, EveryObjectKeepsItsServersClock) {
+    Start(true);
+    utils_->ClearDebug();
     utils_->InitServerTime(u"3/5/2024 09:08:33 AM");
     for (const TextIn noDate :
          {u"", u"2/30/2024", u"nan", u"2024-03-05T09:08:34Z", u"3/5/2024 9:08:34+01:00", u", 9:08",
           u"3/5/2024,, 9:08", u"3/5/2024 9:08.5", u"3/5/2024 9:08:34.", u"9:08:34.5.5"}) {
         utils_->InitServerTime(noDate);
     }
+    EXPECT_TRUE(desktop_.Console()->Text().ends_with(u": not a date: 9:08:34.5.5\r\n"));
     EXPECT_EQ(FaultOf([&] { utils_->InitServerTime(u"3/24/2092"); }), 6);
     machine_.now = MakeDateTime(2024, 12, 31, 23, 58, 30);
     EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2025, 1, 1));
