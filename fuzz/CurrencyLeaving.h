@@ -8,7 +8,6 @@
 #include <halvekutils/currency/CurrencyHandlers.h>
 #include <halvekutils/platform/TextField.h>
 
-
 namespace halvek {
 
 /// The cents of a bare number, read digit by digit; nothing for any other text.

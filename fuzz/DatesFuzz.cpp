@@ -6,7 +6,6 @@
 #include <halvekutils/core/ServerTextCheck.h>
 #include <halvekutils/text/ServerDates.h>
 
-
 using namespace halvek;
 
 namespace {

@@ -6,7 +6,6 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/text/CharacterFilter.h>
 
-
 using namespace halvek;
 
 namespace {

@@ -6,7 +6,6 @@
 #include <halvekutils/help/CompiledHelp.h>
 #include <halvekutils/help/HelpSearch.h>
 
-
 using namespace halvek;
 
 void halvek::Check(FuzzedDataProvider& input) {

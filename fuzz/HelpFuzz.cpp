@@ -7,7 +7,6 @@
 #include <halvekutils/help/HelpTopic.h>
 #include <halvekutils/help/LzxDecoder.h>
 
-
 using namespace halvek;
 
 namespace {

@@ -9,7 +9,6 @@
 #include <QGuiApplication>
 #include <QTextDocument>
 
-
 using namespace halvek;
 
 namespace {

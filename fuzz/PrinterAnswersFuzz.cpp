@@ -6,7 +6,6 @@
 #include <halvekutils/printers/CupsPrinters.h>
 #include <halvekutils/printers/PrinterAnswer.h>
 
-
 using namespace halvek;
 
 namespace {

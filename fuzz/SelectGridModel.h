@@ -3,7 +3,6 @@
 
 #include "fuzz/FuzzTarget.h"
 
-
 namespace halvek {
 
 /// The rules of a selection dialog written plainly: every look-up is a scan, every text is built

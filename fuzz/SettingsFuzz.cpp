@@ -5,7 +5,6 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/core/ServerTextCheck.h>
 
-
 using namespace halvek;
 
 namespace {

@@ -13,7 +13,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace halvek {
 
 /// The component as in a new process, before the first InitUtils, on the test's own machine and

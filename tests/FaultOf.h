@@ -3,7 +3,6 @@
 
 #include <halvekutils/base/RuntimeError.h>
 
-
 namespace halvek {
 
 /// The number of the fault that the action throws; 0 when it throws none.

@@ -3,7 +3,6 @@
 
 #include <halvekutils/platform/Controls.h>
 
-
 namespace halvek {
 
 /// A window of the host's that counts how often it is refreshed.

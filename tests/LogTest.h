@@ -6,7 +6,6 @@
 #include <halvekutils/base/CodePage.h>
 #include <halvekutils/base/Utf8.h>
 
-
 namespace halvek {
 
 using Names = std::set<std::string>;

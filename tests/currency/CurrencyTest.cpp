@@ -4,8 +4,6 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/platform/TextField.h>
 
-
-
 // The step of the walk in dollars; a separate program takes every dollar.
 #ifndef HALVEK_DOLLAR_STEP
 #define HALVEK_DOLLAR_STEP 101

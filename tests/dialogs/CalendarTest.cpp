@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/CleanState.h"
 
-
-
 namespace halvek {
 namespace {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/LogTest.h"
 
-
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>

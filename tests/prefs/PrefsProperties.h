@@ -4,7 +4,6 @@
 #include <halvekutils/base/BoolIn.h>
 #include <halvekutils/prefs/UserPrefs.h>
 
-
 namespace halvek {
 
 /// A property of the user preferences and its field of the settings text.

@@ -8,7 +8,6 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
-
 namespace halvek {
 namespace {
 

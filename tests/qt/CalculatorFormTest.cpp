@@ -5,7 +5,6 @@
 
 #include <QLineEdit>
 
-
 namespace halvek {
 namespace {
 

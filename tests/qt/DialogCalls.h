@@ -7,7 +7,6 @@
 
 #include <QWidget>
 
-
 namespace halvek {
 
 /// A call of each dialog, for what must hold for all of them.

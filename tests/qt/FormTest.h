@@ -11,8 +11,6 @@
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/qt/QtPlatform.h>
 
-
-
 namespace halvek {
 
 /// A session on the Qt desktop. Ends without a dialog on the screen or a line in the error log.

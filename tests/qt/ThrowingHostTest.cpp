@@ -3,7 +3,6 @@
 #include "tests/qt/DialogCalls.h"
 #include "tests/qt/FormTest.h"
 
-
 /// Of the leak sanitizer, where there is one.
 extern "C" [[gnu::weak]] void __lsan_disable();
 

@@ -5,7 +5,6 @@
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 
-
 namespace halvek {
 namespace {
 

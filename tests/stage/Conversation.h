@@ -9,7 +9,6 @@
 #include <QWidget>
 #include <QWindow>
 
-
 /// Carries out the commands that the player of the stories writes to the standard input, one a
 /// line:
 ///

@@ -21,7 +21,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-
 using namespace halvek;
 
 namespace {

@@ -11,7 +11,6 @@
 #include <QMainWindow>
 #include <QStandardItemModel>
 
-
 /// The window of a cashier: fields, a table and a form on a record, buttons, a menu and a tool bar.
 /// It records everything that it gets from the library or the user.
 class Desk : public QMainWindow {

@@ -10,10 +10,11 @@
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
 
 namespace halvek {
 namespace {
@@ -162,6 +163,22 @@ TEST_F(LocalMachineFiles, APlantedLogIsRefusedWhereOthersCanWrite) {
         fs::remove(file);
         fs::remove(folder_ / "b.log");
     }
+}
+
+TEST_F(LocalMachineFiles, AFullDiskTakesWholeLinesOnly) {
+    const int fault = InChild([&] {
+        const rlimit limit{4096, 4096};
+        ::signal(SIGXFSZ, SIG_IGN);
+        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return kUnavailable;
+        const std::string half(5000, 'x');
+        Append(folder_ / "a.log", "old ");
+        const int first = FaultOf([&] { machine_.TryAppend(folder_ / "a.log", half, 9999); });
+        const int second = Append(folder_ / "a.log", half);
+        Append(folder_ / "a.log", "fits");
+        return first == second ? first : kUnavailable;
+    });
+    EXPECT_EQ(fault, 61);
+    EXPECT_EQ(ReadFile(folder_ / "a.log"), "old fits");
 }
 
 TEST_F(LocalMachineFiles, ReportsMissingRightsOnAFolder) {
