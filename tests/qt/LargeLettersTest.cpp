@@ -139,7 +139,7 @@ void AddFaults(const QWidget& part, QStringList& faults) {
 std::string FaultsOf(const QWidget& window) {
     QStringList faults;
     AddFaults(window, faults);
-    if (!window.screen()->geometry().contains(window.frameGeometry()))
+    if (!window.screen()->geometry().contains(window.windowHandle()->frameGeometry()))
         faults += "does not fit on the screen";
     return faults.join("; ").toStdString();
 }

@@ -81,7 +81,7 @@ TEST_F(MessageBoxFormTest, TextOfAnyLengthLeavesABoxThatAnswers) {
     for (const auto& text :
          {std::u16string(), Lines(20'000), std::u16string(20'000'000, u'x'), controls}) {
         const auto look = [&](QDialog& box) {
-            const QSize size = box.frameGeometry().size();
+            const QSize size = box.windowHandle()->frameGeometry().size();
             EXPECT_EQ(size.boundedTo(box.screen()->availableSize()), size);
             EXPECT_LE(box.windowHandle()->title().size(), 2000);
             PressKey(box, Qt::Key_N);
@@ -241,7 +241,8 @@ TEST_F(MessageBoxFormTest, ABoxIsCentredOnItsOwner) {
     const auto active = OpenHostWindow(QRect(10, 10, 200, 100));
     const auto owner = AsOwnerForm(host.get());
     const User user([&](QDialog& box) {
-        const QPoint off = box.frameGeometry().center() - host->frameGeometry().center();
+        const QPoint off = box.windowHandle()->frameGeometry().center() -
+                           host->windowHandle()->frameGeometry().center();
         EXPECT_LE(off.manhattanLength(), 4);
         PressKey(box, Qt::Key_N);
     });

@@ -20,6 +20,16 @@ constexpr struct {
                {QPalette::HighlightedText, 0xFFFFFF, 0x10151C},
                {QPalette::Link, 0x0A58B0, 0x7DBBFF}};
 
+/// White on black, and nothing between them
+QPalette HighContrast() {
+    QPalette colors(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::white,
+                    Qt::black, Qt::black);
+    colors.setColor(QPalette::Highlight, Qt::yellow);
+    colors.setColor(QPalette::HighlightedText, Qt::black);
+    colors.setColor(QPalette::Link, Qt::cyan);
+    return colors;
+}
+
 }  // namespace
 
 void UseLooks(const QString& palette, int points) {
@@ -27,6 +37,7 @@ void UseLooks(const QString& palette, int points) {
     const bool isDark = palette == "dark";
     QPalette colors = isDark ? QPalette(0x3B3E43, 0x2B2D30) : QPalette(0xEFEFEF, 0xEFEFEF);
     for (const auto& [role, light, dark] : kColors) colors.setColor(role, isDark ? dark : light);
+    if (palette == "contrast") colors = HighContrast();
     QApplication::setPalette(colors);
     QToolTip::setPalette(colors);
     QApplication::setCursorFlashTime(0);

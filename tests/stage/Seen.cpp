@@ -94,7 +94,8 @@ QString PartOf(const QWidget& control, const QString& part) {
     }
     if (part == "inside") {
         const QRect screen = control.screen()->availableGeometry();
-        return screen.contains(control.frameGeometry()) ? "true" : "false";
+        return screen.contains(control.window()->windowHandle()->frameGeometry()) ? "true"
+                                                                                  : "false";
     }
     return control.property(part.toUtf8()).toString();
 }

@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
     options.addHelpOption();
     options.addOptions({
         {"player", "Do what the standard input says, for stories by real keys."},
-        {"palette", "Use these <colours>: light or dark.", "colours", "light"},
+        {"palette", "Use these <colours>: light, dark or contrast.", "colours", "light"},
         {"font", "Use a font of so many <points>.", "points", "0"},
     });
     options.process(app);
