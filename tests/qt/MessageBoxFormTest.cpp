@@ -257,6 +257,35 @@ TEST_F(MessageBoxFormTest, ABoxIsCentredOnItsOwner) {
     EXPECT_TRUE(user.HasActed() && another.HasActed());
 }
 
+TEST_F(MessageBoxFormTest, ABoxIsAsLargeWhateverItsOwnerDoes) {
+    const auto host = OpenHostWindow(QRect(50, 50, 300, 200));
+    QSize ordinary;
+    const auto look = [&](QDialog& box) {
+        if (ordinary.isEmpty()) ordinary = box.size();
+        EXPECT_EQ(box.size(), ordinary);
+        PressKey(box, Qt::Key_N);
+    };
+    EXPECT_EQ(Answer(mbYesNo, look), mbNo);
+    const std::function<void()> changes[] = {[&] { host->setWindowState(Qt::WindowMaximized); },
+                                             [&] { host->setWindowState(Qt::WindowFullScreen); },
+                                             [&] { host->setWindowState(Qt::WindowNoState); },
+                                             [&] { host->setFixedSize(300, 500); },
+                                             [&] { host->setWindowState(Qt::WindowMaximized); },
+                                             [&] { host->move(-2000, 5000); }};
+    for (const auto& change : changes) {
+        change();
+        EXPECT_EQ(Answer(mbYesNo, look), mbNo);
+    }
+}
+
+TEST_F(MessageBoxFormTest, ABoxThatAHostMakesTooSmallToSeeIsNotWaitedFor) {
+    qApp->setStyleSheet("QDialog { min-height: 0; max-height: 0 }");
+    const auto box = MakeBox(mbYesNoCancel);
+    desktop_.Show(box, Modality::Modal);
+    qApp->setStyleSheet("");
+    EXPECT_EQ(box->ReturnedValue(), mbCancel);
+}
+
 TEST_F(MessageBoxFormTest, TheDesktopBelongsToTheUserInterfaceThread) {
     std::int32_t fault = 0;
     std::thread([&] { fault = FaultOf([] { QtPlatform elsewhere; }); }).join();

@@ -142,12 +142,20 @@ class Monkey : public QObject {
         QObject::connect(&above, &QTimer::timeout, [this] { Turn(); });
         above.start(0);
         const QPointer<QWidget> front = Front();
-        if (front == nullptr) return QDrag::cancel();
+        if (front == nullptr) return Wait();
         for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
             if (!front->isActiveWindow()) return Activate(*front);
-            waits_ = 0;
+            waits_ = idle_ = 0;
             Act(*front);
         }
+    }
+
+    /// No window is in front for a few turns, while one opens or closes.
+    void Wait() {
+        constexpr int kPatientTurns = 3000;
+        QDrag::cancel();
+        if (++idle_ < kPatientTurns) return;
+        qFatal("a call goes on and no window is shown");
     }
 
     void Activate(QWidget& window) {
@@ -350,7 +358,7 @@ class Monkey : public QObject {
 
     std::mt19937 random_;
     unsigned seed_;
-    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0;
+    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0, idle_ = 0;
     std::vector<MonkeyCall> calls_;
     std::vector<std::unique_ptr<QWidget>> owners_;
     QString ownKeys_ = "A", acts_[kKept];

@@ -67,7 +67,7 @@ void DialogForm::EndShow() {
 
 QPoint DialogForm::PlaceOf(const QWidget* owner) const {
     const QRect frame = WindowOpening::FrameOf(*this);
-    const bool isFramed = isVisible() && frame != geometry();
+    const bool isFramed = isVisible() && !WindowOpening::MarginsOf(*this).isNull();
     const Size outer =
         isFramed ? Size{PixelsToTwips(frame.width()), PixelsToTwips(frame.height())} : outer_;
     const bool isAtOwner = owner != nullptr && !anchor_.screen && !anchor_.HasPosition();

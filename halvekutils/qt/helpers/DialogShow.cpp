@@ -25,7 +25,8 @@ void DialogShow::Modal(QWidget* asked, const Place& place) {
     if (owner != nullptr) {
         connect(owner, &QObject::destroyed, this, [this] { abandon_(); });
     }
-    if (!ended_) loop_.exec();
+    // Qt shows no window without a size, as a host's style sheet may make it; nobody could answer.
+    if (!ended_ && dialog_.windowHandle()->isVisible()) loop_.exec();
     abandon_();
 }
 
@@ -95,7 +96,7 @@ void DialogShow::StandWhereAsked() {
     constexpr qint64 kStillOpening = 500;
     constexpr int kMaxCorrections = 2;
     const QRect frame = WindowOpening::FrameOf(dialog_);
-    const bool isFramed = frame != dialog_.geometry();
+    const bool isFramed = !WindowOpening::MarginsOf(dialog_).isNull();
     if (!isFramed && !sinceExposed_.isValid()) return;
     if (sinceExposed_.isValid() && sinceExposed_.hasExpired(kStillOpening)) return;
     const QPoint corner = place_(owner_);

@@ -120,6 +120,11 @@ QRect WindowOpening::Centred(const QSize& outer, const QWidget* owner) const {
 
 // A widget keeps the first margins that it hears of. While the window manager makes the frame, they
 // may be nonsense; the window asks again.
+QMargins WindowOpening::MarginsOf(const QWidget& window) {
+    const QWindow* const handle = window.windowHandle();
+    return handle == nullptr ? QMargins() : handle->frameMargins();
+}
+
 QRect WindowOpening::FrameOf(const QWidget& window) {
     const QWindow* const handle = window.windowHandle();
     return handle == nullptr ? window.geometry() : handle->frameGeometry();
@@ -129,8 +134,8 @@ QRect WindowOpening::FrameOf(const QWidget& window) {
 QSize WindowOpening::FrameSize() {
     constexpr QSize kTypical(8, 30);
     const QWidget* const owner = OfApplication().Owner();
-    const QSize added =
-        owner == nullptr ? QSize() : FrameOf(*owner).size() - owner->geometry().size();
+    const QMargins margins = owner == nullptr ? QMargins() : MarginsOf(*owner);
+    const QSize added = QSize(0, 0).grownBy(margins);
     return added.height() > 0 ? added : kTypical;
 }
 

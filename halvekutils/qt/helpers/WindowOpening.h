@@ -45,6 +45,9 @@ class WindowOpening : public QObject {
     /// visible.
     QRect Centred(const QSize& outer, const QWidget* owner) const;
 
+    /// The widths of a window's frame; null without one.
+    static QMargins MarginsOf(const QWidget& window);
+
     /// Where a window with its frame is.
     static QRect FrameOf(const QWidget& window);
 
