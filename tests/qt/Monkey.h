@@ -13,6 +13,7 @@
 #include <QStyleFactory>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <climits>
 #include <csignal>
 #include <cstdio>
@@ -79,11 +80,18 @@ class Monkey : public QObject {
         return trail.toStdString() + '\n';
     }
 
-    /// Acts on a window that is not modal until it is closed.
+    /// Acts on a window that is not modal until it is closed or the application quits.
     void PlayWith(QWidget& window) {
         const QPointer<QWidget> before = std::exchange(window_, &window);
         const QPointer<QWidget> shown = &window;
-        while (shown != nullptr && shown->isVisible()) QCoreApplication::processEvents();
+        QEventLoop loop;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+            if (shown == nullptr || !shown->isVisible()) loop.quit();
+        });
+        look.start(0);
+        loop.exec();
+        if (shown != nullptr) shown->close();
         window_ = before;
     }
 
@@ -100,6 +108,7 @@ class Monkey : public QObject {
   private:
     static constexpr int kKept = 20;
     static constexpr int kDeepest = 50;
+    static constexpr int kPatientTurns = 3000;
 
     static void Tell() {
         if (current_ != nullptr) std::fputs(current_->Trail().c_str(), stderr);
@@ -145,23 +154,22 @@ class Monkey : public QObject {
         if (front == nullptr) return Wait();
         for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
             if (!front->isActiveWindow()) return Activate(*front);
-            waits_ = idle_ = 0;
+            waits_ = 0;
             Act(*front);
         }
     }
 
     /// No window is in front for a few turns, while one opens or closes.
     void Wait() {
-        constexpr int kPatientTurns = 3000;
         QDrag::cancel();
-        if (++idle_ < kPatientTurns) return;
-        qFatal("a call goes on and no window is shown");
+        if (++waits_ > kPatientTurns) qFatal("a call goes on and no window is shown");
     }
 
     void Activate(QWidget& window) {
         constexpr int kPatientWaits = 20;
         if (++waits_ > kPatientWaits) window.setWindowState(Qt::WindowNoState);
         if (waits_ > 2 * kPatientWaits) window.close();
+        if (waits_ > kPatientTurns) qFatal("a window is never active");
         const QWindow& handle = *window.windowHandle();
         if (!handle.flags().testFlag(Qt::WindowDoesNotAcceptFocus)) window.activateWindow();
     }
@@ -248,6 +256,13 @@ class Monkey : public QObject {
         }
     }
 
+    /// Qt's own print dialog blocks all windows for good when its loop ends before it is closed.
+    static bool IsPrinting() {
+        return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+            return window->isVisible() && window->inherits("QPrintDialog");
+        });
+    }
+
     static void Dress(const QString& sheet, const QString& style) {
         qApp->setStyleSheet(sheet);
         QApplication::setStyle(QStyleFactory::create(style));
@@ -277,6 +292,7 @@ class Monkey : public QObject {
                     owners_.erase(owners_.begin() + Below(static_cast<int>(owners_.size())));
                 return;
             case 4:
+                if (IsPrinting()) return;
                 Note(window, "quit");
                 return Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1);
             case 5:
@@ -358,7 +374,7 @@ class Monkey : public QObject {
 
     std::mt19937 random_;
     unsigned seed_;
-    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0, idle_ = 0;
+    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0;
     std::vector<MonkeyCall> calls_;
     std::vector<std::unique_ptr<QWidget>> owners_;
     QString ownKeys_ = "A", acts_[kKept];
