@@ -134,5 +134,21 @@ TEST_F(CurrencyFieldTest, ARefusedFieldKeepsTheFocusUnlessItIsGone) {
     }
 }
 
+TEST_F(CurrencyFieldTest, ARefusedClickTouchesNoOtherField) {
+    for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+        amount_.setText("3");
+        from_->setText("50");
+        Type(*to_, "20");
+        const User user(Keys({Qt::Key_Return}));
+        const QPoint place = amount_.geometry().center();
+        QTest::mouseClick(form_.windowHandle(), button, {}, place);
+        EXPECT_TRUE(user.HasActed());
+        Activate();
+        EXPECT_EQ(form_.focusWidget(), to_);
+        EXPECT_EQ(amount_.text(), "$3.00");
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    }
+}
+
 }  // namespace
 }  // namespace halvek

@@ -92,6 +92,7 @@ class Monkey : public QObject {
         look.start(0);
         loop.exec();
         if (shown != nullptr) shown->close();
+        QCoreApplication::processEvents();
         window_ = before;
     }
 

@@ -76,7 +76,8 @@ void MonkeyTest::Fields(Monkey& monkey) {
         const auto bare = BareAmount(text, AmountSign::Signed);
         const bool isShown = text.isEmpty() || text == "0.00" ||
                              (bare && text == ToQString(u"$" + FormatAmount(*bare)));
-        EXPECT_TRUE(isShown || line == form.focusWidget()) << line->y() << text.toStdString();
+        EXPECT_TRUE(isShown || line == form.focusWidget())
+            << line->y() << ' ' << text.toStdString();
         EXPECT_TRUE(isShown || IsTypedAmount(text, AmountSign::Signed)) << text.toStdString();
     }
 }

@@ -36,6 +36,12 @@ bool CommitsBeforeEnter(const QLineEdit& line) {
     return alive == nullptr || (hadFocus && !line.hasFocus());
 }
 
+/// True where the keyboard would write if the window were active.
+bool HasFocusInWindow(const QLineEdit& line) {
+    const QWidget* const proxy = line.focusProxy();
+    return line.window()->focusWidget() == (proxy != nullptr ? proxy : &line);
+}
+
 }  // namespace
 
 CurrencyFilter::CurrencyFilter(QLineEdit& line, AmountSign sign, std::shared_ptr<Utils> utils)
@@ -82,7 +88,6 @@ bool CurrencyFilter::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
-    const QPointer<CurrencyFilter> self(this);
     switch (event.type()) {
         case QEvent::FocusIn:
             GetFocus(line, static_cast<QFocusEvent&>(event).reason());
@@ -107,11 +112,10 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
                 event.ignore();
                 return true;
             }
-            [[fallthrough]];
+            return OpenForInput(line);
         case QEvent::ContextMenu:
-            Enter(line);
-            if (self != nullptr) MakeBare(line);
-            return false;
+            // No menu where another field refuses to give up the focus.
+            return !HasFocusInWindow(line) || OpenForInput(line);
         case QEvent::Hide:
             isUnasked_ = false;
             return false;
@@ -131,13 +135,18 @@ void CurrencyFilter::GetFocus(QLineEdit& line, Qt::FocusReason reason) {
     }
 }
 
-bool CurrencyFilter::PressKey(QLineEdit& line, const QKeyEvent& event) {
-    if (IsPassing(event)) return false;
-    if (IsEnter(event)) return CommitsBeforeEnter(line);
+/// A text is about to be put in: the field shows the bare number. True when the field is gone.
+bool CurrencyFilter::OpenForInput(QLineEdit& line) {
     const QPointer<CurrencyFilter> self(this);
     Enter(line);
     if (self != nullptr) MakeBare(line);
-    if (self == nullptr) return true;
+    return self == nullptr;
+}
+
+bool CurrencyFilter::PressKey(QLineEdit& line, const QKeyEvent& event) {
+    if (IsPassing(event)) return false;
+    if (IsEnter(event)) return CommitsBeforeEnter(line);
+    if (OpenForInput(line)) return true;
     if (event.matches(QKeySequence::Paste)) {
         InsertInto(line, QApplication::clipboard()->text(), sign_);
         return true;
@@ -156,10 +165,7 @@ void CurrencyFilter::Drop(QLineEdit& line, QDropEvent& event) {
     if (line.isReadOnly() || event.source() == &line) return;
     const bool wasEditing = editing_;
     line.setFocus(Qt::OtherFocusReason);
-    if (self == nullptr || line.window()->focusWidget() != &line) return;
-    Enter(line);
-    if (self != nullptr) MakeBare(line);
-    if (self == nullptr) return;
+    if (self == nullptr || !HasFocusInWindow(line) || OpenForInput(line)) return;
     if (wasEditing) line.setCursorPosition(line.cursorPositionAt(place));
     if (!InsertInto(line, text, sign_)) return;
     event.setDropAction(Qt::CopyAction);

@@ -58,6 +58,7 @@ class CurrencyFilter : public QObject {
     bool PressKey(QLineEdit& line, const QKeyEvent& event);
     void Drop(QLineEdit& line, QDropEvent& event);
     void Enter(QLineEdit& line);
+    bool OpenForInput(QLineEdit& line);
     void MakeBare(QLineEdit& line);
     void Write(QLineEdit& line, const QString& text);
     QString TextShown(const QString& text) const;
