@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <halvekutils/qt/helpers/XDesktop.h>
+
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -49,21 +51,28 @@ class User {
     void Look() {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr) return;
-        if (!dialog->isActiveWindow()) {
+        const bool wasActive = std::exchange(isActive_, IsActive(*dialog));
+        if (!isActive_ && sinceAsked_.hasExpired(kAskAgain)) {
             // A window manager that is still starting may leave a new window in the background.
-            if (sinceAsked_.hasExpired(kAskAgain)) {
-                sinceAsked_.start();
-                dialog->activateWindow();
-            }
-            return;
+            sinceAsked_.start();
+            dialog->activateWindow();
         }
+        // One more look: what the display server sent before it gave the keyboard comes first.
+        if (!isActive_ || !wasActive) return;
         look_.stop();
         acts_(*dialog);
     }
 
     static constexpr int kAskAgain = 1000;
 
+    /// Qt takes a window for active before the display server does.
+    static bool IsActive(const QDialog& dialog) {
+        const bool isOnServer = QGuiApplication::platformName() == QLatin1String("xcb");
+        return dialog.isActiveWindow() && (!isOnServer || HasKeyboard(dialog));
+    }
+
     Acts acts_;
+    bool isActive_ = false;
     QElapsedTimer sinceAsked_;
     QTimer look_;
     QTimer giveUp_;

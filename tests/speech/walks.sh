@@ -49,7 +49,7 @@ hears() {
 }
 hears_among() {
     listen
-    [[ "$heard" == *"$1"* ]]
+    [[ "$whole" == *"$1"* ]]
 }
 hears_last() {
     listen
