@@ -135,13 +135,15 @@ TEST_F(CurrencyFieldTest, ARefusedFieldKeepsTheFocusUnlessItIsGone) {
 }
 
 TEST_F(CurrencyFieldTest, ARefusedClickTouchesNoOtherField) {
-    for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+    using Clicked = std::pair<QLineEdit*, Qt::MouseButton>;
+    for (const auto& [line, button] :
+         {Clicked(&amount_, Qt::LeftButton), Clicked(&amount_, Qt::RightButton),
+          Clicked(&plain_, Qt::RightButton)}) {
         amount_.setText("3");
         from_->setText("50");
         Type(*to_, "20");
         const User user(Keys({Qt::Key_Return}));
-        const QPoint place = amount_.geometry().center();
-        QTest::mouseClick(form_.windowHandle(), button, {}, place);
+        QTest::mouseClick(form_.windowHandle(), button, {}, line->geometry().center());
         EXPECT_TRUE(user.HasActed());
         Activate();
         EXPECT_EQ(form_.focusWidget(), to_);

@@ -114,7 +114,7 @@ bool CurrencyFilter::Filter(QLineEdit& line, QEvent& event) {
             }
             return OpenForInput(line);
         case QEvent::ContextMenu:
-            // No menu where another field refuses to give up the focus.
+            // Without the focus the field would never be left.
             return !HasFocusInWindow(line) || OpenForInput(line);
         case QEvent::Hide:
             isUnasked_ = false;

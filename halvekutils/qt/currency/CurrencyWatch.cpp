@@ -5,6 +5,7 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 
 #include <algorithm>
 #include <utility>
@@ -16,6 +17,7 @@ namespace {
 /// A cheap test first: most events concern no field, and there are many.
 bool MayConcernFields(QEvent::Type type) {
     switch (type) {
+        case QEvent::ContextMenu:
         case QEvent::FocusOut:
         case QEvent::KeyPress:
         case QEvent::MouseButtonDblClick:
@@ -67,10 +69,18 @@ bool CurrencyWatch::eventFilter(QObject* watched, QEvent* event) {
     return taken || alive == nullptr;
 }
 
+/// A click that a field has refused, and the menu that the click would open.
+bool CurrencyWatch::IsRefused(const QEvent& event) {
+    if (IsPress(event)) return refusesMenu_ = std::exchange(refusesPress_, false);
+    const bool isMenu =
+        event.type() == QEvent::ContextMenu &&
+        static_cast<const QContextMenuEvent&>(event).reason() == QContextMenuEvent::Mouse;
+    return isMenu && std::exchange(refusesMenu_, false);
+}
+
 /// True when the receiver must not see the event.
 bool CurrencyWatch::Filter(QObject& watched, QEvent& event) {
-    const bool isPress = IsPress(event) && watched.isWidgetType();
-    if (isPress && std::exchange(refusesPress_, false)) return true;
+    if (watched.isWidgetType() && IsRefused(event)) return true;
     const QWidget* const asked = WindowAskedBy(watched, event);
     for (const QPointer<CurrencyFilter>& field : Fields()) {
         QLineEdit* const line = field != nullptr ? field->Line() : nullptr;

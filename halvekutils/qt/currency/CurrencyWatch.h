@@ -33,10 +33,12 @@ class CurrencyWatch : public QObject {
 
   private:
     explicit CurrencyWatch(QObject* parent);
+    bool IsRefused(const QEvent& event);
     bool Filter(QObject& watched, QEvent& event);
 
     std::vector<QPointer<CurrencyFilter>> fields_;
     bool refusesPress_ = false;
+    bool refusesMenu_ = false;
 };
 
 }  // namespace halvek
