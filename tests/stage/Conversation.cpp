@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 using halvek::Utils;
 
@@ -29,6 +30,12 @@ constexpr int kPause = 2;  // in milliseconds, between two looks
 
 // After so many looks an effect never comes. A busy machine makes fewer of them in a second.
 constexpr int kLooks = 10'000;
+
+// After so many the pointer is beside what it was moved to, which has moved, too.
+constexpr int kLooksForPointer = 100;
+
+// A dialog may move while it opens, but not for as long as a hand takes to get there.
+constexpr int kReach = 130;
 
 // How far apart the clicks of a double click may be, in milliseconds; the slow hand is for a player
 // on a busy machine.
@@ -118,7 +125,8 @@ void Conversation::Answer(const QString& line) {
     if (word == "await") {
         marksAwaited_ = rest.section(' ', 0, 0).toInt();
         clicksAwaited_ = rest.section(' ', 1, 1).toInt();
-        pointerAwaited_ = rest.section(' ', 2) == "pointer";
+        pointerAwaited_ = rest.section(' ', 2, 2) == "pointer";
+        controlAwaited_ = rest.section(' ', 3);
         isAsked_ = true;
         looks_ = 0;
         check_.start();
@@ -181,14 +189,25 @@ bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 /// Called whenever the event loop has nothing else to do.
 void Conversation::Check() {
     const bool isThere = marksSeen_ >= marksAwaited_ && clicksSeen_ >= clicksAwaited_;
-    const bool isOver = !pointerAwaited_ || PointerIsOverHost();
-    if (!isThere || !isOver || !IsSettled()) calm_ = 0;
+    const bool isOver = !pointerAwaited_ || IsPointerThere();
+    const bool isSettled = isThere && IsSettled();
+    if (!isOver || !isSettled) calm_ = 0;
     check_.setInterval(calm_ == 0 ? kPause : 0);
     const bool isDone = calm_++ >= kCalmRounds;
-    if (!isAsked_ || (!isDone && ++looks_ < kLooks)) return;
+    const bool isMissed = isSettled && !isOver && looks_ > kLooksForPointer;
+    if (!isAsked_ || (!isDone && !isMissed && ++looks_ < kLooks)) return;
     isAsked_ = false;
     check_.stop();
-    Record::Answer(isDone ? "done" : "stuck: " + State());
+    Record::Answer(isDone ? "done" : isMissed ? "missed" : "stuck: " + State());
+}
+
+bool Conversation::IsPointerThere() {
+    QWidget* const front = Front(window_.get());
+    if (std::exchange(front_, front) != front) sinceInFront_.start();
+    const bool isThere =
+        controlAwaited_.isEmpty() || PlaceOf(*front, controlAwaited_) == QCursor::pos();
+    const bool mayMove = front != window_.get() && !sinceInFront_.hasExpired(kReach);
+    return !mayMove && isThere && PointerIsOverHost();
 }
 
 bool Conversation::IsSettled() const {

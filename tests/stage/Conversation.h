@@ -4,7 +4,9 @@
 #include "Desk.h"
 
 #include <QAbstractNativeEventFilter>
+#include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -20,9 +22,10 @@
 ///     load FIELD TEXT          the program sets a text
 ///     clipboard|locale TEXT    what the desktop offers; ";" ends a line
 ///     slow-hand                both clicks of a double click may be far apart
-///     await MARKS CLICKS [pointer]
-///                              "done" once all that was done before has had its effect; "stuck:"
-///                              and what is not there yet when it never comes
+///     await MARKS CLICKS [pointer [NAME]]
+///                              "done" once all that was done before has had its effect; "missed"
+///                              when the pointer is not over the host or its control; "stuck:" and
+///                              what is not there yet when it never comes
 ///
 /// The player marks the end of an act by a property of a window that the host names at first, which
 /// comes in order with the keys. Clicks come later, since the window manager looks at them first;
@@ -43,6 +46,7 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     void Read(const QString& name) const;
     void Check();
     bool IsSettled() const;
+    bool IsPointerThere();
     QString State() const;
 
     std::unique_ptr<QWidget> window_;
@@ -54,6 +58,9 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     int marksAwaited_ = 0;
     int clicksAwaited_ = 0;
     bool pointerAwaited_ = false;  ///< over a window of this program
+    QString controlAwaited_;       ///< under the pointer
+    QPointer<QWidget> front_;      ///< at the last look for the pointer
+    QElapsedTimer sinceInFront_;
     bool isAsked_ = false;
     int looks_ = 0;  ///< since it was asked
     int calm_ = 0;   ///< rounds of the event loop without news

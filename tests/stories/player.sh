@@ -99,22 +99,32 @@ numbers_are() {
     act 0 "key --delay 0 ${code[NumLock]}"
 }
 
-# Presses and releases a button without the tenth of a second that xdotool's own click takes.
-# Usage: click_here [BUTTON]
+# Presses and releases a button without the tenth of a second that xdotool's own click takes. The
+# control that is named may still have moved away from the pointer.
+# Usage: click_here [BUTTON [CONTROL]]
 click_here() {
-    over=pointer act 0 || return
+    local tries=100
+    until over="pointer ${2:-}" act 0 && [ "$answer" = done ]; do
+        ((tries-- > 0)) || trouble="the pointer is not over ${2:-the host}"
+        [ -z "$trouble" ] || return
+        [ -z "${2:-}" ] || point_at "$2" || return
+    done
     act 1 "mousedown ${1:-1}" "mouseup ${1:-1}"
 }
 
-# Clicks the middle of a control. Usage: click_on NAME [BUTTON]
-click_on() {
-    echo "where ${1/#day:/qt_calendar_calendarview:}" >&"$questions"
+point_at() {
+    echo "where $1" >&"$questions"
     hear && [ "$answer" != nowhere ] || {
         trouble="$1 is not on the screen"
         return 1
     }
     echo "mousemove ${answer#at }" >&"$hand"
-    click_here "${2:-}"
+}
+
+# Clicks the middle of a control. Usage: click_on NAME [BUTTON]
+click_on() {
+    local control=${1/#day:/qt_calendar_calendarview:}
+    point_at "$control" && click_here "${2:-1}" "$control"
 }
 
 press() {
