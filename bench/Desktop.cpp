@@ -127,6 +127,17 @@ void Settle() {
     Wait(kLongEnough, false);
 }
 
+/// Until the window manager has given the dialog the keyboard: a box without it shows no new text.
+void WaitForKeyboard(QDialog& dialog) {
+    constexpr int kCalmLooks = 5;
+    constexpr int kMostLooks = 200;
+    for (int calm = 0, looks = 0; calm < kCalmLooks; ++looks) {
+        Settle();
+        calm = dialog.isActiveWindow() ? calm + 1 : 0;
+        if (looks > kMostLooks) qFatal("the window manager gives the dialog no keyboard");
+    }
+}
+
 /// In a window that is open: the keys in turns to the part, each until it is painted.
 Waits Answers(QDialog& dialog, const char* part, const std::vector<Key>& before,
               const std::vector<Key>& keys) {
@@ -154,7 +165,7 @@ Waits AnswersIn(const Work& open, const char* part, const std::vector<Key>& befo
     Waits waits;
     Paint paint;
     paint.painted = [&](QDialog& dialog) {
-        Settle();
+        WaitForKeyboard(dialog);
         waits = Answers(dialog, part, before, keys);
         dialog.close();
     };

@@ -60,7 +60,9 @@ SelectGridHeader::SelectGridHeader(SelectGrid& rules, QWidget* parent)
 }
 
 void SelectGridHeader::Refresh() {
-    cell_ = rules_.Cell(0, 1);
+    SelectCell cell = rules_.Cell(0, 1);
+    if (cell.kind == cell_.kind && cell.text == cell_.text) return;
+    cell_ = std::move(cell);
     setAccessibleName(ToQString(std::u16string_view(cell_.text).substr(0, kMaxNameLength)));
     viewport()->update();
 }
@@ -162,8 +164,12 @@ void SelectGridView::ApplyLayout(const SelectGridLayout& layout) {
 
 void SelectGridView::Refresh() {
     header_->Refresh();
-    const int last = rowAt(viewport()->height() - 1);
-    model_.Refresh(rowAt(0), last < 0 ? model_.rowCount() - 1 : last);
+    // A key in the box of codes ticks nothing, and drawing the cells takes a third of its time.
+    const bool ticked = shownTicks_ != rules_.TicksVersion();
+    if (ticked) {
+        const int last = rowAt(viewport()->height() - 1);
+        model_.Refresh(rowAt(0), last < 0 ? model_.rowCount() - 1 : last);
+    }
     spoken_->Tell(SpokenEntryOf(rules_));
     const QModelIndex current = model_.IndexOf(rules_.CurrentCell());
     if (current != currentIndex()) {
@@ -171,7 +177,8 @@ void SelectGridView::Refresh() {
         viewport()->update();
         emit CurrentEntryChanged();
     }
-    if (std::exchange(shownTicks_, rules_.TicksVersion()) != rules_.TicksVersion()) {
+    if (ticked) {
+        shownTicks_ = rules_.TicksVersion();
         emit TicksChanged();
     }
 }
