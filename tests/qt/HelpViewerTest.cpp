@@ -180,7 +180,12 @@ TEST_F(HelpViewerTest, PreviewsThePageThatIsShown) {
     EXPECT_TRUE(Soon([&] { return preview() != nullptr && preview()->isVisible(); }));
     const auto* const pages = preview()->findChild<QPrintPreviewWidget*>();
     EXPECT_TRUE(Soon([&] { return pages->pageCount() > 10; }));
-    preview()->close();
+
+    // Asked for once more, the viewer stays below; the preview goes with it.
+    utils_->ShowHelp(0, 100, help_.Path().u16string());
+    EXPECT_EQ(preview()->windowHandle()->transientParent(), Viewer().windowHandle());
+    Viewer().close();
+    EXPECT_TRUE(preview() == nullptr || !preview()->isVisible());
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -65,6 +66,12 @@ void TakeOut(QWindow& lower, QWindow* window) {
         window = window->transientParent();
     }
     if (window != nullptr) window->setTransientParent(lower.transientParent());
+}
+
+/// True for a dialog that a window has opened itself, such as its print preview.
+bool HasOpened(const QWidget& window, const QObject* dialog) {
+    while (dialog != nullptr && dialog != &window) dialog = dialog->parent();
+    return dialog != nullptr;
 }
 
 }  // namespace
@@ -121,7 +128,10 @@ HelpViewer::HelpViewer()
     ConnectPanes();
 }
 
-HelpViewer::~HelpViewer() = default;
+// The owner may hide while the viewer's parts go.
+HelpViewer::~HelpViewer() {
+    disconnect(ownerHides_);
+}
 
 QAction* HelpViewer::MakeAction(const char* name, const QString& caption, const QString& keys,
                                 const std::function<void()>& run) {
@@ -313,7 +323,7 @@ void HelpViewer::BringForward() {
 /// that is open, even when that was opened while the viewer was active.
 void HelpViewer::StayAboveDialogs() {
     const QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr || windowHandle() == nullptr) return;
+    if (dialog == nullptr || windowHandle() == nullptr || HasOpened(*this, dialog)) return;
     QWindow* const above = dialog->window()->windowHandle();
     if (above == nullptr || above == windowHandle() || !above->isVisible()) return;
     TakeOut(*windowHandle(), above);
@@ -336,6 +346,8 @@ void HelpViewer::BelongTo(QWindow* owner) {
 bool HelpViewer::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) {
         GuardEvent(u"HelpViewer.Blocked", [this] { StayAboveDialogs(); });
+    } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        for (QDialog* const preview : findChildren<QDialog*>()) preview->close();
     }
     return QMainWindow::event(event);
 }
