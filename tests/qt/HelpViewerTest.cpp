@@ -182,8 +182,17 @@ TEST_F(HelpViewerTest, PreviewsThePageThatIsShown) {
     EXPECT_TRUE(Soon([&] { return pages->pageCount() > 10; }));
 
     // Asked for once more, the viewer stays below; the preview goes with it.
-    utils_->ShowHelp(0, 100, help_.Path().u16string());
-    EXPECT_EQ(preview()->windowHandle()->transientParent(), Viewer().windowHandle());
+    const auto ask = [&] {
+        utils_->ShowHelp(0, 100, help_.Path().u16string());
+        EXPECT_EQ(preview()->windowHandle()->transientParent(), Viewer().windowHandle());
+    };
+    ask();
+    const User user([&](QDialog& box) {
+        ask();
+        PressKey(box, Qt::Key_Escape);
+    });
+    utils_->Calculate(u"");
+    EXPECT_TRUE(user.HasActed());
     Viewer().close();
     EXPECT_TRUE(preview() == nullptr || !preview()->isVisible());
 }

@@ -60,18 +60,27 @@ QToolButton* ButtonOf(QAction* action) {
     return button;
 }
 
-/// If `lower` owns `window` or one of its owners, removes `lower` from that chain.
-void TakeOut(QWindow& lower, QWindow* window) {
-    while (window != nullptr && window->transientParent() != &lower) {
+/// A window, its owner and so on, each once: Qt allows windows that own each other.
+std::vector<QWindow*> OwnersFrom(QWindow* window) {
+    std::vector<QWindow*> owners;
+    while (window != nullptr && std::ranges::find(owners, window) == owners.end()) {
+        owners.push_back(window);
         window = window->transientParent();
     }
-    if (window != nullptr) window->setTransientParent(lower.transientParent());
+    return owners;
 }
 
-/// True for a dialog that a window has opened itself, such as its print preview.
-bool HasOpened(const QWidget& window, const QObject* dialog) {
-    while (dialog != nullptr && dialog != &window) dialog = dialog->parent();
-    return dialog != nullptr;
+bool IsAmong(const std::vector<QWindow*>& windows, const QWindow* window) {
+    return std::ranges::find(windows, window) != windows.end();
+}
+
+/// If `lower` owns `window` or one of its owners, removes `lower` from that chain.
+void TakeOut(QWindow& lower, QWindow* window) {
+    for (QWindow* const owned : OwnersFrom(window)) {
+        if (owned->transientParent() != &lower) continue;
+        QWindow* const below = lower.transientParent();
+        owned->setTransientParent(IsAmong(OwnersFrom(below), owned) ? nullptr : below);
+    }
 }
 
 }  // namespace
@@ -323,11 +332,16 @@ void HelpViewer::BringForward() {
 /// that is open, even when that was opened while the viewer was active.
 void HelpViewer::StayAboveDialogs() {
     const QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr || windowHandle() == nullptr || HasOpened(*this, dialog)) return;
+    if (dialog == nullptr || windowHandle() == nullptr || IsPreviewing()) return;
     QWindow* const above = dialog->window()->windowHandle();
     if (above == nullptr || above == windowHandle() || !above->isVisible()) return;
     TakeOut(*windowHandle(), above);
     BelongTo(above);
+}
+
+/// Its own preview blocks the viewer, whatever else is open.
+bool HelpViewer::IsPreviewing() const {
+    return std::ranges::any_of(findChildren<QDialog*>(), &QDialog::isVisible);
 }
 
 /// Until the owner hides: if it opens again, perhaps from the viewer, neither may own the other.
@@ -337,7 +351,8 @@ void HelpViewer::BelongTo(QWindow* owner) {
         ownerHides_ = connect(owner, &QWindow::visibleChanged, this, [this, owner](bool visible) {
             if (visible) return;
             QWindow* const below = owner->transientParent();
-            BelongTo(below != nullptr && below->isModal() && below->isVisible() ? below : nullptr);
+            const bool isOpen = below != nullptr && below->isModal() && below->isVisible();
+            BelongTo(isOpen && !IsAmong(OwnersFrom(below), windowHandle()) ? below : nullptr);
         });
     }
     windowHandle()->setTransientParent(owner);

@@ -66,6 +66,7 @@ class HelpViewer : public QMainWindow {
     void ShowPage(const HelpTopic& topic);
     void BringForward();
     void StayAboveDialogs();
+    bool IsPreviewing() const;
     void BelongTo(QWindow* owner);
 
     void MakePanes();
