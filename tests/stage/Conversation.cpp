@@ -6,14 +6,6 @@
 #include "Seen.h"
 #include "StageWindow.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
-#include <QLocale>
-#include <QScreen>
-#include <QSocketNotifier>
-#include <QStringList>
-
 #include <unistd.h>
 #include <xcb/xcb.h>
 
@@ -74,15 +66,11 @@ bool PointerIsOverHost() {
     });
 }
 
-/// "right", "X,Y" or "" for the usual place
-QPoint PlaceFor(QWidget& window, const QString& place) {
+/// "X,Y" or "" for the usual place
+QPoint PlaceFor(const QString& place) {
     constexpr QPoint kUsual(40, 40);
-    constexpr int kBeyond = 100;  // forces a pop-up to move aside
-    if (place.contains(','))
-        return {place.section(',', 0, 0).toInt(), place.section(',', 1).toInt()};
-    if (place != "right") return kUsual;
-    window.adjustSize();
-    return {window.screen()->geometry().width() - window.width() + kBeyond, kUsual.y()};
+    if (place.isEmpty()) return kUsual;
+    return {place.section(',', 0, 0).toInt(), place.section(',', 1).toInt()};
 }
 
 }  // namespace
@@ -143,13 +131,12 @@ void Conversation::Renew(const QString& window) {
     QLocale::setDefault(QLocale::c());
     QApplication::setDoubleClickInterval(kQuickHand);
     window_.reset();
-    const bool isStage = window.startsWith("stage");
-    StartSession(QDir::homePath() + "/Stage.log", !isStage);
-    if (isStage)
+    StartSession(QDir::homePath() + "/Stage.log", false);
+    if (window.startsWith("stage"))
         window_ = std::make_unique<StageWindow>();
     else
         window_ = std::make_unique<Desk>(Utils::CurrentUtils());
-    window_->move(PlaceFor(*window_, window.section(' ', 1)));
+    window_->move(PlaceFor(window.section(' ', 1)));
     window_->show();
     AnswerOnceSeen();
 }
@@ -168,7 +155,7 @@ void Conversation::AnswerWhere(const QString& name) const {
 }
 
 void Conversation::Read(const QString& name) const {
-    Record::Got(name, TextSeen(*Front(window_.get()), name) + "");
+    Record::Got(name, TextSeen(*Front(window_.get()), name));
 }
 
 bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*) {

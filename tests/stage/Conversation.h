@@ -3,13 +3,7 @@
 
 #include "Desk.h"
 
-#include <QAbstractNativeEventFilter>
-#include <QElapsedTimer>
-#include <QObject>
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
-#include <QWindow>
+#include <QtWidgets>
 
 /// Carries out the commands that the player of the stories writes to the standard input, one a
 /// line:
