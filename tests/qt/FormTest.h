@@ -1,31 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/TemporaryFolder.h"
-#include "tests/TestMachine.h"
+#include "tests/CleanState.h"
 #include "tests/qt/User.h"
 
-#include <halvekutils/core/Platform.h>
-#include <halvekutils/core/Session.h>
-#include <halvekutils/core/Utils.h>
-#include <halvekutils/platform/Services.h>
 #include <halvekutils/qt/QtPlatform.h>
 
 namespace halvek {
 
 /// A session on the Qt desktop. Ends without a dialog on the screen or a line in the error log.
-class FormTest : public ::testing::Test {
+class FormTest : public CleanState {
   protected:
-    FormTest() {
-        Reset();
-        use_.emplace(machine_);
-        utils_->InitUtils(u"", u"Front Desk", u"", false, u"");
-    }
+    FormTest() { Start(); }
     ~FormTest() override {
-        EXPECT_EQ(ReadFile(machine_.ownFolder / "Error.Log"), "(missing)");
+        EXPECT_EQ(Log(), "(missing)");
         EXPECT_EQ(OpenDialog(), nullptr);
-        use_.reset();
-        Reset();
+    }
+
+    /// The error log, which is empty afterwards.
+    std::string TakeLog() const {
+        std::string log = Log();
+        std::filesystem::remove(machine_.ownFolder / "Error.Log");
+        return log;
     }
 
     /// A dialog on the screen; null without one.
@@ -44,28 +40,23 @@ class FormTest : public ::testing::Test {
         qFatal("there is no %s", name);
     }
 
+    /// Gives the keyboard to a window, which may take it only once it is painted.
+    static void Activate(QWidget& window) {
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        EXPECT_TRUE(Soon([&] { return window.isActiveWindow(); }));
+    }
+
     /// An active window of a host's.
     static std::unique_ptr<QWidget> OpenHostWindow(const QRect& place) {
         auto window = std::make_unique<QWidget>();
         window->setGeometry(place);
         window->show();
-        window->activateWindow();
-        EXPECT_TRUE(Soon([&] { return window->isActiveWindow(); }));
+        Activate(*window);
         return window;
     }
 
-    TemporaryFolder folder_;
-    TestMachine machine_{folder_ / "own/state"};
     QtPlatform desktop_;
-    std::shared_ptr<Utils> utils_ = Utils::Create();
-
-  private:
-    static void Reset() {
-        TheSession() = Session();
-        Services::Install(nullptr);
-    }
-
-    std::optional<UseMachine> use_;
 };
 
 }  // namespace halvek

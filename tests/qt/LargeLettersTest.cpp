@@ -3,17 +3,6 @@
 #include "tests/qt/FormTest.h"
 #include "tests/stage/Calls.h"
 
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QCheckBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRegularExpression>
-#include <QTableView>
-#include <QTextEdit>
-#include <QToolButton>
-
 namespace halvek {
 namespace {
 
@@ -195,14 +184,12 @@ TEST_P(LargeLettersTest, NorIsTheEndOfAMessage) {
 
 TEST_P(LargeLettersTest, NorInTheWindowsBesideThem) {
     const HelpFile help(1);
-    utils_->InitUtils(u"", u"", u"", true, u"");
+    Start(true);
     utils_->ShowInDebug(u"line");
     utils_->ShowHelp(0, 100, help.Path().u16string());
     for (const char* const name : {"HelpViewer", "frmDebug"}) {  // the last one opened is active
         QWidget& window = Window(name);
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-        window.activateWindow();
-        EXPECT_TRUE(Soon([&] { return window.isActiveWindow(); })) << name;
+        Activate(window);
         PressKey(window, Qt::CTRL | Qt::Key_F);
         PressKey(window, Qt::Key_Question);
         EXPECT_EQ(FaultsOf(window), "") << name;
