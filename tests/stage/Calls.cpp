@@ -261,9 +261,7 @@ void StartSession(const QString& errorLog, bool debugMode) {
     log_ = errorLog;
     const auto utils = Utils::Create();
     utils->InitUtils(log_, QString("Stage"), QString("test"), debugMode, QString("1"));
-    StringArray colors(1, 20);
-    for (int i = 1; i <= 20; ++i) colors[i] = QString::number(i * 500'000).toStdU16String();
-    utils->InitPrefs(colors, 0xD8E4BC, 0x402000, 0xC0C0C0, 0xC0FFFF);
+    utils->InitPrefs(Hues(18, 99), 0xD8E4BC, 0x402000, 0xC0C0C0, 0xC0FFFF);
     utils->InitOtherSettings(0x804000, 0xFFFFFF, u"-", 1, 255);
 }
 

@@ -57,23 +57,20 @@ QString TextOf(const QWidget& control) {
 }
 
 QString PartOf(const QWidget& control, const QString& part) {
-    const auto* const line = qobject_cast<const QLineEdit*>(&control);
     if (const auto* const view = qobject_cast<const QAbstractItemView*>(&control)) {
         if (part == "current") return CurrentOf(*view);
         return RowOf(*view, part.mid(3).toInt());
     }
-    if (part == "selected" && line != nullptr) return line->selectedText();
-    if (part == "aligned" && line != nullptr) {
-        return line->alignment() & Qt::AlignRight ? "right" : "left";
-    }
-    if (part == "cents" && line != nullptr) {
+    if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) {
         const auto cents = halvek::CurrencyCents(line);
-        return cents ? QString::number(*cents) : QString();
+        if (part == "selected") return line->selectedText();
+        if (part == "aligned") return line->alignment() & Qt::AlignRight ? "right" : "left";
+        if (part == "cents") return cents ? QString::number(*cents) : QString();
     }
     if (part == "inside") {
         const QRect screen = control.screen()->availableGeometry();
-        return screen.contains(control.window()->windowHandle()->frameGeometry()) ? "true"
-                                                                                  : "false";
+        return QVariant(screen.contains(control.window()->windowHandle()->frameGeometry()))
+            .toString();
     }
     return control.property(part.toUtf8()).toString();
 }
