@@ -83,10 +83,3 @@ TEST_F(LifeCycle, AProcessThatExitsInsideABoxEndsCleanlyAndStillLogs) {
 
 }  // namespace
 }  // namespace halvek
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

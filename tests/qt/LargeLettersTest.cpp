@@ -82,13 +82,7 @@ bool HasFixedFont(const QWidget& part) {
 }
 
 void AddFaults(const QWidget& part, QStringList& faults) {
-    const auto fault = [&](const char* what) {
-        faults += QStringLiteral("%1 (%2 x %3) %4")
-                      .arg(part.objectName())
-                      .arg(part.width())
-                      .arg(part.height())
-                      .arg(QLatin1String(what));
-    };
+    const auto fault = [&](const QString& what) { faults += part.objectName() + ' ' + what; };
     const auto lacks = [](QSize needed, QSize has) {
         return needed.width() > has.width() || needed.height() > has.height();
     };

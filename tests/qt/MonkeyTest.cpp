@@ -10,19 +10,8 @@
 namespace halvek {
 namespace {
 
-/// Whatever happens to windows, each call gives a legal result and leaves no window open. The seeds
-/// of HALVEK_SEEDS ("100-299") replace the usual ones.
-struct MonkeyTest : FormTest, ::testing::WithParamInterface<unsigned> {
-    MonkeyTest() { Start(true); }
-    ~MonkeyTest() override { TakeLog(); }  // "All goes to file" fills it.
-
-    static void Fields(Monkey& monkey);
-
-    /// The stage's calls, then currency fields
-    static std::vector<MonkeyCall> MakeCalls();
-};
-
-void MonkeyTest::Fields(Monkey& monkey) {
+/// Plays with currency fields, which hold amounts whatever happens to them.
+void Fields(Monkey& monkey) {
     if (OpenDialog() != nullptr) return;
     QWidget form;
     form.setObjectName("form");
@@ -39,6 +28,7 @@ void MonkeyTest::Fields(Monkey& monkey) {
     if (monkey.Below(5) == 0) to.setText("$-1,234,567.89");
     form.show();
     WaitUntilClosed(form);
+    QCoreApplication::processEvents();
     EXPECT_EQ(locked.text(), "$1,234.50");
     for (QLineEdit* const line : {&amount, &from, static_cast<QLineEdit*>(&to)}) {
         const QString text = line->text();
@@ -51,7 +41,8 @@ void MonkeyTest::Fields(Monkey& monkey) {
     }
 }
 
-std::vector<MonkeyCall> MonkeyTest::MakeCalls() {
+/// The stage's calls and currency fields
+std::vector<MonkeyCall> MakeCalls() {
     // The keys that mean something to each kind, and how often it comes
     static const std::tuple<const char*, const char*, std::size_t> kKinds[] = {
         {"box", "BFGJKLMPQTUVWXZ", 1},
@@ -80,12 +71,18 @@ std::vector<MonkeyCall> MonkeyTest::MakeCalls() {
     return made;
 }
 
+/// Whatever happens to windows, each call gives a legal result and leaves no window open. The seeds
+/// of HALVEK_SEEDS ("100-299") replace the usual ones.
+struct MonkeyTest : FormTest, ::testing::WithParamInterface<unsigned> {};
+
 TEST_P(MonkeyTest, BreaksNothing) {
     constexpr int kActs = 6000;
+    Start(true);
     Monkey monkey(GetParam(), kActs, MakeCalls());
     monkey.Play();
     EXPECT_EQ(OpenDialog(), nullptr) << monkey.Trail();
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << monkey.Trail();
+    TakeLog();  // "All goes to file" fills it.
 }
 
 std::vector<unsigned> Seeds() {

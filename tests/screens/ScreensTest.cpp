@@ -66,10 +66,9 @@ struct ScreensTest : FormTest {
         const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
         bar_ = std::make_unique<TaskBar>(desktop);
         EXPECT_TRUE(Soon([&] {
-            const int height = WorkArea().height();
-            return height > 0 && height < desktop.height();
+            usable_ = WorkArea();
+            return usable_.height() > 0 && usable_.height() < desktop.height();
         }));
-        usable_ = WorkArea();
     }
 
     void OpenHost(QScreen& screen, bool low) {
@@ -131,8 +130,7 @@ TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
     QWidget host;
     QPushButton target("...", &host);
     host.show();
-    const auto isSeen = [](const QWidget& window) { return window.windowHandle()->isExposed(); };
-    ASSERT_TRUE(Soon([&] { return isSeen(host); }));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&host));
     for (const DialogCall& opening : kDialogCalls) {
         SCOPED_TRACE(opening.name);
         const User user([](QDialog& dialog) { dialog.close(); }, User::Awaits::Paint);
@@ -140,9 +138,8 @@ TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
     }
     utils_->ShowInDebug(u"line");
     utils_->ShowHelp(0, 100, help.Path().u16string());
-    for (const char* const name : {"frmDebug", "HelpViewer"}) {
-        EXPECT_TRUE(Soon([&] { return isSeen(Window(name)); })) << name;
-    }
+    for (const char* const name : {"frmDebug", "HelpViewer"})
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window(name))) << name;
 }
 
 TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
@@ -214,10 +211,7 @@ struct OtherProgram {
 
 TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) {
     OpenHost(*QGuiApplication::screens().last(), false);
-    QWidget other;  // the active one before, on the first screen
-    other.setGeometry(40, 40, 200, 100);
-    other.show();
-    Activate(other);
+    const auto wasActive = OpenHostWindow({40, 40, 200, 100});  // on the first screen
     const OtherProgram program;
     const auto open = [](Utils& utils, auto&, auto& form) {
         return utils.ShowCalendar(-1, -1, -1, u"", u"", form);
