@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/qt/FormTest.h"
 
-#include <halvekutils/qt/QtText.h>
-
-#include <QLineEdit>
-
 namespace halvek {
 namespace {
 
@@ -15,11 +11,7 @@ struct CalculatorFormTest : FormTest {
             acts(form, Find<QLineEdit>(form, "txtOutput"));
             PressKey(form, Qt::Key_Escape);
         });
-        EXPECT_EQ(ToQString(utils_->Calculate()), "");
-        EXPECT_TRUE(user.HasActed());
-    }
-    static void Type(QDialog& form, const char* keys) {
-        for (; *keys != 0; ++keys) QTest::keyClick(form.windowHandle(), *keys);
+        EXPECT_EQ(utils_->Calculate(), u"");
     }
 };
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/qt/FormTest.h"
 
-#include <halvekutils/qt/QtText.h>
-
-#include <QAccessible>
-
 namespace halvek {
 namespace {
 
@@ -23,7 +19,7 @@ TEST_F(ColorPaletteFormTest, EveryCellStandsOutFromAnyFrame) {
         QAccessible::queryAccessibleInterface(&cell)->actionInterface()->doAction(
             QAccessibleActionInterface::pressAction());
     });
-    EXPECT_EQ(ToQString(utils_->ShowColor()), "7\t2");
+    EXPECT_EQ(utils_->ShowColor(), u"7\t2");
 }
 
 }  // namespace

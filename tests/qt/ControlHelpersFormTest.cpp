@@ -5,14 +5,6 @@
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/helpers/Metrics.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QRadioButton>
-#include <QTableView>
-#include <QTableWidget>
-
 namespace halvek {
 namespace {
 
@@ -31,16 +23,18 @@ TEST_F(ControlHelpersFormTest, HighlightsShowOnAnyFormAndGoAgain) {
     const QColor back(47, 109, 181);
     const QColor dark(0x10, 0x20, 0x30);
     // Of the form and of the control itself.
-    const QString sheets[][2] = {
-        {"QWidget { background: #102030; color: red; }", ""},
-        {"", "color: red; background: yellow"},
-        {"", "QWidget#x:enabled { background: yellow; } QLabel#x { border: 2px solid red }"}};
+    const QString sheets[][2] = {{"QWidget { background: #102030; color: red; }", ""},
+                                 {"", "color: red; background: yellow"},
+                                 {"",
+                                  "QWidget#x:enabled { background: yellow; } QLabel#x { border: "
+                                  "2px solid red; padding: 1px 3px }"}};
     for (const auto& [ofForm, own] : sheets) {
         QWidget form;
         form.resize(200, 200);
         form.setPalette(dark);
         form.setStyleSheet(ofForm);
-        const QLabel label("IIII", &form);
+        QLabel label("IIII", &form);
+        if (ofForm.isEmpty()) label.setFrameStyle(QFrame::Panel | QFrame::Sunken);
         const QRadioButton option("IIII", &form);
         const QCheckBox check("IIII", &form);
         for (QWidget* const each : form.findChildren<QWidget*>()) {
@@ -49,12 +43,16 @@ TEST_F(ControlHelpersFormTest, HighlightsShowOnAnyFormAndGoAgain) {
             each->setFont(QFont("Tahoma", 24));
             each->setStyleSheet(own);
             each->setGeometry(10, 60, 150, 50);
+            each->ensurePolished();
+            const QSize before = each->sizeHint();
             for (const bool useBlack : {true, false}) {
                 utils_->HighlightHeading(AsHeading(each));
+                EXPECT_EQ(each->sizeHint(), before);
                 const QPixmap marked = each->grab();
                 EXPECT_TRUE(Shows(marked, back, 3000) && Shows(marked, {255, 255, 240}, 80));
                 EXPECT_EQ(marked.toImage().pixelColor(75, 0) != back, each == &label);
                 utils_->UnhighlightHeading(AsHeading(each), useBlack);
+                EXPECT_EQ(each->sizeHint(), before);
                 const QPixmap plain = form.grab(each->geometry());
                 EXPECT_TRUE(Shows(plain, dark, 3000) &&
                             Shows(plain, {0, useBlack ? 0 : 90, 0}, 80));
@@ -72,21 +70,6 @@ TEST_F(ControlHelpersFormTest, AHighlightWhoseColorsAreAlikeIsReadable) {
         utils_->InitOtherSettings(back, fore, u"", 1, 0);
         utils_->HighlightHeading(AsHeading(&label));
         EXPECT_TRUE(Shows(label.grab(), back == kBlack ? Qt::white : Qt::black, 80)) << back;
-    }
-}
-
-TEST_F(ControlHelpersFormTest, ALabelWithAFrameKeepsItsSizeWhenItIsHighlighted) {
-    for (const QString sheet : {"", "QLabel { border: 2px solid red; padding: 1px 3px; }"}) {
-        QLabel label("IIII");
-        label.setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        label.setLineWidth(3);
-        label.setStyleSheet(sheet);
-        label.ensurePolished();
-        const QSize before = label.sizeHint();
-        utils_->HighlightHeading(AsHeading(&label));
-        EXPECT_EQ(label.sizeHint(), before);
-        utils_->UnhighlightHeading(AsHeading(&label));
-        EXPECT_EQ(label.sizeHint(), before);
     }
 }
 

@@ -3,16 +3,12 @@
 
 #include <halvekutils/core/DebugConsole.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-
 namespace halvek {
 namespace {
 
 struct DebugConsoleFormTest : FormTest {
     void SetUp() override {
-        utils_->InitUtils(u"", u"", u"", true, u"");
+        Start(true);
         utils_->ClearDebug();
         window_ = &Window("frmDebug");
         text_ = &Find<QPlainTextEdit>(*window_, "txtDebug");
@@ -63,25 +59,17 @@ TEST_F(DebugConsoleFormTest, PaintsEveryLineThoughTheProgramNeverReturnsToItsEve
     EXPECT_TRUE(text_->viewport()->rect().contains(text_->cursorRect()));
 }
 
-TEST_F(DebugConsoleFormTest, ItsControlsWorkBesideAModalDialog) {
-    const User user([&](QDialog& dialog) {
-        utils_->ShowInDebug(u"one two");
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));  // until then it takes no focus
-        window_->activateWindow();
-        EXPECT_TRUE(Soon([&] { return window_->isActiveWindow(); }));
-        Click(*window_, Find(*window_, "chkNoLog"));
-        EXPECT_TRUE(EndsWith("one two\n<<<<<LOG STOPPED>>>>>\n"));
-        Click(*window_, Find(*window_, "Check1"));
-        EXPECT_TRUE(window_->isVisible() && DebugConsole::Current()->KeptOnTop());
-        PressKey(*window_, Qt::CTRL | Qt::Key_F);
-        QTest::keyClicks(&Find<QLineEdit>(*window_, "txtFind"), "TWO");
-        utils_->ShowInDebug(u"three");
-        EXPECT_EQ(text_->textCursor().selectedText(), "two");
-        Click(*window_, Find(*window_, "Command1"));
-        EXPECT_TRUE(Find<QLabel>(*window_, "lblStatus").text().endsWith("/DEBUG.log"));
-        PressKey(dialog, Qt::Key_Return);
-    });
-    utils_->ShowMsgBox(u"Look at the console", mbOkOnly, mbNoIcon, u"");
+TEST_F(DebugConsoleFormTest, ItIsKeptOnTopSearchedAndSaved) {
+    utils_->ShowInDebug(u"one two");
+    Activate(*window_);
+    Click(*window_, Find(*window_, "Check1"));
+    EXPECT_TRUE(window_->isVisible() && DebugConsole::Current()->KeptOnTop());
+    PressKey(*window_, Qt::CTRL | Qt::Key_F);
+    Type(*window_, "TWO");
+    utils_->ShowInDebug(u"three");
+    EXPECT_EQ(text_->textCursor().selectedText(), "two");
+    Click(*window_, Find(*window_, "Command1"));
+    EXPECT_TRUE(Find<QLabel>(*window_, "lblStatus").text().endsWith("/DEBUG.log"));
 }
 
 }  // namespace

@@ -19,24 +19,21 @@ struct DialogCall {
 
 inline const DialogCall kDialogCalls[] = {
     {"message box", false, u"2",
-     [](Utils& utils, QWidget&, const std::shared_ptr<OwnerForm>&) {
+     [](Utils& utils, auto&, auto&) {
          return IntegerText(utils.ShowMsgBox(u"Go on?", mbOkCancel, mbNoIcon, u"Visits"));
      }},
-    {"calculator", false, u"",
-     [](Utils& utils, QWidget&, const std::shared_ptr<OwnerForm>&) {
-         return utils.Calculate(u"12");
-     }},
+    {"calculator", false, u"", [](Utils& utils, auto&, auto&) { return utils.Calculate(u"12"); }},
     {"calendar", true, u"",
-     [](Utils& utils, QWidget& target, const std::shared_ptr<OwnerForm>& form) {
+     [](Utils& utils, auto& target, auto& form) {
          return utils.ShowCalendarAndCalculateCoordinates(Beside(&target), u"", u"", form);
      }},
     {"palette", true, u"",
-     [](Utils& utils, QWidget& target, const std::shared_ptr<OwnerForm>& form) {
+     [](Utils& utils, auto& target, auto& form) {
          utils.InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
          return utils.ShowColorAndCalculateCoordinates(Beside(&target), form);
      }},
     {"selection", true, u"A",
-     [](Utils& utils, QWidget& target, const std::shared_ptr<OwnerForm>& form) {
+     [](Utils& utils, auto& target, auto& form) {
          return utils.ShowSelectionAndCalculateCoordinates(u"Codes", u"H:A\tAlpha\t0:", u"A",
                                                            Beside(&target), form);
      }},

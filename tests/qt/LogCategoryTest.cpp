@@ -6,7 +6,6 @@
 
 #include <QLineEdit>
 #include <QLoggingCategory>
-#include <QStringList>
 
 #include <thread>
 
@@ -22,56 +21,52 @@ void PrintAndLog(QtMsgType, const QMessageLogContext& context, const QString& te
     Utils::Create()->LogError(text);
 }
 
-class LogCategory : public CleanState {
-  protected:
-    LogCategory() : before_(qInstallMessageHandler(PrintAndLog)) { printed.clear(); }
+struct LogCategory : CleanState {
     ~LogCategory() override {
         QLoggingCategory::setFilterRules({});
         qInstallMessageHandler(before_);
     }
+    QStringList PrintedAt(TextIn line) {
+        printed.clear();
+        utils_->LogError(line);
+        return printed;
+    }
 
-  private:
-    QtMessageHandler before_;
+    const QtMessageHandler before_ = qInstallMessageHandler(PrintAndLog);
 };
 
 TEST_F(LogCategory, PrintsLoggedLinesInDebugModeAndWhereARuleAsksForThem) {
-    const struct {
-        bool debugMode;
-        const char* rules;
-        bool prints;
-    } rows[] = {{false, "", false},
-                {true, "", true},
-                {false, "halvekutils=true", true},
-                {true, "halvekutils=false", false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.rules);
-        QLoggingCategory::setFilterRules(QLatin1String(row.rules));
-        Start(row.debugMode);
-        printed.clear();
-        utils_->LogError(u"caf\u00E9");
-        EXPECT_EQ(printed, row.prints ? QStringList(QStringLiteral("caf\u00E9")) : QStringList());
+    const std::tuple<bool, const char*, QStringList> rows[] = {
+        {false, "", {}},
+        {true, "", {"caf\u00E9"}},
+        {false, "halvekutils=true", {"caf\u00E9"}},
+        {true, "halvekutils=false", {}}};
+    for (const auto& [debugMode, rules, lines] : rows) {
+        QLoggingCategory::setFilterRules(rules);
+        Start(debugMode);
+        EXPECT_EQ(PrintedAt(u"caf\u00E9"), lines) << rules;
     }
     utils_->InitUtils((folder_ / "missing/a.log").u16string(), u"", u"", true, u"");
     QLoggingCategory::setFilterRules({});
-    printed.clear();
-    utils_->LogError(u"lost");
-    ASSERT_EQ(printed.size(), 2);
-    EXPECT_TRUE(printed[1].contains(QStringLiteral("missing/a.log"))) << qPrintable(printed[1]);
+    const QStringList lost = PrintedAt(u"lost");
+    ASSERT_EQ(lost.size(), 2);
+    EXPECT_TRUE(lost[1].contains("missing/a.log")) << qPrintable(lost[1]);
 }
 
 TEST_F(LogCategory, TellsOfCurrencyFieldsThatAreUsedOnAnotherThread) {
     Start(true);
-    QLineEdit line(QStringLiteral("5"));
+    printed.clear();
+    QLineEdit line("5");
     bool left = true;
     std::thread([&] {
         MakeCurrencyField(&line);
         left = LeaveCurrencyFields(&line);
     }).join();
     EXPECT_FALSE(left);
-    EXPECT_EQ(line.text(), QStringLiteral("5"));
-    const QString fault = QStringLiteral(": Invalid argument: not the user-interface thread");
-    EXPECT_EQ(printed, QStringList({QStringLiteral("ERR in MakeCurrencyField") + fault,
-                                    QStringLiteral("ERR in LeaveCurrencyFields") + fault}));
+    EXPECT_EQ(line.text(), "5");
+    const QString fault = ": Invalid argument: not the user-interface thread";
+    EXPECT_EQ(printed, QStringList({"ERR in MakeCurrencyField" + fault,
+                                    "ERR in LeaveCurrencyFields" + fault}));
 }
 
 }  // namespace

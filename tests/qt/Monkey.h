@@ -2,16 +2,7 @@
 #pragma once
 
 #include "tests/qt/User.h"
-
-#include <QAbstractScrollArea>
-#include <QClipboard>
-#include <QDrag>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPointer>
-#include <QStyleFactory>
-#include <QWheelEvent>
+#include "tests/stage/Calls.h"
 
 #include <algorithm>
 #include <climits>
@@ -80,22 +71,6 @@ class Monkey : public QObject {
         return trail.toStdString() + '\n';
     }
 
-    /// Acts on a window that is not modal until it is closed or the application quits.
-    void PlayWith(QWidget& window) {
-        const QPointer<QWidget> before = std::exchange(window_, &window);
-        const QPointer<QWidget> shown = &window;
-        QEventLoop loop;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-            if (shown == nullptr || !shown->isVisible()) loop.quit();
-        });
-        look.start(0);
-        loop.exec();
-        if (shown != nullptr) shown->close();
-        QCoreApplication::processEvents();
-        window_ = before;
-    }
-
     /// Sometimes closes a dialog in the middle of its opening.
     bool eventFilter(QObject* watched, QEvent* event) override {
         auto* const dialog = qobject_cast<QDialog*>(watched);
@@ -121,16 +96,9 @@ class Monkey : public QObject {
     }
     QPoint Place(const QWidget& window) { return {Below(window.width()), Below(window.height())}; }
 
-    QWidget* Front() const {
-        if (QWidget* const popup = QApplication::activePopupWidget()) return popup;
-        if (QWidget* const modal = QApplication::activeModalWidget()) return modal;
-        return window_ != nullptr && window_->isVisible() ? window_.data() : nullptr;
-    }
-
     /// Opens any call from a host's window, which may go while it is open.
     void Call() {
-        const MonkeyCall& call =
-            calls_[static_cast<std::size_t>(Below(static_cast<int>(calls_.size())))];
+        const MonkeyCall call = Any(calls_);
         auto owner = std::make_unique<QWidget>();
         owner->setObjectName("owner");
         owner->setGeometry(Below(1000) - 100, Below(800) - 100, 300, 200);
@@ -151,9 +119,9 @@ class Monkey : public QObject {
         QTimer above;  // goes on in the event loop of a dialog that an act opens
         QObject::connect(&above, &QTimer::timeout, [this] { Turn(); });
         above.start(0);
-        const QPointer<QWidget> front = Front();
+        const QPointer<QWidget> front = Front(nullptr);
         if (front == nullptr) return Wait();
-        for (int i = Below(200); i >= 0 && front != nullptr && front == Front(); --i) {
+        for (int i = Below(200); i >= 0 && front != nullptr && front == Front(nullptr); --i) {
             if (!front->isActiveWindow()) return Activate(*front);
             waits_ = 0;
             Act(*front);
@@ -280,58 +248,55 @@ class Monkey : public QObject {
         static constexpr Qt::WindowState kStates[] = {Qt::WindowMinimized, Qt::WindowMaximized,
                                                       Qt::WindowFullScreen, Qt::WindowNoState};
         const QPointer<QWidget> alive = &window;
-        switch (Below(12)) {
-            case 0:
-            case 1:
-            case 2:
-                if (depth_ >= kDeepest) return;
-                Note(window, "opens another call");
-                return Call();
-            case 3:
-                Note(window, "an owner goes");
-                if (!owners_.empty())
-                    owners_.erase(owners_.begin() + Below(static_cast<int>(owners_.size())));
-                return;
-            case 4:
-                if (IsPrinting()) return;
-                Note(window, "quit");
-                return Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1);
-            case 5:
-                Note(window, "a style sheet or style");
-                return Dress(Any(kSheets), Any(kStyles));
-            case 6:
-                Note(window, "a palette");
-                return QApplication::setPalette(
-                    QPalette(QColor(Below(256), Below(256), 0), QColor(0, Below(256), Below(256))));
-            case 7: {
-                Note(window, "a font");
-                QFont font = font_;
-                font.setPointSize(6 + Below(30));
-                return QApplication::setFont(font);
-            }
-            case 8:
-                Note(window, "moves and grows");
-                window.move(Below(4000) - 2000, Below(4000) - 2000);
-                if (alive != nullptr) window.resize(Below(3000), Below(3000));
-                return;
-            case 9:
-                Note(window, "another state");
-                return window.setWindowState(Any(kStates));
-            case 10:
-                Note(window, "right to left or back");
-                return QGuiApplication::setLayoutDirection(Below(2) == 0 ? Qt::RightToLeft
-                                                                         : Qt::LeftToRight);
-            default:
-                Note(window, "hidden by its host");
-                window.hide();
-        }
+        const std::pair<const char*, std::function<void()>> ways[] = {
+            {"opens another call",
+             [&] {
+                 if (depth_ < kDeepest) Call();
+             }},
+            {"an owner goes",
+             [&] {
+                 if (!owners_.empty())
+                     owners_.erase(owners_.begin() + Below(static_cast<int>(owners_.size())));
+             }},
+            {"quit",
+             [&] {
+                 if (!IsPrinting())
+                     Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1);
+             }},
+            {"a style sheet or style", [&] { Dress(Any(kSheets), Any(kStyles)); }},
+            {"a palette",
+             [&] {
+                 QApplication::setPalette(QPalette(QColor(Below(256), Below(256), 0),
+                                                   QColor(0, Below(256), Below(256))));
+             }},
+            {"a font",
+             [&] {
+                 QFont font = font_;
+                 font.setPointSize(6 + Below(30));
+                 QApplication::setFont(font);
+             }},
+            {"moves and grows",
+             [&] {
+                 window.move(Below(4000) - 2000, Below(4000) - 2000);
+                 if (alive != nullptr) window.resize(Below(3000), Below(3000));
+             }},
+            {"another state", [&] { window.setWindowState(Any(kStates)); }},
+            {"right to left or back",
+             [&] {
+                 QGuiApplication::setLayoutDirection(Below(2) == 0 ? Qt::RightToLeft
+                                                                   : Qt::LeftToRight);
+             }},
+            {"hidden by its host", [&] { window.hide(); }}};
+        // Another call as often as three of the others
+        const auto& [name, act] = ways[std::max(Below(12) - 2, 0)];
+        Note(window, name);
+        act();
     }
 
     /// Clicks, double clicks, drags and wheel turns, on a control or anywhere.
     void UseMouse(QWidget& window) {
-        const auto parts = window.findChildren<QWidget*>();
-        const QWidget* const part = parts.isEmpty() ? &window : Any(parts);
-        if (!part->isVisible() || part->window() != &window) return;
+        const QWidget* const part = PartOf(window);
+        if (part == nullptr) return;
         const QPoint centre = part->mapTo(&window, part->rect().center());
         const QPoint at = Below(3) > 0 ? centre : Place(window);
         const QPoint to = Below(6) > 0 ? at : Place(window);
@@ -379,7 +344,6 @@ class Monkey : public QObject {
     std::vector<MonkeyCall> calls_;
     std::vector<std::unique_ptr<QWidget>> owners_;
     QString ownKeys_ = "A", acts_[kKept];
-    QPointer<QWidget> window_;
     QFont font_ = QApplication::font();
     QTimer turns_;
 };

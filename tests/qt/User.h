@@ -3,17 +3,12 @@
 
 #include <halvekutils/qt/helpers/XDesktop.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QElapsedTimer>
-#include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <utility>
-#include <vector>
 
 namespace halvek {
 
@@ -25,15 +20,18 @@ inline bool Soon(const std::function<bool()>& holds) {
     return QTest::qWaitFor(holds, kPatience);
 }
 
-/// The user in front of a modal dialog: acts as soon as one is open and active.
+/// The user in front of a modal dialog: acts as soon as one is open and active, or only painted.
+/// A test fails whose dialog never comes.
 ///
 ///     const User user([](QDialog& box) { PressKey(box, Qt::Key_Y); });
 ///     const auto answer = utils->ShowMsgBox(...);
 class User {
   public:
     using Acts = std::function<void(QDialog& dialog)>;
+    enum class Awaits { Keyboard, Paint };
 
-    explicit User(Acts acts) : acts_(std::move(acts)) {
+    explicit User(Acts acts, Awaits awaited = Awaits::Keyboard)
+        : acts_(std::move(acts)), awaited_(awaited) {
         QObject::connect(&look_, &QTimer::timeout, [this] { Look(); });
         sinceAsked_.start();
         look_.start(0);
@@ -44,21 +42,22 @@ class User {
         giveUp_.setSingleShot(true);
         giveUp_.start(2 * kPatience);
     }
-
-    bool HasActed() const { return !look_.isActive(); }
+    ~User() { EXPECT_FALSE(look_.isActive()) << "no dialog has opened"; }
 
   private:
     void Look() {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr) return;
-        const bool wasActive = std::exchange(isActive_, IsActive(*dialog));
-        if (!isActive_ && sinceAsked_.hasExpired(kAskAgain)) {
+        const bool isReady =
+            awaited_ == Awaits::Keyboard ? IsActive(*dialog) : dialog->windowHandle()->isExposed();
+        const bool wasReady = std::exchange(isReady_, isReady);
+        if (!isReady && awaited_ == Awaits::Keyboard && sinceAsked_.hasExpired(kAskAgain)) {
             // A window manager that is still starting may leave a new window in the background.
             sinceAsked_.start();
             dialog->activateWindow();
         }
         // One more look: what the display server sent before it gave the keyboard comes first.
-        if (!isActive_ || !wasActive) return;
+        if (!isReady || !wasReady) return;
         look_.stop();
         acts_(*dialog);
     }
@@ -72,7 +71,8 @@ class User {
     }
 
     Acts acts_;
-    bool isActive_ = false;
+    Awaits awaited_;
+    bool isReady_ = false;
     QElapsedTimer sinceAsked_;
     QTimer look_;
     QTimer giveUp_;
@@ -84,13 +84,9 @@ inline void PressKey(QWidget& window, QKeyCombination key) {
     QTest::keyClick(window.windowHandle(), key.key(), key.keyboardModifiers());
 }
 
-/// Presses keys while the dialog is open.
-inline User::Acts Keys(std::vector<QKeyCombination> keys) {
-    return [keys = std::move(keys)](QDialog& dialog) {
-        for (const QKeyCombination key : keys) {
-            if (dialog.isVisible()) PressKey(dialog, key);
-        }
-    };
+/// Types into the control with the focus.
+inline void Type(QWidget& window, const char* keys) {
+    for (; *keys != 0; ++keys) QTest::keyClick(window.windowHandle(), *keys);
 }
 
 inline void CloseRequest(QWidget& window) {

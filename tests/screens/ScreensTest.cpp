@@ -5,10 +5,6 @@
 #include "tests/qt/DialogCalls.h"
 #include "tests/qt/FormTest.h"
 
-#include <QProcess>
-#include <QPushButton>
-#include <QScreen>
-
 #include <chrono>
 #include <csignal>
 #include <ostream>
@@ -70,10 +66,9 @@ struct ScreensTest : FormTest {
         const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
         bar_ = std::make_unique<TaskBar>(desktop);
         EXPECT_TRUE(Soon([&] {
-            const int height = WorkArea().height();
-            return height > 0 && height < desktop.height();
+            usable_ = WorkArea();
+            return usable_.height() > 0 && usable_.height() < desktop.height();
         }));
-        usable_ = WorkArea();
     }
 
     void OpenHost(QScreen& screen, bool low) {
@@ -86,8 +81,8 @@ struct ScreensTest : FormTest {
         if (low) place.moveBottom((screen.geometry() & usable_).bottom() - 10);
         host_->setGeometry(place);
         host_->show();
-        host_->activateWindow();
-        ASSERT_TRUE(Soon([&] { return host_->isActiveWindow() && host_->screen() == &screen; }));
+        Activate(*host_);
+        ASSERT_TRUE(Soon([&] { return host_->screen() == &screen; }));
     }
 
     /// What is wrong about the place of a window.
@@ -104,23 +99,20 @@ struct ScreensTest : FormTest {
         }
         return misses.str();
     }
-    std::string OwnerMiss(const QWidget& dialog) const {
-        return dialog.windowHandle()->transientParent() == host_->windowHandle() ? "" : " owner";
+    std::string MissesOf(const QWidget& dialog, const DialogCall& opening) const {
+        const bool isOwned = dialog.windowHandle()->transientParent() == host_->windowHandle();
+        return MissesOf(dialog, opening.isBeside) + (isOwned ? "" : " owner");
     }
 
     /// Opens a dialog in front of the user, who looks and closes it.
-    void Look(const DialogCall& opening, const std::string& when,
-              const std::shared_ptr<OwnerForm>& form = nullptr) {
+    void Look(const DialogCall& opening, const std::shared_ptr<OwnerForm>& form = nullptr) {
         const User user([&](QDialog& dialog) {
-            const auto misses = [&] {
-                return MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
-            };
+            const auto misses = [&] { return MissesOf(dialog, opening); };
             const bool fine = QTest::qWaitFor([&] { return misses().empty(); }, 2000);
-            EXPECT_TRUE(fine) << opening.name << when << misses();
+            EXPECT_TRUE(fine) << opening.name << misses();
             dialog.reject();
         });
         opening.open(*utils_, *target_, form);
-        EXPECT_TRUE(user.HasActed());
     }
 
     std::unique_ptr<TaskBar> bar_;
@@ -134,30 +126,20 @@ using AnyDesktopTest = FormTest;
 
 TEST_F(AnyDesktopTest, EveryWindowOpensAndReturns) {
     const HelpFile help(10);
-    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    Start(true);
     QWidget host;
     QPushButton target("...", &host);
     host.show();
-    const auto isSeen = [](const QWidget& window) { return window.windowHandle()->isExposed(); };
-    ASSERT_TRUE(Soon([&] { return isSeen(host); }));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&host));
     for (const DialogCall& opening : kDialogCalls) {
-        int seen = 0;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, [&] {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr || !isSeen(*dialog)) return;
-            ++seen;
-            dialog->close();
-        });
-        look.start(0);
+        SCOPED_TRACE(opening.name);
+        const User user([](QDialog& dialog) { dialog.close(); }, User::Awaits::Paint);
         opening.open(*utils_, target, nullptr);
-        EXPECT_EQ(seen, 1) << opening.name;
     }
     utils_->ShowInDebug(u"line");
     utils_->ShowHelp(0, 100, help.Path().u16string());
-    for (const char* const name : {"frmDebug", "HelpViewer"}) {
-        EXPECT_TRUE(Soon([&] { return isSeen(Window(name)); })) << name;
-    }
+    for (const char* const name : {"frmDebug", "HelpViewer"})
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window(name))) << name;
 }
 
 TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
@@ -166,12 +148,11 @@ TEST_F(ScreensTest, DialogsOpenAtTheirOwnerOnEitherScreenAboveTheTaskBar) {
         for (const bool low : {false, true}) {
             OpenHost(*screen, low);
             for (const DialogCall& opening : kDialogCalls) {
-                const std::string where =
-                    " on " + screen->name().toStdString() + (low ? ", low" : "");
-                Look(opening, where);
+                SCOPED_TRACE(screen->name().toStdString() + (low ? ", low" : ""));
+                Look(opening);
                 // Again at once, before the first one's end is over.
-                Look(kDialogCalls[0], where + ", second");
-                Look(opening, where + ", third");
+                Look(kDialogCalls[0]);
+                Look(opening);
             }
         }
     }
@@ -191,13 +172,11 @@ TEST_F(ScreensTest, ADialogStandsWhereAskedThoughTheWindowManagerIsSlow) {
         const User user([&](QDialog& dialog) {
             EXPECT_TRUE(Soon([&] { return dialog.windowHandle()->isExposed(); })) << opening.name;
             QTest::qWait(300);
-            const std::string misses = MissesOf(dialog, opening.isBeside) + OwnerMiss(dialog);
-            EXPECT_EQ(misses, "") << opening.name;
+            EXPECT_EQ(MissesOf(dialog, opening), "") << opening.name;
             dialog.reject();
         });
         opening.open(*utils_, *target_, nullptr);
         resume.join();
-        EXPECT_TRUE(user.HasActed());
         EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
     }
 }
@@ -231,37 +210,18 @@ struct OtherProgram {
 };
 
 TEST_F(ScreensTest, ADialogBelongsToTheFormThatItRefreshesWhenNoWindowIsActive) {
-    QScreen& second = *QGuiApplication::screens().last();
-    OpenHost(second, false);
-    QWidget other;  // the active one before, on the first screen
-    other.setGeometry(40, 40, 200, 100);
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(Soon([&] { return other.isActiveWindow(); }));
+    OpenHost(*QGuiApplication::screens().last(), false);
+    const auto wasActive = OpenHostWindow({40, 40, 200, 100});  // on the first screen
     const OtherProgram program;
-    using Form = const std::shared_ptr<OwnerForm>&;
-    const DialogCall calls[] = {
-        {"calendar", false, u"",
-         [](Utils& utils, QWidget&, Form form) {
-             return utils.ShowCalendar(-1, -1, -1, u"", u"", form);
-         }},
-        {"palette", false, u"",
-         [](Utils& utils, QWidget&, Form form) {
-             utils.InitPrefs(StringArray(1, {u"255", u"0", u"65280", u"0"}), 0, 0, 0, 0);
-             return utils.ShowColor(-1, -1, -1, form);
-         }},
-        {"selection", false, u"",
-         [](Utils& utils, QWidget&, Form form) {
-             return utils.ShowSelection(u"Codes", u"H:A\tAlpha\t0:", u"", -1, -1, -1, form);
-         }},
+    const auto open = [](Utils& utils, auto&, auto& form) {
+        return utils.ShowCalendar(-1, -1, -1, u"", u"", form);
     };
-    for (const DialogCall& opening : calls)
-        Look(opening, ", form to refresh", AsOwnerForm(host_.get()));
+    Look({"calendar", false, u"", open}, AsOwnerForm(host_.get()));
 }
 
 TEST_F(ScreensTest, TheKeyboardComesBackFromADialogThoughTheWindowManagerLosesIt) {
     OpenHost(*QGuiApplication::screens().first(), false);
-    Look(kDialogCalls[0], "");
+    Look(kDialogCalls[0]);
     ASSERT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
     LoseKeyboard();
     if (!QTest::qWaitFor([] { return QGuiApplication::focusWindow() == nullptr; }, 1000)) {
@@ -275,7 +235,7 @@ struct OtherWindowsTest : ScreensTest, ::testing::WithParamInterface<int> {};
 
 TEST_P(OtherWindowsTest, HelpAndConsoleOpenOnTheHostsScreen) {
     const HelpFile help(10);
-    utils_->InitUtils(u"", u"Front Desk", u"", true, u"");
+    Start(true);
     OpenHost(*QGuiApplication::screens()[GetParam()], true);
     utils_->ShowInDebug(u"line");
     utils_->ShowHelp(0, 100, help.Path().u16string());
@@ -298,30 +258,21 @@ TEST_F(ScreensTest, ABoxThatOpensBehindAnotherProgramWaitsForAttention) {
     OpenHost(*QGuiApplication::screens().last(), false);
     for (const DialogCall& opening : kDialogCalls) {
         OtherProgram other;
-        bool isThere = false;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, [&] {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr || !dialog->windowHandle()->isExposed()) return;
-            look.stop();
-            isThere = true;
+        const auto answer = [&](QDialog& dialog) {
             for (const char* key : {"y", "Return", "Escape", "space"}) other.Type(key);
-            EXPECT_TRUE(dialog->isVisible()) << opening.name << " was answered";
-            EXPECT_FALSE(dialog->isActiveWindow()) << opening.name;
-            const std::string state = Told("xprop -id " + IdOf(*dialog) + " _NET_WM_STATE");
+            EXPECT_TRUE(dialog.isVisible()) << opening.name << " was answered";
+            EXPECT_FALSE(dialog.isActiveWindow()) << opening.name;
+            const std::string state = Told("xprop -id " + IdOf(dialog) + " _NET_WM_STATE");
             const bool asks = state.find("DEMANDS_ATTENTION") != state.npos;
             EXPECT_TRUE(asks || AttendsToHiddenWindowsOnly()) << opening.name << state;
-            const std::string misses = MissesOf(*dialog, opening.isBeside) + OwnerMiss(*dialog);
-            EXPECT_EQ(misses, "") << opening.name;
-            Told("wmctrl -i -a " + IdOf(*dialog));
-            EXPECT_TRUE(Soon([&] { return dialog->isActiveWindow(); })) << opening.name;
-            dialog->close();
-        });
-        look.start(0);
+            EXPECT_EQ(MissesOf(dialog, opening), "") << opening.name;
+            Told("wmctrl -i -a " + IdOf(dialog));
+            EXPECT_TRUE(Soon([&] { return dialog.isActiveWindow(); })) << opening.name;
+            dialog.close();
+        };
+        const User user(answer, User::Awaits::Paint);
         opening.open(*utils_, *target_, nullptr);
-        EXPECT_TRUE(isThere);
-        host_->activateWindow();
-        EXPECT_TRUE(Soon([&] { return host_->isActiveWindow(); }));
+        Activate(*host_);
     }
 }
 

@@ -22,6 +22,7 @@ class ScriptedPlatformTest : public CleanState {
 TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {
     desktop_.OnMessageBox([](MessageBox& box) {
         EXPECT_EQ(box.CopyText(), u"Front Desk\r\n\r\nDelete the visit?\r\n\r\nYes   No");
+        EXPECT_EQ(testing::PrintToString(TextIn(box.ButtonCaption(0))), "u\"&Yes\"");
         box.Press(1);
     });
     EXPECT_EQ(Ask(mbYesNo), mbNo);
@@ -33,22 +34,6 @@ TEST_F(ScriptedPlatformTest, PlaysTheUserOnTheBoxesThatTheHostShows) {
         EXPECT_EQ(Ask(mbAbortRetryIgnore), mbIgnore);
     });
     EXPECT_EQ(Ask(mbYesNoCancel), mbCancel);  // a box left open is closed
-}
-
-TEST_F(ScriptedPlatformTest, MessagesKeepASelectionOpenUntilTheCodesAreGood) {
-    desktop_.OnSelection([&](SelectGrid& grid) {
-        desktop_.OnMessageBox([&](MessageBox& box) {
-            EXPECT_EQ(box.Prompt(), u"'X9' is not a valid entry.");
-            EXPECT_EQ(box.Picture(), mbInformation);
-            EXPECT_EQ(box.Caption(), u"Front Desk");
-        });
-        grid.EditBox(u"A1,X9", 0);
-        grid.Accept();
-        EXPECT_TRUE(grid.IsOpen());
-        grid.EditBox(u"A1,C3", 5);
-        grid.Accept();
-    });
-    EXPECT_EQ(utils_->ShowSelectionGrid(u"Providers", u"H:A1\tAdams\t0:C3\tClark\t0:"), u"A1,C3");
 }
 
 TEST_F(ScriptedPlatformTest, RecordsTheHelpThatTheHostOpensAndTheFilesThatAreMissing) {
@@ -80,35 +65,33 @@ TEST_F(ScriptedPlatformTest, AFaultIsLoggedAndAnswersNothing) {
     EXPECT_THAT(desktop_.Unanswered(), testing::ElementsAre(u"message box Front Desk"));
 }
 
-TEST_F(ScriptedPlatformTest, AFailingTestPrintsTexts) {
-    desktop_.OnMessageBox([](MessageBox& box) {
-        EXPECT_EQ(testing::PrintToString(box.ButtonCaption(0)), "u\"&Yes\"");
-        EXPECT_EQ(testing::PrintToString(TextIn(u"caf\u00E9 \u20AC")), "u\"caf\u00E9 \u20AC\"");
-        box.Press(mbYes);
-    });
-    EXPECT_EQ(Ask(mbYesNo), mbYes);
-}
-
 TEST(NoPlatform, IsAFault) {
     EXPECT_EQ(FaultOf([] { Platform::Installed(); }), 91);
 }
 
-TEST_F(ScriptedPlatformTest, TheFormOfThePopUpIsRefreshedAfterIt) {
-    const auto form = std::make_shared<HostWindow>();
+/// A form that pop-ups belong to
+struct Form : HostWindow {
+    std::uint32_t Window() const override { return 7; }
+};
+
+TEST_F(ScriptedPlatformTest, APopUpBelongsToTheFormThatIsRefreshedAfterIt) {
+    const auto form = std::make_shared<Form>();
     utils_->InitPrefs(StringArray(1, {u"255", u"0", u"0", u"0"}), 0, 0, 0, 0);
     const auto look = [&](auto& rules) {
-        EXPECT_EQ(rules.Anchor(), (PopupAnchor{rules.Anchor().edge, 8000, {}, 700}));
+        PopupAnchor anchor = {rules.Anchor().edge, 8000, {}, 700};
+        anchor.window = form->exists ? 7 : 0;
+        EXPECT_EQ(rules.Anchor(), anchor);
         EXPECT_EQ(form->refreshes, 0);
     };
+    const std::function<void()> calls[] = {
+        [&] { utils_->ShowCalendar(7999.6F, -1, 700, u"", u"", form); },
+        [&] { utils_->ShowColor(8000, -1, 700, form); },
+        [&] { utils_->ShowSelection(u"L", u"H:A\tAlpha\t0:", u"", 8000, -1, 700, form); }};
     for (const bool isThere : {true, false}) {
-        desktop_.OnCalendar([&](Calendar& calendar) { look(calendar); });
-        desktop_.OnColorPalette([&](ColorPalette& palette) { look(palette); });
-        desktop_.OnSelection([&](SelectGrid& grid) { look(grid); });
+        desktop_.OnCalendar(look);
+        desktop_.OnColorPalette(look);
+        desktop_.OnSelection(look);
         form->exists = isThere;
-        const std::function<void()> calls[] = {
-            [&] { utils_->ShowCalendar(7999.6F, -1, 700, u"", u"", form); },
-            [&] { utils_->ShowColor(8000, -1, 700, form); },
-            [&] { utils_->ShowSelection(u"L", u"H:A\tAlpha\t0:", u"", 8000, -1, 700, form); }};
         for (const auto& call : calls) {
             form->refreshes = 0;
             call();

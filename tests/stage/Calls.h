@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 #include <vector>
@@ -17,9 +16,6 @@ struct Call {
 
 /// All calls: pictures, stories and random keys take theirs from here.
 const std::vector<Call>& Calls();
-
-/// Null when there is none of that name.
-const Call* FindCall(const QString& name);
 
 /// A new session, which has the stage's colours.
 /// @param errorLog  empty for the library's own

@@ -6,15 +6,8 @@
 #include "Seen.h"
 #include "StageWindow.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
-#include <QLocale>
-#include <QScreen>
-#include <QSocketNotifier>
-#include <QStringList>
+#include <QTest>
 
-#include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -42,19 +35,12 @@ constexpr int kReach = 130;
 constexpr int kQuickHand = 400;
 constexpr int kSlowHand = 20'000;
 
-/// What all events of the input extension begin with
-struct XiEvent {
-    std::uint32_t kindAndSequence;
-    std::uint32_t length;
-    std::uint16_t type;
-    std::uint16_t device;
-};
-
-/// A button released on the shared pointer; the device behind it reports the release, too.
-bool IsClick(const XiEvent& event) {
+/// A button released on the shared pointer, by the input extension, which names the device behind
+/// the type; the device behind the pointer reports the release, too.
+bool IsClick(const xcb_ge_generic_event_t& event) {
     constexpr std::uint16_t kButtonRelease = 5;
-    constexpr std::uint16_t kSharedPointer = 2;
-    return event.type == kButtonRelease && event.device == kSharedPointer;
+    constexpr std::uint8_t kSharedPointer = 2;
+    return event.event_type == kButtonRelease && event.pad0[0] == kSharedPointer;
 }
 
 /// Whether a click would reach this program. The frame of a window that has just been closed stays
@@ -74,15 +60,11 @@ bool PointerIsOverHost() {
     });
 }
 
-/// "right", "X,Y" or "" for the usual place
-QPoint PlaceFor(QWidget& window, const QString& place) {
+/// "X,Y" or "" for the usual place
+QPoint PlaceFor(const QString& place) {
     constexpr QPoint kUsual(40, 40);
-    constexpr int kBeyond = 100;  // forces a pop-up to move aside
-    if (place.contains(','))
-        return {place.section(',', 0, 0).toInt(), place.section(',', 1).toInt()};
-    if (place != "right") return kUsual;
-    window.adjustSize();
-    return {window.screen()->geometry().width() - window.width() + kBeyond, kUsual.y()};
+    if (place.isEmpty()) return kUsual;
+    return {place.section(',', 0, 0).toInt(), place.section(',', 1).toInt()};
 }
 
 }  // namespace
@@ -91,22 +73,17 @@ Conversation::Conversation() {
     marked_.create();
     qApp->installNativeEventFilter(this);
     Record::Answer("marks " + QString::number(marked_.winId()));
-    auto* const input = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this);
-    connect(input, &QSocketNotifier::activated, this, [this] { Listen(); });
+    input_.open(0, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    auto* const notifier = new QSocketNotifier(0, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] { Listen(); });
     check_.setInterval(0);
     connect(&check_, &QTimer::timeout, this, [this] { Check(); });
 }
 
 void Conversation::Listen() {
-    char piece[1024];
-    const ssize_t length = read(STDIN_FILENO, piece, sizeof piece);
-    if (length <= 0) std::exit(0);
-    heard_.append(piece, static_cast<qsizetype>(length));
-    for (qsizetype end = heard_.indexOf('\n'); end >= 0; end = heard_.indexOf('\n')) {
-        const QString line = QString::fromUtf8(heard_.left(end));
-        heard_.remove(0, end + 1);
-        Answer(line);
-    }
+    const QByteArray line = input_.readLine();
+    if (line.isEmpty()) std::exit(0);
+    Answer(QString::fromUtf8(line).chopped(1));
 }
 
 void Conversation::Answer(const QString& line) {
@@ -114,7 +91,7 @@ void Conversation::Answer(const QString& line) {
     const QString rest = line.section(' ', 1);
     if (word == "new") return Renew(rest);
     if (word == "where") return AnswerWhere(rest);
-    if (word == "read") return Read(rest);
+    if (word == "read") Record::Got(rest, TextSeen(*Front(window_.get()), rest));
     if (word == "picture") Front(window_.get())->grab().save(rest);
     if (word == "front") return Record::Answer(QString::number(Front(window_.get())->winId()));
     if (auto* const desk = dynamic_cast<Desk*>(window_.get()); desk && word == "load")
@@ -143,32 +120,20 @@ void Conversation::Renew(const QString& window) {
     QLocale::setDefault(QLocale::c());
     QApplication::setDoubleClickInterval(kQuickHand);
     window_.reset();
-    const bool isStage = window.startsWith("stage");
-    StartSession(QDir::homePath() + "/Stage.log", !isStage);
-    if (isStage)
+    StartSession(QDir::homePath() + "/Stage.log", false);
+    if (window.startsWith("stage"))
         window_ = std::make_unique<StageWindow>();
     else
         window_ = std::make_unique<Desk>(Utils::CurrentUtils());
-    window_->move(PlaceFor(*window_, window.section(' ', 1)));
+    window_->move(PlaceFor(window.section(' ', 1)));
     window_->show();
-    AnswerOnceSeen();
-}
-
-void Conversation::AnswerOnceSeen() {
-    if (window_->windowHandle()->isExposed()) {
-        Record::Answer("window " + QString::number(window_->winId()));
-    } else {
-        QTimer::singleShot(kPause, this, [this] { AnswerOnceSeen(); });
-    }
+    if (!QTest::qWaitForWindowExposed(window_.get())) qFatal("a window is never shown");
+    Record::Answer("window " + QString::number(window_->winId()));
 }
 
 void Conversation::AnswerWhere(const QString& name) const {
     const auto place = PlaceOf(*Front(window_.get()), name);
     Record::Answer(place ? QString("at %1 %2").arg(place->x()).arg(place->y()) : "nowhere");
-}
-
-void Conversation::Read(const QString& name) const {
-    Record::Got(name, TextSeen(*Front(window_.get()), name) + "");
 }
 
 bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
@@ -180,7 +145,7 @@ bool Conversation::nativeEventFilter(const QByteArray&, void* message, qintptr*)
     } else if (kind == XCB_BUTTON_RELEASE) {
         ++clicksSeen_;
     } else if (kind == XCB_GE_GENERIC) {
-        clicksSeen_ += IsClick(*static_cast<const XiEvent*>(message));
+        clicksSeen_ += IsClick(*static_cast<const xcb_ge_generic_event_t*>(message));
     }
     calm_ = 0;
     return false;

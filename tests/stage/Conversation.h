@@ -3,13 +3,7 @@
 
 #include "Desk.h"
 
-#include <QAbstractNativeEventFilter>
-#include <QElapsedTimer>
-#include <QObject>
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
-#include <QWindow>
+#include <QtWidgets>
 
 /// Carries out the commands that the player of the stories writes to the standard input, one a
 /// line:
@@ -41,16 +35,14 @@ class Conversation : public QObject, public QAbstractNativeEventFilter {
     void Listen();
     void Answer(const QString& line);
     void Renew(const QString& window);
-    void AnswerOnceSeen();
     void AnswerWhere(const QString& name) const;
-    void Read(const QString& name) const;
     void Check();
     bool IsSettled() const;
     bool IsPointerThere();
     QString State() const;
 
     std::unique_ptr<QWidget> window_;
-    QByteArray heard_;
+    QFile input_;
     QTimer check_;
     QWindow marked_;  ///< never shown
     int marksSeen_ = 0;

@@ -8,37 +8,11 @@
 #include <halvekutils/qt/QtControls.h>
 #include <halvekutils/qt/QtText.h>
 
-#include <QAction>
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QHeaderView>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QStatusBar>
-#include <QStyledItemDelegate>
-#include <QTableView>
-#include <QTimer>
-#include <QToolBar>
-
 using namespace halvek;
 
 namespace {
 
 constexpr std::int64_t kServiceCents = 300;
-
-/// Amounts in a table are typed into a currency field.
-class AmountDelegate : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex&) const override {
-        auto* const editor = new CurrencyLineEdit(parent);
-        editor->setObjectName("Cell");
-        return editor;
-    }
-};
 
 /// The page in the window, with a default button as dialogs have.
 class Page : public QDialog {
@@ -46,11 +20,6 @@ class Page : public QDialog {
     explicit Page(QWidget* parent) : QDialog(parent) { setWindowFlags(Qt::Widget); }
     void reject() override { Record::Got("escaped"); }
 };
-
-/// What the library gives, never null.
-QString Text(const std::u16string& text) {
-    return ToQString(text) + "";
-}
 
 }  // namespace
 
@@ -86,6 +55,8 @@ void Desk::BuildFields() {
 }
 
 void Desk::BuildRecords() {
+    amountEditors_.registerEditor(QMetaType::QString,
+                                  new QStandardItemEditorCreator<CurrencyLineEdit>);
     mapper_.setModel(&fees_);
     mapper_.addMapping(fee_, 0);
     mapper_.toFirst();
@@ -94,15 +65,16 @@ void Desk::BuildRecords() {
     auto* const table = new QTableView;
     table->setObjectName("Payments");
     table->setModel(&payments_);
-    table->setItemDelegate(new AmountDelegate(table));
+    auto* const delegate = new QStyledItemDelegate(table);
+    delegate->setItemEditorFactory(&amountEditors_);
+    table->setItemDelegate(delegate);
     table->horizontalHeader()->hide();
     table->setFixedHeight(80);
     right_->addWidget(table);
     for (auto* const model : {&fees_, &payments_}) {
         const QString what = model == &fees_ ? "fee is" : "payment is";
-        connect(model, &QStandardItemModel::dataChanged, this, [what](const QModelIndex& cell) {
-            Record::Got(what, cell.data().toString() + "");
-        });
+        connect(model, &QStandardItemModel::dataChanged, this,
+                [what](const QModelIndex& cell) { Record::Got(what, cell.data().toString()); });
     }
 }
 
@@ -111,21 +83,22 @@ void Desk::BuildLibraryButtons() {
     using Act = std::function<QString(QPushButton & button)>;
     const auto choose = [this](const QString& list) {
         return [this, values = ListNamed(list)](QPushButton& button) {
-            return Text(utils_->ShowSelectionGridAndCalculateCoordinates(
+            return ToQString(utils_->ShowSelectionGridAndCalculateCoordinates(
                 button.text(), values, Field("Visit").text(), Beside(&button)));
         };
     };
     const Act figure = [this](QPushButton&) {
-        const QString result = Text(utils_->Calculate(Amount()));
+        const QString result = ToQString(utils_->Calculate(Amount()));
         if (!result.isEmpty()) Field("Amount").setText(result);
         return result;
     };
     const Act day = [this](QPushButton& button) {
-        return Text(
+        return ToQString(
             utils_->ShowCalendarAndCalculateCoordinates(Beside(&button), Field("Visit").text()));
     };
     const Act color = [this](QPushButton& button) {
-        return Text(utils_->ShowColorAndCalculateCoordinates(Beside(&button))).replace('\t', ' ');
+        return ToQString(utils_->ShowColorAndCalculateCoordinates(Beside(&button)))
+            .replace('\t', ' ');
     };
     const struct {
         QLayout* column;
@@ -133,7 +106,7 @@ void Desk::BuildLibraryButtons() {
         Act act;
     } rows[] = {
         {right_, "Calculator", "calculator",
-         [this](QPushButton&) { return Text(utils_->Calculate()); }},
+         [this](QPushButton&) { return ToQString(utils_->Calculate()); }},
         {right_, "Figure", "figured", figure},
         {right_, "Day", "day", day},
         {right_, "Color", "color", color},

@@ -4,12 +4,7 @@
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/qt/CurrencyLineEdit.h>
 
-#include <QBoxLayout>
-#include <QDataWidgetMapper>
-#include <QDialog>
-#include <QFormLayout>
-#include <QMainWindow>
-#include <QStandardItemModel>
+#include <QtWidgets>
 
 /// The window of a cashier: fields, a table and a form on a record, buttons, a menu and a tool bar.
 /// It records everything that it gets from the library or the user.
@@ -39,4 +34,5 @@ class Desk : public QMainWindow {
     QStandardItemModel fees_{1, 1};
     QDataWidgetMapper mapper_;
     QStandardItemModel payments_{2, 2};
+    QItemEditorFactory amountEditors_;  ///< into which amounts in the table are typed
 };

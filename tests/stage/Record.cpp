@@ -3,9 +3,12 @@
 
 #include <cstdio>
 
+void Record::Got(const QString& what) {
+    Answer("got " + what);
+}
+
 void Record::Got(const QString& what, const QString& value) {
-    const QString shown = value.isEmpty() ? QStringLiteral("nothing") : value;
-    Answer("got " + (value.isNull() ? what : what + ' ' + shown));
+    Got(what + ' ' + (value.isEmpty() ? "nothing" : value));
 }
 
 void Record::Answer(const QString& line) {

@@ -4,22 +4,6 @@
 #include <halvekutils/core/Utils.h>
 #include <halvekutils/qt/CurrencyField.h>
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMetaEnum>
-#include <QScreen>
-#include <QSet>
-#include <QTableView>
-#include <QTextEdit>
-#include <QVariant>
-#include <QWindow>
-
 namespace {
 
 const QWidget* Find(const QWidget& front, const QString& name) {
@@ -41,35 +25,27 @@ std::optional<QPoint> PlaceOfCell(const QWidget& grid, const QString& cell) {
 }
 
 /// The cells as their view paints them: numbers in its language.
-QString RowOf(const QWidget& grid, int row) {
-    const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
-    if (view == nullptr) return {};
+QString RowOf(const QAbstractItemView& view, int row) {
     QStringList cells;
-    for (int column = 0; column < view->model()->columnCount(); ++column) {
-        const QVariant cell = view->model()->index(row, column).data();
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+        const QVariant cell = view.model()->index(row, column).data();
         const bool isText = cell.typeId() == QMetaType::QString;
-        cells += isText ? cell.toString() : view->locale().toString(cell.toInt());
+        cells += isText ? cell.toString() : view.locale().toString(cell.toInt());
     }
     return cells.join(' ');
 }
 
 /// The code of the current entry, if it is in view.
-QString CurrentOf(const QWidget& grid) {
-    const auto* const view = qobject_cast<const QAbstractItemView*>(&grid);
-    if (view == nullptr || !view->currentIndex().isValid()) return "none";
-    const QRect place = view->visualRect(view->currentIndex());
-    const bool isShown = view->viewport()->rect().contains(place);
-    return isShown ? view->currentIndex().data().toString() : QString("out of view");
+QString CurrentOf(const QAbstractItemView& view) {
+    const QRect place = view.visualRect(view.currentIndex());
+    const bool isShown = view.viewport()->rect().contains(place);
+    return isShown ? view.currentIndex().data().toString() : QString("out of view");
 }
 
 QString TextOf(const QWidget& control) {
-    if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) return line->text();
-    if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
-    if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
-        return button->text();
-    }
-    if (const auto* const lines = qobject_cast<const QTextEdit*>(&control)) {
-        return lines->toPlainText().replace('\n', ';');
+    for (const char* const property : {"text", "plainText"}) {
+        const QVariant text = control.property(property);
+        if (text.isValid()) return text.toString().replace('\n', ';');
     }
     // Of a picker, the entry that a screen reader says
     if (qobject_cast<const QAbstractItemView*>(&control) != nullptr) {
@@ -81,21 +57,20 @@ QString TextOf(const QWidget& control) {
 }
 
 QString PartOf(const QWidget& control, const QString& part) {
-    const auto* const line = qobject_cast<const QLineEdit*>(&control);
-    if (part == "current") return CurrentOf(control);
-    if (part.startsWith("row")) return RowOf(control, part.mid(3).toInt());
-    if (part == "selected" && line != nullptr) return line->selectedText();
-    if (part == "aligned" && line != nullptr) {
-        return line->alignment() & Qt::AlignRight ? "right" : "left";
+    if (const auto* const view = qobject_cast<const QAbstractItemView*>(&control)) {
+        if (part == "current") return CurrentOf(*view);
+        return RowOf(*view, part.mid(3).toInt());
     }
-    if (part == "cents" && line != nullptr) {
+    if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) {
         const auto cents = halvek::CurrencyCents(line);
-        return cents ? QString::number(*cents) : QString();
+        if (part == "selected") return line->selectedText();
+        if (part == "aligned") return line->alignment() & Qt::AlignRight ? "right" : "left";
+        if (part == "cents") return cents ? QString::number(*cents) : QString();
     }
     if (part == "inside") {
         const QRect screen = control.screen()->availableGeometry();
-        return screen.contains(control.window()->windowHandle()->frameGeometry()) ? "true"
-                                                                                  : "false";
+        return QVariant(screen.contains(control.window()->windowHandle()->frameGeometry()))
+            .toString();
     }
     return control.property(part.toUtf8()).toString();
 }

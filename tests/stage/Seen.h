@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPoint>
-#include <QString>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <optional>
 

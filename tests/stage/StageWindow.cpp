@@ -4,8 +4,7 @@
 #include "Calls.h"
 #include "Record.h"
 
-#include <QStatusBar>
-#include <QVBoxLayout>
+#include <algorithm>
 
 StageWindow::StageWindow() {
     setObjectName("Stage");
@@ -27,10 +26,10 @@ StageWindow::StageWindow() {
 }
 
 void StageWindow::Open(const QString& name) {
-    const Call* const call = FindCall(name);
-    if (call == nullptr) return Record::Got("no such call");
+    const auto call = std::ranges::find(Calls(), name, &Call::name);
+    if (call == Calls().end()) return Record::Got("no such call");
     line_->selectAll();
     const QString given = call->open(*line_);
-    Record::Got("gave", given + "");
+    Record::Got("gave", given);
     statusBar()->showMessage(name + " gave " + given);
 }

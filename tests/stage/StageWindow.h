@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMainWindow>
+#include <QtWidgets>
 
 /// Opens calls by name: typed into the line or chosen from the list below it, each by Enter. Shows
 /// and records what they give.

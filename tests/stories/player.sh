@@ -202,7 +202,6 @@ take_step() {
     NUM) numbers_are on ;;
     German) keyboard_is de && act 0 ;;
     @fresh) end_host && start_host && new_window "" ;;
-    @right) new_window right ;;
     @at=*) new_window "${1#*=}" ;;
     @open=*) open_call "${1#*=}" ;;
     @open) open_call "${name_of_story%%:*}" ;;
