@@ -8,6 +8,8 @@
 #include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
+#include <tuple>
+
 namespace halvek {
 namespace {
 
@@ -47,13 +49,19 @@ TEST(UserPrefs, AnUnsetColourTurnsIntoItsDefaultWhenItIsRead) {
 }
 
 TEST(UserPrefs, ReadsNumbersByTheirBeginningAndGoesOnBehindABadOne) {
-    const struct {
-        std::u16string text;
-        std::int32_t days, color;
-    } rows[] = {{u"", 0, -1},       {u" ", 0, 0},
-                {u"-1x", -1, -1},   {u"1,234", 1, 1},
-                {u"3.5", 4, 4},     {u"2147483648", 0, -1},
-                {u"-1e400", 0, -1}, {std::u16string(1 << 20, u'9'), 0, -1}};
+    const std::tuple<std::u16string, std::int32_t, std::int32_t> rows[] = {
+        {u"", 0, -1},
+        {u" ", 0, 0},
+        {u"-1x", -1, -1},
+        {u"1,234", 1, 1},
+        {u"3.5", 4, 4},
+        {u"2.5", 2, 2},
+        {u"-1.5", -2, -2},
+        {u"2147483647.4", 2147483647, 2147483647},
+        {u"-1e400", 0, -1},
+        {u"2147483647.5", 0, -1},
+        {u"-2147483648.51", 0, -1},
+        {std::u16string(1 << 20, u'9'), 0, -1}};
     for (const auto& [text, days, color] : rows) {
         const UserPrefs prefs = Populated(u"ßßßßß" + text + u"ß9ßßßßTrueß" + text + u"ßßfilter");
         EXPECT_EQ(FieldOf(prefs, 5), IntegerText(color)) << ToUtf8(text);
