@@ -29,9 +29,10 @@ std::string Damaged(std::string file, FuzzedDataProvider& input) {
 void halvek::Check(FuzzedDataProvider& input) {
     static const HelpFile whole(200);
     static const std::string bytes = ReadFile(whole.Path());
-    const auto damaged = whole.Beside(Damaged(bytes, input));
+    const std::string damaged = Damaged(bytes, input);
     try {
-        const auto help = std::make_shared<CompiledHelp>(damaged);
+        const auto help = std::make_shared<CompiledHelp>(whole.Beside(damaged));
+        Require(damaged.size() == bytes.size(), "a file that is cut off is a fault");
         help->TopicOfContext(200);
         for (const HelpEntry& entry : help->Contents()) help->Has(entry.topic.path);
         HelpSearch search(help, u"line");

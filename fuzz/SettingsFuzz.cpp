@@ -5,6 +5,7 @@
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/core/ServerTextCheck.h>
 
+#include <functional>
 #include <regex>
 
 using namespace halvek;
@@ -28,12 +29,13 @@ std::u16string Shown(std::size_t field, bool on) {
     return on ? u"True" : u"False";
 }
 
-/// What is read from some properties and set in other preferences is read from them, too.
-template <class Properties>
-void CheckCopies(UserPrefs& prefs, UserPrefs& copy, const Properties& rows) {
-    for (const auto& row : rows) (copy.*row.set)((prefs.*row.get)());
+/// What the host sets in each property, here another value than it has, comes back.
+template <class Rows, class Change>
+void CheckProperties(UserPrefs& prefs, const Rows& rows, Change other) {
+    UserPrefs copy;
+    for (const auto& row : rows) (copy.*row.set)(other((prefs.*row.get)()));
     for (const auto& row : rows) {
-        Require((copy.*row.get)() == (prefs.*row.get)(), "a property comes back");
+        Require((copy.*row.get)() == other((prefs.*row.get)()), "a property comes back");
     }
 }
 
@@ -65,10 +67,10 @@ void CheckText(const std::u16string& text) {
         Require((prefs.*row.get)() == on && kept[row.field] == Shown(row.field, on),
                 "a switch stays");
     }
+    CheckProperties(prefs, kTextProperties, [](const auto& text) { return text + u'x'; });
+    CheckProperties(prefs, kColors, [](Color color) { return (color & 0xFFFFFF) ^ 1; });
+    CheckProperties(prefs, kSwitches, std::logical_not<bool>());
     UserPrefs copy;
-    CheckCopies(prefs, copy, kTextProperties);
-    CheckCopies(prefs, copy, kColors);
-    CheckCopies(prefs, copy, kSwitches);
     copy.PopulateSettings(settings);
     Require(copy.GetSettingsString() == settings, "settings that were read stay as they are");
     Remarks remarks;

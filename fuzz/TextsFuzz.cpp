@@ -26,20 +26,19 @@ void CheckCodePage(const std::string& bytes) {
     }
 }
 
-bool IsHigh(char16_t unit) {
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-bool IsLow(char16_t unit) {
-    return unit >= 0xDC00 && unit < 0xE000;
+/// Whether a unit is half of a pair: the first halves begin at D800, the second ones at DC00.
+bool IsHalf(char16_t unit, char16_t first) {
+    return unit >= first && unit < first + 0x400;
 }
 
 /// The text with U+FFFD for each surrogate that stands alone.
 std::u16string WellFormed(std::u16string text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isPair = IsHigh(text[i]) && i + 1 < text.size() && IsLow(text[i + 1]);
+        const bool isHigh = IsHalf(text[i], 0xD800);
+        const bool isPair = isHigh && i + 1 < text.size() && IsHalf(text[i + 1], 0xDC00);
         if (isPair) {
             ++i;
-        } else if (IsHigh(text[i]) || IsLow(text[i])) {
+        } else if (isHigh || IsHalf(text[i], 0xDC00)) {
             text[i] = 0xFFFD;
         }
     }

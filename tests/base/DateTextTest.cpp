@@ -62,8 +62,6 @@ TEST(DateText, RefusesWhatIsNoDate) {
 }
 
 TEST(DateText, EndsWithTheYears100And9999) {
-    EXPECT_EQ(DateTimeText(kFirstDateTime + seconds(1)), u"01/01/0100 12:00:01 AM");
-    EXPECT_EQ(ReadAgain(u"12/31/9999 11:59:59 PM"), "12/31/9999 11:59:59 PM");
     const DateTime outside[] = {kFirstDateTime - seconds(1), kLastDateTime + seconds(1),
                                 DateTime::min(), DateTime::max()};
     for (const DateTime when : outside) {

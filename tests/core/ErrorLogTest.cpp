@@ -147,7 +147,8 @@ TEST_F(ErrorLog, LosesALineRatherThanAnArchiveThatTheCleanUpLeft) {
     WriteFile(folder_ / "a.log", kFull + "y");
     Start(folder_ / "a.log", true);
     utils_->LogError(u"lost");
-    EXPECT_THAT(ToUtf8(desktop_.StockMessages().back().text), testing::HasSubstr("exists"));
+    ASSERT_EQ(desktop_.StockMessages().size(), 1u);
+    EXPECT_THAT(ToUtf8(desktop_.StockMessages()[0].text), testing::HasSubstr("already exists"));
     EXPECT_TRUE(ReadFile(folder_ / "a.log") == kFull + "y");
     EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
 

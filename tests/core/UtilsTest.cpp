@@ -77,6 +77,8 @@ TEST_F(UtilsTest, ABinWhoseKeyDiffersInLetterCaseIsRefusedAndLogged) {
     utils_->RemoveBin(u"Visit");
     utils_->AddBin(u"vISIT", u"2", u"U");
     EXPECT_EQ(utils_->GetBinData(u"vISIT"), u"2");
+    utils_->ClearAllBins();
+    EXPECT_FALSE(utils_->BinExists(u"vISIT"));
 }
 
 }  // namespace

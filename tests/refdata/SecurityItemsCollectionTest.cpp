@@ -2,7 +2,6 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
 
 #include <tuple>
