@@ -18,14 +18,14 @@ struct File : HelpSurroundings {
         if (written != u"a.png") return std::nullopt;
         return Picture{u"help://file/a.png", 100, 50};
     }
-    std::u16string StyleAt(std::u16string_view) override { return {}; }
+    std::u16string StyleAt(std::u16string_view) override { return u"p { margin: 9999px }"; }
 };
 
 // What odd pages are made of, between bars: tags, attributes that do not suit them, and texts that
 // are hard to lay out.
 constexpr std::u16string_view kTags =
     u"table|tr|td|th|caption|thead|tbody|ul|ol|li|dl|dt|dd|div|p|pre|b|i|h1|sub|sup|span|center|"
-    u"nobr|blockquote|font|a|hr|br|img|xmp|noframes|body";
+    u"nobr|blockquote|font|a|hr|br|img|area|link|xmp|noframes|body";
 constexpr std::u16string_view kAttributes =
     u"| border=1 width=100% cellpadding=900 cellspacing=77| rowspan=99999| rowspan=7 colspan=3|"
     u" colspan=1000 width=1%| width=900000| start=-5| size=+99| size=-99 color=red|"
@@ -34,11 +34,13 @@ constexpr std::u16string_view kAttributes =
     u" style='line-height:0;font-size:0'| style='line-height:99999%;font-size:99999pt'|"
     u" style='page-break-before:always;white-space:pre-wrap'|"
     u" src=a.png width=99999 height=1| src=a.png align=left height=9999999|"
-    u" src=none.png alt='a text'| name=x href='b c.htm#x'| background=a.png bgcolor=red";
+    u" src=none.png alt='a text'| name=x href='b c.htm#x'| background=a.png bgcolor=red|"
+    u" rel=stylesheet href=a.css title='a<b>&\"c'| src=a.png width=50% height=-9";
 constexpr std::u16string_view kTexts =
     u"<frameset><frame src=b.htm>|<style>p{margin:1px|}td{padding:9999999px}</style>|"
     u"<title>a</title>|<script>|<!--|-->|&#769;&#x301;\u0301\u0301\u0301\u0301|"
-    u"&nbsp;&shy;&#8238;&#64976;&#65532;|\u093F\u094D\u202E\u05D0\u05D1\U0001F600|"
+    u"&eacute;&#xE9;&#160;&bogus;&#99999999;&lt;&amp;&quot;&gt;|&nbsp;&shy;&#8238;&#64976;&#65532;|"
+    u"\u093F\u094D\u202E\u05D0\u05D1\U0001F600|"
     u"word word word word word word word word |"
     u"averyveryveryverylongwordwithoutanyblankinitatallaveryveryveryverylongword|\n|<|'>";
 
