@@ -14,8 +14,8 @@ std::u16string Joined(const StringArray& parts, std::int32_t first, std::u16stri
 }
 
 void CheckFields(const std::u16string& text, const std::u16string& del) {
-    StringArray fields;
-    Require(StrToArr(text, del, fields), "every text can be cut");
+    StringArray fields(0, {text});
+    Require(StrToArr(fields[0], del, fields), "every text can be cut, its own result too");
     Require(fields[0].empty(), "element 0 stays empty");
     const bool closed = !text.empty() && text.ends_with(del);
     Require(Joined(fields, 1, del) == (closed ? text : text + del), "the fields give the text");
@@ -26,8 +26,8 @@ void CheckFields(const std::u16string& text, const std::u16string& del) {
 }
 
 void CheckChunks(const std::u16string& text, const std::u16string& del, std::int32_t length) {
-    StringArray chunks;
-    if (!ChunkStrToArr(text, chunks, length, del)) return;
+    StringArray chunks(0, {text});
+    if (!ChunkStrToArr(chunks[0], chunks, length, del)) return;
     for (std::int32_t i = 0; i < chunks.UBound(); ++i) {
         Require(chunks[i].ends_with(del), "a chunk ends at a delimiter");
     }
@@ -35,16 +35,25 @@ void CheckChunks(const std::u16string& text, const std::u16string& del, std::int
     Require(Joined(chunks, twice ? 1 : 0, u"") == text, "the chunks give the text");
 }
 
-/// The first fields between delimiters of several characters.
-std::vector<std::u16string> Split(std::u16string text, const std::u16string& del) {
-    std::vector<std::u16string> fields;
-    text += del;  // which ends the last field
-    for (std::size_t start = 0, end = 0; fields.size() < 20; start = end + del.size()) {
-        end = text.find(del, start);
-        if (end == text.npos) break;
-        fields.push_back(text.substr(start, end - start));
+/// The text to split is a view of either output.
+void CheckHalves(const std::u16string& text, const std::u16string& del) {
+    const std::size_t at = text.find(del);
+    const bool isCut = at != text.npos;
+    for (const bool ownsLeft : {true, false}) {
+        std::u16string left = text, right = text;
+        SplitLeftRight(ownsLeft ? left : right, del, left, right);
+        Require(left == text.substr(0, at), "what stands before the delimiter, or all");
+        Require(right == (isCut ? text.substr(at + del.size()) : text), "what follows it, or all");
     }
-    return fields;
+}
+
+void CheckWideFields(const std::u16string& text, const std::u16string& del) {
+    std::u16string rest = text + del;  // which ends the last field
+    std::size_t end = 0;
+    for (std::int16_t i = 1; i <= 20 && (end = rest.find(del)) != rest.npos; ++i) {
+        Require(SplitStr(text, del, i) == rest.substr(0, end), "a field by its number");
+        rest.erase(0, end + del.size());
+    }
 }
 
 }  // namespace
@@ -56,10 +65,10 @@ void halvek::Check(FuzzedDataProvider& input) {
     const std::u16string text = RestAsText(input, del + u"ab");
     CheckFields(text, del.substr(0, 1));
     CheckChunks(text, del.substr(0, 1), length);
-    StringArray fields;
-    StrToArr(text, del, fields);
-    ChunkStrToArr(text, fields, length, del);
-    for (std::int16_t i = 0; const std::u16string& field : Split(text, del)) {
-        Require(SplitStr(text, del, ++i) == field, "a field between longer delimiters");
-    }
+    CheckHalves(text, del);
+    CheckHalves(text, del.substr(0, 1));
+    CheckWideFields(text, del);
+    StringArray parts;
+    StrToArr(text, del, parts);
+    ChunkStrToArr(text, parts, length, del);
 }

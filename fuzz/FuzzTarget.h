@@ -64,6 +64,12 @@ inline std::vector<std::u16string> Cut(std::u16string_view text, char16_t separa
     return pieces;
 }
 
+/// One of some texts.
+inline const std::u16string& Picked(FuzzedDataProvider& input,
+                                    const std::vector<std::u16string>& texts) {
+    return texts[input.ConsumeIntegralInRange<std::size_t>(0, texts.size() - 1)];
+}
+
 /// Ends the run like a crash when a condition does not hold.
 inline void Require(bool holds, const char* what) {
     if (holds) return;

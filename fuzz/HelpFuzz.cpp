@@ -5,18 +5,12 @@
 #include <halvekutils/help/HelpContents.h>
 #include <halvekutils/help/HelpText.h>
 #include <halvekutils/help/HelpTopic.h>
+#include <halvekutils/help/LittleEndian.h>
 #include <halvekutils/help/LzxDecoder.h>
 
 using namespace halvek;
 
 namespace {
-
-std::int32_t NumberAt(const std::string& bytes, std::size_t at) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 4; i-- > 0;)
-        number = number << 8 | static_cast<std::uint8_t>(bytes[at + i]);
-    return static_cast<std::int32_t>(number);
-}
 
 /// The first frame of a program of this size, not compressed, as compressors write it: the targets
 /// of its calls are absolute.
@@ -30,7 +24,7 @@ std::string StoredFrame(std::string program, std::int32_t size) {
     for (std::size_t i = 0; i + 10 < program.size(); ++i) {
         if (program[i] != '\xE8') continue;
         const auto at = static_cast<std::int64_t>(i);
-        std::int64_t target = NumberAt(program, i + 1);
+        std::int64_t target = *NumberAt<std::int32_t>(program, i + 1);
         if (target >= -at && target < size) target += target < size - at ? at : -std::int64_t{size};
         for (int byte = 0; byte < 4; ++byte) program[++i] = static_cast<char>(target >> 8 * byte);
     }
@@ -41,7 +35,7 @@ void CheckCalls(const std::string& bytes) {
     std::string program;
     while (program.size() < LzxDecoder::kFrameLength) program += bytes + '\xE8';
     program.resize(LzxDecoder::kFrameLength);
-    const std::int32_t size = NumberAt(program, 0) & 0x7FFFFFFF;
+    const std::int32_t size = *NumberAt<std::int32_t>(program, 0) & 0x7FFFFFFF;
     LzxDecoder decoder(0x10000);
     const std::string frame = decoder.Frame(StoredFrame(program, size), program.size());
     Require(size == 0 || frame == program, "the targets of calls are relative again");

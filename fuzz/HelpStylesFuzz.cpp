@@ -13,53 +13,21 @@ namespace {
 constexpr char16_t kServed[] = u"help://file/a.png";
 constexpr char16_t kShown[] = u"help://file/a.png)";
 
-/// Sheets of pieces that matter to a reader of them, and of any characters between.
+/// What matters to a reader of sheets, between bars.
+constexpr std::u16string_view kPieces =
+    u"{|}|;|:|,|(|)|/*|*/|<!--|-->|'|\"|\\|</style>|p.x, td:hover #y *|"
+    u"@media screen and (color)|@media print|@import url(a.css)|@font-face|"
+    u"margin|margin-left|background|background-image|color|font|font-size|line-height|width|"
+    u"text-indent|position:fixed;|url(|a.png|file:///etc/passwd|expression(|rgb(|"
+    u"-9e9px|+99999%|1e-7em|12pt|red";
+
+/// Sheets of such pieces, and of any characters between.
 std::u16string OddSheet(FuzzedDataProvider& input) {
-    constexpr const char16_t* kPieces[] = {u"{",
-                                           u"}",
-                                           u";",
-                                           u":",
-                                           u",",
-                                           u"(",
-                                           u")",
-                                           u"/*",
-                                           u"*/",
-                                           u"<!--",
-                                           u"-->",
-                                           u"'",
-                                           u"\"",
-                                           u"p.x, td:hover #y *",
-                                           u"@media screen and (color)",
-                                           u"@media print",
-                                           u"@import url(a.css)",
-                                           u"@font-face",
-                                           u"margin",
-                                           u"margin-left",
-                                           u"background",
-                                           u"background-image",
-                                           u"color",
-                                           u"font",
-                                           u"font-size",
-                                           u"line-height",
-                                           u"width",
-                                           u"text-indent",
-                                           u"position:fixed;",
-                                           u"url(",
-                                           u"a.png",
-                                           u"file:///etc/passwd",
-                                           u"expression(",
-                                           u"rgb(",
-                                           u"-9e9px",
-                                           u"+99999%",
-                                           u"1e-7em",
-                                           u"12pt",
-                                           u"red",
-                                           u"</style>",
-                                           u"\\"};
+    static const auto pieces = Cut(kPieces, u'|');
     std::u16string sheet;
     while (input.remaining_bytes() > 0) {
         const bool isPiece = input.ConsumeIntegralInRange(0, 7) != 0;
-        sheet += isPiece ? input.PickValueInArray(kPieces) : FuzzText(input, 8);
+        sheet += isPiece ? Picked(input, pieces) : FuzzText(input, 8);
     }
     return sheet;
 }

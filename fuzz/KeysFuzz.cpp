@@ -34,32 +34,25 @@ void halvek::Check(FuzzedDataProvider& input) {
                         "what has no such key cannot be removed by it");
                 if (isThere) list.erase(at(key));
                 break;
-            case 2:
-                if (position >= 1 && position <= collection.Count()) {
-                    collection.Remove(position);
-                    list.erase(list.begin() + position - 1);
-                    break;
-                }
-                Require(FaultOf([&] { collection.Remove(position); }) == 9 &&
-                            FaultOf([&] { collection.Item(position); }) == 9,
+            case 2: {
+                const bool isInside = position >= 1 && position <= std::ssize(list);
+                const std::int32_t fault = isInside ? 0 : 9;
+                Require(FaultOf([&] { collection.Item(position); }) == fault &&
+                            FaultOf([&] { collection.Remove(position); }) == fault,
                         "no item lies outside");
+                if (isInside) list.erase(list.begin() + position - 1);
                 break;
+            }
             default:
                 Require((FaultOf([&] { collection.Add(item, key); }) != 0) == isThere,
                         "a key is taken once");
                 if (!isThere) list.emplace_back(Folded(key), item);
         }
-        Require(collection.Count() == static_cast<std::int32_t>(list.size()), "as many items");
-        const auto found = at(key);
-        const auto* const looked = collection.Find(key);
-        Require((looked != nullptr) == (found != list.end()), "a key that is there is found");
-        Require(looked == nullptr || *looked == found->second, "a key finds its own item");
-        for (std::size_t i = 0; i < list.size(); ++i) {
-            Require(collection.Item(static_cast<std::int32_t>(i) + 1) == list[i].second,
-                    "in order");
+        Require(collection.Count() == std::ssize(list), "as many items");
+        Require((collection.Find(key) != nullptr) == (at(key) != list.end()), "found if there");
+        for (std::int32_t i = 0; const auto& [itsKey, itsItem] : list) {
+            Require(collection.Item(++i) == itsItem, "in order");
+            Require(!itsKey || collection.Item(*itsKey) == itsItem, "a key finds its own item");
         }
-    }
-    for (const auto& [key, item] : list) {
-        if (key) Require(collection.Item(*key) == item, "every key finds its own item");
     }
 }

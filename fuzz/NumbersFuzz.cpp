@@ -43,24 +43,9 @@ void CheckNumber(const std::u16string& text) {
     Require(close || std::abs(*number) > 1.79e308, "a number's text reads back");
 }
 
-/// Thousandths are rounded as whole numbers are, halves away from zero.
-void CheckRounding(std::int64_t thousandths) {
-    const std::int64_t size = std::abs(thousandths);
-    const std::int64_t cents = (size + 5) / 10;
-    const auto decimal = [&](std::int64_t whole, std::int64_t rest, std::int64_t unit) {
-        return (thousandths < 0 ? u"-" : u"") + IntegerText(whole) + u'.' +
-               IntegerText(unit + rest).substr(1);
-    };
-    const double rounded = RoundToCents(Val(decimal(size / 1000, size % 1000, 1000)));
-    Require(rounded == Val(decimal(cents / 100, cents % 100, 100)), "rounded to the cent");
-    Require(rounded != 0 || !std::signbit(rounded), "nothing has no sign");
-}
-
 }  // namespace
 
 void halvek::Check(FuzzedDataProvider& input) {
-    CheckRounding(
-        input.ConsumeIntegralInRange<std::int64_t>(-9'999'999'999'999, 9'999'999'999'999));
     const auto length = input.ConsumeIntegralInRange<std::size_t>(1, 7);
     const std::u16string text = RestAsText(input);
     CheckValue(text);

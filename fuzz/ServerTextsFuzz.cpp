@@ -63,9 +63,8 @@ std::size_t RightsOf(const SecurityItem& item) {
 }
 
 std::size_t ValueOf(char16_t digit) {
-    const std::size_t lower = std::u16string_view(u"0123456789abcdef").find(digit);
-    const std::size_t upper = std::u16string_view(u"0123456789ABCDEF").find(digit);
-    return lower <= kEveryRight ? lower : upper <= kEveryRight ? upper : 0;
+    const std::size_t at = std::u16string_view(u"0123456789ABCDEFabcdef").find(digit);
+    return at > 21 ? 0 : at > kEveryRight ? at - 6 : at;
 }
 
 /// Builds the rights of a text after those of full access, and looks one up.

@@ -24,6 +24,11 @@ class HelpFile {
         throw std::runtime_error("chmcmd (fp-utils) cannot compile: " + ReadFile(folder_ / "log"));
     }
 
+    static const HelpFile& Shared() {
+        static const HelpFile file;
+        return file;
+    }
+
     std::filesystem::path Path() const { return folder_ / "help.chm"; }
     static std::filesystem::path Source(std::string_view name) {
         return std::filesystem::path(HALVEK_HELP_SOURCES) / name;

@@ -54,7 +54,8 @@ INSERT INTO printer VALUES
 -- Rights: 8 to read, 4 to add, 2 to modify, 1 to delete
 INSERT INTO user_right VALUES
     ('dsmith', 'PATIENTS', 'E'), ('dsmith', 'SCHEDULE', 'F'), ('dsmith', 'PAYMENTS', 'C'),
-    ('dsmith', 'WRITEOFFS', '8'), ('dsmith', 'PREFERENCES', 'A'), ('dsmith', 'ERRORLOG', '8');
+    ('dsmith', 'ADJUSTMENTS', 'C'), ('dsmith', 'WRITEOFFS', '8'), ('dsmith', 'PREFERENCES', 'A'),
+    ('dsmith', 'ERRORLOG', '8');
 -- The colour of required fields is the sixth of the settings, the last that is sent; x'DF' separates.
 INSERT INTO setting VALUES ('dsmith', CAST(x'DFDFDFDFDF' || '16444122' AS BLOB));
 INSERT INTO code_table VALUES

@@ -175,6 +175,11 @@ void PaymentScreen::FillPrinters() {
 void PaymentScreen::Refresh() {
     const auto& patient = desk_.Current();
     post_->setEnabled(patient && desk_.Rights("PAYMENTS")->AllowAdd());
+    // Locked, not disabled: what is typed after Alt+J must not reach the amount.
+    const bool mayAdjust = desk_.Rights("ADJUSTMENTS")->AllowAdd();
+    adjustment_->setReadOnly(!mayAdjust);
+    adjustment_->setPlaceholderText(mayAdjust ? "" : "locked");
+    adjustment_->setToolTip(mayAdjust ? "" : "Your rights do not include adjustments");
     if (!patient) return;
     if (shown_ != patient->number) {
         shown_ = patient->number;

@@ -33,7 +33,7 @@ void CheckIn::ChooseDay(const std::shared_ptr<PopupTarget>& button) {
 void CheckIn::ChooseReasons(TextIn list, const std::shared_ptr<PopupTarget>& button) {
     const auto chosen =
         utils_->ShowSelectionGridAndCalculateCoordinates(u"Reasons", list, reasons_, button);
-    if (chosen != u"CANCEL") reasons_ = chosen;  // which means OK without a change
+    if (chosen != u"CANCEL") reasons_ = chosen;  // "CANCEL": OK without a change
 }
 
 bool CheckIn::Confirm() {

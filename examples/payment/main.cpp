@@ -56,13 +56,17 @@ int main(int argc, char** argv) {
         const QString question =
             QStringLiteral("Post %1 for %2?").arg(amount->text(), kind->currentText());
         if (utils->ShowMsgBox(question, mbYesNo, mbQuestion, window.windowTitle()) != mbYes) return;
+        const QString payment =
+            QStringLiteral("%1|%2|%3\n")
+                .arg(kind->currentText(), visit->text(), QString::number(*cents));
         QFile posted(QStringLiteral("posted.txt"));  // what goes to the server
-        if (posted.open(QIODevice::Append)) {
-            posted.write(
-                ToServer(QStringLiteral("%1|%2|%3\n")
-                             .arg(kind->currentText(), visit->text(), QString::number(*cents))));
+        if (posted.open(QIODevice::Append) && posted.write(ToServer(payment)) > 0 &&
+            posted.flush()) {
+            amount->clear();
+        } else {
+            utils->ShowMsgBox(QStringLiteral("Not posted: ") + posted.errorString(), mbOkOnly,
+                              mbCritical, window.windowTitle());
         }
-        amount->clear();
     });
     window.show();
     return QApplication::exec();

@@ -110,19 +110,27 @@ void PrepareFile(const Session& session, const fs::path& file) {
 /// "MM/DD/YY hh:mm:ss AM", the hour on the 12-hour clock.
 std::string Stamp(DateTime now) {
     const DateParts parts = PartsOf(now);
-    const int hour = parts.hour % 12 == 0 ? 12 : parts.hour % 12;
-    const auto twoDigits = [](auto number) {
-        return std::string{static_cast<char>('0' + number / 10 % 10),
-                           static_cast<char>('0' + number % 10)};
-    };
-    return twoDigits(parts.month) + '/' + twoDigits(parts.day) + '/' + twoDigits(parts.year) + ' ' +
-           twoDigits(hour) + ':' + twoDigits(parts.minute) + ':' + twoDigits(parts.second) +
-           (parts.hour < 12 ? " AM" : " PM");
+    std::string stamp = parts.hour < 12 ? "../../.. ..:..:.. AM" : "../../.. ..:..:.. PM";
+    const int numbers[] = {static_cast<int>(parts.month),
+                           static_cast<int>(parts.day),
+                           parts.year,
+                           (parts.hour + 11) % 12 + 1,
+                           parts.minute,
+                           parts.second};
+    std::size_t at = 0;
+    for (const int number : numbers) {
+        stamp[at] = static_cast<char>('0' + number / 10 % 10);
+        stamp[at + 1] = static_cast<char>('0' + number % 10);
+        at += 3;
+    }
+    return stamp;
 }
 
 std::string LogLine(const Session& session, TextIn message) {
-    return Stamp(session.machine->Now()) + '\t' + ToCodePage(session.loginUserName) + '\t' +
-           ToCodePage(message) + "\r\n";
+    std::string line = Stamp(session.machine->Now());
+    line.append("\t").append(ToCodePage(session.loginUserName));
+    line.append("\t").append(ToCodePage(message)).append("\r\n");
+    return line;
 }
 
 void ReportFailure(const Session& session, const std::exception& caught) {

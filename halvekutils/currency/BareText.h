@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <halvekutils/base/Characters.h>
-
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -15,6 +13,13 @@ inline std::u16string Without(std::u16string text, char16_t character) {
     return text;
 }
 
+/// The text without the blanks at both ends.
+inline std::u16string TrimmedText(std::u16string text) {
+    text.erase(text.find_last_not_of(u' ') + 1);
+    text.erase(0, text.find_first_not_of(u' '));
+    return text;
+}
+
 /// The length of a text as controls count it.
 inline std::int32_t LengthOf(const std::u16string& text) {
     return static_cast<std::int32_t>(text.size());
@@ -22,7 +27,7 @@ inline std::int32_t LengthOf(const std::u16string& text) {
 
 /// What the rules of currency fields call the text of a control: no "$", no blanks around it.
 inline std::u16string BareText(std::u16string text) {
-    return Trimmed(Without(std::move(text), u'$')).Str();
+    return TrimmedText(Without(std::move(text), u'$'));
 }
 
 }  // namespace halvek

@@ -67,7 +67,7 @@ void LeaveCurrencyField(TextControl& ctr, bool& cancel, AmountSign sign) {
     std::u16string text = BareText(ctr.Text());
     const bool negative = sign == AmountSign::Signed && HasMinus(text);
     if (negative) {
-        text = Trimmed(Without(std::move(text), u'-')).Str();
+        text = TrimmedText(Without(std::move(text), u'-'));
         if (text.empty() || text == u"0.00") {
             ctr.Text(text);
             cancel = false;

@@ -13,7 +13,7 @@ TextField::TextField(TextIn text, std::int32_t selStart, std::int32_t selLength)
 TextField::~TextField() = default;
 
 void TextField::Text(TextIn value) {
-    text_ = std::u16string(value);
+    text_ = value;
     selStart_ = 0;
     selLength_ = 0;
 }

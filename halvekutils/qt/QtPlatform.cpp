@@ -43,9 +43,9 @@ Rect UsableRect(const QScreen* screen) {
     return ToRect(WindowOpening::UsableArea(screen));
 }
 
-/// Substitutes an installed face for one that the dialogs use and the desktop may lack.
+/// Names an installed face for one that the dialogs use and the desktop may lack. Qt asks for it only
+/// then; to ask here, too, would cost every host a tenth of what the library adds to its start.
 void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
-    if (QFontDatabase::hasFamily(wanted)) return;
     QFont::insertSubstitution(wanted, QFontDatabase::systemFont(closest).family());
 }
 

@@ -62,8 +62,6 @@ TEST(DateText, RefusesWhatIsNoDate) {
 }
 
 TEST(DateText, EndsWithTheYears100And9999) {
-    EXPECT_EQ(DateTimeText(kFirstDateTime + seconds(1)), u"01/01/0100 12:00:01 AM");
-    EXPECT_EQ(ReadAgain(u"12/31/9999 11:59:59 PM"), "12/31/9999 11:59:59 PM");
     const DateTime outside[] = {kFirstDateTime - seconds(1), kLastDateTime + seconds(1),
                                 DateTime::min(), DateTime::max()};
     for (const DateTime when : outside) {
@@ -74,10 +72,9 @@ TEST(DateText, EndsWithTheYears100And9999) {
     // The calendar types keep the low bits only, and no text leads that far.
     const std::tuple<int, unsigned, unsigned, int> rows[] = {
         {2001, 2, 29, 0}, {2001, 257, 1, 0}, {2001, 1, 257, 0}, {67537, 1, 1, 0}, {2001, 1, 1, 24}};
-    for (const auto& [year, month, day, hour] : rows) {
-        EXPECT_EQ(
-            FaultOf([&, y = year, m = month, d = day, h = hour] { MakeDateTime(y, m, d, h); }), 5)
-            << year << ' ' << month << ' ' << day;
+    const auto make = [](auto... parts) { MakeDateTime(parts...); };
+    for (const auto& row : rows) {
+        EXPECT_EQ(FaultOf([&] { std::apply(make, row); }), 5) << testing::PrintToString(row);
     }
 }
 

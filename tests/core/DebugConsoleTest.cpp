@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tests/CleanState.h"
+#include "tests/LogTest.h"
 
 namespace halvek {
 namespace {
-
-constexpr char kStamp[] = "03/05/24 09:07:03 AM\tnina\t";
 
 struct DebugConsoleTest : CleanState {
     void SetUp() override { Start(true); }
@@ -29,7 +27,7 @@ TEST_F(DebugConsoleTest, LinesAreDroppedOutsideDebugModeAndWithoutModelessWindow
     utils_->ShowInDebug(u"no debug mode");
     utils_->ClearDebug();
     EXPECT_EQ(Text(), u"1\r\n<<<<<LOG STOPPED>>>>>\r\n<<<<<LOG STARTED>>>>>\r\n");
-    EXPECT_EQ(Log(), kStamp + std::string("1\r\n") + kStamp + "<<<<<LOG STARTED>>>>>\r\n");
+    EXPECT_EQ(Log(), Line("1") + Line("<<<<<LOG STARTED>>>>>"));
 }
 
 /// A log that writes to the debug console itself.
@@ -49,7 +47,7 @@ TEST_F(DebugConsoleTest, ALineThatIsWrittenWhileAnotherGoesToTheLogIsOnlyShown) 
     desktop_.Console()->SendAllToFile(true);
     for (const auto* const line : {u"1", u"2"}) utils_->ShowInDebug(line);
     EXPECT_EQ(Text(), u"1\r\nwriting\r\n2\r\nwriting\r\n");
-    EXPECT_EQ(Log(), kStamp + std::string("1\r\n") + kStamp + "2\r\n");
+    EXPECT_EQ(Log(), Line("1") + Line("2"));
 }
 
 TEST_F(DebugConsoleTest, ItsTextIsSavedToAFileThatCanBeDeleted) {
@@ -65,6 +63,7 @@ TEST_F(DebugConsoleTest, ItsTextIsSavedToAFileThatCanBeDeleted) {
     std::filesystem::create_directory(file);
     console.SaveToFile();
     console.KillLogFile();
+    EXPECT_TRUE(std::filesystem::exists(file)) << "a folder in its place stays";
 }
 
 }  // namespace

@@ -145,7 +145,10 @@ TEST_F(ErrorLog, LosesALineRatherThanAnArchiveThatTheCleanUpLeft) {
     EXPECT_EQ(NamesIn(folder_.Path()), (Names{kArchive, "a.log", "error_1.log"}));
 
     WriteFile(folder_ / "a.log", kFull + "y");
+    Start(folder_ / "a.log", true);
     utils_->LogError(u"lost");
+    ASSERT_EQ(desktop_.StockMessages().size(), 1u);
+    EXPECT_THAT(ToUtf8(desktop_.StockMessages()[0].text), testing::HasSubstr("already exists"));
     EXPECT_TRUE(ReadFile(folder_ / "a.log") == kFull + "y");
     EXPECT_TRUE(ReadFile(folder_ / kArchive) == kFull);
 

@@ -3,7 +3,6 @@
 #include "tests/HostWindow.h"
 
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/platform/TextField.h>
 
 #include <thread>

@@ -6,12 +6,14 @@
 set -u
 source "$(dirname "$0")/desktop.sh"
 
-# Presses keys and waits until another window is active. Usage: ask KEYS WHAT
+# Presses keys and waits until a window that is not the client's main one nor the last is active.
+# Usage: ask KEYS WHAT
 ask() {
     local before
     before=$(active_window)
     keys $1
-    wait_until "$1 opens $2" eval "[ -n \"\$(active_window)\" ] && ! is_active $before"
+    wait_until "$1 opens $2" eval \
+        "[ -n \"\$(active_window)\" ] && ! is_active $before && ! is_active $main"
     picture "$2"
 }
 
@@ -35,7 +37,13 @@ wait "$client" || fail "the check-in form ends with $?"
 start "$2"
 wait_for_window Payment
 main=$window
+mkdir posted.txt  # where no file can be written
 keys alt+a 2 5
+ask alt+p payment-question
+ask y not-posted
+keys Return
+wait_until "the payment is still there" is_active "$main"
+rmdir posted.txt
 ask alt+p payment-question
 keys y
 wait_until "the payment is posted" test -s posted.txt

@@ -105,6 +105,20 @@ wait_until "the client ends" has_ended "$client"
 called ShowMsgBox && fail "somebody without the right to post is asked whether to"
 holds "SELECT count(*) FROM payment" "$posted"
 
+# Who may post payments but not adjust them types an adjustment in vain.
+change "UPDATE user_right SET digit = 'C' WHERE item = 'PAYMENTS'"
+change "DELETE FROM user_right WHERE item = 'ADJUSTMENTS'"
+open_desk rights.db
+keys ctrl+4 alt+j minus 5
+picture visit-without-adjustment
+keys Tab ctrl+Return
+wait_for_window "Payment"
+keys y
+wait_until "the payment is posted" called '^ShowMsgBox("Post \$[0-9.]*?.* = 6$'
+kill_client
+holds "SELECT count(*) - $posted FROM payment" 1
+holds "SELECT adjustment FROM payment ORDER BY id DESC LIMIT 1" 0
+
 # What was posted is there again on a dark desktop, and a second patient by search, look-up, calendar
 # and full keys
 use_dark_desktop

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace halvek {
 namespace {
@@ -46,12 +47,7 @@ class MessageBoxTest : public ::testing::Test {
 // Layout
 
 TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
-    const struct {
-        std::u16string prompt;
-        bool bold;
-        Size label;
-        std::int32_t form;
-    } rows[] = {
+    const std::tuple<std::u16string, bool, Size, std::int32_t> rows[] = {
         {Letters(35), false, {4600, 200}, 5400},
         {Letters(36), false, {4200, 200}, 5420},
         {Letters(36), true, {7600, 200}, 8820},
@@ -65,10 +61,10 @@ TEST_F(MessageBoxTest, WidthsFollowTheWidestLine) {
         {Lines(167) + u"\r\n" + Letters(100), false, {4600, 34300}, 5400},  // after 1000
     };
     desktop_.SetScreenSize({20000, 11520});
-    for (const auto& row : rows) {
-        const MessageBoxLayout layout = LayOut(row.prompt, mbOkOnly, row.bold);
-        EXPECT_EQ((Size{layout.label.width, layout.label.height}), row.label) << row.prompt.size();
-        EXPECT_EQ(layout.form.width, row.form) << row.prompt.size();
+    for (const auto& [prompt, bold, label, form] : rows) {
+        const MessageBoxLayout layout = LayOut(prompt, mbOkOnly, bold);
+        EXPECT_EQ((Size{layout.label.width, layout.label.height}), label) << prompt.size();
+        EXPECT_EQ(layout.form.width, form) << prompt.size();
     }
 }
 
@@ -164,11 +160,8 @@ TEST_F(MessageBoxTest, ChoicesOutOfRangeAreReplaced) {
     EXPECT_EQ(make(mbNoIcon, mbWhite, mb5).Font(), (FontSpec{u"Courier New", 9}));
     EXPECT_EQ(make(8, mbWhite, mb9).Picture(), 8);
     for (const int icon : {0, 9, -1}) EXPECT_EQ(make(icon, mbWhite, mb9).Picture(), 0) << icon;
-    const std::int32_t backgrounds[][2] = {{mbWhite, kWhite},
-                                           {mbGray, kButtonFace},
-                                           {mbSkinColor, 0x112233},
-                                           {0, kWhite},
-                                           {4, kWhite}};
+    const std::pair<std::int32_t, Color> backgrounds[] = {
+        {mbGray, kButtonFace}, {mbSkinColor, 0x112233}, {0, kWhite}, {4, kWhite}};
     for (const auto& [scheme, color] : backgrounds) {
         EXPECT_EQ(make(mbNoIcon, scheme, mb9).Colors().background, color) << scheme;
     }

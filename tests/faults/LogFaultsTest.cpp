@@ -149,26 +149,5 @@ TEST_F(LogFaults, OnlyItsOwnFolderIsMadeAnewWhenItGoesWhileTheHostRuns) {
               "ERROR in LocalRef.LogError\r\nPath not found: " + rows[0].second.native());
 }
 
-TEST_F(LogFaults, AClockThatIsSetBackStopsNoCountdownAndNoCalendar) {
-    Start(log_);
-    utils_->InitServerTime(u"3/5/2024 10:07:03");
-    desktop_.OnMessageBox([&](MessageBox& box) {
-        for (int tick = 0; tick < 3; ++tick) {
-            EXPECT_TRUE(box.IsOpen());
-            machine_.now -= std::chrono::hours(24);
-            box.Tick();
-        }
-        EXPECT_FALSE(box.IsOpen());
-    });
-    EXPECT_EQ(utils_->ShowMsgBox(u"?", mbYesNo, mbNoIcon, u"", mbWhite, mb9, false, 3),
-              kClosedByCountdown);
-    EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2024, 3, 2, 10, 7, 3));
-    EXPECT_EQ(utils_->ConvertHDate(u",3600"), u"03/02/2024 01:00:00 AM");
-
-    machine_.now = MakeDateTime(1600, 1, 1);
-    desktop_.OnCalendar([](Calendar& days) { days.KeyDown(Calendar::Key::Enter); });
-    EXPECT_EQ(utils_->ShowCalendar(-1, -1, -1), u"01/01/1753");
-}
-
 }  // namespace
 }  // namespace halvek

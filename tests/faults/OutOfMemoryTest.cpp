@@ -7,6 +7,7 @@
 #include <halvekutils/base/KeyedCollection.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/ObjectStore.h>
+#include <halvekutils/base/Pieces.h>
 #include <halvekutils/base/Utf8.h>
 #include <halvekutils/core/DebugConsole.h>
 #include <halvekutils/help/CompiledHelp.h>
@@ -20,7 +21,6 @@
 #include <halvekutils/selection/SelectGrid.h>
 
 #include <algorithm>
-#include <new>
 #include <ostream>
 
 namespace halvek {
@@ -32,11 +32,6 @@ constexpr char16_t kWords[] = u"the first of them|the second one|and a last one"
 constexpr char16_t kCodes[] =
     u"Insurance companiesæINSURANCEæ1æ1æReport oneæSort|Providers of careæPROVIDERSæ0æ1ææ|";
 constexpr char16_t kList[] = u"H:A000001\tAlpha\t0:B000002\tBeta\t0:C000003\tGamma\t0:";
-
-const HelpFile& TheHelp() {
-    static const HelpFile help;
-    return help;
-}
 
 std::unique_ptr<SelectGrid> OpenGrid(TextIn typed) {
     SelectionRequest request{u"Codes", kList, u"A000001"};
@@ -245,10 +240,11 @@ const Row kRows[] = {
          bool cancel = false;
          w.utils->OnCurrencyCtrValidate(w.field, cancel);
      }},
-    {"HelpOpens", Raised, [](World& w) { w.result = CompiledHelp(TheHelp().Path()).Title(); }},
+    {"HelpOpens", Raised,
+     [](World& w) { w.result = CompiledHelp(HelpFile::Shared().Path()).Title(); }},
     {"HelpReads", Raised,
      [](World& w) {
-         if (w.help == nullptr) w.help = std::make_unique<CompiledHelp>(TheHelp().Path());
+         if (w.help == nullptr) w.help = std::make_unique<CompiledHelp>(HelpFile::Shared().Path());
          w.result = HelpTextOf(w.help->Read(u"/first.htm"));
      }},
     {"ShowInDebug", Logged, [](World& w) { w.utils->ShowInDebug(kWords); }},
@@ -261,12 +257,10 @@ const Row kRows[] = {
 /// True when each line of the first text is one of the second's, in its order.
 bool IsPartOf(const Text& part, const Text& whole) {
     std::size_t at = 0;
-    for (std::size_t start = 0; start < part.size();) {
-        const Text line = part.substr(start, part.find(u'\n', start) - start);
+    for (const TextIn line : Pieces(part, u'\n')) {
         at = whole.find(line, at);
         if (at == Text::npos) return false;
         at += line.size();
-        start += line.size() + 1;
     }
     return true;
 }
@@ -280,28 +274,18 @@ struct OutOfMemory : ::testing::TestWithParam<Row> {
         ASSERT_NE(before, finished_);
     }
 
-    struct Attempt {
-        bool failed = false;  ///< an allocation has
-        bool raised = false;
-    };
-    Attempt ActWithout(int n, Memory memory, World& w) const {
-        const FailingAllocations failing(n, memory);
-        bool raised = false;
-        try {
-            row_.act(w);
-        } catch (const std::bad_alloc&) {
-            raised = true;
-        } catch (const RuntimeError& fault) {
-            raised = fault.Number() == 7;
-        }
-        return {FailingAllocations::HaveFailed(), raised};
-    }
-
     /// Tries the call without its n-th allocation; false when it has no more than n.
     bool Try(int n, Memory memory) const {
         World w;
         const Text before = Show(w);
-        const auto [failed, raised] = ActWithout(n, memory, w);
+        bool raised = false;
+        try {
+            const FailingAllocations failing(n, memory);
+            row_.act(w);
+        } catch (const std::exception& caught) {
+            raised = AsRuntimeError(caught).Code() == Fault::OutOfMemory;
+        }
+        const bool hasFailed = FailingAllocations::HaveFailed();
         const std::string log = ReadFile(w.log);
         const Text after = Show(w);
         EXPECT_TRUE(log == "(missing)" || log.ends_with("\r\n")) << log;
@@ -313,7 +297,7 @@ struct OutOfMemory : ::testing::TestWithParam<Row> {
             const bool logged = log.find("Out of memory") != log.npos;
             EXPECT_TRUE(memory == Memory::Exhausted || (raised || logged) == (row_.told != Nobody));
         }
-        if (!failed) return false;
+        if (!hasFailed) return false;
         row_.act(w);
         EXPECT_EQ(ToUtf8(Show(w)), ToUtf8(finished_)) << "a later call";
         return true;

@@ -9,25 +9,18 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace halvek {
 namespace {
 
-const HelpFile& TheHelp() {
-    static const HelpFile help;
-    return help;
-}
-
-TEST(CompiledHelp, KnowsItsTopicsAndContents) {
-    CompiledHelp help(TheHelp().Path());
+TEST(CompiledHelp, KnowsItsTopicsAndContentsAndReadsThemInAnyLetterCase) {
+    CompiledHelp help(HelpFile::Shared().Path());
     EXPECT_EQ(help.TopicOfContext(200)->path, u"/sub/bills.htm");
     const std::vector<HelpEntry> contents = {
         {0, u"First", {u"/first.htm", u""}, {}, {}},
         {1, u"Bills & fees", {u"/sub/bills.htm", u"late"}, {}, {}}};
     EXPECT_EQ(help.Contents(), contents);
-}
-
-TEST(CompiledHelp, ReadsObjectsInAnyLetterCase) {
-    CompiledHelp help(TheHelp().Path());
     EXPECT_EQ(help.Read(u"/Sub/DOT.gif"), ReadFile(HelpFile::Source("sub/dot.gif")));
     const std::u16string bills = HelpTextOf(help.Read(u"/sub/bills.htm"));
     EXPECT_NE(bills.find(u"gr\u00FC\u00DFe"), std::string::npos);
@@ -35,12 +28,12 @@ TEST(CompiledHelp, ReadsObjectsInAnyLetterCase) {
 }
 
 TEST(CompiledHelp, AFileThatIsCutOffOrDamagedIsAFaultAtMost) {
-    const std::string whole = ReadFile(TheHelp().Path());
+    const std::string whole = ReadFile(HelpFile::Shared().Path());
     // The headers and the directory closely, the compressed data here and there
     for (std::size_t at = 0; at < whole.size(); at += at < 0x1000 ? 37 : 1499) {
-        const auto cut = TheHelp().Beside(whole.substr(0, at));
+        const auto cut = HelpFile::Shared().Beside(whole.substr(0, at));
         EXPECT_EQ(FaultOf([&] { CompiledHelp help(cut); }), 57) << at;
-        const auto damaged = TheHelp().Beside(std::string(whole).replace(at, 1, "\xFF"));
+        const auto damaged = HelpFile::Shared().Beside(std::string(whole).replace(at, 1, "\xFF"));
         const auto fault = FaultOf([&] { CompiledHelp(damaged).Read(u"/sub/bills.htm"); });
         EXPECT_TRUE(fault == 0 || fault == 53 || fault == 57) << at << ": " << fault;
     }
@@ -59,12 +52,8 @@ TEST(CompiledHelp, ResolvesAddressesAsRealFilesWriteThem) {
                              {"/sub/x.htm", ""},
                              {"/sub/gr\xC3\xBC\xC3\x9F.htm", ""}});
     const CompiledHelp help(file.Path());
-    struct Row {
-        TextIn address;
-        TextIn page;
-        TextIn shown;  // "" leads out
-    };
-    const Row rows[] = {
+    // The address, its page, and what it shows; nothing where it leads out
+    const std::tuple<TextIn, TextIn, TextIn> rows[] = {
         {u"page%201.html", u"/first.htm", u"/page 1.html"},
         {u" page 1.html\n", u"/sub/x.htm", u"/page 1.html"},
         {u"a%20b.htm", u"/", u"/a%20b.htm"},
@@ -174,11 +163,7 @@ TEST(CompiledHelp, SearchFindsWordsWhateverTheirMarkup) {
          {"/b.htm", "<meta charset=utf-8>Grace of a p<!-- x -->eriod, \xD0\x9F\xD0\xBE"},
          {"/c.htm", "<p>grace<p>period <script>grace period</script>"},
          {"/d.txt", "grace period"}});
-    struct Row {
-        TextIn words;
-        std::string_view found;
-    };
-    const Row rows[] = {
+    const std::pair<TextIn, std::string_view> rows[] = {
         {u"grace period", "a2 b2 c2 "}, {u"\"grace period\"", "a1 "}, {u"M\u00DCLLER", "a1 "},
         {u"\u043F\u041E", "b1 "},       {u"grace nowhere", ""},       {u" \" ", ""},
     };

@@ -27,11 +27,7 @@ HelpMarkup Cleaned(std::string_view html) {
 }
 
 TEST(HelpMarkup, KeepsWhatTheLayoutKnowsAndNoMore) {
-    struct Row {
-        std::string_view written;
-        std::string_view kept;
-    };
-    const Row rows[] = {
+    const std::pair<std::string_view, std::string_view> rows[] = {
         {"<P CLASS=x onclick='f()'>a <b>b</b></P>", "<p class=\"x\">a <b>b</b></p>"},
         {"<script>alert('<p>')</script>a<!-- <b> -->b<?php x ?>c", "abc"},
         {"<script>open", "open"},

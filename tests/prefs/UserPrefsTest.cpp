@@ -2,10 +2,8 @@
 #include "tests/CleanState.h"
 #include "tests/prefs/PrefsProperties.h"
 
-#include <halvekutils/base/BoolIn.h>
 #include <halvekutils/base/NumericText.h>
 #include <halvekutils/base/Utf8.h>
-#include <halvekutils/prefs/UserPrefs.h>
 #include <halvekutils/text/DelimitedText.h>
 
 namespace halvek {
@@ -32,12 +30,6 @@ std::u16string FieldOf(const UserPrefs& prefs, std::size_t field) {
     return SplitStr(prefs.GetSettingsString(), u"ß", static_cast<std::int16_t>(field + 1));
 }
 
-TEST(UserPrefs, WritesEveryFieldOfTheSettingsText) {
-    EXPECT_EQ(Populated(u"").GetSettingsString(), kUnset);
-    EXPECT_EQ(Populated(kWhole).GetSettingsString(), kWhole);
-    EXPECT_EQ(Populated(std::u16string(kWhole) + u"ßfield 31ß").GetSettingsString(), kWhole);
-}
-
 TEST(UserPrefs, AnUnsetColourTurnsIntoItsDefaultWhenItIsRead) {
     UserPrefs prefs = Populated(u"");
     std::u16string read;
@@ -47,23 +39,25 @@ TEST(UserPrefs, AnUnsetColourTurnsIntoItsDefaultWhenItIsRead) {
 }
 
 TEST(UserPrefs, ReadsNumbersByTheirBeginningAndGoesOnBehindABadOne) {
-    const struct {
-        std::u16string text;
-        std::int32_t days, color;
-    } rows[] = {{u"", 0, -1},       {u" ", 0, 0},
-                {u"-1x", -1, -1},   {u"1,234", 1, 1},
-                {u"3.5", 4, 4},     {u"2147483648", 0, -1},
-                {u"-1e400", 0, -1}, {std::u16string(1 << 20, u'9'), 0, -1}};
-    for (const auto& [text, days, color] : rows) {
+    const auto expect = [](const std::u16string& text, std::int32_t days, std::int32_t color) {
         const UserPrefs prefs = Populated(u"ßßßßß" + text + u"ß9ßßßßTrueß" + text + u"ßßfilter");
         EXPECT_EQ(FieldOf(prefs, 5), IntegerText(color)) << ToUtf8(text);
         EXPECT_EQ(prefs.AINumDaysToShow(), days) << ToUtf8(text);
         EXPECT_EQ(FieldOf(prefs, 6) + prefs.AIFilterData(), u"9filter") << ToUtf8(text);
+    };
+    const std::pair<TextIn, std::int32_t> numbers[] = {{u" ", 0},   {u"-1x", -1}, {u"1,234", 1},
+                                                       {u"3.5", 4}, {u"2.5", 2},  {u"-1.5", -2}};
+    for (const auto& [text, number] : numbers) expect(text.Str(), number, number);
+    expect(u"2147483647.4", 2147483647, 2147483647);
+    for (const TextIn text : {u"", u"-1e400", u"2147483647.5", u"-2147483648.51"}) {
+        expect(text.Str(), 0, -1);
     }
+    expect(std::u16string(1 << 20, u'9'), 0, -1);
 }
 
 TEST(UserPrefs, PopulatingResetsAllButTheAdvancedSettings) {
     UserPrefs prefs = Populated(kWhole);
+    EXPECT_EQ(prefs.GetSettingsString(), kWhole);
     prefs.LastPrinterUsed(u"Lab");
     prefs.PopulateSettings(u"");
     EXPECT_EQ(prefs.LastPrinterUsed(), u"Lab");

@@ -148,11 +148,8 @@ TEST_F(CupsPrintersTest, WithoutASchedulerTheListIsEmpty) {
 }
 
 TEST_F(CupsPrintersTest, WithoutItsLibraryASchedulerCountsAsNotThere) {
-    struct {
-        const char* libcups;
-        const char* reason;
-    } const rows[] = {{"libcups-gone.so", "No such file"},
-                      {"libc.so.6", "undefined symbol: cupsEncryption"}};
+    const std::pair<const char*, const char*> rows[] = {
+        {"libcups-gone.so", "No such file"}, {"libc.so.6", "undefined symbol: cupsEncryption"}};
     utils_->InitUtils(u"", u"Desk", u"test", false, u"1.0");
     const PrivateScheduler scheduler(1);
     for (const auto& [libcups, reason] : rows) {

@@ -244,6 +244,30 @@ TEST_F(MessageBoxFormTest, ABoxThatAHostMakesTooSmallToSeeIsNotWaitedFor) {
     EXPECT_EQ(box->ReturnedValue(), mbCancel);
 }
 
+// The user's key goes through the window, which another one may block.
+TEST_F(MessageBoxFormTest, ABoxThatIsGoneBeforeItIsSeenLeavesTheOneBelowToTheUser) {
+    struct AtOnce : QObject {
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            auto* const dialog = qobject_cast<QDialog*>(watched);
+            if (event->type() == QEvent::Show && dialog != nullptr) end(*dialog);
+            return false;
+        }
+        std::function<void(QDialog&)> end;
+    } atOnce;
+    for (const auto& end : {&QDialog::reject, static_cast<void (QDialog::*)()>(&QDialog::hide)}) {
+        atOnce.end = [end](QDialog& dialog) { (dialog.*end)(); };
+        const auto act = [&](QDialog& below) {
+            const auto above = MakeBox(mbYesNoCancel);
+            qApp->installEventFilter(&atOnce);
+            desktop_.Show(above, Modality::Modal);
+            qApp->removeEventFilter(&atOnce);
+            EXPECT_EQ(above->ReturnedValue(), mbCancel);
+            QTest::keyClick(below.windowHandle(), Qt::Key_Y);
+        };
+        EXPECT_EQ(Answer(mbYesNo, act), mbYes);
+    }
+}
+
 TEST_F(MessageBoxFormTest, TheDesktopBelongsToTheUserInterfaceThread) {
     std::int32_t fault = 0;
     std::thread([&] { fault = FaultOf([] { QtPlatform elsewhere; }); }).join();

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tests/CleanState.h"
+#include "tests/LogTest.h"
 
 #include <halvekutils/base/RuntimeError.h>
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/refdata/CodesCollection.h>
 
 namespace halvek {
@@ -26,13 +25,10 @@ TEST_F(CodesCollectionTest, KeepsTheFirstOfTwoEqualKeysAndLogsTheSecond) {
         EXPECT_EQ(codes->Item(2)->CodeDescription(), u"Last");
         EXPECT_EQ(desktop_.Beeps() - beeps, debugMode ? 1 : 0);
     }
-    const std::string text = Log();
-    const std::string entry = "\tError adding to CodesCollection in HalvekUtils.Add:\r\n" +
-                              ToUtf8(RuntimeError(Fault::DuplicateKey, u"ABC").Description()) +
-                              "\r\n\r\nPossible duplicate CodeKey/CodeDescription:  ABC/Second\r\n";
-    const std::size_t first = text.find(entry);
-    EXPECT_TRUE(text.ends_with(entry)) << text;
-    EXPECT_NE(text.rfind(entry), first);
+    const std::string message = "Error adding to CodesCollection in HalvekUtils.Add:\r\n" +
+                                ToUtf8(RuntimeError(Fault::DuplicateKey, u"ABC").Description()) +
+                                "\r\n\r\nPossible duplicate CodeKey/CodeDescription:  ABC/Second";
+    EXPECT_EQ(Log(), Line(message) + Line(message));
 }
 
 TEST_F(CodesCollectionTest, ARebuildLeavesTheHostsCollectionAlone) {

@@ -2,8 +2,9 @@
 #include "tests/CleanState.h"
 #include "tests/FaultOf.h"
 
-#include <halvekutils/base/Utf8.h>
 #include <halvekutils/refdata/SecurityItemsCollection.h>
+
+#include <tuple>
 
 namespace halvek {
 namespace {
@@ -88,21 +89,18 @@ TEST_F(SecurityItemsCollectionTest, AnOrdinaryBuildEndsFullAccessInEveryCollecti
 }
 
 TEST_F(SecurityItemsCollectionTest, RemembersAMissingKeyAndLogsItOnlyWhenAsked) {
-    const struct {
-        std::u16string specialMode;
-        bool debugMode, logged;
-    } rows[] = {
+    const std::tuple<TextIn, bool, bool> rows[] = {
         {u"Check Security", false, false}, {u"a,check security,b", false, true}, {u"", true, true}};
-    for (const auto& row : rows) {
-        Start(row.debugMode);
-        utils_->SpecialMode(row.specialMode);
+    for (const auto& [specialMode, debugMode, logged] : rows) {
+        Start(debugMode);
+        utils_->SpecialMode(specialMode);
         const int beeps = desktop_.Beeps();
         const auto items = Build(u"A8");
         const auto missing = items->Item(u"Missing");
-        EXPECT_EQ(Log().ends_with("\tMissing security item was not found\r\n"), row.logged);
+        EXPECT_EQ(Log().ends_with("\tMissing security item was not found\r\n"), logged);
         EXPECT_EQ(items->Item(u"MISSING"), missing);
         EXPECT_EQ(Shown(items), u"A=8 Missing=0");
-        EXPECT_EQ(desktop_.Beeps() - beeps, row.logged ? 1 : 0) << "once only";
+        EXPECT_EQ(desktop_.Beeps() - beeps, logged ? 1 : 0) << "once only";
         EXPECT_TRUE(utils_->ExistsInColl(items, u"fetched")) << "by a look-up like any other";
     }
 }

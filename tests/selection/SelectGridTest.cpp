@@ -35,36 +35,31 @@ class SelectGridTest : public CleanState {
     std::unique_ptr<SelectGrid> grid_;
 };
 
+/// Kind, text, tool tip, background and text colour (-1 for none), alignment, points.
+using Look = std::tuple<Kind, std::u16string, std::u16string, Color, Color, int, int>;
+
 TEST_F(SelectGridTest, DrawsEachCellByItsRowAndEntry) {
     SelectGrid& grid = Open(kCodes, u"C");
-    const struct {
-        std::int32_t row, column;
-        Kind kind;
-        const char16_t *text, *toolTip;
-        Color background, textColor;  // -1 for none
-        int alignment, points;
-    } rows[] = {
-        {0, 7, Kind::Header, u"Codes  (C)", u"", 0x87D4FA, -1, 1, 8},
-        {1, 1, Kind::Check, u"", u" NOT SELECTED ", -1, -1, 0, 8},
-        {2, 1, Kind::Code, u" ", u"   ", -1, 0xFF0000, 1, 8},
-        {3, 1, Kind::Description, u" *** ALL CODES *** ", u"  *** ALL CODES ***  ", 0xEBEBEB,
-         0xFF0000, 1, 7},
-        {2, 3, Kind::Code, u"B", u" B ", -1, 255, 0, 8},
-        {3, 3, Kind::Description, u"Beta", u" Beta ", 0xEBEBEB, 255, 0, 7},
-        {1, 4, Kind::Check, u"", u" SELECTED ", -1, -1, 0, 8},
-        {1, 6, Kind::Plain, u"", u"", -1, -1, 0, 8},
-        {4, 1, Kind::Plain, u"", u"", -1, -1, 0, 8},
+    const std::pair<CellPlace, Look> rows[] = {
+        {{0, 7}, {Kind::Header, u"Codes  (C)", u"", 0x87D4FA, -1, 1, 8}},
+        {{1, 1}, {Kind::Check, u"", u" NOT SELECTED ", -1, -1, 0, 8}},
+        {{2, 1}, {Kind::Code, u" ", u"   ", -1, 0xFF0000, 1, 8}},
+        {{3, 1},
+         {Kind::Description, u" *** ALL CODES *** ", u"  *** ALL CODES ***  ", 0xEBEBEB, 0xFF0000,
+          1, 7}},
+        {{2, 3}, {Kind::Code, u"B", u" B ", -1, 255, 0, 8}},
+        {{3, 3}, {Kind::Description, u"Beta", u" Beta ", 0xEBEBEB, 255, 0, 7}},
+        {{1, 4}, {Kind::Check, u"", u" SELECTED ", -1, -1, 0, 8}},
+        {{1, 6}, {Kind::Plain, u"", u"", -1, -1, 0, 8}},
+        {{4, 1}, {Kind::Plain, u"", u"", -1, -1, 0, 8}},
     };
-    for (const auto& row : rows) {
-        const SelectCell cell = grid.Cell(row.row, row.column);
-        const auto where = testing::Message() << row.row << ", " << row.column;
-        EXPECT_EQ(cell.kind, row.kind) << where;
-        EXPECT_EQ(cell.text, row.text) << where;
-        EXPECT_EQ(cell.toolTip, row.toolTip) << where;
-        EXPECT_EQ(cell.background.value_or(-1), row.background) << where;
-        EXPECT_EQ(cell.textColor.value_or(-1), row.textColor) << where;
-        EXPECT_EQ(static_cast<int>(cell.alignment), row.alignment) << where;
-        EXPECT_EQ(cell.font, (FontSpec{u"tahoma", row.points})) << where;
+    for (const auto& [place, look] : rows) {
+        const SelectCell cell = grid.Cell(place.row, place.column);
+        EXPECT_EQ(
+            Look(cell.kind, cell.text, cell.toolTip, cell.background.value_or(-1),
+                 cell.textColor.value_or(-1), static_cast<int>(cell.alignment), cell.font.points),
+            look)
+            << place.row << ", " << place.column;
     }
 }
 

@@ -102,27 +102,6 @@ TEST_F(LocalMachineFiles, TakesTheUserFromThePasswordDatabaseAndNotTheEnvironmen
     EXPECT_EQ(right, 1);
 }
 
-TEST_F(LocalMachineFiles, RenameNeverReplacesAndDeleteTakesReadOnlyFiles) {
-    WriteFile(folder_ / "live", "new");
-    WriteFile(folder_ / "archive", "old");
-    ::chmod((folder_ / "archive").c_str(), 0400);
-    fs::create_directory(folder_ / "folder");
-    const auto rename = [&](std::string_view from, std::string_view to) {
-        return FaultOf([&] { machine_.Rename(folder_ / from, folder_ / to); });
-    };
-    const auto remove = [&](const char* name) {
-        return FaultOf([&] { machine_.Delete(folder_ / name); });
-    };
-    EXPECT_EQ(rename("live", "archive"), 58);
-    EXPECT_EQ(rename("missing", "other"), 53);
-    EXPECT_EQ(ReadFile(folder_ / "live") + ReadFile(folder_ / "archive"), "newold");
-    EXPECT_EQ(remove("archive"), 0);
-    EXPECT_EQ(remove("archive"), 53);
-    EXPECT_EQ(remove("folder"), 70);
-    EXPECT_EQ(rename("live", "archive"), 0);
-    EXPECT_EQ(NamesIn(folder_.Path()), (Names{"archive", "folder"}));
-}
-
 TEST_F(LocalMachineFiles, MakeWritableAddsTheOwnersRightAndNoOther) {
     const fs::path file = folder_ / "a.log";
     WriteFile(file, "12345");

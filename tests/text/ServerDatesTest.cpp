@@ -50,6 +50,7 @@ TEST_F(ServerDates, EveryObjectKeepsItsServersClock) {
     machine_.now = MakeDateTime(2024, 12, 31, 23, 58, 30);
     EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2025, 1, 1));
     EXPECT_EQ(Utils::Create()->ServerTime(), machine_.now);
+    EXPECT_EQ(utils_->ConvertHDate(u",3600"), u"12/31/2024 01:00:00 AM");
     utils_->InitServerTime(u"11:58 PM");
     EXPECT_EQ(utils_->ServerTime(), MakeDateTime(2024, 12, 31, 23, 58));
     for (const TextIn clock : {u"3/7/2024, 2:05:09.75 PM", u"2024-03-07T14:05:09.999999",

@@ -40,9 +40,18 @@ void DialogShow::End() {
     loop_.quit();
     RestorePointer();
     const bool wasActive = dialog_.isActiveWindow();
-    dialog_.hide();
+    Hide();
     WindowOpening::OfApplication().GiveBack(owner_, wasActive);
     if (lastPress_) SwallowSecondClick(*std::exchange(lastPress_, std::nullopt));
+}
+
+// What is hidden while Qt shows it comes onto the screen all the same, and the windows that it
+// blocks would stay blocked when it is destroyed.
+void DialogShow::Hide() {
+    dialog_.hide();
+    if (!dialog_.windowHandle()->isVisible()) return;
+    dialog_.setAttribute(Qt::WA_WState_Hidden, false);
+    dialog_.hide();
 }
 
 QWidget* DialogShow::Owner(QWidget* asked) const {
@@ -65,6 +74,7 @@ void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& 
     corrections_ = 0;
     sinceExposed_.invalidate();
     WindowOpening::OfApplication().Show(dialog_);
+    if (dialog_.isHidden()) Hide();
     dialog_.setAttribute(Qt::WA_KeyboardFocusChange);  // shows the focus at once
 }
 

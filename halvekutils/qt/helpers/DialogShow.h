@@ -42,6 +42,7 @@ class DialogShow : public QObject {
 
   private:
     QWidget* Owner(QWidget* asked) const;
+    void Hide();
     void Open(QWidget* owner, Qt::WindowModality modality, const Place& place);
     void ShowArrowPointer();
     void RestorePointer();
