@@ -16,20 +16,18 @@ namespace {
 struct LostOwner : FormTest {
     LostOwner() { Start(true); }
 
-    /// Opens and closes the find bar of a window that no dialog may block.
-    static void Use(const char* name) {
+    /// Clicks a box in a window that no dialog may block, twice.
+    static void Use(const char* name, const char* box) {
         QWidget& window = Window(name);
-        Activate(window);
-        const auto& bar = Find(window, "txtFind");
-        PressKey(window, Qt::CTRL | Qt::Key_F);
-        EXPECT_TRUE(bar.isVisible()) << name;
-        PressKey(window, Qt::Key_Escape);
-        EXPECT_FALSE(bar.isVisible()) << name;
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        auto& button = Find<QAbstractButton>(window, box);
+        for (const bool isOn : {!button.isChecked(), button.isChecked()}) {
+            Click(window, button);
+            EXPECT_EQ(button.isChecked(), isOn) << name;
+        }
     }
-    static void UseHelpAndConsole() {
-        Use("HelpViewer");
-        Use("frmDebug");
-    }
+    static void UseHelp() { Use("HelpViewer", "cmdContents"); }
+    static void UseConsole() { Use("frmDebug", "chkNoLog"); }
 
     const HelpFile help_{1};
 };
@@ -44,13 +42,15 @@ TEST_F(LostOwner, ADialogWhoseHostWindowGoesCountsAsClosedAndTheOtherWindowsStay
             // Help and console open after the first dialog, before the others.
             if (&row == kDialogCalls) utils_->ShowHelp(0, 100, help_.Path().u16string());
             utils_->ShowInDebug(u"before");
-            UseHelpAndConsole();
+            UseHelp();
+            UseConsole();
             const User again([](QDialog& upper) {
-                UseHelpAndConsole();
+                UseHelp();
+                UseConsole();
                 PressKey(upper, Qt::Key_O);
             });
             utils_->ShowMsgBox(u"Really?", mbOkOnly, mbQuestion, u"");
-            Use("HelpViewer");
+            UseHelp();
             EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
             const QPointer<QDialog> open(&dialog);
             host.reset();
@@ -62,7 +62,8 @@ TEST_F(LostOwner, ADialogWhoseHostWindowGoesCountsAsClosedAndTheOtherWindowsStay
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
         QGuiApplication::restoreOverrideCursor();
         EXPECT_TRUE(DebugConsole::Current()->Text().ends_with(u"behind\r\n"));
-        UseHelpAndConsole();
+        UseHelp();
+        UseConsole();
     }
 }
 

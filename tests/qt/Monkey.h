@@ -61,7 +61,9 @@ class Monkey : public QObject {
     }
 
     bool IsDone() const { return step_ >= steps_; }
-    bool HasJust(const char* act) const { return acts_[(step_ + kKept - 1) % kKept].contains(act); }
+    int Step() const { return step_; }
+    /// The step of the last click on a list's header, which accepts the typed text as it is.
+    int HeaderClicked() const { return headerClicked_; }
     int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
 
     /// The seed, the step and the last acts.
@@ -71,10 +73,11 @@ class Monkey : public QObject {
         return trail.toStdString() + '\n';
     }
 
-    /// Sometimes closes a dialog in the middle of its opening.
+    /// Sometimes closes a dialog in the middle of its opening; Qt's own would never return.
     bool eventFilter(QObject* watched, QEvent* event) override {
         auto* const dialog = qobject_cast<QDialog*>(watched);
-        if (event->type() == QEvent::Show && dialog != nullptr && Below(20) == 0) {
+        const bool opens = event->type() == QEvent::Show && dialog != nullptr;
+        if (opens && dialog->objectName().startsWith("frm") && Below(20) == 0) {
             Note(*dialog, "closes while it opens");
             dialog->reject();
         }
@@ -165,6 +168,7 @@ class Monkey : public QObject {
     }
 
     void Note(const QWidget& window, const QString& act) {
+        if (act.contains("SelectGridHeader")) headerClicked_ = step_;
         acts_[step_++ % kKept] = window.objectName() + ' ' + act;
     }
 
@@ -340,7 +344,7 @@ class Monkey : public QObject {
 
     std::mt19937 random_;
     unsigned seed_;
-    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0;
+    int steps_, step_ = 0, time_ = 0, depth_ = 0, waits_ = 0, headerClicked_ = -1;
     std::vector<MonkeyCall> calls_;
     std::vector<std::unique_ptr<QWidget>> owners_;
     QString ownKeys_ = "A", acts_[kKept];
