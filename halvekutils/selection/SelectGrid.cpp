@@ -3,6 +3,7 @@
 #include <halvekutils/base/CharacterScan.h>
 #include <halvekutils/base/Characters.h>
 #include <halvekutils/base/NumericText.h>
+#include <halvekutils/platform/Beep.h>
 #include <halvekutils/platform/Guard.h>
 #include <halvekutils/platform/Services.h>
 #include <halvekutils/selection/EachCode.h>
@@ -371,6 +372,9 @@ void SelectGrid::RefuseCode(std::u16string_view code) {
 
 void SelectGrid::Accept() {
     if (!IsOpen()) return;
+    // A check that has not returned yet, because an event loop of the host's runs above its
+    // message: a check within it accepts any codes.
+    if (busy_) return Beep();
     // Everything that may fail comes before the check.
     std::u16string result;
     result.reserve(Box().text.size());

@@ -122,5 +122,26 @@ TEST_F(CurrencyFieldTest, ARefusedFieldKeepsTheFocusUnlessItIsGone) {
     }
 }
 
+// The user acts in an event loop above the message's, as one of the host's would be.
+TEST_F(CurrencyFieldTest, NothingIsPostedBeforeTheMessageAboutAFieldHasReturned) {
+    auto* const post = new QPushButton("Post");
+    form_.layout()->addWidget(post);
+    int posted = 0;
+    QObject::connect(post, &QPushButton::clicked, [&] { ++posted; });
+    QCoreApplication::processEvents();
+    from_->setText("50");
+    TypeInto(*to_, "20");
+    const User user([&](QDialog& box) {
+        PressKey(box, Qt::Key_Return);
+        EXPECT_FALSE(box.isVisible());
+        Click(form_, *post);
+    });
+    Click(form_, *post);
+    EXPECT_EQ(posted, 0);
+    EXPECT_EQ(to_->text(), "");
+    Click(form_, *post);
+    EXPECT_EQ(posted, 1);
+}
+
 }  // namespace
 }  // namespace halvek

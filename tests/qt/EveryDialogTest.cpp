@@ -51,6 +51,7 @@ TEST_F(LostOwner, ADialogWhoseHostWindowGoesCountsAsClosedAndTheOtherWindowsStay
             });
             utils_->ShowMsgBox(u"Really?", mbOkOnly, mbQuestion, u"");
             UseHelp();
+            UseConsole();
             EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
             const QPointer<QDialog> open(&dialog);
             host.reset();

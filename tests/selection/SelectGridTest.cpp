@@ -19,10 +19,12 @@ class SelectGridTest : public CleanState {
   protected:
     void SetUp() override { Start(); }
 
-    SelectGrid& Open(TextIn allValues, TextIn selected = {}) {
+    SelectGrid& Open(
+        TextIn allValues, TextIn selected = {},
+        const std::function<void()>& onMessage = [] { throw std::bad_alloc(); }) {
         grid_ = std::make_unique<SelectGrid>(
             SelectionRequest{u"Codes", allValues.Str(), selected.Str()}, Services::Current(),
-            [](const SelectionMessage&) { throw std::bad_alloc(); });
+            [onMessage](const SelectionMessage&) { onMessage(); });
         grid_->Prepare();
         return *grid_;
     }
@@ -114,6 +116,15 @@ TEST_F(SelectGridTest, LogsAFaultAndStaysUsable) {
     grid.EditBox(u"A", 1);
     grid.Accept();
     EXPECT_EQ(grid.Result(), u"A");
+}
+
+// OK is pressed in an event loop of the host's, above the one that a message about "x" was in.
+TEST_F(SelectGridTest, AcceptsNoCodesWhoseCheckHasNotReturned) {
+    const SelectGrid& grid = Open(kCodes, u"", [&] { grid_->Accept(); });
+    grid_->EditBox(u"A,x", 3);
+    EXPECT_FALSE(grid_->ValidateBox());
+    EXPECT_TRUE(grid.IsOpen());
+    EXPECT_EQ(desktop_.Beeps(), 1);
 }
 
 }  // namespace

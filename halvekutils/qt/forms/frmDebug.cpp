@@ -176,10 +176,14 @@ bool frmDebug::event(QEvent* event) {
 }
 
 // People read the console beside a modal dialog, too. A modal dialog does not block windows that
-// belong to it.
+// belong to it. When it is gone, the one below it blocks the console, and Qt tells nobody.
 void frmDebug::KeepUsable() {
+    constexpr int kOnceLater = Qt::QueuedConnection | Qt::UniqueConnection;
     QWindow* const dialog = QGuiApplication::modalWindow();
-    if (dialog != nullptr && windowHandle() != nullptr) windowHandle()->setTransientParent(dialog);
+    if (dialog == nullptr || windowHandle() == nullptr) return;
+    windowHandle()->setTransientParent(dialog);
+    connect(dialog, &QObject::destroyed, this, &frmDebug::KeepUsable,
+            static_cast<Qt::ConnectionType>(kOnceLater));
 }
 
 void frmDebug::Sync() {
