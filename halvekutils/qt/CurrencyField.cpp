@@ -23,7 +23,7 @@ bool LeaveFieldsOf(QWidget& window) {
     const QWidget* const top = window.window();
     for (const QPointer<CurrencyFilter>& field : CurrencyWatch::OfApplication().Fields()) {
         QLineEdit* const line = field != nullptr ? field->Line() : nullptr;
-        if (line != nullptr && line->window() == top && !field->Leave(*line)) return false;
+        if (line != nullptr && line->window() == top && !field->LeaveForAct(*line)) return false;
     }
     return true;
 }

@@ -45,8 +45,9 @@ class CurrencyFilter : public QObject {
     /// The text to show for one that the host sets, or has set.
     QString TextGiven(const QString& text);
 
-    /// Shows and validates the edited amount; false when the field refuses to be left.
-    bool Leave(QLineEdit& line);
+    /// Shows and validates the edited amount before a button, say, acts; false when the field
+    /// refuses to be left.
+    bool LeaveForAct(QLineEdit& line);
 
     /// Sees the line edit's events before any other filter does; true when none must see them.
     bool FilterFirst(QLineEdit& line, const QEvent& event);
@@ -65,6 +66,7 @@ class CurrencyFilter : public QObject {
 
     // Leaving, in CurrencyLeaving.cpp
     void FocusMoved(const QWidget* now);
+    bool Leave(QLineEdit& line);
     bool LoseFocus(QLineEdit& line, Qt::FocusReason reason);
     bool MayLeave(QLineEdit& line);
     void LeaveUnasked(QLineEdit& line);

@@ -48,7 +48,7 @@ bool CurrencyFilter::FilterFirst(QLineEdit& line, const QEvent& event) {
     const auto& key = static_cast<const QKeyEvent&>(event);
     if (!IsEnter(key) && !IsTab(key)) return false;
     const QPointer<CurrencyFilter> self(this);
-    if (!Leave(line) || self == nullptr) return true;
+    if (!LeaveForAct(line) || self == nullptr) return true;
     if (IsTab(key)) {
         HandBack(line);
     } else {
@@ -89,6 +89,13 @@ bool CurrencyFilter::LoseFocus(QLineEdit& line, Qt::FocusReason reason) {
     return false;
 }
 
+/// While the message about a field is open nobody knows whether it may be left. A timer of the
+/// host's may ask, or the user in an event loop above the message's.
+bool CurrencyFilter::LeaveForAct(QLineEdit& line) {
+    return !IsAnyFieldBeingLeft() && Leave(line);
+}
+
+/// False when the field refuses to be left.
 bool CurrencyFilter::Leave(QLineEdit& line) {
     if (!(editing_ || isUnasked_) || leaving) return true;
     const QPointer<CurrencyFilter> self(this);

@@ -88,9 +88,7 @@ bool CurrencyWatch::Filter(QObject& watched, QEvent& event) {
         if (line == &watched && field->FilterFirst(*line, event)) return true;
         const bool isItsOwn = line == watched.parent();  // the button that clears it, say
         if (line->window() != asked || isItsOwn) continue;
-        // Nobody knows yet whether a field may be left while an event loop of the host's runs above
-        // the message about it.
-        if (IsAnyFieldBeingLeft() || !field->Leave(*line)) return true;
+        if (!field->LeaveForAct(*line)) return true;
     }
     return false;
 }
