@@ -29,7 +29,8 @@ class Utils;
 /// QDialogButtonBox leave it unchecked, and so do controls and actions that a host marks with the
 /// property "causesValidation" = false. Deactivating the window does not leave the field. The
 /// delegate of a table or a QDataWidgetMapper commits the shown amount, or the text it has set
-/// itself if the user has not changed it.
+/// itself if the user has not changed it. A mapper also commits when the window is deactivated; it
+/// then gets the bare number.
 ///
 /// The field replaces the line edit's validator and input mask, and widens a maximum length that
 /// leaves no room for an amount; it is aligned to the right unless it is centered. Call it before

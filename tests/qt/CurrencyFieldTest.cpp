@@ -101,6 +101,24 @@ TEST_F(CurrencyFieldTest, AnotherWindowDoesNotSeeTheAmountAsLeft) {
     EXPECT_EQ(amount_.text(), "$52.00");
 }
 
+TEST_F(CurrencyFieldTest, ATableGetsTheShownAmountWhenItsWindowIsNoLongerActive) {
+    struct Delegate : QStyledItemDelegate {
+        QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                              const QModelIndex&) const override {
+            return new CurrencyLineEdit(parent);
+        }
+    } delegate;
+    QTableWidget table(1, 1);
+    table.setItem(0, 0, new QTableWidgetItem);
+    table.setItemDelegate(&delegate);
+    table.show();
+    Activate(table);
+    table.editItem(table.item(0, 0));
+    Type(table, "12.5");
+    const auto other = OpenHostWindow(QRect(0, 0, 50, 50));
+    EXPECT_EQ(table.item(0, 0)->text(), "$12.50");
+}
+
 TEST_F(CurrencyFieldTest, ARefusedFieldKeepsTheFocusUnlessItIsGone) {
     const std::function<void()> ways[] = {[] {}, [&] { to_->hide(); },
                                           [&] { to_->setEnabled(false); }, [&] { delete to_; }};

@@ -8,6 +8,7 @@
 #include <halvekutils/qt/helpers/EventGuard.h>
 #include <halvekutils/qt/helpers/Keys.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QMenuBar>
 #include <QPointer>
@@ -23,6 +24,12 @@ namespace halvek {
 namespace {
 
 bool leaving = false;
+
+/// True for an editor that a table closes when its window is no longer active.
+bool IsInTable(const QLineEdit& line) {
+    const QWidget* const viewport = line.parentWidget();
+    return viewport != nullptr && qobject_cast<QAbstractItemView*>(viewport->parent()) != nullptr;
+}
 
 bool IsTab(const QKeyEvent& event) {
     return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
@@ -72,8 +79,11 @@ void CurrencyFilter::FocusMoved(const QWidget* now) {
 
 /// True when the field keeps the focus.
 bool CurrencyFilter::LoseFocus(QLineEdit& line, Qt::FocusReason reason) {
-    if (EditingGoesOn(reason)) return false;
     const QPointer<CurrencyFilter> self(this);
+    if (EditingGoesOn(reason)) {
+        if (editing_ && reason == Qt::ActiveWindowFocusReason && IsInTable(line)) Show(line);
+        return self == nullptr;
+    }
     const QWidget* const next = QApplication::focusWidget();
     if (next != nullptr && next != &line && PassesUnasked(*next)) {
         LeaveUnasked(line);
