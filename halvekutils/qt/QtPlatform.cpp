@@ -43,8 +43,8 @@ Rect UsableRect(const QScreen* screen) {
     return ToRect(WindowOpening::UsableArea(screen));
 }
 
-/// Names an installed face for one that the dialogs use and the desktop may lack. Qt asks for it only
-/// then; to ask here, too, would cost every host a tenth of what the library adds to its start.
+/// Names an installed face for one that the dialogs use and the desktop may lack. Qt takes it only
+/// then; to ask here as well would be a quarter of what the library adds to a host's start.
 void SubstituteFace(const QString& wanted, QFontDatabase::SystemFont closest) {
     QFont::insertSubstitution(wanted, QFontDatabase::systemFont(closest).family());
 }

@@ -236,7 +236,12 @@ TEST_F(MessageBoxFormTest, ABoxIsAsLargeWhateverItsOwnerDoes) {
     }
 }
 
-TEST_F(MessageBoxFormTest, ABoxThatAHostMakesTooSmallToSeeIsNotWaitedFor) {
+TEST_F(MessageBoxFormTest, ABoxThatNobodyCanAnswerIsNotWaitedFor) {
+    const auto answered = MakeBox(mbYesNo);
+    answered->Press(mbNo);
+    desktop_.Show(answered, Modality::Modal);
+    EXPECT_EQ(answered->ReturnedValue(), mbNo);
+
     qApp->setStyleSheet("QDialog { min-height: 0; max-height: 0 }");
     const auto box = MakeBox(mbYesNoCancel);
     desktop_.Show(box, Modality::Modal);

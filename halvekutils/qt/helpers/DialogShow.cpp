@@ -49,7 +49,8 @@ void DialogShow::End() {
 // blocks would stay blocked when it is destroyed.
 void DialogShow::Hide() {
     dialog_.hide();
-    if (!dialog_.windowHandle()->isVisible()) return;
+    const QWindow* const handle = dialog_.windowHandle();
+    if (handle == nullptr || !handle->isVisible()) return;
     dialog_.setAttribute(Qt::WA_WState_Hidden, false);
     dialog_.hide();
 }
@@ -60,6 +61,7 @@ QWidget* DialogShow::Owner(QWidget* asked) const {
 }
 
 void DialogShow::Open(QWidget* owner, Qt::WindowModality modality, const Place& place) {
+    if (ended_) return;
     owner_ = owner;
     place_ = place;
     dialog_.hide();
