@@ -233,13 +233,6 @@ class Monkey : public QObject {
         }
     }
 
-    /// Qt's own print dialog blocks all windows for good when its loop ends before it is closed.
-    static bool IsPrinting() {
-        return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
-            return window->isVisible() && window->inherits("QPrintDialog");
-        });
-    }
-
     static void Dress(const QString& sheet, const QString& style) {
         qApp->setStyleSheet(sheet);
         QApplication::setStyle(QStyleFactory::create(style));
@@ -266,11 +259,7 @@ class Monkey : public QObject {
                  if (!owners_.empty())
                      owners_.erase(owners_.begin() + Below(static_cast<int>(owners_.size())));
              }},
-            {"quit",
-             [&] {
-                 if (!IsPrinting())
-                     Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1);
-             }},
+            {"quit", [&] { Below(2) == 0 ? QCoreApplication::quit() : QCoreApplication::exit(1); }},
             {"a style sheet or style", [&] { Dress(Any(kSheets), Any(kStyles)); }},
             {"a palette",
              [&] {
