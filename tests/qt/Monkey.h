@@ -125,10 +125,15 @@ class Monkey : public QObject {
         const QPointer<QWidget> front = Front(nullptr);
         if (front == nullptr) return Wait();
         for (int i = Below(200); i >= 0 && front != nullptr && front == Front(nullptr); --i) {
-            if (!front->isActiveWindow()) return Activate(*front);
+            if (!HasKeys(*front)) return Activate(*front);
             waits_ = 0;
             Act(*front);
         }
+    }
+
+    /// While a menu is open, Qt does not hear which window is active, but sends it the keys.
+    static bool HasKeys(const QWidget& window) {
+        return window.isActiveWindow() || QGuiApplication::focusWindow() == window.windowHandle();
     }
 
     /// No window is in front for a few turns, while one opens or closes.
