@@ -115,6 +115,7 @@ keys Tab ctrl+Return
 wait_for_window "Payment"
 keys y
 wait_until "the payment is posted" called '^ShowMsgBox("Post \$[0-9.]*?.* = 6$'
+wait_until "the client is active again" is_active "$main"
 kill_client
 holds "SELECT count(*) - $posted FROM payment" 1
 holds "SELECT adjustment FROM payment ORDER BY id DESC LIMIT 1" 0
